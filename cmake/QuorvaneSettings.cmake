@@ -1,0 +1,23 @@
+# SPDX-License-Identifier: MIT
+# Language, warnings and tools shared by every target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+
+find_program(QUORVANE_CCACHE ccache)
+if(QUORVANE_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${QUORVANE_CCACHE})
+endif()
+
+add_library(quorvane_settings INTERFACE)
+target_compile_options(quorvane_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wformat=2 -Werror)
+target_compile_definitions(quorvane_settings INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    U_SHOW_CPLUSPLUS_API=1 U_USING_ICU_NAMESPACE=0)

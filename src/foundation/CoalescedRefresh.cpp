@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/CoalescedRefresh.h>
+
+namespace quorvane {
+
+CoalescedRefresh::CoalescedRefresh(MainQueue& queue, MainQueue::Task refresh)
+    : m_queue(queue),
+      m_state(std::make_shared<State>(State{std::move(refresh)})) {
+}
+
+void CoalescedRefresh::schedule() {
+    if (m_state->due)
+        return;
+    m_state->due = true;
+    m_queue.async([weak = std::weak_ptr(m_state)] {
+        const auto state = weak.lock();
+        if (!state)
+            return;
+        state->due = false;
+        state->refresh();
+    });
+}
+
+} // namespace quorvane

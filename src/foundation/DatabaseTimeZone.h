@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/TimeZone.h>
+
+#include <unicode/timezone.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// A zone of the system's database as one of ICU's. Total offsets are the system's. How a total
+/// splits into standard and daylight time decides which name ICU prints; it is ICU's own split
+/// wherever the totals agree, because the names were made for it.
+class DatabaseTimeZone final : public icu::TimeZone {
+public:
+    explicit DatabaseTimeZone(const quorvane::TimeZone& zone);
+    DatabaseTimeZone(const DatabaseTimeZone& other);
+    DatabaseTimeZone& operator=(const DatabaseTimeZone&) = delete;
+
+    int32_t getOffset(
+        uint8_t era,
+        int32_t year,
+        int32_t month,
+        int32_t day,
+        uint8_t dayOfWeek,
+        int32_t milliseconds,
+        UErrorCode& status) const override;
+    int32_t getOffset(
+        uint8_t era,
+        int32_t year,
+        int32_t month,
+        int32_t day,
+        uint8_t dayOfWeek,
+        int32_t milliseconds,
+        int32_t monthLength,
+        UErrorCode& status) const override;
+    void getOffset(
+        UDate date,
+        UBool isLocal,
+        int32_t& rawOffset,
+        int32_t& daylightOffset,
+        UErrorCode& status) const override;
+    int32_t getRawOffset() const override;
+    void setRawOffset(int32_t milliseconds) override;
+    UBool useDaylightTime() const override;
+    UBool inDaylightTime(UDate date, UErrorCode& status) const override;
+    DatabaseTimeZone* clone() const override;
+    UClassID getDynamicClassID() const override;
+
+private:
+    /// In milliseconds.
+    struct Offset {
+        int32_t raw = 0;
+        int32_t daylight = 0;
+
+        [[nodiscard]] int32_t total() const { return raw + daylight; }
+    };
+
+    [[nodiscard]] Offset offsetAt(UDate date) const;
+    [[nodiscard]] Offset offsetAtLocal(UDate local) const;
+
+    quorvane::TimeZone m_zone;
+    std::unique_ptr<icu::TimeZone> m_own; ///< null if ICU does not know the zone
+};
+
+} // namespace quorvane

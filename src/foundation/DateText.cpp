@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/DateText.h>
+#include <foundation/IcuText.h>
+#include <foundation/IcuTimeZone.h>
+
+#include <unicode/datefmt.h>
+#include <unicode/dtptngen.h>
+#include <unicode/smpdtfmt.h>
+
+#include <memory>
+
+namespace quorvane {
+
+namespace {
+
+icu::UnicodeString withPlainSpaces(icu::UnicodeString pattern) {
+    return pattern.findAndReplace(
+        icu::UnicodeString(char16_t{0x202F}), icu::UnicodeString(char16_t{0x0020}));
+}
+
+icu::DateFormat::EStyle icuStyle(FormatStyle style) {
+    switch (style) {
+    case FormatStyle::None:
+        return icu::DateFormat::kNone;
+    case FormatStyle::Short:
+        return icu::DateFormat::kShort;
+    case FormatStyle::Medium:
+        return icu::DateFormat::kMedium;
+    }
+    return icu::DateFormat::kNone;
+}
+
+QString rendered(icu::DateFormat& formatter, Instant instant, const TimeZone& zone) {
+    formatter.adoptTimeZone(icuTimeZoneAt(zone, instant).release());
+    icu::UnicodeString text;
+    return fromIcu(formatter.format(icuDate(instant), text));
+}
+
+QString rendered(
+    const icu::UnicodeString& pattern,
+    Instant instant,
+    const TimeZone& zone,
+    const UserLocale& locale) {
+    auto status = U_ZERO_ERROR;
+    icu::SimpleDateFormat formatter(pattern, locale.icuLocale(), status);
+    return U_SUCCESS(status) ? rendered(formatter, instant, zone) : QString();
+}
+
+QString skeletonText(
+    Instant instant,
+    const TimeZone& zone,
+    const char16_t* skeleton,
+    UDateTimePatternMatchOptions options,
+    const UserLocale& locale) {
+    auto status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(locale.icuLocale(), status));
+    if (U_FAILURE(status))
+        return {};
+    const auto pattern = generator->getBestPattern(skeleton, options, status);
+    return U_SUCCESS(status) ? rendered(withPlainSpaces(pattern), instant, zone, locale)
+                             : QString();
+}
+
+} // namespace
+
+QString patternText(
+    Instant instant, const TimeZone& zone, const QString& pattern, const UserLocale& locale) {
+    return rendered(toIcu(pattern), instant, zone, locale);
+}
+
+QString
+styledText(Instant instant, const TimeZone& zone, FormatStyles styles, const UserLocale& locale) {
+    // Without either style ICU does not print nothing, but a default of its own.
+    if (styles.date == FormatStyle::None && styles.time == FormatStyle::None)
+        return {};
+    const std::unique_ptr<icu::DateFormat> formatter(icu::DateFormat::createDateTimeInstance(
+        icuStyle(styles.date), icuStyle(styles.time), locale.icuLocale()));
+    if (!formatter)
+        return {};
+    if (auto* simple = dynamic_cast<icu::SimpleDateFormat*>(formatter.get())) {
+        icu::UnicodeString pattern;
+        simple->applyPattern(withPlainSpaces(simple->toPattern(pattern)));
+    }
+    return rendered(*formatter, instant, zone);
+}
+
+QString iso8601Text(Instant instant, const TimeZone& zone, Iso8601Options options) {
+    return patternText(instant, zone, iso8601Pattern(options), UserLocale::posix());
+}
+
+QString timeChipText(Instant instant, const TimeZone& zone, const UserLocale& locale) {
+    // Without this option ICU keeps the locale's own width of the hour.
+    return skeletonText(instant, zone, u"jjmm", UDATPG_MATCH_HOUR_FIELD_LENGTH, locale);
+}
+
+QString dateChipText(Instant instant, const TimeZone& zone, const UserLocale& locale) {
+    return skeletonText(instant, zone, u"yMMMd", UDATPG_MATCH_NO_OPTIONS, locale);
+}
+
+} // namespace quorvane

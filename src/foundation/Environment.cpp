@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/Environment.h>
+
+#include <QtGlobal>
+
+namespace quorvane {
+
+Environment processEnvironment() {
+    return [](const char* name) -> std::optional<QString> {
+        if (!qEnvironmentVariableIsSet(name))
+            return std::nullopt;
+        return qEnvironmentVariable(name);
+    };
+}
+
+} // namespace quorvane

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/SystemCurrentZone.h>
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+
+namespace {
+
+// The kernel's own limit on the links of one path (path_resolution(7)).
+constexpr int maximumLinks = 40;
+
+// Containers and servers are set to one of these; the zone's name in lists is "UTC".
+constexpr std::array utcNames{
+    "Etc/UCT"_L1,
+    "Etc/UTC"_L1,
+    "Etc/Universal"_L1,
+    "Etc/Zulu"_L1,
+    "UCT"_L1,
+    "Universal"_L1,
+    "Zulu"_L1};
+
+QString systemIdentifier(QString identifier) {
+    // The database's copies without and with leap seconds hold the same zones.
+    for (const auto folder : {"posix/"_L1, "right/"_L1}) {
+        if (identifier.startsWith(folder))
+            identifier.remove(0, folder.size());
+    }
+    const bool isUtc = std::ranges::find(utcNames, identifier) != utcNames.end();
+    return isUtc ? u"UTC"_s : identifier;
+}
+
+/// What follows the database's folder in a path; empty for a path elsewhere.
+QString tailInDatabase(const fs::path& path) {
+    constexpr std::string_view folder = "/zoneinfo/";
+    const auto text = path.string();
+    const auto start = text.rfind(folder);
+    return start == std::string::npos ? QString()
+                                      : QString::fromStdString(text.substr(start + folder.size()));
+}
+
+std::optional<QByteArray> readFile(const fs::path& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return file.readAll();
+}
+
+} // namespace
+
+SystemCurrentZone::SystemCurrentZone(
+    const ZoneDatabase& zones, Environment environment, std::filesystem::path root)
+    : m_zones(zones),
+      m_environment(std::move(environment)),
+      m_root(std::move(root)) {
+}
+
+TimeZone SystemCurrentZone::current() const {
+    return m_zones.zone(systemIdentifier(identifier())).value_or(ZoneDatabase::utc());
+}
+
+QString SystemCurrentZone::identifier() const {
+    auto variable = m_environment("TZ");
+    if (!variable)
+        return identifierOfFile(m_root / "etc/localtime");
+    // POSIX leaves what follows a colon to the implementation; here it means the same as without.
+    if (variable->startsWith(u':'))
+        variable->remove(0, 1);
+    const fs::path path(variable->toStdString());
+    return path.is_absolute() ? identifierOfFile(m_root / path.relative_path()) : *variable;
+}
+
+QString SystemCurrentZone::identifierOfFile(Path file) const {
+    // Link by link, not to the end: the database's own links would replace the name that was
+    // chosen.
+    for (int links = 0; links < maximumLinks; ++links) {
+        if (const auto tail = tailInDatabase(file); !tail.isEmpty())
+            return tail;
+        std::error_code error;
+        const auto target = fs::read_symlink(file, error);
+        if (error)
+            return identifierOfCopy(file);
+        file = target.is_absolute() ? m_root / target.relative_path()
+                                    : (file.parent_path() / target).lexically_normal();
+    }
+    return {};
+}
+
+QString SystemCurrentZone::identifierOfCopy(const Path& file) const {
+    const auto stated =
+        QString::fromUtf8(readFile(m_root / "etc/timezone").value_or(QByteArray())).trimmed();
+    if (m_zones.isKnown(stated) && isCopyOf(file, stated))
+        return stated;
+    const auto candidates = m_zones.zonesByCountry();
+    const auto same = std::ranges::find_if(
+        candidates, [&](const QString& candidate) { return isCopyOf(file, candidate); });
+    return same == candidates.end() ? QString() : *same;
+}
+
+bool SystemCurrentZone::isCopyOf(const Path& file, const QString& identifier) const {
+    const auto original = fs::path(m_zones.directory().toStdString()) / identifier.toStdString();
+    std::error_code error;
+    // Sizes differ mostly, and are cheaper to ask than contents.
+    const auto size = fs::file_size(original, error);
+    if (error || size != fs::file_size(file, error) || error)
+        return false;
+    const auto bytes = readFile(file);
+    return bytes && bytes == readFile(original);
+}
+
+} // namespace quorvane

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/UserFolders.h>
+
+#include <QDir>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString absolutePathOr(const std::optional<QString>& path, const QString& fallback) {
+    return path && QDir::isAbsolutePath(*path) ? *path : fallback;
+}
+
+} // namespace
+
+UserFolders UserFolders::fromEnvironment(const Environment& environment) {
+    const auto home = absolutePathOr(environment("HOME"), QDir::homePath());
+    const auto config = absolutePathOr(environment("XDG_CONFIG_HOME"), home + u"/.config"_s);
+    const auto state = absolutePathOr(environment("XDG_STATE_HOME"), home + u"/.local/state"_s);
+    return {config + u"/quorvane"_s, state + u"/quorvane"_s};
+}
+
+QString UserFolders::defaultsFile() const {
+    return config + u"/defaults.json"_s;
+}
+
+QString UserFolders::windowsFile() const {
+    return state + u"/windows.json"_s;
+}
+
+} // namespace quorvane

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/MainQueue.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// Turns a burst of reasons to refresh into one refresh on a later turn of the main loop.
+/// Destroying it drops a refresh that is still due.
+class CoalescedRefresh {
+public:
+    CoalescedRefresh(MainQueue& queue, MainQueue::Task refresh);
+
+    /// Does nothing while a refresh is due; what the refresh itself schedules comes after it.
+    void schedule();
+
+private:
+    struct State {
+        MainQueue::Task refresh;
+        bool due = false;
+    };
+
+    MainQueue& m_queue;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace quorvane

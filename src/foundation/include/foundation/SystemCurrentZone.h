@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/CurrentZone.h>
+#include <foundation/Environment.h>
+#include <foundation/ZoneDatabase.h>
+
+#include <filesystem>
+
+namespace quorvane {
+
+/// The zone that the C library would use: the environment's TZ, else /etc/localtime, under its
+/// identifier. UTC where neither names a known zone.
+class SystemCurrentZone final : public CurrentZone {
+public:
+    /// `zones` must outlive this; `root` stands for "/".
+    SystemCurrentZone(
+        const ZoneDatabase& zones, Environment environment, std::filesystem::path root = "/");
+
+    [[nodiscard]] TimeZone current() const override;
+
+private:
+    using Path = std::filesystem::path;
+
+    [[nodiscard]] QString identifier() const;
+    [[nodiscard]] QString identifierOfFile(Path file) const;
+    [[nodiscard]] QString identifierOfCopy(const Path& file) const;
+    [[nodiscard]] bool isCopyOf(const Path& file, const QString& identifier) const;
+
+    const ZoneDatabase& m_zones;
+    Environment m_environment;
+    Path m_root;
+};
+
+} // namespace quorvane

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/Environment.h>
+
+#include <QString>
+
+namespace quorvane {
+
+/// Where this program keeps the user's files, by the XDG Base Directory Specification. The folders
+/// need not exist yet.
+struct UserFolders {
+    QString config; ///< settings: $XDG_CONFIG_HOME/quorvane, by default ~/.config/quorvane
+    QString state;  ///< what a run leaves behind: $XDG_STATE_HOME/quorvane, ~/.local/state/quorvane
+
+    /// A variable that is empty or holds a relative path counts as not set.
+    [[nodiscard]] static UserFolders fromEnvironment(const Environment& environment);
+
+    [[nodiscard]] QString defaultsFile() const;
+    [[nodiscard]] QString windowsFile() const;
+};
+
+} // namespace quorvane

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include <hotkey/HotKeyMonitor.h>
+
+#include <QLoggingCategory>
+
+#include <cstdlib>
+#include <limits>
+#include <utility>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcHotKey, "quorvane.hotkey", QtFatalMsg)
+
+bool isKeyCode(std::int64_t value) {
+    return value >= 0 && value <= std::numeric_limits<std::uint32_t>::max();
+}
+
+} // namespace
+
+std::shared_ptr<HotKeyMonitor> HotKeyMonitor::create(HotKeyCombo combo, Services services) {
+    return std::shared_ptr<HotKeyMonitor>(new HotKeyMonitor(combo, services));
+}
+
+HotKeyMonitor::HotKeyMonitor(HotKeyCombo combo, Services services)
+    : m_combo(combo),
+      m_services(services) {
+}
+
+void HotKeyMonitor::setCombo(HotKeyCombo combo) {
+    m_combo = combo;
+    if (m_eventTap)
+        watchCombo();
+}
+
+void HotKeyMonitor::setOnTriggered(std::function<void()> onTriggered) {
+    m_onTriggered = std::move(onTriggered);
+}
+
+void HotKeyMonitor::start() {
+    m_lastFailure.reset();
+    if (!m_services.accessibilityRight.isTrusted())
+        return fail({u"the accessibility right is missing"_s, TapFailure::Retry::Possible});
+
+    auto result =
+        m_services.eventTaps.createTap([this](const KeyPress& press) { return handle(press); });
+    if (auto* failure = std::get_if<TapFailure>(&result))
+        return fail(std::move(*failure));
+
+    m_eventTap = std::move(std::get<std::unique_ptr<EventTap>>(result));
+    watchCombo();
+    m_eventTap->enable();
+    if (!m_eventTap->isDelivering())
+        qCInfo(lcHotKey, "armed, but the shortcut is not ours: another program holds it");
+}
+
+void HotKeyMonitor::stop() {
+    if (!m_eventTap)
+        return;
+    m_eventTap->disable();
+    m_eventTap.reset();
+}
+
+bool HotKeyMonitor::isArmed() const {
+    return m_eventTap && m_eventTap->isDelivering();
+}
+
+TapVerdict HotKeyMonitor::handle(const KeyPress& press) {
+    if (!isKeyCode(press.keyCode))
+        std::abort();
+    const HotKeyCombo pressed{
+        static_cast<std::uint32_t>(press.keyCode), toCarbonModifiers(press.flags)};
+    if (pressed != m_combo)
+        return TapVerdict::Pass;
+    scheduleTrigger();
+    return TapVerdict::Swallow;
+}
+
+void HotKeyMonitor::scheduleTrigger() {
+    m_services.mainQueue.async([self = shared_from_this()] {
+        // A copy: the callback may replace itself.
+        if (const auto onTriggered = self->m_onTriggered)
+            onTriggered();
+    });
+}
+
+void HotKeyMonitor::watchCombo() {
+    const auto flags = toModifierFlags(m_combo.modifiers);
+    m_eventTap->watch(flags ? std::optional(KeyChord{m_combo.keyCode, *flags}) : std::nullopt);
+}
+
+void HotKeyMonitor::fail(TapFailure failure) {
+    qCInfo(lcHotKey, "idle: %ls", qUtf16Printable(failure.reason));
+    m_lastFailure = std::move(failure);
+}
+
+} // namespace quorvane

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace quorvane {
+
+/// The user's leave to read the global shortcut and to post keys into other applications.
+class AccessibilityRight {
+public:
+    virtual ~AccessibilityRight() = default;
+
+    /// Never asks the user.
+    [[nodiscard]] virtual bool isTrusted() const = 0;
+
+    /// Lets the desktop ask the user; the answer shows in a later isTrusted(). Does nothing where
+    /// the desktop has no such question.
+    virtual void prompt() = 0;
+};
+
+} // namespace quorvane

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace quorvane {
+
+/// The one running process of this program in the user's session, as the desktop addresses it.
+class ApplicationInstance {
+public:
+    enum class Role {
+        First,  ///< this process is the one
+        Second, ///< another one runs, and has been asked to come forward
+        Alone,  ///< the session has no way to tell; this process runs by itself
+    };
+
+    virtual ~ApplicationInstance() = default;
+
+    /// Becomes the running process, or asks the one that is to show itself. Called once, before
+    /// anything is made that a second process must not have.
+    [[nodiscard]] virtual Role claim() = 0;
+
+    /// The user opened the program again; replaces an earlier handler.
+    virtual void onReopen(std::function<void()> handler) = 0;
+
+    /// The desktop asks for an action by its name; replaces an earlier handler.
+    virtual void onAction(std::function<void(const QString& name)> handler) = 0;
+};
+
+} // namespace quorvane

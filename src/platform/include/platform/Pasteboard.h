@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/PasteboardContents.h>
+
+#include <functional>
+
+namespace quorvane {
+
+/// How long a text is meant to stay on the pasteboard.
+enum class TextStay {
+    Lasting, ///< the user copied it
+    Passing, ///< on its way into the front window: clipboard histories are told to leave it alone,
+             ///< and it stands wherever that window pastes from
+};
+
+/// The general pasteboard (the clipboard) of the desktop.
+class Pasteboard {
+public:
+    using SaveHandler = std::function<void(PasteboardContents)>;
+
+    virtual ~Pasteboard() = default;
+
+    /// Reads everything that the pasteboard holds and hands it to `done`, on a later turn of the
+    /// main loop and never later than a second: an owner that stays silent for 0.3 s is cut off,
+    /// and what was read until then is handed over.
+    virtual void save(SaveHandler done) = 0;
+
+    virtual void clear() = 0;
+
+    /// Puts one plain text, as the only type.
+    virtual void setString(const QString& text, TextStay stay) = 0;
+
+    /// Puts the items as one, with the types of all; nothing where there are none.
+    virtual void
+    write(const PasteboardItem& item, const std::optional<PasteboardItem>& selection) = 0;
+
+    /// Before the process ends: leaves what we own to the desktop's clipboard manager, if there is
+    /// one. `done` runs on a later turn, bounded like a save.
+    virtual void handOver(std::function<void()> done) = 0;
+};
+
+} // namespace quorvane

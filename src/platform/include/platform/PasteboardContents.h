@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace quorvane {
+
+/// The data of one type, as the owner gave it.
+struct PasteboardEntry {
+    QString type;     ///< a MIME type, or the desktop's own name for a kind of data
+    QByteArray bytes; ///< in the byte order of the machine
+    QString encoding; ///< the wire type of the bytes, where the desktop tells one; else empty
+    int unitBits = 8; ///< the size of one unit: 8, 16 or 32
+
+    friend bool operator==(const PasteboardEntry&, const PasteboardEntry&) = default;
+};
+
+/// One thing in several representations, in the owner's order.
+using PasteboardItem = std::vector<PasteboardEntry>;
+
+struct PasteboardContents {
+    std::vector<PasteboardItem> items;
+
+    /// What the desktop's second pasteboard (X11's PRIMARY) held, if the text has to pass through
+    /// it too: some windows paste from nothing else.
+    std::optional<PasteboardItem> selection;
+
+    friend bool operator==(const PasteboardContents&, const PasteboardContents&) = default;
+};
+
+} // namespace quorvane

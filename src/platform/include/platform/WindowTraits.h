@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWindow;
+
+namespace quorvane {
+
+/// Whether the program shows in the desktop's taskbar and pager.
+enum class ActivationPolicy { Regular, Accessory };
+
+/// What a floating panel needs from the desktop beyond what a window can ask for itself: above
+/// others, on every virtual desktop, with the keys as soon as it shows.
+class WindowTraits {
+public:
+    virtual ~WindowTraits() = default;
+
+    virtual void setActivationPolicy(ActivationPolicy policy) = 0;
+
+    /// Before every show of the panel, with its native window made: desktops forget when it hides.
+    virtual void preparePanel(QWindow& window) = 0;
+
+    /// After every show: all desktops, in front of the others, and the keyboard focus.
+    virtual void presentPanel(QWindow& window) = 0;
+
+    /// In front of the others, without the focus.
+    virtual void orderFront(QWindow& window) = 0;
+};
+
+} // namespace quorvane

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <fakes/CallLog.h>
+#include <platform/AccessibilityRight.h>
+
+namespace quorvane {
+
+class FakeAccessibilityRight final : public AccessibilityRight {
+public:
+    explicit FakeAccessibilityRight(CallLog& log) : m_log(log) {}
+
+    [[nodiscard]] bool isTrusted() const override {
+        m_log.add("isTrusted");
+        return m_trusted;
+    }
+
+    void prompt() override { m_log.add("prompt"); }
+
+    void setTrusted(bool trusted) { m_trusted = trusted; }
+
+private:
+    CallLog& m_log;
+    bool m_trusted = true;
+};
+
+} // namespace quorvane

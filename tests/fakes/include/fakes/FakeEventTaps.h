@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <fakes/CallLog.h>
+#include <platform/EventTap.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// A keyboard that the test types on. Delivers every press to an enabled tap, as a desktop does
+/// that shows a tap all keys; `watched` tells what a narrower one would have asked for.
+class FakeEventTaps final : public EventTapService {
+public:
+    /// The state of the last tap that was made, shared with it.
+    struct TapState {
+        KeyPressHandler handler;
+        std::optional<KeyChord> watched;
+        bool enabled = false;
+        bool alive = true;
+    };
+
+    explicit FakeEventTaps(CallLog& log) : m_log(log) {}
+
+    [[nodiscard]] TapResult createTap(KeyPressHandler handler) override;
+
+    /// Types one press; what reaches the application in front comes back as Pass.
+    TapVerdict press(const KeyPress& press);
+
+    /// From now on, no tap can be had.
+    void refuse(TapFailure failure) { m_refusal = std::move(failure); }
+
+    /// Another program holds the shortcut: enabled taps hear nothing of it.
+    void setHeldElsewhere(bool held) { *m_heldElsewhere = held; }
+
+    /// Null before the first tap.
+    [[nodiscard]] const TapState* tap() const { return m_tap.get(); }
+
+private:
+    CallLog& m_log;
+    std::optional<TapFailure> m_refusal;
+    std::shared_ptr<TapState> m_tap;
+    std::shared_ptr<bool> m_heldElsewhere = std::make_shared<bool>(false);
+};
+
+} // namespace quorvane

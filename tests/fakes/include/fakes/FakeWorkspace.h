@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <fakes/CallLog.h>
+#include <platform/Workspace.h>
+
+namespace quorvane {
+
+class FakeWorkspace final : public Workspace {
+public:
+    explicit FakeWorkspace(CallLog& log) : m_log(log) {}
+
+    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override {
+        m_log.add("frontmostApplication");
+        return m_front;
+    }
+
+    [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
+
+    void activate(const RunningApplication& application) override {
+        m_log.add("activate " + application.name.toStdString());
+    }
+
+    void onActiveSpaceChanged(std::function<void()> handler) override {
+        m_spaceChanged = std::move(handler);
+    }
+
+    void setFront(std::optional<RunningApplication> front) { m_front = std::move(front); }
+
+    void changeSpace() {
+        if (m_spaceChanged)
+            m_spaceChanged();
+    }
+
+private:
+    CallLog& m_log;
+    std::optional<RunningApplication> m_front;
+    std::function<void()> m_spaceChanged;
+};
+
+} // namespace quorvane
