@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include <model/IncludeGuard.h>
+
+namespace quorvane {
+
+IncludeGuard IncludeGuard::of(bool includeDate, bool includeTime) {
+    const bool onlyDate = includeDate && !includeTime;
+    const bool onlyTime = includeTime && !includeDate;
+    return {!onlyDate, !onlyTime};
+}
+
+} // namespace quorvane

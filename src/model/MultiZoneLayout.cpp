@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include <model/MultiZoneLayout.h>
+#include <model/RawTexts.h>
+
+namespace quorvane {
+
+namespace {
+
+constexpr RawTexts<MultiZoneLayout, allMultiZoneLayouts.size()> rawTexts{{
+    {MultiZoneLayout::Inline, u"Inline"},
+    {MultiZoneLayout::Lines, u"Lines"},
+}};
+
+} // namespace
+
+QString rawValue(MultiZoneLayout layout) {
+    return textOf(rawTexts, layout);
+}
+
+std::optional<MultiZoneLayout> multiZoneLayout(QStringView rawValue) {
+    return caseOf(rawTexts, rawValue);
+}
+
+} // namespace quorvane

@@ -1,0 +1,364 @@
+// SPDX-License-Identifier: MIT
+#include "Samples.h"
+
+#include <fakes/FixedClock.h>
+#include <fakes/FixedCurrentZone.h>
+#include <fakes/MemoryDefaults.h>
+#include <foundation/DiskFileWriter.h>
+#include <foundation/JsonDefaultsStore.h>
+#include <model/DateTimeModel.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace samples;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const auto favoritesKey = u"favoriteTZs"_s;
+
+class DateTimeModelTest : public testing::Test {
+protected:
+    [[nodiscard]] std::unique_ptr<DateTimeModel> makeModel() { return makeModel(m_defaults); }
+
+    [[nodiscard]] std::unique_ptr<DateTimeModel> makeModel(DefaultsStore& defaults) {
+        return std::make_unique<DateTimeModel>(DateTimeModel::Surroundings{
+            m_clock, defaults, m_currentZone, m_zones, locale("en_US")});
+    }
+
+    /// A model whose settings file held `json`.
+    [[nodiscard]] std::unique_ptr<DateTimeModel> makeModelFrom(const QByteArray& json) {
+        QFile file(m_folder.filePath(u"defaults.json"_s));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(json);
+        file.close();
+        m_stored = std::make_unique<JsonDefaultsStore>(file.fileName(), m_writer);
+        return makeModel(*m_stored);
+    }
+
+    FixedClock m_clock{march9};
+    FixedCurrentZone m_currentZone{zone("Asia/Kolkata")};
+    ZoneDatabase m_zones;
+    MemoryDefaults m_defaults;
+    std::unique_ptr<JsonDefaultsStore> m_stored;
+
+private:
+    QTemporaryDir m_folder;
+    DiskFileWriter m_writer;
+};
+
+const QStringList defaultFavorites{
+    u"Asia/Kolkata"_s,
+    u"America/Los_Angeles"_s,
+    u"America/New_York"_s,
+    u"Europe/London"_s,
+    u"Europe/Berlin"_s,
+    u"Asia/Tokyo"_s,
+    u"Asia/Singapore"_s,
+    u"Australia/Sydney"_s};
+
+TEST_F(DateTimeModelTest, StartsAfreshWithTheCurrentHourAndZone) {
+    const auto model = makeModel();
+    EXPECT_EQ(model->startDate(), march9);
+    EXPECT_EQ(model->endDate(), march9 + Seconds(hour));
+    EXPECT_FALSE(model->isRange());
+    EXPECT_TRUE(model->includeDate());
+    EXPECT_TRUE(model->includeTime());
+    EXPECT_EQ(model->selectedTimeZones(), zones({"Asia/Kolkata"}));
+    EXPECT_EQ(model->formatPreset(), DateFormatPreset::LongForm);
+    EXPECT_EQ(model->customFormatString(), u"yyyy-MM-dd HH:mm zzz"_s);
+    EXPECT_EQ(model->multiZoneLayout(), MultiZoneLayout::Inline);
+}
+
+TEST_F(DateTimeModelTest, FirstLaunchHasTheDefaultsAndStoresTheFavourites) {
+    const auto model = makeModel();
+    EXPECT_TRUE(model->showInMenuBar());
+    EXPECT_FALSE(model->showInDock());
+    EXPECT_EQ(model->presentationMode(), PresentationMode::Window);
+    EXPECT_EQ(model->hotKey(), (HotKeyCombo{2, 0x1300}));
+    EXPECT_EQ(model->favoriteTimeZoneIdentifiers(), defaultFavorites);
+    EXPECT_EQ(m_defaults.stringArrayForKey(favoritesKey), defaultFavorites);
+    EXPECT_THAT(m_defaults.writes(), ElementsAre(favoritesKey));
+}
+
+TEST_F(DateTimeModelTest, StoredSettingsAreRead) {
+    const auto model = makeModelFrom(R"({
+        "showInMenuBar": false, "showInDock": true, "presentationMode": "Popover",
+        "hotKeyCode": 9, "hotKeyModifiers": 256, "favoriteTZs": ["Asia/Seoul", "Moon/Tycho"]})");
+    EXPECT_FALSE(model->showInMenuBar());
+    EXPECT_TRUE(model->showInDock());
+    EXPECT_EQ(model->presentationMode(), PresentationMode::Popover);
+    EXPECT_EQ(model->hotKey(), (HotKeyCombo{9, 256}));
+    EXPECT_EQ(
+        model->favoriteTimeZoneIdentifiers(), (QStringList{u"Asia/Seoul"_s, u"Moon/Tycho"_s}));
+}
+
+TEST_F(DateTimeModelTest, PresentationModeIsTheExactTextOrTheWindow) {
+    for (const char* value :
+         {R"("popover")", R"("POPOVER")", R"("Window")", R"("")", "5", "true", "null", "[]"}) {
+        const auto model = makeModelFrom(QByteArray(R"({"presentationMode": )") + value + "}");
+        EXPECT_EQ(model->presentationMode(), PresentationMode::Window) << value;
+    }
+}
+
+TEST_F(DateTimeModelTest, FlagsAreCoercedAndOnlyAValueCountsAsOne) {
+    struct Row {
+        const char* value;
+        bool menuBar;
+        bool dock;
+    };
+
+    for (const auto& row :
+         {Row{"0", false, false},
+          Row{"1", true, true},
+          Row{R"("YES")", true, true},
+          Row{R"("no")", false, false},
+          Row{R"("what")", false, false},
+          Row{"null", true, false},
+          Row{"[]", true, false},
+          Row{"{}", true, false}}) {
+        const auto value = QByteArray(row.value);
+        const auto model =
+            makeModelFrom(R"({"showInMenuBar": )" + value + R"(, "showInDock": )" + value + "}");
+        EXPECT_EQ(model->showInMenuBar(), row.menuBar) << row.value;
+        EXPECT_EQ(model->showInDock(), row.dock) << row.value;
+    }
+}
+
+TEST_F(DateTimeModelTest, EmptyFavouritesStayEmpty) {
+    const auto model = makeModelFrom(R"({"favoriteTZs": []})");
+    EXPECT_TRUE(model->favoriteTimeZoneIdentifiers().isEmpty());
+    EXPECT_EQ(m_stored->stringArrayForKey(favoritesKey), QStringList());
+}
+
+TEST_F(DateTimeModelTest, FavouritesThatAreNotAllTextsAreReplacedByTheDefaults) {
+    for (const char* value : {R"(["Europe/Paris", 5])", R"("Europe/Paris")", "null", "{}"}) {
+        const auto model = makeModelFrom(QByteArray(R"({"favoriteTZs": )") + value + "}");
+        EXPECT_EQ(model->favoriteTimeZoneIdentifiers(), defaultFavorites) << value;
+        EXPECT_EQ(m_stored->stringArrayForKey(favoritesKey), defaultFavorites) << value;
+    }
+}
+
+using DateTimeModelDeathTest = DateTimeModelTest;
+
+TEST_F(DateTimeModelDeathTest, StoredShortcutOutOfRangeStopsTheProcess) {
+    for (const char* value : {"-1", "4294967296", "9223372036854775807", "1e300"})
+        EXPECT_EXIT(
+            static_cast<void>(makeModelFrom(QByteArray(R"({"hotKeyCode": )") + value + "}")),
+            testing::KilledBySignal(SIGABRT),
+            "^$")
+            << value;
+}
+
+/// Assigns a value to one field, and tells whether the field has it.
+struct Assignment {
+    const char* name;
+    std::function<void(DateTimeModel&)> assign;
+    std::function<bool(const DateTimeModel&)> isInPlace;
+    QString storedKey; ///< empty for what is not persisted
+};
+
+std::vector<Assignment> assignments() {
+    const Instant other{1};
+    return {
+        {"startDate",
+         [=](auto& m) { m.setStartDate(other); },
+         [=](auto& m) { return m.startDate() == other; },
+         {}},
+        {"endDate",
+         [=](auto& m) { m.setEndDate(other); },
+         [=](auto& m) { return m.endDate() == other; },
+         {}},
+        {"isRange", [](auto& m) { m.setIsRange(true); }, [](auto& m) { return m.isRange(); }, {}},
+        {"includeDate",
+         [](auto& m) { m.setIncludeDate(false); },
+         [](auto& m) { return !m.includeDate(); },
+         {}},
+        {"includeTime",
+         [](auto& m) { m.setIncludeTime(false); },
+         [](auto& m) { return !m.includeTime(); },
+         {}},
+        {"selectedTimeZones",
+         [](auto& m) { m.setSelectedTimeZones(zones({"UTC"})); },
+         [](auto& m) { return m.selectedTimeZones() == zones({"UTC"}); },
+         {}},
+        {"formatPreset",
+         [](auto& m) { m.setFormatPreset(DateFormatPreset::Custom); },
+         [](auto& m) { return m.formatPreset() == DateFormatPreset::Custom; },
+         {}},
+        {"customFormatString",
+         [](auto& m) { m.setCustomFormatString(u"d"_s); },
+         [](auto& m) { return m.customFormatString() == u"d"_s; },
+         {}},
+        {"multiZoneLayout",
+         [](auto& m) { m.setMultiZoneLayout(MultiZoneLayout::Lines); },
+         [](auto& m) { return m.multiZoneLayout() == MultiZoneLayout::Lines; },
+         {}},
+        {"favoriteTimeZoneIdentifiers",
+         [](auto& m) { m.setFavoriteTimeZoneIdentifiers({u"UTC"_s}); },
+         [](auto& m) { return m.favoriteTimeZoneIdentifiers() == QStringList{u"UTC"_s}; },
+         u"favoriteTZs"_s},
+        {"hotKey",
+         [](auto& m) {
+             m.setHotKey({9, 256});
+         },
+         [](auto& m) {
+             return m.hotKey() == HotKeyCombo{9, 256};
+         },
+         {}},
+        {"showInMenuBar",
+         [](auto& m) { m.setShowInMenuBar(false); },
+         [](auto& m) { return !m.showInMenuBar(); },
+         u"showInMenuBar"_s},
+        {"showInDock",
+         [](auto& m) { m.setShowInDock(true); },
+         [](auto& m) { return m.showInDock(); },
+         u"showInDock"_s},
+        {"presentationMode",
+         [](auto& m) { m.setPresentationMode(PresentationMode::Popover); },
+         [](auto& m) { return m.presentationMode() == PresentationMode::Popover; },
+         u"presentationMode"_s},
+    };
+}
+
+TEST_F(DateTimeModelTest, EveryAssignmentAnnouncesItselfBeforeTheValueIsInPlaceOrStored) {
+    for (const auto& field : assignments()) {
+        const auto model = makeModel();
+        const auto writesBefore = m_defaults.writes().size();
+        int announced = 0;
+        QObject::connect(model.get(), &DateTimeModel::objectWillChange, [&] {
+            ++announced;
+            EXPECT_FALSE(field.isInPlace(*model)) << field.name;
+            EXPECT_EQ(m_defaults.writes().size(), writesBefore) << field.name;
+        });
+        field.assign(*model);
+        EXPECT_EQ(announced, 1) << field.name;
+        EXPECT_TRUE(field.isInPlace(*model)) << field.name;
+    }
+}
+
+TEST_F(DateTimeModelTest, EveryAssignmentOfAnEqualValueAnnouncesAndStoresItselfToo) {
+    for (const auto& field : assignments()) {
+        const auto model = makeModel();
+        field.assign(*model);
+        const auto writesBefore = m_defaults.writes().size();
+        int announced = 0;
+        QObject::connect(model.get(), &DateTimeModel::objectWillChange, [&] { ++announced; });
+        field.assign(*model);
+        EXPECT_EQ(announced, 1) << field.name;
+        const std::size_t expectedWrites = field.storedKey.isEmpty() ? 0 : 1;
+        EXPECT_EQ(m_defaults.writes().size() - writesBefore, expectedWrites) << field.name;
+    }
+}
+
+TEST_F(DateTimeModelTest, PersistedFieldsAreStoredOnceTheyAreInPlace) {
+    for (const auto& field : assignments()) {
+        const auto model = makeModel();
+        const auto writesBefore = m_defaults.writes().size();
+        field.assign(*model);
+        const std::vector<QString> writes(
+            m_defaults.writes().begin() + static_cast<std::ptrdiff_t>(writesBefore),
+            m_defaults.writes().end());
+        if (field.storedKey.isEmpty())
+            EXPECT_THAT(writes, IsEmpty()) << field.name;
+        else
+            EXPECT_THAT(writes, ElementsAre(field.storedKey)) << field.name;
+    }
+    EXPECT_EQ(m_defaults.stringArrayForKey(favoritesKey), QStringList{u"UTC"_s});
+    EXPECT_FALSE(m_defaults.boolForKey(u"showInMenuBar"_s));
+    EXPECT_TRUE(m_defaults.boolForKey(u"showInDock"_s));
+    EXPECT_EQ(m_defaults.stringForKey(u"presentationMode"_s), u"Popover"_s);
+}
+
+TEST_F(DateTimeModelTest, SettingsOfTheShellAreAnnouncedWithTheirNewValue) {
+    const auto model = makeModel();
+    QStringList events;
+    QObject::connect(model.get(), &DateTimeModel::objectWillChange, [&] { events.append(u"-"_s); });
+    QObject::connect(model.get(), &DateTimeModel::showInMenuBarWillChange, [&](bool show) {
+        EXPECT_NE(model->showInMenuBar(), show);
+        events.append(show ? u"menu bar"_s : u"no menu bar"_s);
+    });
+    QObject::connect(model.get(), &DateTimeModel::showInDockWillChange, [&](bool show) {
+        EXPECT_NE(model->showInDock(), show);
+        events.append(show ? u"dock"_s : u"no dock"_s);
+    });
+    QObject::connect(
+        model.get(), &DateTimeModel::presentationModeWillChange, [&](PresentationMode mode) {
+            EXPECT_NE(model->presentationMode(), mode);
+            events.append(rawValue(mode));
+        });
+    model->setShowInMenuBar(false);
+    model->setShowInDock(true);
+    model->setPresentationMode(PresentationMode::Popover);
+    EXPECT_EQ(
+        events, (QStringList{u"-"_s, u"no menu bar"_s, u"-"_s, u"dock"_s, u"-"_s, u"Popover"_s}));
+}
+
+TEST_F(DateTimeModelTest, WhatTheUserComposedEndsWithTheRun) {
+    {
+        const auto model = makeModel();
+        for (const auto& field : assignments())
+            field.assign(*model);
+    }
+    const auto next = makeModel();
+    EXPECT_EQ(next->formatPreset(), DateFormatPreset::LongForm);
+    EXPECT_EQ(next->selectedTimeZones(), zones({"Asia/Kolkata"}));
+    EXPECT_EQ(next->startDate(), march9);
+    EXPECT_EQ(next->presentationMode(), PresentationMode::Popover);
+    EXPECT_EQ(next->hotKey(), HotKeyCombo());
+}
+
+TEST_F(DateTimeModelTest, OutputFollowsTheFields) {
+    const auto model = makeModel();
+    EXPECT_EQ(model->formattedOutput(), u"March 10, 2024 at 3:35 AM GMT+5:30"_s);
+    model->setSelectedTimeZones(zones({"Europe/London", "America/Los_Angeles"}));
+    model->setFormatPreset(DateFormatPreset::Iso8601);
+    model->setMultiZoneLayout(MultiZoneLayout::Lines);
+    EXPECT_EQ(model->formattedOutput(), u"2024-03-09T14:05:00-08:00\n2024-03-09T22:05:00Z"_s);
+    model->setIsRange(true);
+    model->setIncludeTime(false);
+    EXPECT_EQ(model->formattedOutput(), u"2024-03-09 – 2024-03-09"_s);
+    model->setFormatPreset(DateFormatPreset::Custom);
+    model->setCustomFormatString(u"HH"_s);
+    EXPECT_EQ(model->formattedOutput(), u"22 – 23"_s);
+    EXPECT_EQ(model->formatSingle(march9, zone("Asia/Tokyo"), DateFormatPreset::Custom), u"07"_s);
+}
+
+TEST_F(DateTimeModelTest, PresetThatIsNoLongerOfferedIsReplaced) {
+    const auto model = makeModel();
+    model->setFormatPreset(DateFormatPreset::ShortForm);
+    int announced = 0;
+    QObject::connect(model.get(), &DateTimeModel::objectWillChange, [&] { ++announced; });
+    model->reconcileFormatPreset();
+    EXPECT_EQ(model->formatPreset(), DateFormatPreset::ShortForm);
+    EXPECT_EQ(announced, 0);
+    model->setIncludeDate(false);
+    model->reconcileFormatPreset();
+    EXPECT_EQ(model->formatPreset(), DateFormatPreset::LongForm);
+    EXPECT_EQ(announced, 2);
+}
+
+TEST_F(DateTimeModelTest, SampleForThePresetsIsInTheCurrentZoneWithoutASelection) {
+    const auto model = makeModel();
+    model->setSelectedTimeZones({});
+    EXPECT_FALSE(model->availableFormatPresets().empty());
+}
+
+TEST_F(DateTimeModelTest, SlotsAreFavouritesAndSelectedZones) {
+    const auto model = makeModel();
+    model->setFavoriteTimeZoneIdentifiers({u"Asia/Tokyo"_s, u"Moon/Tycho"_s});
+    EXPECT_EQ(model->timeZoneSlots(), zones({"Asia/Tokyo", "Asia/Kolkata"}));
+}
+
+} // namespace
+} // namespace quorvane

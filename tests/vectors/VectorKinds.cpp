@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "VectorKinds.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct VectorKind {
+    QLatin1StringView name; ///< of its files, without suffix
+    VectorCheck check;
+};
+
+constexpr std::array kinds{
+    VectorKind{"presets"_L1, checkPreset},
+    VectorKind{"format_fixed"_L1, checkFormat},
+    VectorKind{"format_locale"_L1, checkFormat},
+    VectorKind{"format_custom"_L1, checkCustomFormat},
+    VectorKind{"chips"_L1, checkChip},
+    VectorKind{"compose"_L1, checkComposition},
+    VectorKind{"available_presets"_L1, checkAvailablePresets},
+    VectorKind{"slots"_L1, checkSlots},
+    VectorKind{"include_guard"_L1, checkIncludeGuard},
+    VectorKind{"default_favorites"_L1, checkDefaultFavorites},
+    VectorKind{"hotkey_flags"_L1, checkHotKeyFlags},
+    VectorKind{"hotkey_display"_L1, checkHotKeyDisplay},
+    VectorKind{"hotkey_load"_L1, checkHotKeyLoad},
+    VectorKind{"hotkey_keychar"_L1, checkHotKeyKeyChar},
+};
+
+} // namespace
+
+VectorCheck vectorCheck(const QString& kind) {
+    const auto found = std::ranges::find(kinds, kind, &VectorKind::name);
+    return found == kinds.end() ? nullptr : found->check;
+}
+
+bool holds(const VectorRow& row, const Comparison& comparison) {
+    if (comparison.actual == comparison.expected)
+        return true;
+    return row.fields().value("status"_L1) == "data-dependent"_L1 &&
+           comparison.actual == row.value("icu72");
+}
+
+} // namespace quorvane
