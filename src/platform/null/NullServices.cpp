@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include <platform_null/NullServices.h>
+
+#include <utility>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class NullAccessibilityRight final : public AccessibilityRight {
+public:
+    [[nodiscard]] bool isTrusted() const override { return false; }
+
+    void prompt() override {}
+};
+
+class NullEventTapService final : public EventTapService {
+public:
+    [[nodiscard]] TapResult createTap(KeyPressHandler) override {
+        return TapFailure{u"this desktop shows nobody its keys"_s, TapFailure::Retry::Pointless};
+    }
+};
+
+class NullKeyPoster final : public KeyPoster {
+public:
+    PostOutcome post(const KeyChord&) override { return PostOutcome::Unavailable; }
+};
+
+class NullPasteboard final : public Pasteboard {
+public:
+    explicit NullPasteboard(MainQueue& mainQueue) : m_mainQueue(mainQueue) {}
+
+    void save(SaveHandler done) override {
+        m_mainQueue.async([done = std::move(done)] { done({}); });
+    }
+
+    void clear() override {}
+
+    void setString(const QString&, TextStay) override {}
+
+    void write(const PasteboardItem&, const std::optional<PasteboardItem>&) override {}
+
+    void handOver(std::function<void()> done) override { m_mainQueue.async(std::move(done)); }
+
+private:
+    MainQueue& m_mainQueue;
+};
+
+class NullWorkspace final : public Workspace {
+public:
+    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override {
+        return std::nullopt;
+    }
+
+    [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
+
+    void activate(const RunningApplication&) override {}
+
+    void onActiveSpaceChanged(std::function<void()>) override {}
+};
+
+class NullKeyboardLayout final : public KeyboardLayout {
+public:
+    [[nodiscard]] std::optional<std::u16string> characters(std::uint16_t) const override {
+        return std::nullopt;
+    }
+
+    void onChanged(std::function<void()>) override {}
+};
+
+class NullWindowTraits final : public WindowTraits {
+public:
+    void setActivationPolicy(ActivationPolicy) override {}
+
+    void preparePanel(QWindow&) override {}
+
+    void presentPanel(QWindow&) override {}
+
+    void orderFront(QWindow&) override {}
+};
+
+} // namespace
+
+PlatformServices makeNullServices(MainQueue& mainQueue) {
+    return {
+        .accessibilityRight = std::make_unique<NullAccessibilityRight>(),
+        .eventTaps = std::make_unique<NullEventTapService>(),
+        .keyPoster = std::make_unique<NullKeyPoster>(),
+        .pasteboard = std::make_unique<NullPasteboard>(mainQueue),
+        .workspace = std::make_unique<NullWorkspace>(),
+        .keyboardLayout = std::make_unique<NullKeyboardLayout>(),
+        .windowTraits = std::make_unique<NullWindowTraits>(),
+    };
+}
+
+} // namespace quorvane

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/QtX11.h>
+#include <platform_x11/X11ClipboardLoan.h>
+#include <platform_x11/X11Events.h>
+#include <platform_x11/X11LentData.h>
+#include <platform_x11/X11QtClipboard.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr auto timeProperty = "QUORVANE_TIME";
+
+} // namespace
+
+X11ClipboardLoan::X11ClipboardLoan(
+    std::shared_ptr<X11Connection> connection, MainQueue& queue, X11SelectionOwner& clipboard)
+    : m_connection(std::move(connection)),
+      m_queue(queue),
+      m_clipboard(clipboard) {
+    if (qtx11::connection() == nullptr)
+        return;
+    qGuiApp->installNativeEventFilter(this);
+    // Between two windows of ours the focus is nowhere for a moment.
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
+        m_following = m_queue.after(Seconds(0), [this] { follow(QGuiApplication::focusWindow()); });
+    });
+}
+
+X11ClipboardLoan::~X11ClipboardLoan() = default;
+
+void X11ClipboardLoan::offer() {
+    m_isSuspended = false;
+    if (qtx11::connection() != nullptr)
+        follow(QGuiApplication::focusWindow());
+}
+
+void X11ClipboardLoan::suspend() {
+    m_isSuspended = true;
+    takeBack();
+}
+
+void X11ClipboardLoan::follow(const QWindow* focus) {
+    if (focus == nullptr)
+        takeBack();
+    else if (m_clipboard.content() != nullptr)
+        refreshQtTime(*focus);
+}
+
+// Qt takes a selection as of the latest time that it has seen in an event, and the server ignores a
+// claim that is older than the present owner's. This event brings Qt up to date; then we lend.
+void X11ClipboardLoan::refreshQtTime(const QWindow& window) {
+    const auto id = static_cast<xcb_window_t>(window.winId());
+    xcb_change_property(
+        m_connection->xcb(),
+        XCB_PROP_MODE_APPEND,
+        id,
+        m_connection->atom(timeProperty),
+        XCB_ATOM_INTEGER,
+        32,
+        0,
+        nullptr);
+    m_connection->flush();
+}
+
+bool X11ClipboardLoan::nativeEventFilter(const QByteArray& kind, void* message, qintptr*) {
+    if (kind != "xcb_generic_event_t")
+        return false;
+    const auto* change =
+        eventAs<xcb_property_notify_event_t>(*static_cast<const xcb_generic_event_t*>(message));
+    // Qt takes note of the time after its filters.
+    if (change != nullptr && change->atom == m_connection->atom(timeProperty))
+        m_lending = m_queue.after(Seconds(0), [this, time = change->time] { lend(time); });
+    return false;
+}
+
+void X11ClipboardLoan::lend(xcb_timestamp_t qtTime) {
+    const auto* content = m_clipboard.content();
+    const bool isLaterThanOurs = static_cast<std::int32_t>(qtTime - m_clipboard.since()) >= 0;
+    const bool isWanted = !m_isSuspended && QGuiApplication::focusWindow() != nullptr;
+    if (content != nullptr && isLaterThanOurs && isWanted)
+        QGuiApplication::clipboard()->setMimeData(new X11LentData(content->item()));
+}
+
+void X11ClipboardLoan::takeBack() {
+    if (const auto* lent = qtx11::lentData())
+        m_clipboard.own(PasteboardItem(lent->item()));
+}
+
+} // namespace quorvane

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11Connection.h>
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcX11, "quorvane.x11", QtFatalMsg)
+
+const xcb_screen_t* screenAt(xcb_connection_t* connection, int index) {
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (; index > 0 && screens.rem > 1; --index)
+        xcb_screen_next(&screens);
+    return screens.data;
+}
+
+void logError(const xcb_generic_error_t& error) {
+    qCDebug(
+        lcX11,
+        "error %d of request %d.%d on 0x%x",
+        error.error_code,
+        error.major_code,
+        error.minor_code,
+        error.resource_id);
+}
+
+} // namespace
+
+X11Connection::Subscription::Subscription(std::shared_ptr<EventHandler> handler)
+    : m_handler(std::move(handler)) {
+}
+
+std::shared_ptr<X11Connection> X11Connection::open() {
+    int preferredScreen = 0;
+    auto* connection = xcb_connect(nullptr, &preferredScreen);
+    if (xcb_connection_has_error(connection) != 0) {
+        qCWarning(lcX11, "no X server answers");
+        xcb_disconnect(connection);
+        return nullptr;
+    }
+    return std::shared_ptr<X11Connection>(new X11Connection(connection, preferredScreen));
+}
+
+X11Connection::X11Connection(xcb_connection_t* connection, int preferredScreen)
+    : m_connection(connection),
+      m_screen(screenAt(connection, preferredScreen)),
+      m_notifier(std::make_unique<QSocketNotifier>(
+          xcb_get_file_descriptor(connection), QSocketNotifier::Read)) {
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &X11Connection::drain);
+    // Waiting for a reply reads events into xcb's own queue, where the socket no longer shows them.
+    if (auto* dispatcher = QAbstractEventDispatcher::instance())
+        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &X11Connection::drain);
+}
+
+X11Connection::~X11Connection() {
+    m_notifier.reset();
+    xcb_disconnect(m_connection);
+}
+
+bool X11Connection::owns(xcb_window_t window) const {
+    const auto* setup = xcb_get_setup(m_connection);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
+xcb_atom_t X11Connection::atom(const char* name) {
+    if (const auto known = m_atoms.find(name); known != m_atoms.end())
+        return known->second;
+    const auto length = static_cast<std::uint16_t>(std::char_traits<char>::length(name));
+    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        m_connection, xcb_intern_atom(m_connection, 0, length, name), nullptr));
+    const auto atom = reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    if (atom != XCB_ATOM_NONE)
+        m_atoms.emplace(name, atom);
+    return atom;
+}
+
+xcb_atom_t X11Connection::atom(const QString& name) {
+    return atom(name.toUtf8().constData());
+}
+
+QString X11Connection::atomName(xcb_atom_t atom) {
+    const XcbReply<xcb_get_atom_name_reply_t> reply(
+        xcb_get_atom_name_reply(m_connection, xcb_get_atom_name(m_connection, atom), nullptr));
+    if (!reply)
+        return {};
+    return QString::fromUtf8(
+        xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get()));
+}
+
+X11Connection::Subscription X11Connection::subscribe(EventHandler handler) {
+    auto shared = std::make_shared<EventHandler>(std::move(handler));
+    m_handlers.push_back(shared);
+    return Subscription(std::move(shared));
+}
+
+void X11Connection::flush() {
+    xcb_flush(m_connection);
+}
+
+void X11Connection::waitForServer() {
+    const XcbReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+}
+
+bool X11Connection::succeeded(xcb_void_cookie_t checkedRequest) {
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_connection, checkedRequest));
+    if (error)
+        logError(*error);
+    return !error;
+}
+
+void X11Connection::noteUserTime(xcb_timestamp_t time) {
+    // The server's clock starts over after 49.7 days.
+    const bool isLater = static_cast<std::int32_t>(time - m_lastUserTime) > 0;
+    if (time != XCB_CURRENT_TIME && (isLater || m_lastUserTime == XCB_CURRENT_TIME))
+        m_lastUserTime = time;
+}
+
+void X11Connection::drain() {
+    const auto keepAlive = weak_from_this().lock();
+    while (XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)})
+        dispatch(*event);
+    xcb_flush(m_connection);
+    if (m_notifier->isEnabled() && xcb_connection_has_error(m_connection) != 0)
+        stopListening();
+}
+
+void X11Connection::dispatch(const xcb_generic_event_t& event) {
+    if (event.response_type == 0)
+        logError(reinterpret_cast<const xcb_generic_error_t&>(event));
+    const auto handlers = m_handlers;
+    for (const auto& weak : handlers) {
+        if (const auto handler = weak.lock())
+            (*handler)(event);
+    }
+    m_handlers.remove_if([](const auto& weak) { return weak.expired(); });
+}
+
+void X11Connection::stopListening() {
+    qCWarning(lcX11, "the X server went away");
+    m_notifier->setEnabled(false);
+}
+
+} // namespace quorvane

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11EventTap.h>
+#include <platform_x11/X11Keycodes.h>
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcTap, "quorvane.tap", QtFatalMsg)
+
+// The highest bit marks events that another client sent by SendEvent.
+constexpr std::uint8_t eventTypeMask = 0x7f;
+
+} // namespace
+
+X11EventTap::X11EventTap(
+    std::shared_ptr<X11Connection> connection,
+    MainQueue& mainQueue,
+    std::shared_ptr<const X11PostedKeys> postedKeys,
+    KeyPressHandler handler)
+    : m_connection(std::move(connection)),
+      m_postedKeys(std::move(postedKeys)),
+      m_handler(std::move(handler)),
+      m_modifiers(X11ModifierMap::read(*m_connection)),
+      m_mapRefresh(mainQueue, [this] { keyboardMapChanged(); }),
+      m_subscription(m_connection->subscribe(
+          [this](const xcb_generic_event_t& event) { handleEvent(event); })) {
+    // An open menu or popup of ours holds the whole keyboard, and no passive grab fires then. The
+    // press reaches Qt instead, and has to be caught before its shortcuts and widgets.
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+X11EventTap::~X11EventTap() {
+    QCoreApplication::instance()->removeNativeEventFilter(this);
+}
+
+void X11EventTap::watch(std::optional<KeyChord> chord) {
+    m_watched = chord;
+    updateGrab();
+}
+
+void X11EventTap::enable() {
+    m_enabled = true;
+    updateGrab();
+}
+
+void X11EventTap::disable() {
+    m_enabled = false;
+    updateGrab();
+}
+
+bool X11EventTap::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
+    if (!m_grab || eventType != QByteArrayView("xcb_generic_event_t"))
+        return false;
+    const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+    if ((event.response_type & eventTypeMask) != XCB_KEY_PRESS)
+        return false;
+    const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(event);
+    // One that the grab has handed on was decided about already.
+    if (!isWatched(press) || press.time == m_lastDecision)
+        return false;
+    return decide(press) == TapVerdict::Swallow;
+}
+
+void X11EventTap::handleEvent(const xcb_generic_event_t& event) {
+    const auto type = event.response_type & eventTypeMask;
+    if (type == XCB_MAPPING_NOTIFY)
+        return m_mapRefresh.schedule();
+    if (type != XCB_KEY_PRESS || !m_grab || !m_grab->canHaveSent(event))
+        return;
+    const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(event);
+    if (m_postedKeys->caused(event))
+        return m_grab->replay(press.time);
+    answerGrab(press);
+}
+
+void X11EventTap::answerGrab(const xcb_key_press_event_t& press) {
+    const auto verdict = decide(press);
+    // Gone if the handler disabled us; the press was handed on then.
+    if (!m_grab)
+        return;
+    if (verdict == TapVerdict::Swallow)
+        m_grab->swallow();
+    else
+        m_grab->replay(press.time);
+}
+
+TapVerdict X11EventTap::decide(const xcb_key_press_event_t& press) {
+    m_lastDecision = press.time;
+    m_connection->noteUserTime(press.time);
+    return m_handler({keyCodeFromX11(press.detail), m_modifiers.flagsOf(press.state)});
+}
+
+bool X11EventTap::isWatched(const xcb_key_press_event_t& press) const {
+    return press.detail == m_grab->combination().keycode &&
+           (m_modifiers.flagsOf(press.state) & modifier::counted) ==
+               (m_watched->flags & modifier::counted);
+}
+
+std::optional<X11KeyGrab::Combination> X11EventTap::wantedCombination() const {
+    if (!m_enabled || !m_watched)
+        return std::nullopt;
+    const auto keycode = x11KeycodeFrom(m_watched->keyCode);
+    const auto mask = m_modifiers.maskOf(m_watched->flags);
+    if (!keycode || !mask) {
+        qCInfo(lcTap, "this keyboard has no such shortcut");
+        return std::nullopt;
+    }
+    return X11KeyGrab::Combination{*keycode, m_modifiers.withLocks(*mask)};
+}
+
+void X11EventTap::updateGrab() {
+    auto wanted = wantedCombination();
+    // What we hold already stays ours without a gap, in which a press would be lost to us.
+    if (m_grab && wanted == m_grab->combination())
+        return;
+    m_grab.reset();
+    if (!wanted)
+        return;
+    m_grab = X11KeyGrab::take(m_connection, std::move(*wanted));
+    if (!m_grab)
+        qCInfo(lcTap, "another program holds the shortcut");
+}
+
+void X11EventTap::keyboardMapChanged() {
+    m_modifiers = X11ModifierMap::read(*m_connection);
+    updateGrab();
+}
+
+} // namespace quorvane

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11EventTap.h>
+#include <platform_x11/X11EventTapService.h>
+
+#include <utility>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+X11EventTapService::X11EventTapService(
+    std::shared_ptr<X11Connection> connection,
+    MainQueue& mainQueue,
+    std::shared_ptr<const X11PostedKeys> postedKeys)
+    : m_connection(std::move(connection)),
+      m_mainQueue(mainQueue),
+      m_postedKeys(std::move(postedKeys)) {
+}
+
+TapResult X11EventTapService::createTap(KeyPressHandler handler) {
+    if (!m_connection || xcb_connection_has_error(m_connection->xcb()) != 0)
+        return TapFailure{u"there is no X server"_s, TapFailure::Retry::Pointless};
+    return std::make_unique<X11EventTap>(
+        m_connection, m_mainQueue, m_postedKeys, std::move(handler));
+}
+
+} // namespace quorvane

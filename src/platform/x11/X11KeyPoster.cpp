@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include <platform/PasteTarget.h>
+#include <platform_x11/X11KeyPoster.h>
+#include <platform_x11/X11Keycodes.h>
+#include <platform_x11/X11ServerGrab.h>
+#include <platform_x11/X11TestExtension.h>
+
+#include <QLoggingCategory>
+#include <xcb/xtest.h>
+
+#include <array>
+#include <climits>
+#include <ranges>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcKeys, "quorvane.keys", QtFatalMsg)
+
+struct ModifierKey {
+    ModifierFlags flag;
+    xkb_keysym_t keysym;
+};
+
+// The desktop's accelerator is Control, whatever the other keys of a chord are.
+constexpr std::array modifierKeys{
+    ModifierKey{modifier::control, XKB_KEY_Control_L},
+    ModifierKey{modifier::command, XKB_KEY_Control_L},
+    ModifierKey{modifier::option, XKB_KEY_Alt_L},
+    ModifierKey{modifier::shift, XKB_KEY_Shift_L},
+};
+
+constexpr KeyChord pasteChord{keycode::v, modifier::command};
+
+void appendOnce(std::vector<xcb_keycode_t>& keys, xcb_keycode_t key) {
+    if (std::ranges::find(keys, key) == keys.end())
+        keys.push_back(key);
+}
+
+} // namespace
+
+X11KeyPoster::X11KeyPoster(
+    std::shared_ptr<X11Connection> connection,
+    std::shared_ptr<const X11Keymap> keymap,
+    std::shared_ptr<X11PostedKeys> postedKeys)
+    : m_connection(std::move(connection)),
+      m_keymap(std::move(keymap)),
+      m_postedKeys(std::move(postedKeys)),
+      m_windows(m_connection) {
+}
+
+PostOutcome X11KeyPoster::post(const KeyChord& chord) {
+    if (!hasTestExtension(*m_connection))
+        return PostOutcome::Unavailable;
+    const auto target = m_windows.active();
+    logTarget(target);
+    const auto keys = keysFor(chord, target);
+    if (!keys)
+        return PostOutcome::NoSuchKey;
+    type(*keys);
+    return PostOutcome::Posted;
+}
+
+std::optional<X11KeyPoster::Keys>
+X11KeyPoster::keysFor(const KeyChord& chord, xcb_window_t target) const {
+    if (!m_keymap)
+        return std::nullopt;
+    if (chord == pasteChord)
+        return pasteKeysFor(target);
+    Keys keys;
+    for (const auto& [flag, keysym] : modifierKeys) {
+        if ((chord.flags & flag) != flag)
+            continue;
+        const auto key = m_keymap->keycodeOf(keysym);
+        if (!key)
+            return std::nullopt;
+        appendOnce(keys, *key);
+    }
+    const auto key = x11KeycodeFrom(chord.keyCode);
+    if (!key)
+        return std::nullopt;
+    keys.push_back(*key);
+    return keys;
+}
+
+std::optional<X11KeyPoster::Keys> X11KeyPoster::pasteKeysFor(xcb_window_t target) const {
+    std::optional<Keys> keys;
+    switch (pasteTargetFor(m_windows.classOf(target)).keys) {
+    case PasteKeys::ControlV:
+        keys = keysYielding({XKB_KEY_Control_L, XKB_KEY_v});
+        break;
+    case PasteKeys::ControlShiftV:
+        keys = keysYielding({XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v});
+        break;
+    case PasteKeys::ShiftInsert:
+        break;
+    }
+    // Layouts without a Latin V, alone, leave the older command: nearly all that paste know it.
+    return keys ? keys : keysYielding({XKB_KEY_Shift_L, XKB_KEY_Insert});
+}
+
+std::optional<X11KeyPoster::Keys>
+X11KeyPoster::keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const {
+    Keys keys;
+    for (const auto keysym : keysyms) {
+        const auto key = m_keymap->keycodeOf(keysym);
+        if (!key)
+            return std::nullopt;
+        keys.push_back(*key);
+    }
+    return keys;
+}
+
+X11KeyPoster::Keys X11KeyPoster::keysInTheWay() const {
+    Keys keys;
+    auto* xcb = m_connection->xcb();
+    const XcbReply<xcb_query_keymap_reply_t> down(
+        xcb_query_keymap_reply(xcb, xcb_query_keymap(xcb), nullptr));
+    for (std::size_t key = 0; down && key < std::size(down->keys) * CHAR_BIT; ++key) {
+        const auto keycode = static_cast<xcb_keycode_t>(key);
+        const bool isDown = (down->keys[key / CHAR_BIT] >> (key % CHAR_BIT) & 1) != 0;
+        if (isDown && m_keymap->isHeldModifier(keycode))
+            keys.push_back(keycode);
+    }
+    // Those that are pressed next, even if the server thinks that they are up.
+    for (const auto keysym : {XKB_KEY_Control_L, XKB_KEY_Shift_L}) {
+        if (const auto key = m_keymap->keycodeOf(static_cast<xkb_keysym_t>(keysym)))
+            appendOnce(keys, *key);
+    }
+    return keys;
+}
+
+void X11KeyPoster::type(const Keys& keys) {
+    {
+        // No other client gets a word in between the question what is held and the chord.
+        const X11ServerGrab alone(*m_connection);
+        std::vector<xcb_void_cookie_t> requests;
+        // Never pressed again afterwards: a press of ours would outlast the real release, and the
+        // user's next chord would meet a modifier that is stuck.
+        for (const auto key : keysInTheWay())
+            requests.push_back(fake(XCB_KEY_RELEASE, key));
+        for (const auto key : keys)
+            requests.push_back(fake(XCB_KEY_PRESS, key));
+        for (const auto key : keys | std::views::reverse)
+            requests.push_back(fake(XCB_KEY_RELEASE, key));
+        m_postedKeys->note(requests.front(), requests.back());
+    }
+    m_connection->waitForServer();
+}
+
+xcb_void_cookie_t X11KeyPoster::fake(std::uint8_t event, xcb_keycode_t keycode) {
+    constexpr std::uint8_t defaultKeyboard = 0;
+    return xcb_test_fake_input(
+        m_connection->xcb(),
+        event,
+        keycode,
+        XCB_CURRENT_TIME,
+        XCB_WINDOW_NONE,
+        0,
+        0,
+        defaultKeyboard);
+}
+
+void X11KeyPoster::logTarget(xcb_window_t target) const {
+    if (!lcKeys().isDebugEnabled())
+        return;
+    qCDebug(
+        lcKeys,
+        "keys go to 0x%x (%ls), the input focus is 0x%x",
+        target,
+        qUtf16Printable(m_windows.classOf(target).join(u'/')),
+        m_windows.inputFocus());
+}
+
+} // namespace quorvane

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11KeyboardLayout.h>
+#include <platform_x11/X11Keycodes.h>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::size_t maxUnits = 4;
+
+} // namespace
+
+X11KeyboardLayout::X11KeyboardLayout(std::shared_ptr<X11Keymap> keymap)
+    : m_keymap(std::move(keymap)) {
+}
+
+std::optional<std::u16string> X11KeyboardLayout::characters(std::uint16_t keyCode) const {
+    if (!m_keymap)
+        return std::nullopt;
+    const auto keycode = x11KeycodeFrom(keyCode);
+    return keycode ? m_keymap->characters(*keycode).substr(0, maxUnits) : std::u16string();
+}
+
+void X11KeyboardLayout::onChanged(std::function<void()> handler) {
+    if (m_keymap)
+        m_keymap->onChanged = std::move(handler);
+}
+
+} // namespace quorvane

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "XkbProtocol.h"
+
+#include <platform_x11/X11Keymap.h>
+
+#include <QByteArray>
+#include <QLoggingCategory>
+#include <QString>
+#include <xkbcommon/xkbcommon-x11.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcLayout, "quorvane.layout", QtFatalMsg)
+
+constexpr std::array heldModifierKeysyms{
+    xkb_keysym_t{XKB_KEY_Shift_L},
+    xkb_keysym_t{XKB_KEY_Shift_R},
+    xkb_keysym_t{XKB_KEY_Control_L},
+    xkb_keysym_t{XKB_KEY_Control_R},
+    xkb_keysym_t{XKB_KEY_Meta_L},
+    xkb_keysym_t{XKB_KEY_Meta_R},
+    xkb_keysym_t{XKB_KEY_Alt_L},
+    xkb_keysym_t{XKB_KEY_Alt_R},
+    xkb_keysym_t{XKB_KEY_Super_L},
+    xkb_keysym_t{XKB_KEY_Super_R},
+    xkb_keysym_t{XKB_KEY_Hyper_L},
+    xkb_keysym_t{XKB_KEY_Hyper_R},
+    xkb_keysym_t{XKB_KEY_ISO_Level3_Shift},
+    xkb_keysym_t{XKB_KEY_ISO_Level5_Shift},
+    xkb_keysym_t{XKB_KEY_Mode_switch},
+};
+
+bool startXkb(xcb_connection_t* connection, std::uint8_t& firstEvent) {
+    return xkb_x11_setup_xkb_extension(
+               connection,
+               XKB_X11_MIN_MAJOR_XKB_VERSION,
+               XKB_X11_MIN_MINOR_XKB_VERSION,
+               XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS,
+               nullptr,
+               nullptr,
+               &firstEvent,
+               nullptr) != 0;
+}
+
+} // namespace
+
+std::unique_ptr<X11Keymap> X11Keymap::open(MainQueue& mainQueue) {
+    auto connection = X11Connection::open();
+    if (!connection)
+        return nullptr;
+    Keyboard keyboard;
+    if (!startXkb(connection->xcb(), keyboard.firstEvent)) {
+        qCWarning(lcLayout, "the X server has no XKB extension");
+        return nullptr;
+    }
+    keyboard.device = xkb_x11_get_core_keyboard_device_id(connection->xcb());
+    std::unique_ptr<X11Keymap> keymap(new X11Keymap(std::move(connection), keyboard, mainQueue));
+    return keymap->m_state ? std::move(keymap) : nullptr;
+}
+
+X11Keymap::X11Keymap(
+    std::shared_ptr<X11Connection> connection, Keyboard keyboard, MainQueue& mainQueue)
+    : m_connection(std::move(connection)),
+      m_keyboard(keyboard),
+      m_context(xkb_context_new(XKB_CONTEXT_NO_FLAGS)),
+      m_refresh(
+          mainQueue,
+          [this] {
+              reload();
+              if (onChanged)
+                  onChanged();
+          }),
+      m_subscription(m_connection->subscribe(
+          [this](const xcb_generic_event_t& event) { handleEvent(event); })) {
+    selectEvents();
+    reload();
+}
+
+void X11Keymap::selectEvents() {
+    constexpr std::uint16_t events = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY |
+                                     XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
+                                     XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
+    constexpr std::uint16_t mapParts =
+        XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP |
+        XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+    xcb_xkb_select_events_details_t details{};
+    details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES;
+    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
+    xcb_xkb_select_events_aux(
+        m_connection->xcb(),
+        static_cast<xcb_xkb_device_spec_t>(m_keyboard.device),
+        events,
+        0,
+        0,
+        mapParts,
+        mapParts,
+        &details);
+    m_connection->flush();
+}
+
+void X11Keymap::handleEvent(const xcb_generic_event_t& event) {
+    if (event.response_type == m_keyboard.firstEvent)
+        m_refresh.schedule();
+}
+
+void X11Keymap::reload() {
+    Keymap keymap(xkb_x11_keymap_new_from_device(
+        m_context.get(), m_connection->xcb(), m_keyboard.device, XKB_KEYMAP_COMPILE_NO_FLAGS));
+    if (!keymap) {
+        qCWarning(lcLayout, "the keyboard map cannot be read");
+        return;
+    }
+    m_keymap = std::move(keymap);
+    m_state.reset(xkb_state_new(m_keymap.get()));
+    // Of all that is pressed, latched or locked, only the group: labels show the key alone.
+    xkb_state_update_mask(m_state.get(), 0, 0, 0, 0, 0, groupInUse());
+}
+
+xkb_layout_index_t X11Keymap::groupInUse() const {
+    auto* connection = m_connection->xcb();
+    const auto device = static_cast<xcb_xkb_device_spec_t>(m_keyboard.device);
+    const XcbReply<xcb_xkb_get_state_reply_t> state(
+        xcb_xkb_get_state_reply(connection, xcb_xkb_get_state(connection, device), nullptr));
+    return state ? state->group : xkb_layout_index_t{0};
+}
+
+std::u16string X11Keymap::characters(xcb_keycode_t keycode) const {
+    const int length = xkb_state_key_get_utf8(m_state.get(), keycode, nullptr, 0);
+    if (length <= 0)
+        return {};
+    QByteArray text(length + 1, '\0');
+    xkb_state_key_get_utf8(
+        m_state.get(), keycode, text.data(), static_cast<std::size_t>(text.size()));
+    text.chop(1);
+    return QString::fromUtf8(text).toStdU16String();
+}
+
+std::optional<xcb_keycode_t> X11Keymap::keycodeOf(xkb_keysym_t keysym) const {
+    const auto first = xkb_keymap_min_keycode(m_keymap.get());
+    const auto last = xkb_keymap_max_keycode(m_keymap.get());
+    const auto inGroup = [&](auto groupOf) -> std::optional<xcb_keycode_t> {
+        for (auto keycode = first; keycode <= last; ++keycode) {
+            const auto key = static_cast<xcb_keycode_t>(keycode);
+            if (plainKeysym(key, groupOf(key)) == keysym)
+                return key;
+        }
+        return std::nullopt;
+    };
+    auto found =
+        inGroup([this](xcb_keycode_t key) { return xkb_state_key_get_layout(m_state.get(), key); });
+    for (xkb_layout_index_t group = 0; !found && group < xkb_keymap_num_layouts(m_keymap.get());
+         ++group)
+        found = inGroup([group](xcb_keycode_t) { return group; });
+    return found;
+}
+
+bool X11Keymap::isHeldModifier(xcb_keycode_t keycode) const {
+    const auto keysym = plainKeysym(keycode, xkb_state_key_get_layout(m_state.get(), keycode));
+    return std::ranges::find(heldModifierKeysyms, keysym) != heldModifierKeysyms.end();
+}
+
+xkb_keysym_t X11Keymap::plainKeysym(xcb_keycode_t keycode, xkb_layout_index_t group) const {
+    const xkb_keysym_t* keysyms = nullptr;
+    const int count = xkb_keymap_key_get_syms_by_level(m_keymap.get(), keycode, group, 0, &keysyms);
+    return count == 1 ? *keysyms : xkb_keysym_t{XKB_KEY_NoSymbol};
+}
+
+} // namespace quorvane

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11PlainText.h>
+
+#include <algorithm>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isLatin1(const QString& text) {
+    return std::ranges::all_of(text, [](QChar unit) { return unit.unicode() <= 0xFF; });
+}
+
+} // namespace
+
+PasteboardItem plainTextItem(const QString& text) {
+    const auto utf8 = text.toUtf8();
+    PasteboardItem item{
+        {u"UTF8_STRING"_s, utf8, u"UTF8_STRING"_s},
+        {u"text/plain;charset=utf-8"_s, utf8, u"text/plain;charset=utf-8"_s},
+        {u"text/plain"_s, utf8, u"text/plain"_s},
+    };
+    // STRING is Latin-1, and TEXT what the owner likes best (ICCCM 2.6.2): those that ask for
+    // neither of the above are old enough to like Latin-1. A text that would lose by it has none.
+    if (isLatin1(text)) {
+        item.push_back({u"STRING"_s, text.toLatin1(), u"STRING"_s});
+        item.push_back({u"TEXT"_s, text.toLatin1(), u"STRING"_s});
+    } else {
+        item.push_back({u"TEXT"_s, utf8, u"UTF8_STRING"_s});
+    }
+    return item;
+}
+
+PasteboardItem plainTextItem(const QString& text, TextStay stay) {
+    auto item = plainTextItem(text);
+    // Klipper's convention, which other clipboard histories have adopted.
+    const auto hint = u"x-kde-passwordManagerHint"_s;
+    if (stay == TextStay::Passing)
+        item.push_back({hint, "secret"_ba, hint});
+    return item;
+}
+
+} // namespace quorvane

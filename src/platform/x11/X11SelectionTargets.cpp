@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11SelectionTargets.h>
+
+#include <algorithm>
+#include <array>
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::array<QStringView, 7> questionsAndOrders{
+    u"TARGETS",
+    u"TIMESTAMP",
+    u"MULTIPLE",
+    u"SAVE_TARGETS",
+    u"DELETE",
+    u"INSERT_SELECTION",
+    u"INSERT_PROPERTY",
+};
+
+constexpr std::array<QStringView, 7> readFirst{
+    u"UTF8_STRING",
+    u"text/plain;charset=utf-8",
+    u"text/plain",
+    u"STRING",
+    u"text/uri-list",
+    u"text/html",
+    u"image/png",
+};
+
+auto rankOf(const QString& target) {
+    return std::ranges::find(readFirst, QStringView(target)) - readFirst.begin();
+}
+
+} // namespace
+
+QStringList contentTargets(const QStringList& targets) {
+    QStringList contents;
+    for (const auto& target : targets) {
+        if (!target.isEmpty() && !contents.contains(target) &&
+            std::ranges::find(questionsAndOrders, QStringView(target)) == questionsAndOrders.end())
+            contents.append(target);
+    }
+    return contents;
+}
+
+QStringList readingOrder(QStringList targets) {
+    std::ranges::stable_sort(targets, {}, rankOf);
+    return targets;
+}
+
+} // namespace quorvane

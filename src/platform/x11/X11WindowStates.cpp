@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11WindowStates.h>
+
+#include <algorithm>
+
+namespace quorvane {
+
+namespace {
+
+constexpr auto stateProperty = "_NET_WM_STATE";
+
+} // namespace
+
+void X11WindowStates::write(xcb_window_t window, const Pair& states, Change change) const {
+    auto present = m_windows.values(window, stateProperty, XCB_ATOM_ATOM);
+    for (const auto state : atoms(states)) {
+        std::erase(present, state);
+        if (change == Change::Add)
+            present.push_back(state);
+    }
+    xcb_change_property(
+        m_connection->xcb(),
+        XCB_PROP_MODE_REPLACE,
+        window,
+        m_connection->atom(stateProperty),
+        XCB_ATOM_ATOM,
+        32,
+        static_cast<std::uint32_t>(present.size()),
+        present.data());
+}
+
+void X11WindowStates::request(xcb_window_t window, const Pair& states, Change change) const {
+    const auto [first, second] = atoms(states);
+    m_windows.requestOfManager(
+        window, stateProperty, {static_cast<std::uint32_t>(change), first, second, fromPager, 0});
+}
+
+std::array<xcb_atom_t, 2> X11WindowStates::atoms(const Pair& states) const {
+    return {m_connection->atom(states[0]), m_connection->atom(states[1])};
+}
+
+} // namespace quorvane

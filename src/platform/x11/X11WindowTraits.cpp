@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/QtX11.h>
+#include <platform_x11/X11WindowTraits.h>
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
+
+constexpr X11WindowStates::Pair panelStates{"_NET_WM_STATE_STICKY", "_NET_WM_STATE_ABOVE"};
+constexpr X11WindowStates::Pair hiddenFromTaskbar{
+    "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"};
+
+// Popups and tooltips are no business of the window manager's.
+bool isManaged(const QWindow& window) {
+    return window.isTopLevel() && window.handle() != nullptr && window.type() != Qt::Popup &&
+           window.type() != Qt::ToolTip && !window.flags().testFlag(Qt::BypassWindowManagerHint);
+}
+
+xcb_window_t idOf(const QWindow& window) {
+    return static_cast<xcb_window_t>(window.winId());
+}
+
+} // namespace
+
+X11WindowTraits::X11WindowTraits(std::shared_ptr<X11Connection> connection)
+    : m_connection(std::move(connection)),
+      m_windows(m_connection),
+      m_states(m_connection) {
+    if (qtx11::connection() != nullptr)
+        QCoreApplication::instance()->installEventFilter(this);
+}
+
+void X11WindowTraits::setActivationPolicy(ActivationPolicy policy) {
+    m_policy = policy;
+    if (qtx11::connection() == nullptr)
+        return;
+    qtx11::waitForServer();
+    for (const auto* window : QGuiApplication::topLevelWindows()) {
+        if (window->isVisible() && isManaged(*window))
+            m_states.request(idOf(*window), hiddenFromTaskbar, taskbarChange());
+    }
+}
+
+bool X11WindowTraits::eventFilter(QObject* watched, QEvent* event) {
+    // Qt announces the show before it maps the window.
+    if (event->type() != QEvent::Show || !watched->isWindowType())
+        return false;
+    const auto& window = *static_cast<const QWindow*>(watched);
+    if (!isManaged(window))
+        return false;
+    qtx11::waitForServer();
+    m_states.write(idOf(window), hiddenFromTaskbar, taskbarChange());
+    m_connection->waitForServer();
+    return false;
+}
+
+void X11WindowTraits::preparePanel(QWindow& window) {
+    if (qtx11::connection() == nullptr)
+        return;
+    const auto id = idOf(window);
+    qtx11::waitForServer();
+    // The state for the window managers that ignore the desktop of a window not yet mapped, the
+    // desktop for those that know no sticky windows.
+    xcb_change_property(
+        m_connection->xcb(),
+        XCB_PROP_MODE_REPLACE,
+        id,
+        m_connection->atom("_NET_WM_DESKTOP"),
+        XCB_ATOM_CARDINAL,
+        32,
+        1,
+        &allDesktops);
+    m_states.write(id, panelStates, X11WindowStates::Change::Add);
+    m_connection->waitForServer();
+}
+
+void X11WindowTraits::presentPanel(QWindow& window) {
+    if (qtx11::connection() == nullptr)
+        return;
+    window.raise();
+    // Ours must not overtake the request that maps the window.
+    qtx11::waitForServer();
+    const auto id = idOf(window);
+    m_windows.requestOfManager(id, "_NET_WM_DESKTOP", {allDesktops, fromPager, 0, 0, 0});
+    // Once more what stood there before the mapping: a window manager that had not finished with
+    // the last hide has thrown it away together with its own.
+    m_states.request(id, panelStates, X11WindowStates::Change::Add);
+    m_states.request(id, hiddenFromTaskbar, taskbarChange());
+    m_windows.requestFocus(id);
+}
+
+void X11WindowTraits::orderFront(QWindow& window) {
+    if (qtx11::connection() == nullptr)
+        return;
+    window.raise();
+    qtx11::waitForServer();
+}
+
+X11WindowStates::Change X11WindowTraits::taskbarChange() const {
+    using Change = X11WindowStates::Change;
+    return m_policy == ActivationPolicy::Accessory ? Change::Add : Change::Remove;
+}
+
+} // namespace quorvane

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/X11Windows.h>
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+// Lengths of properties are counted in units of 32 bits.
+constexpr std::uint32_t maxValues = 64;
+constexpr std::uint32_t maxTextLength = 1024;
+
+XcbReply<xcb_get_property_reply_t> readProperty(
+    xcb_connection_t* connection,
+    xcb_window_t window,
+    xcb_atom_t property,
+    xcb_atom_t type,
+    std::uint32_t length) {
+    const auto cookie = xcb_get_property(connection, 0, window, property, type, 0, length);
+    return XcbReply<xcb_get_property_reply_t>(xcb_get_property_reply(connection, cookie, nullptr));
+}
+
+XcbReply<xcb_get_window_attributes_reply_t>
+attributesOf(xcb_connection_t* connection, xcb_window_t window) {
+    return XcbReply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes_reply(
+        connection, xcb_get_window_attributes(connection, window), nullptr));
+}
+
+} // namespace
+
+bool X11Windows::hasWindowManager() const {
+    const auto check = [this](xcb_window_t window) {
+        return values(window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW);
+    };
+    const auto manager = check(m_connection->root());
+    return !manager.empty() && check(manager.front()) == manager;
+}
+
+xcb_window_t X11Windows::active() const {
+    if (!hasWindowManager())
+        return topLevelOf(inputFocus());
+    const auto active = values(m_connection->root(), "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW);
+    return active.empty() ? xcb_window_t{XCB_WINDOW_NONE} : active.front();
+}
+
+xcb_window_t X11Windows::inputFocus() const {
+    auto* connection = m_connection->xcb();
+    const XcbReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    if (!reply || reply->focus == XCB_INPUT_FOCUS_POINTER_ROOT)
+        return XCB_WINDOW_NONE;
+    return reply->focus;
+}
+
+QStringList X11Windows::classOf(xcb_window_t window) const {
+    const auto reply = readProperty(
+        m_connection->xcb(), window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, maxTextLength);
+    if (!reply || reply->format != 8)
+        return {};
+    const auto text = QByteArray::fromRawData(
+        static_cast<const char*>(xcb_get_property_value(reply.get())),
+        xcb_get_property_value_length(reply.get()));
+    QStringList names;
+    for (const auto& name : text.split('\0')) {
+        if (!name.isEmpty())
+            names.append(QString::fromLatin1(name));
+    }
+    return names;
+}
+
+bool X11Windows::exists(xcb_window_t window) const {
+    return attributesOf(m_connection->xcb(), window) != nullptr;
+}
+
+bool X11Windows::isViewable(xcb_window_t window) const {
+    const auto attributes = attributesOf(m_connection->xcb(), window);
+    return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+bool X11Windows::isFurniture(xcb_window_t window) const {
+    const auto types = values(window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM);
+    const auto dock = m_connection->atom("_NET_WM_WINDOW_TYPE_DOCK");
+    const auto desktop = m_connection->atom("_NET_WM_WINDOW_TYPE_DESKTOP");
+    return std::ranges::any_of(
+        types, [=](xcb_atom_t type) { return type == dock || type == desktop; });
+}
+
+std::optional<QPoint> X11Windows::centreOf(xcb_window_t window) const {
+    auto* xcb = m_connection->xcb();
+    const XcbReply<xcb_get_geometry_reply_t> size(
+        xcb_get_geometry_reply(xcb, xcb_get_geometry(xcb, window), nullptr));
+    const XcbReply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
+        xcb, xcb_translate_coordinates(xcb, window, m_connection->root(), 0, 0), nullptr));
+    if (!size || !origin)
+        return std::nullopt;
+    return QPoint(origin->dst_x + size->width / 2, origin->dst_y + size->height / 2);
+}
+
+std::vector<std::uint32_t>
+X11Windows::values(xcb_window_t window, const char* property, xcb_atom_t type) const {
+    const auto reply =
+        readProperty(m_connection->xcb(), window, m_connection->atom(property), type, maxValues);
+    if (!reply || reply->format != 32)
+        return {};
+    const std::span read(
+        static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get())), reply->value_len);
+    return {read.begin(), read.end()};
+}
+
+void X11Windows::requestOfManager(
+    xcb_window_t window, const char* message, const std::array<std::uint32_t, 5>& data) const {
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = m_connection->atom(message);
+    std::ranges::copy(data, std::begin(event.data.data32));
+    xcb_send_event(
+        m_connection->xcb(),
+        0,
+        m_connection->root(),
+        XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+        reinterpret_cast<const char*>(&event));
+    m_connection->flush();
+}
+
+void X11Windows::requestFocus(xcb_window_t window) const {
+    if (hasWindowManager()) {
+        return requestOfManager(
+            window,
+            "_NET_ACTIVE_WINDOW",
+            {fromPager, m_connection->lastUserTime(), XCB_WINDOW_NONE, 0, 0});
+    }
+    constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(m_connection->xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+    // The current time: one from before the last change of the focus would be ignored.
+    xcb_set_input_focus(m_connection->xcb(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    m_connection->flush();
+}
+
+xcb_window_t X11Windows::topLevelOf(xcb_window_t window) const {
+    auto* connection = m_connection->xcb();
+    while (window != XCB_WINDOW_NONE) {
+        const XcbReply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+        if (!tree)
+            return XCB_WINDOW_NONE;
+        if (tree->parent == m_connection->root())
+            return window;
+        window = tree->parent;
+    }
+    return XCB_WINDOW_NONE;
+}
+
+} // namespace quorvane

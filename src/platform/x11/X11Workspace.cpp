@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include <platform_x11/QtX11.h>
+#include <platform_x11/X11Workspace.h>
+
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcWorkspace, "quorvane.workspace", QtFatalMsg)
+
+} // namespace
+
+X11Workspace::X11Workspace(std::shared_ptr<X11Connection> connection)
+    : m_connection(std::move(connection)),
+      m_windows(m_connection),
+      m_userTime(m_connection),
+      m_subscription(m_connection->subscribe(
+          [this](const xcb_generic_event_t& event) { handleEvent(event); })) {
+    constexpr std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(
+        m_connection->xcb(), m_connection->root(), XCB_CW_EVENT_MASK, &events);
+    m_desktop = currentDesktop();
+    trackActiveWindow();
+}
+
+std::optional<RunningApplication> X11Workspace::frontmostApplication() const {
+    const bool isActive = trackActiveWindow();
+    if (!isActive && !m_windows.isViewable(m_lastForeign))
+        return std::nullopt;
+    return RunningApplication{m_lastForeign, m_windows.classOf(m_lastForeign).join(u'/')};
+}
+
+QScreen* X11Workspace::focusedScreen() const {
+    const auto centre = m_windows.centreOf(m_windows.active());
+    return centre ? qtx11::screenAt(*centre) : nullptr;
+}
+
+void X11Workspace::activate(const RunningApplication& application) {
+    const auto window = static_cast<xcb_window_t>(application.window);
+    if (!m_windows.exists(window)) {
+        qCInfo(lcWorkspace, "%ls is gone", qUtf16Printable(application.name));
+        return;
+    }
+    m_windows.requestFocus(window);
+}
+
+void X11Workspace::onActiveSpaceChanged(std::function<void()> handler) {
+    m_spaceChanged = std::move(handler);
+}
+
+void X11Workspace::handleEvent(const xcb_generic_event_t& event) {
+    if (event.response_type != XCB_PROPERTY_NOTIFY)
+        return;
+    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+    if (change.window != m_connection->root())
+        return;
+    if (change.atom == m_connection->atom("_NET_ACTIVE_WINDOW"))
+        trackActiveWindow();
+    else if (change.atom == m_connection->atom("_NET_CURRENT_DESKTOP"))
+        trackSpace();
+}
+
+bool X11Workspace::trackActiveWindow() const {
+    const auto window = m_windows.active();
+    if (!isAnotherProgram(window))
+        return false;
+    m_lastForeign = window;
+    return true;
+}
+
+void X11Workspace::trackSpace() {
+    auto desktop = currentDesktop();
+    // Window managers also write the number that was there already.
+    if (desktop == m_desktop)
+        return;
+    m_desktop = std::move(desktop);
+    if (m_spaceChanged)
+        m_spaceChanged();
+}
+
+bool X11Workspace::isAnotherProgram(xcb_window_t window) const {
+    // The word of a window manager that crashed stands until its successor has one of its own.
+    return m_windows.exists(window) && !m_connection->owns(window) && !qtx11::owns(window) &&
+           !m_windows.isFurniture(window);
+}
+
+std::vector<std::uint32_t> X11Workspace::currentDesktop() const {
+    return m_windows.values(m_connection->root(), "_NET_CURRENT_DESKTOP", XCB_ATOM_CARDINAL);
+}
+
+} // namespace quorvane

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/AccessibilityRight.h>
+#include <platform_x11/X11Connection.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// X11 asks nobody: every client may read and type keys, where the server can do it at all.
+class X11AccessibilityRight final : public AccessibilityRight {
+public:
+    explicit X11AccessibilityRight(std::shared_ptr<X11Connection> connection);
+
+    [[nodiscard]] bool isTrusted() const override;
+
+    void prompt() override {}
+
+private:
+    std::shared_ptr<X11Connection> m_connection;
+};
+
+} // namespace quorvane

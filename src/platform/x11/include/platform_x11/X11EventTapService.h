@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/MainQueue.h>
+#include <platform/EventTap.h>
+#include <platform_x11/X11Connection.h>
+#include <platform_x11/X11PostedKeys.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// Taps that hold the watched press by a grab on the whole display.
+class X11EventTapService final : public EventTapService {
+public:
+    /// The queue must outlive the taps.
+    X11EventTapService(
+        std::shared_ptr<X11Connection> connection,
+        MainQueue& mainQueue,
+        std::shared_ptr<const X11PostedKeys> postedKeys);
+
+    /// Fails for good once the X server is gone.
+    [[nodiscard]] TapResult createTap(KeyPressHandler handler) override;
+
+private:
+    std::shared_ptr<X11Connection> m_connection;
+    MainQueue& m_mainQueue;
+    std::shared_ptr<const X11PostedKeys> m_postedKeys;
+};
+
+} // namespace quorvane

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/KeyPoster.h>
+#include <platform_x11/X11Connection.h>
+#include <platform_x11/X11Keymap.h>
+#include <platform_x11/X11PostedKeys.h>
+#include <platform_x11/X11Windows.h>
+
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quorvane {
+
+/// Types through the XTEST extension.
+class X11KeyPoster final : public KeyPoster {
+public:
+    /// A keymap that is null, because it cannot be read, has no keys.
+    X11KeyPoster(
+        std::shared_ptr<X11Connection> connection,
+        std::shared_ptr<const X11Keymap> keymap,
+        std::shared_ptr<X11PostedKeys> postedKeys);
+
+    PostOutcome post(const KeyChord& chord) override;
+
+private:
+    /// Pressed in this order, released in the opposite one.
+    using Keys = std::vector<xcb_keycode_t>;
+
+    [[nodiscard]] std::optional<Keys> keysFor(const KeyChord& chord, xcb_window_t target) const;
+    [[nodiscard]] std::optional<Keys> pasteKeysFor(xcb_window_t target) const;
+    [[nodiscard]] std::optional<Keys>
+    keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const;
+    [[nodiscard]] Keys keysInTheWay() const;
+    void type(const Keys& keys);
+    [[nodiscard]] xcb_void_cookie_t fake(std::uint8_t event, xcb_keycode_t keycode);
+    void logTarget(xcb_window_t target) const;
+
+    std::shared_ptr<X11Connection> m_connection;
+    std::shared_ptr<const X11Keymap> m_keymap;
+    std::shared_ptr<X11PostedKeys> m_postedKeys;
+    X11Windows m_windows;
+};
+
+} // namespace quorvane

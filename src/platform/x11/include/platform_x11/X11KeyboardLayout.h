@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/KeyboardLayout.h>
+#include <platform_x11/X11Keymap.h>
+
+#include <memory>
+
+namespace quorvane {
+
+class X11KeyboardLayout final : public KeyboardLayout {
+public:
+    /// Null for a server whose keymap cannot be read.
+    explicit X11KeyboardLayout(std::shared_ptr<X11Keymap> keymap);
+
+    [[nodiscard]] std::optional<std::u16string> characters(std::uint16_t keyCode) const override;
+    void onChanged(std::function<void()> handler) override;
+
+private:
+    std::shared_ptr<X11Keymap> m_keymap;
+};
+
+} // namespace quorvane

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/CoalescedRefresh.h>
+#include <platform_x11/X11Connection.h>
+
+#include <xkbcommon/xkbcommon.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace quorvane {
+
+/// What the keys of the keyboard type. It follows the layout in use.
+///
+/// On a connection of its own: a client that has used the XKB extension is sent no more
+/// MappingNotify, by which the shortcut's grab learns of a new keyboard map.
+class X11Keymap {
+public:
+    /// Null if the server does not tell. The queue must outlive the keymap.
+    [[nodiscard]] static std::unique_ptr<X11Keymap> open(MainQueue& mainQueue);
+
+    /// What the key types on its own; empty for dead keys and keys without a character.
+    [[nodiscard]] std::u16string characters(xcb_keycode_t keycode) const;
+
+    /// A key that yields the keysym on its own: in the group in use if there is one, else in any.
+    [[nodiscard]] std::optional<xcb_keycode_t> keycodeOf(xkb_keysym_t keysym) const;
+
+    /// Whether the key acts while it is held, as Shift does; the lock keys do not.
+    [[nodiscard]] bool isHeldModifier(xcb_keycode_t keycode) const;
+
+    /// Called after a switch or a change of the layout.
+    std::function<void()> onChanged;
+
+private:
+    struct KeymapUnref {
+        void operator()(xkb_context* context) const { xkb_context_unref(context); }
+
+        void operator()(xkb_keymap* keymap) const { xkb_keymap_unref(keymap); }
+
+        void operator()(xkb_state* state) const { xkb_state_unref(state); }
+    };
+
+    using Context = std::unique_ptr<xkb_context, KeymapUnref>;
+    using Keymap = std::unique_ptr<xkb_keymap, KeymapUnref>;
+    using State = std::unique_ptr<xkb_state, KeymapUnref>;
+
+    struct Keyboard {
+        std::int32_t device = 0;
+        std::uint8_t firstEvent = 0;
+    };
+
+    X11Keymap(std::shared_ptr<X11Connection> connection, Keyboard keyboard, MainQueue& mainQueue);
+
+    void selectEvents();
+    void handleEvent(const xcb_generic_event_t& event);
+    void reload();
+    [[nodiscard]] xkb_layout_index_t groupInUse() const;
+    [[nodiscard]] xkb_keysym_t plainKeysym(xcb_keycode_t keycode, xkb_layout_index_t group) const;
+
+    std::shared_ptr<X11Connection> m_connection;
+    Keyboard m_keyboard;
+    Context m_context;
+    Keymap m_keymap;
+    State m_state;
+    CoalescedRefresh m_refresh;
+    X11Connection::Subscription m_subscription;
+};
+
+} // namespace quorvane

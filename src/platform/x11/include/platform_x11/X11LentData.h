@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/PasteboardContents.h>
+
+#include <QMimeData>
+
+namespace quorvane {
+
+/// An item as Qt's clipboard takes it: the MIME types as they are, and the text under whichever
+/// name it has. Keeps the item whole, with what Qt has no words for.
+class X11LentData final : public QMimeData {
+public:
+    explicit X11LentData(PasteboardItem item);
+
+    [[nodiscard]] const PasteboardItem& item() const { return m_item; }
+
+private:
+    PasteboardItem m_item;
+};
+
+} // namespace quorvane

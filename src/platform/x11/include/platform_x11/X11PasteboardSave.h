@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/Pasteboard.h>
+#include <platform_x11/X11SelectionSave.h>
+
+#include <memory>
+#include <optional>
+
+namespace quorvane {
+
+/// One save of the pasteboard: of CLIPBOARD, and of PRIMARY where the text passes through it, side
+/// by side.
+class X11PasteboardSave {
+public:
+    /// Where a selection's contents come from.
+    struct Source {
+        xcb_atom_t selection = XCB_ATOM_NONE;
+        std::optional<PasteboardItem> atHand; ///< none: its owner has to be asked
+    };
+
+    /// Calls `done` once, on a later turn; it may destroy the save. Destroying it earlier gives up.
+    /// Inbox and queue must outlive it.
+    X11PasteboardSave(
+        X11SelectionInbox& inbox,
+        MainQueue& queue,
+        xcb_timestamp_t time,
+        Source clipboard,
+        std::optional<Source> primary,
+        Pasteboard::SaveHandler done);
+
+    X11PasteboardSave(const X11PasteboardSave&) = delete;
+    X11PasteboardSave& operator=(const X11PasteboardSave&) = delete;
+
+private:
+    struct Part {
+        std::optional<PasteboardItem> item;
+        std::unique_ptr<X11SelectionSave> reading;
+    };
+
+    void begin(Part& part, Source source, xcb_timestamp_t time);
+    void finishWhenComplete();
+
+    X11SelectionInbox& m_inbox;
+    MainQueue& m_queue;
+    Pasteboard::SaveHandler m_done;
+    Part m_clipboard;
+    std::optional<Part> m_primary;
+    Deadline m_soon;
+};
+
+} // namespace quorvane

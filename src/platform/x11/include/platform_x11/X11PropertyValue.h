@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform_x11/X11Connection.h>
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace quorvane {
+
+/// What a property of a window holds, bit for bit.
+struct X11PropertyValue {
+    xcb_atom_t type = XCB_ATOM_NONE;
+    int unitBits = 8; ///< 8, 16 or 32
+    QByteArray bytes; ///< in the byte order of the machine; units of 32 bits take 4 bytes each
+};
+
+/// A value of 32-bit units, such as a list of atoms.
+[[nodiscard]] X11PropertyValue
+propertyValue(xcb_atom_t type, const std::vector<std::uint32_t>& units);
+
+/// The units of a value; none if they are not of 32 bits.
+[[nodiscard]] std::vector<std::uint32_t> unitsOf(const X11PropertyValue& value);
+
+enum class AfterReading { Keep, Delete };
+
+/// None where there is no such property, or no such window.
+[[nodiscard]] std::optional<X11PropertyValue> readPropertyValue(
+    const X11Connection& connection, xcb_window_t window, xcb_atom_t property, AfterReading after);
+
+/// In one request: the value must not be longer than the server takes in one. A window that is gone
+/// is let be.
+void writePropertyValue(
+    const X11Connection& connection,
+    xcb_window_t window,
+    xcb_atom_t property,
+    const X11PropertyValue& value);
+
+} // namespace quorvane

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/PasteboardContents.h>
+#include <platform_x11/X11PropertyValue.h>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace quorvane {
+
+/// What the owner of a selection has to offer: one item, its types as targets.
+class X11SelectionContent {
+public:
+    X11SelectionContent(X11Connection& connection, PasteboardItem item);
+
+    [[nodiscard]] const PasteboardItem& item() const { return m_item; }
+
+    /// In the item's order.
+    [[nodiscard]] const std::vector<xcb_atom_t>& targets() const { return m_targets; }
+
+    /// None for what is not among the targets.
+    [[nodiscard]] std::optional<X11PropertyValue> value(xcb_atom_t target) const;
+
+private:
+    PasteboardItem m_item;
+    std::vector<xcb_atom_t> m_targets;
+    std::map<xcb_atom_t, X11PropertyValue> m_values;
+};
+
+} // namespace quorvane

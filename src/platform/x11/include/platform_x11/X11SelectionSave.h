@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/MainQueue.h>
+#include <platform/PasteboardContents.h>
+#include <platform_x11/X11SelectionConversion.h>
+#include <platform_x11/X11SelectionInbox.h>
+
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+namespace quorvane {
+
+/// Reads everything that another program's selection holds, one target after the other.
+class X11SelectionSave {
+public:
+    using Done = std::function<void(PasteboardItem)>;
+
+    /// An owner that gives no sign of life for so long is cut off.
+    static constexpr Seconds longestSilence{0.3};
+    /// And in any case after so long.
+    static constexpr Seconds longestSave{1.0};
+
+    /// Calls `done` once, on a later turn, with what was read, in the owner's order; it may destroy
+    /// the save. Destroying it earlier gives up. All requests carry one time, so that an owner who
+    /// comes after it can tell that he is not meant. Inbox and queue must outlive it.
+    X11SelectionSave(
+        X11SelectionInbox& inbox,
+        MainQueue& queue,
+        xcb_atom_t selection,
+        xcb_timestamp_t time,
+        Done done);
+
+    X11SelectionSave(const X11SelectionSave&) = delete;
+    X11SelectionSave& operator=(const X11SelectionSave&) = delete;
+
+private:
+    using Answer = std::optional<X11PropertyValue>;
+
+    void ask(const QString& target, std::function<void(Answer)> then);
+    void awaitProgress();
+    void takeTargets(const Answer& answer);
+    void readNext();
+    void takeContents(const QString& target, const Answer& answer);
+    void finish();
+
+    X11SelectionInbox& m_inbox;
+    MainQueue& m_queue;
+    xcb_atom_t m_selection;
+    xcb_timestamp_t m_time;
+    Done m_done;
+    QStringList m_targets; ///< in the owner's order
+    QStringList m_unread;  ///< in the order of reading
+    std::map<QString, PasteboardEntry> m_read;
+    std::unique_ptr<X11SelectionConversion> m_conversion;
+    Deadline m_silence;
+    Deadline m_end;
+};
+
+} // namespace quorvane

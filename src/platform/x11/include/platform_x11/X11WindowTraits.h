@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/WindowTraits.h>
+#include <platform_x11/X11Connection.h>
+#include <platform_x11/X11WindowStates.h>
+#include <platform_x11/X11Windows.h>
+
+#include <QObject>
+
+#include <memory>
+
+namespace quorvane {
+
+/// Speaks to the window manager for Qt's windows. Does nothing where Qt does not draw on X11.
+class X11WindowTraits final : public QObject, public WindowTraits {
+public:
+    explicit X11WindowTraits(std::shared_ptr<X11Connection> connection);
+
+    /// Holds at once for the windows that show, and for each window at its next show.
+    void setActivationPolicy(ActivationPolicy policy) override;
+
+    void preparePanel(QWindow& window) override;
+    void presentPanel(QWindow& window) override;
+    void orderFront(QWindow& window) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    [[nodiscard]] X11WindowStates::Change taskbarChange() const;
+
+    std::shared_ptr<X11Connection> m_connection;
+    X11Windows m_windows;
+    X11WindowStates m_states;
+    ActivationPolicy m_policy = ActivationPolicy::Regular;
+};
+
+} // namespace quorvane

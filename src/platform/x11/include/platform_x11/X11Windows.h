@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform_x11/X11Connection.h>
+
+#include <QPoint>
+#include <QStringList>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace quorvane {
+
+/// EWMH's source indication of requests that window managers carry out without a doubt: those that
+/// stand for a direct wish of the user.
+inline constexpr std::uint32_t fromPager = 2;
+
+/// What windows say about themselves, which one has the keys, and how to give them to another;
+/// asked from the server at every call. Windows that are gone say nothing.
+class X11Windows {
+public:
+    explicit X11Windows(std::shared_ptr<X11Connection> connection)
+        : m_connection(std::move(connection)) {}
+
+    /// Whether a window manager runs that follows the EWMH: only then do its properties on the root
+    /// mean anything, a crashed one leaves them behind.
+    [[nodiscard]] bool hasWindowManager() const;
+
+    /// The client window that keys go to, by _NET_ACTIVE_WINDOW, or without a window manager by the
+    /// input focus; XCB_WINDOW_NONE for none.
+    [[nodiscard]] xcb_window_t active() const;
+
+    /// The server's own view: a window, or XCB_WINDOW_NONE where no window has the focus.
+    [[nodiscard]] xcb_window_t inputFocus() const;
+
+    /// Both strings of WM_CLASS, instance first; empty where there are none.
+    [[nodiscard]] QStringList classOf(xcb_window_t window) const;
+
+    [[nodiscard]] bool exists(xcb_window_t window) const;
+    /// Mapped, and all its ancestors too.
+    [[nodiscard]] bool isViewable(xcb_window_t window) const;
+
+    /// Part of the desktop itself: a dock (panel, taskbar) or the window behind all others.
+    [[nodiscard]] bool isFurniture(xcb_window_t window) const;
+
+    /// On the root, in the server's pixels; none for a window that is gone.
+    [[nodiscard]] std::optional<QPoint> centreOf(xcb_window_t window) const;
+
+    /// The values of a property of format 32, at most 64 of them.
+    [[nodiscard]] std::vector<std::uint32_t>
+    values(xcb_window_t window, const char* property, xcb_atom_t type) const;
+
+    /// Sends a message about the window to the window manager, as EWMH has it.
+    void requestOfManager(
+        xcb_window_t window, const char* message, const std::array<std::uint32_t, 5>& data) const;
+
+    /// In front of the others and with the keyboard focus; the window must be mapped.
+    void requestFocus(xcb_window_t window) const;
+
+private:
+    [[nodiscard]] xcb_window_t topLevelOf(xcb_window_t window) const;
+
+    std::shared_ptr<X11Connection> m_connection;
+};
+
+} // namespace quorvane

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/Workspace.h>
+#include <platform_x11/X11Connection.h>
+#include <platform_x11/X11UserTime.h>
+#include <platform_x11/X11Windows.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace quorvane {
+
+/// Follows the window manager's word on which window is active. While that is one of ours, a part
+/// of the desktop, or none, the last window of another program before it is in front, as long as
+/// it shows.
+class X11Workspace final : public Workspace {
+public:
+    explicit X11Workspace(std::shared_ptr<X11Connection> connection);
+
+    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override;
+    [[nodiscard]] QScreen* focusedScreen() const override;
+    void activate(const RunningApplication& application) override;
+    void onActiveSpaceChanged(std::function<void()> handler) override;
+
+private:
+    void handleEvent(const xcb_generic_event_t& event);
+    /// Whether another program's window is active.
+    bool trackActiveWindow() const;
+    void trackSpace();
+    [[nodiscard]] bool isAnotherProgram(xcb_window_t window) const;
+    [[nodiscard]] std::vector<std::uint32_t> currentDesktop() const;
+
+    std::shared_ptr<X11Connection> m_connection;
+    X11Windows m_windows;
+    X11UserTime m_userTime;
+    /// Kept by whoever looks: a caller may ask before the event that tells of a change arrives.
+    mutable xcb_window_t m_lastForeign = XCB_WINDOW_NONE;
+    std::vector<std::uint32_t> m_desktop;
+    std::function<void()> m_spaceChanged;
+    X11Connection::Subscription m_subscription;
+};
+
+} // namespace quorvane

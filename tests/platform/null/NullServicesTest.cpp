@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include <fakes/VirtualMainQueue.h>
+#include <platform/KeyCodes.h>
+#include <platform_null/NullServices.h>
+
+#include <gtest/gtest.h>
+
+namespace quorvane {
+
+namespace {
+
+class NullServices : public testing::Test {
+protected:
+    VirtualMainQueue m_queue;
+    PlatformServices m_services = makeNullServices(m_queue);
+};
+
+TEST_F(NullServices, GrantNothing) {
+    m_services.accessibilityRight->prompt();
+    EXPECT_FALSE(m_services.accessibilityRight->isTrusted());
+    EXPECT_EQ(
+        m_services.keyPoster->post({keycode::v, modifier::command}), PostOutcome::Unavailable);
+    EXPECT_EQ(m_services.workspace->frontmostApplication(), std::nullopt);
+    EXPECT_EQ(m_services.keyboardLayout->characters(0), std::nullopt);
+}
+
+TEST_F(NullServices, RefuseATapForGood) {
+    const auto result =
+        m_services.eventTaps->createTap([](const KeyPress&) { return TapVerdict::Pass; });
+    ASSERT_TRUE(std::holds_alternative<TapFailure>(result));
+    EXPECT_EQ(std::get<TapFailure>(result).retry, TapFailure::Retry::Pointless);
+}
+
+TEST_F(NullServices, SaveAnEmptyPasteboardOnALaterTurn) {
+    std::optional<PasteboardContents> saved;
+    m_services.pasteboard->setString(QStringLiteral("text"), TextStay::Lasting);
+    m_services.pasteboard->save([&saved](PasteboardContents contents) { saved = contents; });
+    EXPECT_EQ(saved, std::nullopt);
+    m_queue.run();
+    EXPECT_EQ(saved, PasteboardContents{});
+}
+
+TEST_F(NullServices, HandThePasteboardOverOnALaterTurn) {
+    bool done = false;
+    m_services.pasteboard->handOver([&done] { done = true; });
+    EXPECT_FALSE(done);
+    m_queue.run();
+    EXPECT_TRUE(done);
+}
+
+} // namespace
+
+} // namespace quorvane

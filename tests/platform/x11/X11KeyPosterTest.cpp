@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "support/ForeignWindow.h"
+#include "support/PrivateDisplay.h"
+#include "support/X11Test.h"
+
+#include <platform/KeyCodes.h>
+#include <platform_x11/X11KeyPoster.h>
+
+#include <linux/input-event-codes.h>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using enum ReceivedKey::Kind;
+
+constexpr KeyChord paste{keycode::v, modifier::command};
+
+constexpr xcb_keycode_t x11(std::uint16_t evdevCode) {
+    return static_cast<xcb_keycode_t>(evdevCode + 8);
+}
+
+class PosterOnX11 : public X11Test {
+protected:
+    [[nodiscard]] PostOutcome post(const KeyChord& chord) {
+        X11KeyPoster poster(
+            m_connection, X11Keymap::open(m_queue), std::make_shared<X11PostedKeys>());
+        return poster.post(chord);
+    }
+
+    /// What the window receives from now on, until it has received the release of all.
+    [[nodiscard]] std::vector<ReceivedKey> keysOf(ForeignWindow& window, std::size_t count) {
+        EXPECT_TRUE(waitUntil([&] { return window.keys().size() >= count; }));
+        return window.keys();
+    }
+};
+
+TEST_F(PosterOnX11, PressesAndReleasesControlAndV) {
+    ForeignWindow window;
+    window.takeFocus();
+    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    EXPECT_EQ(
+        keysOf(window, 4),
+        (std::vector<ReceivedKey>{
+            {Press, x11(KEY_LEFTCTRL), 0},
+            {Press, x11(KEY_V), XCB_MOD_MASK_CONTROL},
+            {Release, x11(KEY_V), XCB_MOD_MASK_CONTROL},
+            {Release, x11(KEY_LEFTCTRL), XCB_MOD_MASK_CONTROL},
+        }));
+}
+
+struct LayoutRow {
+    const char* layout;
+    std::uint8_t group;
+    std::uint16_t modifierKey;
+    std::uint16_t key;
+};
+
+class PosterOnX11WithLayout : public PosterOnX11, public testing::WithParamInterface<LayoutRow> {};
+
+TEST_P(PosterOnX11WithLayout, FindsTheKeyThatPastesThere) {
+    const auto& row = GetParam();
+    setLayout(QString::fromLatin1(row.layout));
+    m_keyboard.useGroup(row.group);
+    ForeignWindow window;
+    window.takeFocus();
+    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    const auto keys = keysOf(window, 4);
+    m_keyboard.useGroup(0);
+    ASSERT_EQ(keys.size(), 4U);
+    EXPECT_EQ(keys[0].keycode, x11(row.modifierKey));
+    EXPECT_EQ(keys[1].keycode, x11(row.key));
+}
+
+// The keys that carry V, by the drawings of the layouts.
+INSTANTIATE_TEST_SUITE_P(
+    Every,
+    PosterOnX11WithLayout,
+    testing::Values(
+        LayoutRow{"us", 0, KEY_LEFTCTRL, KEY_V},
+        LayoutRow{"fr", 0, KEY_LEFTCTRL, KEY_V},
+        LayoutRow{"dvorak", 0, KEY_LEFTCTRL, KEY_DOT},
+        LayoutRow{"us,dvorak", 0, KEY_LEFTCTRL, KEY_V},
+        LayoutRow{"us,dvorak", 1, KEY_LEFTCTRL, KEY_DOT},
+        LayoutRow{"us,ru", 1, KEY_LEFTCTRL, KEY_V},
+        LayoutRow{"ru,us", 0, KEY_LEFTCTRL, KEY_V},
+        LayoutRow{"ru", 0, KEY_LEFTSHIFT, KEY_INSERT},
+        LayoutRow{"gr", 0, KEY_LEFTSHIFT, KEY_INSERT}));
+
+TEST_F(PosterOnX11, UsesTheKeysOfATerminal) {
+    ForeignWindow window("konsole", "konsole");
+    window.takeFocus();
+    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    const auto keys = keysOf(window, 6);
+    ASSERT_EQ(keys.size(), 6U);
+    EXPECT_EQ(keys[2], (ReceivedKey{Press, x11(KEY_V), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT}));
+}
+
+TEST_F(PosterOnX11, UsesShiftInsertForXterm) {
+    ForeignWindow window("xterm", "XTerm");
+    window.takeFocus();
+    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    const auto keys = keysOf(window, 4);
+    ASSERT_EQ(keys.size(), 4U);
+    EXPECT_EQ(keys[1], (ReceivedKey{Press, x11(KEY_INSERT), XCB_MOD_MASK_SHIFT}));
+}
+
+TEST_F(PosterOnX11, PostsAnyOtherChordByThePositionOfItsKey) {
+    ForeignWindow window;
+    window.takeFocus();
+    ASSERT_EQ(post({0, modifier::command | modifier::option}), PostOutcome::Posted);
+    const auto keys = keysOf(window, 6);
+    ASSERT_EQ(keys.size(), 6U);
+    EXPECT_EQ(keys[2], (ReceivedKey{Press, x11(KEY_A), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1}));
+}
+
+TEST_F(PosterOnX11, PressesControlOnceForControlAndCommand) {
+    ForeignWindow window;
+    window.takeFocus();
+    ASSERT_EQ(post({0, modifier::command | modifier::control}), PostOutcome::Posted);
+    EXPECT_EQ(keysOf(window, 4).size(), 4U);
+}
+
+TEST_F(PosterOnX11, KnowsNoKeyForACodeWithoutOne) {
+    EXPECT_EQ(post({0x34, modifier::command}), PostOutcome::NoSuchKey);
+}
+
+class PosterOnX11WithHeldKey : public PosterOnX11,
+                               public testing::WithParamInterface<std::uint16_t> {};
+
+TEST_P(PosterOnX11WithHeldKey, SendsOnlyControlAndLeavesNothingStuck) {
+    if (GetParam() == KEY_RIGHTALT)
+        setLayout(u"de"_s);
+    Keyboard user(Keyboard::Device::Physical);
+    ForeignWindow window;
+    window.takeFocus();
+    user.press(GetParam());
+    ASSERT_NE(m_keyboard.state(), 0);
+    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    ASSERT_TRUE(waitUntil([&window] { return window.hasReceived(Release, x11(KEY_V)); }));
+    for (const auto& key : window.keys()) {
+        if (key.keycode == x11(KEY_V)) {
+            EXPECT_EQ(key.state, XCB_MOD_MASK_CONTROL);
+        }
+    }
+    user.release(GetParam());
+    EXPECT_EQ(m_keyboard.state(), 0);
+    user.type({KEY_LEFTCTRL, KEY_C});
+    ASSERT_TRUE(waitUntil([&window] { return window.hasReceived(Release, x11(KEY_C)); }));
+    EXPECT_EQ(
+        std::ranges::find(window.keys(), x11(KEY_C), &ReceivedKey::keycode)->state,
+        XCB_MOD_MASK_CONTROL);
+    EXPECT_EQ(m_keyboard.state(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Every,
+    PosterOnX11WithHeldKey,
+    testing::Values(
+        KEY_LEFTSHIFT,
+        KEY_RIGHTSHIFT,
+        KEY_LEFTCTRL,
+        KEY_RIGHTCTRL,
+        KEY_LEFTALT,
+        KEY_RIGHTALT,
+        KEY_LEFTMETA,
+        KEY_RIGHTMETA));
+
+TEST_F(PosterOnX11, LeavesCapsLockOn) {
+    ForeignWindow window;
+    window.takeFocus();
+    m_keyboard.type({KEY_CAPSLOCK});
+    EXPECT_EQ(post(paste), PostOutcome::Posted);
+    EXPECT_EQ(m_keyboard.state(), XCB_MOD_MASK_LOCK);
+    m_keyboard.type({KEY_CAPSLOCK});
+    EXPECT_EQ(m_keyboard.state(), 0);
+}
+
+TEST_F(PosterOnX11, PostsIntoAnyWindowWhereNoneIsActive) {
+    xcb_set_input_focus(
+        m_connection->xcb(), XCB_INPUT_FOCUS_NONE, XCB_INPUT_FOCUS_NONE, XCB_CURRENT_TIME);
+    EXPECT_EQ(post(paste), PostOutcome::Posted);
+}
+
+TEST(PosterOnX11WithoutXtest, IsUnavailable) {
+    const PrivateDisplay display({u"-extension"_s, u"XTEST"_s});
+    const ScopedDisplayVariable variable(display.name());
+    QtMainQueue queue;
+    X11KeyPoster poster(
+        X11Connection::open(), X11Keymap::open(queue), std::make_shared<X11PostedKeys>());
+    EXPECT_EQ(poster.post(paste), PostOutcome::Unavailable);
+}
+
+} // namespace
+
+} // namespace quorvane

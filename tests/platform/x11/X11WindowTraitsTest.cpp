@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "support/ForeignWindow.h"
+#include "support/WindowManager.h"
+#include "support/X11Test.h"
+
+#include <platform_x11/X11WindowTraits.h>
+
+#include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace quorvane {
+
+namespace {
+
+class WindowTraitsTest : public X11Test {
+protected:
+    WindowTraitsTest() {
+        m_panel.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+        m_panel.setAttribute(Qt::WA_QuitOnClose, false);
+        m_panel.winId();
+    }
+
+    void showPanel() {
+        m_traits.preparePanel(*m_panel.windowHandle());
+        m_panel.show();
+        m_traits.presentPanel(*m_panel.windowHandle());
+    }
+
+    [[nodiscard]] bool hasFocus(const QWidget& widget) const {
+        return m_windows.inputFocus() == widget.winId();
+    }
+
+    [[nodiscard]] bool hasState(const QWidget& widget, const char* state) const {
+        const auto states = m_windows.values(
+            static_cast<xcb_window_t>(widget.winId()), "_NET_WM_STATE", XCB_ATOM_ATOM);
+        return std::ranges::count(states, m_connection->atom(state)) > 0;
+    }
+
+    [[nodiscard]] bool showsInTaskbar(const QWidget& widget) const {
+        return !hasState(widget, "_NET_WM_STATE_SKIP_TASKBAR") &&
+               !hasState(widget, "_NET_WM_STATE_SKIP_PAGER");
+    }
+
+    [[nodiscard]] bool staysOutOfTaskbar(const QWidget& widget) const {
+        return hasState(widget, "_NET_WM_STATE_SKIP_TASKBAR") &&
+               hasState(widget, "_NET_WM_STATE_SKIP_PAGER");
+    }
+
+    X11Windows m_windows{m_connection};
+    X11WindowTraits m_traits{m_connection};
+    QWidget m_panel;
+};
+
+class PanelOnX11 : public WindowTraitsTest {
+protected:
+    void SetUp() override { ASSERT_TRUE(m_manager.isRunning()); }
+
+    [[nodiscard]] bool isOnAllDesktops() const {
+        return m_windows.values(
+                   static_cast<xcb_window_t>(m_panel.winId()),
+                   "_NET_WM_DESKTOP",
+                   XCB_ATOM_CARDINAL) == std::vector<std::uint32_t>{0xffffffff};
+    }
+
+    WindowManager m_manager;
+};
+
+TEST_F(PanelOnX11, TakesTheFocusAtEveryShow) {
+    ForeignWindow other;
+    for (int round = 0; round < 3; ++round) {
+        other.show();
+        m_windows.requestFocus(other.id());
+        ASSERT_TRUE(waitUntil([&other] { return other.hasFocus(); }));
+        showPanel();
+        EXPECT_TRUE(waitUntil([this] {
+            return hasFocus(m_panel) && m_windows.active() == m_panel.winId();
+        })) << "round "
+            << round;
+        m_panel.hide();
+    }
+}
+
+TEST_F(PanelOnX11, IsAboveOthersOnAllDesktopsAtEveryShow) {
+    for (int round = 0; round < 3; ++round) {
+        showPanel();
+        EXPECT_TRUE(waitUntil([this] {
+            return isOnAllDesktops() && hasState(m_panel, "_NET_WM_STATE_ABOVE");
+        })) << "round "
+            << round;
+        m_panel.hide();
+        ASSERT_TRUE(waitUntil(
+            [this] { return !m_windows.isViewable(static_cast<xcb_window_t>(m_panel.winId())); }));
+    }
+}
+
+TEST_F(PanelOnX11, StaysInSightOnAnotherDesktop) {
+    showPanel();
+    ASSERT_TRUE(waitUntil([this] { return isOnAllDesktops(); }));
+    ASSERT_TRUE(m_manager.showDesktop(1));
+    EXPECT_TRUE(m_windows.isViewable(static_cast<xcb_window_t>(m_panel.winId())));
+    ASSERT_TRUE(m_manager.showDesktop(0));
+}
+
+TEST_F(PanelOnX11, ComesToTheFrontWithoutTheFocus) {
+    showPanel();
+    ASSERT_TRUE(waitUntil([this] { return hasFocus(m_panel); }));
+    ForeignWindow other;
+    other.show();
+    m_windows.requestFocus(other.id());
+    ASSERT_TRUE(waitUntil([&other] { return other.hasFocus(); }));
+    m_traits.orderFront(*m_panel.windowHandle());
+    m_connection->waitForServer();
+    EXPECT_TRUE(other.hasFocus());
+}
+
+TEST_F(PanelOnX11, StaysOutOfTheTaskbarOfAnAccessory) {
+    m_traits.setActivationPolicy(ActivationPolicy::Accessory);
+    for (int round = 0; round < 2; ++round) {
+        showPanel();
+        EXPECT_TRUE(waitUntil([this] { return staysOutOfTaskbar(m_panel); })) << "round " << round;
+        m_panel.hide();
+    }
+}
+
+TEST_F(PanelOnX11, LeavesWindowsOutOfTheTaskbarOfAnAccessoryAndInThatOfARegularProgram) {
+    QWidget window;
+    m_traits.setActivationPolicy(ActivationPolicy::Accessory);
+    window.show();
+    EXPECT_TRUE(waitUntil([&] { return staysOutOfTaskbar(window); }));
+    m_traits.setActivationPolicy(ActivationPolicy::Regular);
+    EXPECT_TRUE(waitUntil([&] { return showsInTaskbar(window); }));
+    m_traits.setActivationPolicy(ActivationPolicy::Accessory);
+    EXPECT_TRUE(waitUntil([&] { return staysOutOfTaskbar(window); }));
+    window.hide();
+    m_traits.setActivationPolicy(ActivationPolicy::Regular);
+    window.show();
+    EXPECT_TRUE(waitUntil([&] {
+        return m_windows.isViewable(static_cast<xcb_window_t>(window.winId())) &&
+               showsInTaskbar(window);
+    }));
+}
+
+class PanelOnX11WithoutManager : public WindowTraitsTest {};
+
+TEST_F(PanelOnX11WithoutManager, TakesTheFocusAtEveryShow) {
+    ForeignWindow other;
+    for (int round = 0; round < 3; ++round) {
+        other.takeFocus();
+        showPanel();
+        EXPECT_TRUE(waitUntil([this] { return hasFocus(m_panel); })) << "round " << round;
+        m_panel.hide();
+    }
+}
+
+TEST_F(PanelOnX11WithoutManager, IsPreparedBeforeItIsMapped) {
+    m_traits.setActivationPolicy(ActivationPolicy::Accessory);
+    m_traits.preparePanel(*m_panel.windowHandle());
+    EXPECT_FALSE(m_windows.isViewable(static_cast<xcb_window_t>(m_panel.winId())));
+    EXPECT_TRUE(hasState(m_panel, "_NET_WM_STATE_STICKY"));
+    EXPECT_TRUE(hasState(m_panel, "_NET_WM_STATE_ABOVE"));
+    m_panel.show();
+    EXPECT_TRUE(staysOutOfTaskbar(m_panel));
+    EXPECT_TRUE(hasState(m_panel, "_NET_WM_STATE_STICKY"));
+}
+
+} // namespace
+
+} // namespace quorvane

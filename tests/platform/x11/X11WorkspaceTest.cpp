@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#include "support/ForeignWindow.h"
+#include "support/WindowManager.h"
+#include "support/X11Test.h"
+
+#include <platform_x11/X11Workspace.h>
+
+#include <QWidget>
+
+#include <linux/input-event-codes.h>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class WorkspaceOnX11 : public X11Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(m_manager.isRunning()); }
+
+    void activate(ForeignWindow& window) {
+        window.show();
+        X11Windows(m_connection).requestFocus(window.id());
+        ASSERT_TRUE(becomesActive(window.id()));
+    }
+
+    /// The window manager gives it the focus by itself. Asking Qt for that too would send a
+    /// request that arrives at any time later.
+    void activate(QWidget& widget) {
+        widget.show();
+        ASSERT_TRUE(becomesActive(static_cast<xcb_window_t>(widget.winId())));
+    }
+
+    /// Also waits until the event that tells of it has reached the connection's subscribers.
+    [[nodiscard]] bool becomesActive(xcb_window_t window) {
+        bool told = false;
+        const auto subscription = m_connection->subscribe([&](const xcb_generic_event_t& event) {
+            const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+            const bool isWord = event.response_type == XCB_PROPERTY_NOTIFY &&
+                                change.atom == m_connection->atom("_NET_ACTIVE_WINDOW");
+            told = told || (isWord && activeWindow() == window);
+        });
+        return waitUntil([&told] { return told; });
+    }
+
+    [[nodiscard]] xcb_window_t activeWindow() const { return X11Windows(m_connection).active(); }
+
+    [[nodiscard]] std::uint64_t frontWindow() const {
+        const auto front = m_workspace.frontmostApplication();
+        return front ? front->window : std::uint64_t{XCB_WINDOW_NONE};
+    }
+
+    WindowManager m_manager;
+    X11Workspace m_workspace{m_connection};
+};
+
+TEST_F(WorkspaceOnX11, HasTheActiveWindowInFront) {
+    ForeignWindow window("editor", "Editor");
+    activate(window);
+    ASSERT_EQ(frontWindow(), window.id());
+    EXPECT_EQ(m_workspace.frontmostApplication()->name, u"editor/Editor"_s);
+}
+
+TEST_F(WorkspaceOnX11, HasNothingInFrontWhereThereIsNoWindow) {
+    EXPECT_EQ(m_workspace.frontmostApplication(), std::nullopt);
+}
+
+TEST_F(WorkspaceOnX11, KeepsTheWindowBeforeWhileOneOfOursIsActive) {
+    ForeignWindow first;
+    ForeignWindow second;
+    activate(first);
+    activate(second);
+    QWidget own;
+    activate(own);
+    EXPECT_EQ(frontWindow(), second.id());
+}
+
+class WorkspaceOnX11WithFurniture : public WorkspaceOnX11,
+                                    public testing::WithParamInterface<const char*> {};
+
+TEST_P(WorkspaceOnX11WithFurniture, KeepsTheWindowBeforeWhileTheDesktopIsActive) {
+    ForeignWindow window;
+    activate(window);
+    ForeignWindow furniture("panel", "Panel", GetParam());
+    activate(furniture);
+    EXPECT_EQ(frontWindow(), window.id());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Every,
+    WorkspaceOnX11WithFurniture,
+    testing::Values("_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_WINDOW_TYPE_DESKTOP"));
+
+TEST_F(WorkspaceOnX11, CountsADialogAsAWindow) {
+    ForeignWindow dialog("editor", "Editor", "_NET_WM_WINDOW_TYPE_DIALOG");
+    activate(dialog);
+    EXPECT_EQ(frontWindow(), dialog.id());
+}
+
+TEST_F(WorkspaceOnX11, HasNothingInFrontOnceTheWindowIsGone) {
+    QWidget own;
+    {
+        ForeignWindow window;
+        activate(window);
+        activate(own);
+        ASSERT_EQ(frontWindow(), window.id());
+    }
+    EXPECT_TRUE(waitUntil([this] { return frontWindow() == XCB_WINDOW_NONE; }));
+}
+
+TEST_F(WorkspaceOnX11, HasNothingInFrontOnceTheWindowIsIconified) {
+    ForeignWindow window;
+    activate(window);
+    QWidget own;
+    activate(own);
+    window.iconify();
+    EXPECT_TRUE(waitUntil([this] { return frontWindow() == XCB_WINDOW_NONE; }));
+}
+
+TEST_F(WorkspaceOnX11, BringsAWindowToTheFront) {
+    ForeignWindow window;
+    activate(window);
+    const auto front = m_workspace.frontmostApplication();
+    ASSERT_TRUE(front);
+    QWidget own;
+    activate(own);
+    m_workspace.activate(*front);
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == window.id() && window.hasFocus(); }));
+}
+
+TEST_F(WorkspaceOnX11, BringsAWindowToTheFrontAfterAnotherTookTheFocusByItself) {
+    ForeignWindow window;
+    activate(window);
+    const auto front = m_workspace.frontmostApplication();
+    ASSERT_TRUE(front);
+    QWidget own;
+    activate(own);
+    m_keyboard.type({KEY_A});
+    ASSERT_TRUE(waitUntil([this] { return m_connection->lastUserTime() != XCB_CURRENT_TIME; }));
+    ForeignWindow other;
+    other.show();
+    ASSERT_TRUE(becomesActive(other.id()));
+    m_workspace.activate(*front);
+    EXPECT_TRUE(waitUntil([&] { return activeWindow() == window.id() && window.hasFocus(); }));
+}
+
+TEST_F(WorkspaceOnX11, LetsAWindowThatIsGoneBe) {
+    QWidget own;
+    activate(own);
+    RunningApplication gone;
+    {
+        const ForeignWindow window;
+        gone.window = window.id();
+    }
+    ASSERT_TRUE(waitUntil(
+        [&] { return !X11Windows(m_connection).exists(static_cast<xcb_window_t>(gone.window)); }));
+    m_workspace.activate(gone);
+    m_connection->waitForServer();
+    EXPECT_EQ(activeWindow(), own.winId());
+}
+
+TEST_F(WorkspaceOnX11, TellsWhenAnotherDesktopComesToTheFront) {
+    int changes = 0;
+    m_workspace.onActiveSpaceChanged([&changes] { ++changes; });
+    ASSERT_TRUE(m_manager.showDesktop(1));
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 1; }));
+    ASSERT_TRUE(m_manager.showDesktop(0));
+    EXPECT_TRUE(waitUntil([&changes] { return changes == 2; }));
+}
+
+TEST_F(WorkspaceOnX11, TellsNothingWhenTheSameDesktopIsNamedAgain) {
+    int changes = 0;
+    m_workspace.onActiveSpaceChanged([&changes] { ++changes; });
+    const std::uint32_t desktop = 0;
+    xcb_change_property(
+        m_connection->xcb(),
+        XCB_PROP_MODE_REPLACE,
+        m_connection->root(),
+        m_connection->atom("_NET_CURRENT_DESKTOP"),
+        XCB_ATOM_CARDINAL,
+        32,
+        1,
+        &desktop);
+    ASSERT_TRUE(m_manager.showDesktop(1));
+    EXPECT_TRUE(waitUntil([&changes] { return changes > 0; }));
+    EXPECT_EQ(changes, 1);
+    ASSERT_TRUE(m_manager.showDesktop(0));
+}
+
+TEST_F(WorkspaceOnX11, NotesTheTimeOfAKeyInAWindowOfOurs) {
+    QWidget own;
+    activate(own);
+    const auto before = m_connection->lastUserTime();
+    m_keyboard.type({KEY_A});
+    EXPECT_TRUE(waitUntil([&] { return m_connection->lastUserTime() > before; }));
+}
+
+class WorkspaceOnX11WithoutManager : public X11Test {
+protected:
+    X11Workspace m_workspace{m_connection};
+};
+
+TEST_F(WorkspaceOnX11WithoutManager, HasTheWindowWithTheFocusInFront) {
+    ForeignWindow window;
+    window.takeFocus();
+    ASSERT_TRUE(m_workspace.frontmostApplication());
+    EXPECT_EQ(m_workspace.frontmostApplication()->window, window.id());
+}
+
+TEST_F(WorkspaceOnX11WithoutManager, GivesTheFocusBack) {
+    ForeignWindow window;
+    window.takeFocus();
+    const auto front = m_workspace.frontmostApplication();
+    ASSERT_TRUE(front);
+    QWidget own;
+    own.show();
+    own.activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return !window.hasFocus(); }));
+    m_workspace.activate(*front);
+    EXPECT_TRUE(waitUntil([&window] { return window.hasFocus(); }));
+}
+
+TEST_F(WorkspaceOnX11WithoutManager, DoesNotBelieveWhatACrashedManagerLeftBehind) {
+    ForeignWindow window;
+    window.takeFocus();
+    const xcb_window_t gone = window.id() + 1000;
+    for (const auto* property : {"_NET_SUPPORTING_WM_CHECK", "_NET_ACTIVE_WINDOW"}) {
+        xcb_change_property(
+            m_connection->xcb(),
+            XCB_PROP_MODE_REPLACE,
+            m_connection->root(),
+            m_connection->atom(property),
+            XCB_ATOM_WINDOW,
+            32,
+            1,
+            &gone);
+    }
+    const auto front = m_workspace.frontmostApplication();
+    for (const auto* property : {"_NET_SUPPORTING_WM_CHECK", "_NET_ACTIVE_WINDOW"})
+        xcb_delete_property(
+            m_connection->xcb(), m_connection->root(), m_connection->atom(property));
+    m_connection->waitForServer();
+    ASSERT_TRUE(front);
+    EXPECT_EQ(front->window, window.id());
+}
+
+} // namespace
+
+} // namespace quorvane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "SelectionOffers.h"
+#include "support/WaitUntil.h"
+
+#include <foundation/QtMainQueue.h>
+#include <platform_x11/X11Pasteboard.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+
+namespace quorvane {
+
+/// A pasteboard on the display of the test program; the next test finds both selections empty.
+class PasteboardTest : public testing::Test {
+protected:
+    [[nodiscard]] PasteboardContents saved() {
+        std::optional<PasteboardContents> result;
+        m_pasteboard.save([&result](PasteboardContents contents) { result = std::move(contents); });
+        EXPECT_TRUE(waitUntil([&result] { return result.has_value(); }));
+        return result.value_or(PasteboardContents{});
+    }
+
+    /// The one item of a save.
+    [[nodiscard]] PasteboardItem savedItem() {
+        const auto contents = saved();
+        EXPECT_EQ(contents.items.size(), 1);
+        return contents.items.empty() ? PasteboardItem{} : contents.items.front();
+    }
+
+    QtMainQueue m_queue;
+    std::shared_ptr<X11Connection> m_connection = X11Connection::open();
+    X11Pasteboard m_pasteboard{m_connection, m_queue};
+};
+
+} // namespace quorvane

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include "PasteboardTest.h"
+#include "support/ForeignWindow.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+using X11PasteboardSaveTest = PasteboardTest;
+
+// The waits of a save, and what a loaded machine may add to them.
+constexpr qint64 silence = 300;
+constexpr qint64 whole = 1000;
+constexpr qint64 slack = 150;
+
+Offer silentOffer(const QString& target) {
+    return {{target, "never seen"_ba, target}, u"silent"_s};
+}
+
+/// Properties that hold an answer, on whatever window.
+int answersLeftOnTheServer() {
+    const ForeignWindow observer;
+    auto* xcb = observer.connection();
+    const XcbReply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(xcb, xcb_query_tree(xcb, observer.screen().root), nullptr));
+    int count = 0;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        const auto window = xcb_query_tree_children(tree.get())[i];
+        const XcbReply<xcb_list_properties_reply_t> list(
+            xcb_list_properties_reply(xcb, xcb_list_properties(xcb, window), nullptr));
+        for (int j = 0; list && j < xcb_list_properties_atoms_length(list.get()); ++j) {
+            const auto atom = xcb_list_properties_atoms(list.get())[j];
+            const XcbReply<xcb_get_atom_name_reply_t> name(
+                xcb_get_atom_name_reply(xcb, xcb_get_atom_name(xcb, atom), nullptr));
+            if (name && QByteArrayView(xcb_get_atom_name_name(name.get()), name->name_len)
+                            .startsWith("QUORVANE_ANSWER"))
+                ++count;
+        }
+    }
+    return count;
+}
+
+TEST_F(X11PasteboardSaveTest, WithoutAnOwnerThereIsNothingToSave) {
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(saved(), PasteboardContents{});
+    EXPECT_LT(clock.elapsed(), silence / 2);
+}
+
+TEST_F(X11PasteboardSaveTest, CallsBackOnALaterTurn) {
+    bool isDone = false;
+    m_pasteboard.save([&isDone](const PasteboardContents&) { isDone = true; });
+    EXPECT_FALSE(isDone);
+    EXPECT_TRUE(waitUntil([&isDone] { return isDone; }));
+}
+
+TEST_F(X11PasteboardSaveTest, KeepsTheOwnersOrderAndReadsTextFirst) {
+    const std::vector<Offer> offers{
+        {{u"image/png"_s, "png"_ba, u"image/png"_s}},
+        {{u"odd/kind"_s, "odd"_ba, u"odd/kind"_s}},
+        {{u"text/html"_s, "<b>"_ba, u"text/html"_s}},
+        {{u"text/plain"_s, "plain"_ba, u"text/plain"_s}},
+        {{u"UTF8_STRING"_s, "utf8"_ba, u"UTF8_STRING"_s}},
+    };
+    const auto owner = startOwner(offers);
+    EXPECT_EQ(savedItem(), itemOf(offers));
+    EXPECT_EQ(
+        owner->textsSoFar(),
+        (QStringList{
+            u"TARGETS"_s,
+            u"UTF8_STRING"_s,
+            u"text/plain"_s,
+            u"text/html"_s,
+            u"image/png"_s,
+            u"odd/kind"_s}));
+}
+
+TEST_F(X11PasteboardSaveTest, AsksForNoneOfTheTargetsThatAreNoContents) {
+    const auto owner = startOwner(
+        {textOffer("text")},
+        {.names = {
+             u"TARGETS"_s,
+             u"TIMESTAMP"_s,
+             u"MULTIPLE"_s,
+             u"SAVE_TARGETS"_s,
+             u"DELETE"_s,
+             u"INSERT_SELECTION"_s,
+             u"INSERT_PROPERTY"_s,
+             u"UTF8_STRING"_s}});
+    EXPECT_EQ(savedItem(), itemOf({textOffer("text")}));
+    EXPECT_EQ(owner->textsSoFar(), (QStringList{u"TARGETS"_s, u"UTF8_STRING"_s}));
+}
+
+TEST_F(X11PasteboardSaveTest, DropsATargetWhoseDataCannotBeRead) {
+    const std::vector<Offer> offers{
+        {{u"a"_s, "a"_ba, u"a"_s}},
+        {{u"b"_s, "b"_ba, u"b"_s}, u"refusing"_s},
+        {{u"c"_s, "c"_ba, u"c"_s}},
+    };
+    const auto owner = startOwner(offers);
+    EXPECT_EQ(savedItem(), itemOf({offers[0], offers[2]}));
+}
+
+TEST_F(X11PasteboardSaveTest, AsksForTextWhereTheOwnerCannotTellItsTargets) {
+    const auto owner = startOwner({textOffer("old")}, {.tellsTargets = false});
+    EXPECT_EQ(savedItem(), itemOf({textOffer("old")}));
+}
+
+TEST_F(X11PasteboardSaveTest, CutsAHungOwnerOffWhileTheMainLoopTurns) {
+    const auto hung = startOwner({silentOffer(u"TARGETS"_s)});
+    int ticks = 0;
+    QTimer ticker;
+    ticker.callOnTimeout([&ticks] { ++ticks; });
+    ticker.start(5);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(saved(), PasteboardContents{});
+    RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
+    RecordProperty("ticks", ticks);
+    EXPECT_GE(clock.elapsed(), silence);
+    EXPECT_LT(clock.elapsed(), silence + slack);
+    EXPECT_GT(ticks, silence / 5 / 2);
+}
+
+TEST_F(X11PasteboardSaveTest, HandsOverWhatWasReadBeforeTheOwnerHung) {
+    const auto owner = startOwner({silentOffer(u"image/bmp"_s), textOffer("text")});
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(savedItem(), itemOf({textOffer("text")}));
+    EXPECT_LT(clock.elapsed(), silence + slack);
+}
+
+TEST_F(X11PasteboardSaveTest, WaitsForAnOwnerThatIsSlowButNotSilent) {
+    const Offer slow{{u"drip"_s, noise(24), u"drip"_s}, u"dripping"_s, 0.15};
+    const auto owner = startOwner({slow});
+    EXPECT_EQ(savedItem(), itemOf({slow}));
+}
+
+TEST_F(X11PasteboardSaveTest, EndsAfterASecondThoughTheOwnerStillDrips) {
+    const Offer endless{{u"drip"_s, noise(800), u"drip"_s}, u"dripping"_s, 0.1};
+    const auto owner = startOwner({endless, textOffer("text")});
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(savedItem(), itemOf({textOffer("text")}));
+    RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
+    EXPECT_GE(clock.elapsed(), whole);
+    EXPECT_LT(clock.elapsed(), whole + slack);
+}
+
+TEST_F(X11PasteboardSaveTest, OutlivesAnOwnerThatDiesAmidItsData) {
+    const Offer torn{{u"image/bmp"_s, noise(500'000), u"image/bmp"_s}, u"dying"_s};
+    const auto owner = startOwner({torn, textOffer("text")});
+    EXPECT_EQ(savedItem(), itemOf({textOffer("text")}));
+}
+
+TEST_F(X11PasteboardSaveTest, ALateAnswerIsThrownAwayAndHarmsNobody) {
+    const Offer late{{u"late"_s, "late"_ba, u"late"_s}, u"late"_s, 0.5};
+    const auto owner = startOwner({late});
+    EXPECT_EQ(saved(), PasteboardContents{});
+    // It answers one after the other: the late answer is out when this one has come.
+    EXPECT_EQ(contentsOf(), itemOf({late}));
+    EXPECT_TRUE(waitUntil([] { return answersLeftOnTheServer() == 0; }));
+}
+
+TEST_F(X11PasteboardSaveTest, EachOfSeveralSavesAtOnceGetsItsOwnResult) {
+    const std::vector<Offer> offers{
+        textOffer("text"), {{u"big"_s, noise(600'000), u"big"_s}, u"incremental"_s}};
+    const auto owner = startOwner(offers);
+    std::vector<PasteboardContents> results;
+    for (int i = 0; i < 3; ++i)
+        m_pasteboard.save([&results](auto contents) { results.push_back(std::move(contents)); });
+    ASSERT_TRUE(waitUntil([&results] { return results.size() == 3; }));
+    const PasteboardContents expected{{itemOf(offers)}, std::nullopt};
+    EXPECT_EQ(results, std::vector(3, expected));
+}
+
+TEST_F(X11PasteboardSaveTest, GivesOutWhatItOwnsItselfWithoutAsking) {
+    const PasteboardItem item{{u"own"_s, noise(500'000), u"INTEGER"_s, 32}};
+    m_pasteboard.write(item, std::nullopt);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(savedItem(), item);
+    EXPECT_LT(clock.elapsed(), silence / 2);
+}
+
+TEST_F(X11PasteboardSaveTest, AsksAnOwnerWhomWeHaveNotNoticedYet) {
+    m_pasteboard.setString(u"ours"_s, TextStay::Lasting);
+    ForeignWindow taciturn;
+    auto* foreign = taciturn.connection();
+    xcb_set_selection_owner(
+        foreign, taciturn.id(), m_connection->atom("CLIPBOARD"), XCB_CURRENT_TIME);
+    const XcbReply<xcb_get_input_focus_reply_t> isDone(
+        xcb_get_input_focus_reply(foreign, xcb_get_input_focus(foreign), nullptr));
+    EXPECT_EQ(saved(), PasteboardContents{});
+}
+
+TEST_F(X11PasteboardSaveTest, ASaveThatIsStillUnderWayEndsWithThePasteboard) {
+    const auto owner = startOwner({silentOffer(u"TARGETS"_s)});
+    bool isDone = false;
+    {
+        X11Pasteboard shortLived(m_connection, m_queue);
+        shortLived.save([&isDone](const PasteboardContents&) { isDone = true; });
+    }
+    EXPECT_EQ(saved(), PasteboardContents{});
+    EXPECT_FALSE(isDone);
+}
+
+} // namespace
+} // namespace quorvane

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/ForeignWindow.h"
+#include "support/X11Test.h"
+
+#include <platform/KeyCodes.h>
+#include <platform_x11/X11EventTapService.h>
+
+#include <linux/input-event-codes.h>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace quorvane {
+
+/// A tap on the default shortcut, while another program's window has the keys.
+class TapTest : public X11Test {
+protected:
+    static constexpr KeyChord shortcut{
+        keycode::d, modifier::control | modifier::shift | modifier::command};
+    static constexpr std::uint16_t shortcutMask =
+        XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_4;
+    static constexpr xcb_keycode_t keycodeOfD = KEY_D + 8;
+
+    static inline const std::vector<std::uint16_t> shortcutKeys{
+        KEY_LEFTCTRL, KEY_LEFTSHIFT, KEY_LEFTMETA, KEY_D};
+
+    void SetUp() override { m_target.takeFocus(); }
+
+    [[nodiscard]] std::unique_ptr<EventTap> makeTap(std::optional<KeyChord> chord = shortcut) {
+        auto result = m_service.createTap([this](const KeyPress& press) {
+            m_presses.push_back(press);
+            return m_verdict;
+        });
+        auto tap = std::move(std::get<std::unique_ptr<EventTap>>(result));
+        tap->watch(chord);
+        tap->enable();
+        return tap;
+    }
+
+    /// Types one more key, and waits until it has come out at the window behind all before it.
+    [[nodiscard]] bool keysAreThrough() {
+        const auto before = m_target.keys().size();
+        m_keyboard.type({KEY_F8});
+        return waitUntil([this, before] {
+            const auto& keys = m_target.keys();
+            return keys.size() > before && keys.back().keycode == KEY_F8 + 8 &&
+                   keys.back().kind == ReceivedKey::Kind::Release;
+        });
+    }
+
+    [[nodiscard]] bool targetGot(ReceivedKey::Kind kind) {
+        return m_target.hasReceived(kind, keycodeOfD);
+    }
+
+    std::shared_ptr<X11PostedKeys> m_postedKeys = std::make_shared<X11PostedKeys>();
+    X11EventTapService m_service{m_connection, m_queue, m_postedKeys};
+    ForeignWindow m_target;
+    TapVerdict m_verdict = TapVerdict::Swallow;
+    std::vector<KeyPress> m_presses;
+};
+
+} // namespace quorvane
