@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/Pasteboard.h>
+
+#include <QString>
+
+namespace quorvane {
+
+/// Puts the text on the pasteboard for good, in place of whatever it held.
+void copyText(Pasteboard& pasteboard, const QString& text);
+
+} // namespace quorvane

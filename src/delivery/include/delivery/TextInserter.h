@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/DeadlineSet.h>
+#include <foundation/MainQueue.h>
+#include <platform/AccessibilityRight.h>
+#include <platform/KeyPoster.h>
+#include <platform/Pasteboard.h>
+
+#include <QString>
+
+#include <map>
+#include <memory>
+
+namespace quorvane {
+
+/// Pastes a text into the application in front and gives the pasteboard back what it held.
+class TextInserter final {
+public:
+    /// What the inserter works with; all must outlive it.
+    struct Services {
+        AccessibilityRight& accessibilityRight;
+        Pasteboard& pasteboard;
+        KeyPoster& keyPoster;
+        MainQueue& mainQueue;
+    };
+
+    /// From the paste keys to the restore: long enough for an application that pastes late.
+    static constexpr Seconds restoreDelay{0.6};
+
+    explicit TextInserter(Services services);
+    ~TextInserter();
+
+    TextInserter(const TextInserter&) = delete;
+    TextInserter& operator=(const TextInserter&) = delete;
+
+    /// Saves the pasteboard, puts the text on it, posts the paste keys, and restores it
+    /// `restoreDelay` later, whether or not the keys reached anything. Without the accessibility
+    /// right the desktop is asked to offer it, and nothing else happens.
+    ///
+    /// Insertions may overlap: each saves what stands there when its turn comes.
+    void insert(const QString& text);
+
+    /// Runs at once the restores that are still due, in the order of their insertions, and gives up
+    /// insertions that are still being saved. For the end of the process.
+    void finish();
+
+private:
+    /// What a pasteboard gets back; numbered in the order of the insertions.
+    using PendingRestores = std::map<int, PasteboardContents>;
+
+    void paste(const QString& text, PasteboardContents saved);
+    void post();
+    void scheduleRestore(PasteboardContents saved);
+    void restore(const PasteboardContents& saved);
+
+    Services m_services;
+    PendingRestores m_pending;
+    int m_nextRestore = 0;
+    DeadlineSet m_deadlines;
+    std::shared_ptr<const bool> m_savesWanted; ///< saves that come back after it went are dropped
+};
+
+} // namespace quorvane

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include <delivery/CopyText.h>
+#include <fakes/CallLog.h>
+#include <fakes/FakePasteboard.h>
+#include <fakes/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(CopyText, ReplacesWhateverThePasteboardHeldByOneText) {
+    VirtualMainQueue queue;
+    CallLog log(queue);
+    FakePasteboard pasteboard(log, queue);
+    pasteboard.setContents({{{pasteboardEntry(u"image/png"_s, "png")}}, std::nullopt});
+
+    copyText(pasteboard, u"2:05 PM PST\n10:05 PM GMT"_s);
+
+    EXPECT_EQ(pasteboard.contents(), plainText(u"2:05 PM PST\n10:05 PM GMT"_s));
+    EXPECT_EQ(
+        log.calls(),
+        (std::vector<CallLog::Call>{
+            {{}, "clear"}, {{}, "setString lasting \"2:05 PM PST\n10:05 PM GMT\""}}));
+}
+
+} // namespace
+} // namespace quorvane

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include <delivery/TextInserter.h>
+#include <fakes/CallLog.h>
+#include <fakes/FakeAccessibilityRight.h>
+#include <fakes/FakeKeyPoster.h>
+#include <fakes/FakePasteboard.h>
+#include <fakes/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+using Calls = std::vector<CallLog::Call>;
+
+const std::string pasteKeys = "post 9 with 1048576"; // V with Command, 1 << 20, alone
+
+class TextInserterTest : public testing::Test {
+protected:
+    VirtualMainQueue queue;
+    CallLog log{queue};
+    FakeAccessibilityRight right{log};
+    FakePasteboard pasteboard{log, queue};
+    FakeKeyPoster poster{log};
+    std::unique_ptr<TextInserter> inserter =
+        std::make_unique<TextInserter>(TextInserter::Services{right, pasteboard, poster, queue});
+};
+
+TEST_F(TextInserterTest, SavesPutsPostsAndRestoresInOrder) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(u"text"_s);
+    queue.advance(1s);
+    EXPECT_EQ(
+        log.calls(),
+        (Calls{
+            {0ms, "isTrusted"},
+            {0ms, "save"},
+            {0ms, "clear"},
+            {0ms, "setString passing \"text\""},
+            {0ms, pasteKeys},
+            {600ms, "clear"},
+            {600ms, "write"}}));
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    EXPECT_TRUE(queue.isIdle());
+}
+
+TEST_F(TextInserterTest, TextStandsOnThePasteboardUntilTheRestore) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(u"text"_s);
+    queue.advance(599ms);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"text"_s));
+    queue.advance(1ms);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+}
+
+TEST_F(TextInserterTest, EmptyPasteboardIsLeftEmpty) {
+    inserter->insert(u"text"_s);
+    queue.advance(1s);
+    EXPECT_EQ(pasteboard.contents(), PasteboardContents());
+    EXPECT_EQ(log.calls().back(), (CallLog::Call{600ms, "clear"}));
+}
+
+TEST_F(TextInserterTest, SeveralItemsComeBackAsOneWithTheTypesOfAll) {
+    const auto files = u"text/uri-list"_s;
+    const auto text = u"text/plain"_s;
+    pasteboard.setContents(
+        {{{pasteboardEntry(files, "file:///a"), pasteboardEntry(text, "a")},
+          {pasteboardEntry(files, "file:///b")}},
+         std::nullopt});
+    inserter->insert(u"text"_s);
+    queue.advance(1s);
+    const PasteboardItem merged{pasteboardEntry(files, "file:///b"), pasteboardEntry(text, "a")};
+    EXPECT_EQ(pasteboard.contents(), (PasteboardContents{{merged}, std::nullopt}));
+}
+
+TEST_F(TextInserterTest, WithoutTheRightItOnlyAsksForIt) {
+    right.setTrusted(false);
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(u"text"_s);
+    queue.advance(1s);
+    EXPECT_EQ(log.calls(), (Calls{{0ms, "isTrusted"}, {0ms, "prompt"}}));
+    inserter->insert(u"text"_s);
+    EXPECT_EQ(log.calls().size(), 4U);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+}
+
+TEST_F(TextInserterTest, EmptyTextIsInsertedAllTheSame) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(QString());
+    queue.run();
+    EXPECT_EQ(pasteboard.contents(), plainText(QString()));
+    EXPECT_EQ(log.calls().back().what, pasteKeys);
+    queue.advance(600ms);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+}
+
+TEST_F(TextInserterTest, KeysThatCannotBePostedChangeNothingElse) {
+    for (const auto outcome : {PostOutcome::NoSuchKey, PostOutcome::Unavailable}) {
+        poster.setOutcome(outcome);
+        pasteboard.setContents(plainText(u"mine"_s));
+        inserter->insert(u"text"_s);
+        queue.run();
+        EXPECT_EQ(pasteboard.contents(), plainText(u"text"_s));
+        queue.advance(600ms);
+        EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    }
+}
+
+TEST_F(TextInserterTest, SlowOwnerDelaysTheTextButNotItsStay) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    pasteboard.setSaveDelay(300ms);
+    inserter->insert(u"text"_s);
+    queue.advance(2s);
+    EXPECT_EQ(
+        log.calls(),
+        (Calls{
+            {0ms, "isTrusted"},
+            {0ms, "save"},
+            {300ms, "clear"},
+            {300ms, "setString passing \"text\""},
+            {300ms, pasteKeys},
+            {900ms, "clear"},
+            {900ms, "write"}}));
+}
+
+TEST_F(TextInserterTest, OverlappingInsertionSavesTheTextOfTheEarlierOne) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(u"first"_s);
+    queue.advance(300ms);
+    inserter->insert(u"second"_s);
+    queue.advance(300ms); // the first restore
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    queue.advance(300ms); // the second one
+    EXPECT_EQ(pasteboard.contents(), plainText(u"first"_s));
+    EXPECT_TRUE(queue.isIdle());
+}
+
+TEST_F(TextInserterTest, SecondPasteboardIsGivenBackToo) {
+    const PasteboardItem marked{pasteboardEntry(u"UTF8_STRING"_s, "marked")};
+    const PasteboardContents before{{}, marked};
+    pasteboard.setContents(before);
+    inserter->insert(u"text"_s);
+    queue.advance(1s);
+    EXPECT_EQ(pasteboard.contents(), before);
+}
+
+TEST_F(TextInserterTest, FinishRestoresAtOnceAndOnlyOnce) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(u"text"_s);
+    queue.advance(100ms);
+    inserter->finish();
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    const auto calls = log.calls().size();
+    queue.advance(1s);
+    EXPECT_EQ(log.calls().size(), calls);
+}
+
+TEST_F(TextInserterTest, FinishGivesUpAnInsertionThatIsStillSaving) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    pasteboard.setSaveDelay(300ms);
+    inserter->insert(u"text"_s);
+    inserter->finish();
+    queue.advance(1s);
+    EXPECT_EQ(log.calls(), (Calls{{0ms, "isTrusted"}, {0ms, "save"}}));
+}
+
+TEST_F(TextInserterTest, InserterThatIsGoneTouchesNothing) {
+    inserter->insert(u"text"_s);
+    inserter.reset();
+    queue.advance(1s);
+    EXPECT_EQ(log.calls(), (Calls{{0ms, "isTrusted"}, {0ms, "save"}}));
+}
+
+} // namespace
+} // namespace quorvane
