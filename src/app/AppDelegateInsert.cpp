@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include <app/AppDelegate.h>
+#include <app/Panel.h>
+#include <delivery/CopyText.h>
+
+namespace quorvane {
+
+namespace {
+
+// Time for the panel to be gone before the other application is asked to the front ...
+constexpr Seconds activationDelay{0.08};
+// ... and for that application to take the keyboard focus before the keys come.
+constexpr Seconds pasteDelay{0.12};
+
+} // namespace
+
+void AppDelegate::performInsert() {
+    const auto text = m_model.formattedOutput();
+    orderOutPanel();
+    m_insertSteps.run(m_environment.mainQueue, activationDelay, [this, text] {
+        activatePreviousApplication();
+        m_insertSteps.run(
+            m_environment.mainQueue, pasteDelay, [this, text] { m_inserter.insert(text); });
+    });
+}
+
+void AppDelegate::performCopy() {
+    copyText(*m_environment.platform.pasteboard, m_model.formattedOutput());
+}
+
+void AppDelegate::activatePreviousApplication() {
+    if (m_previousFrontmostApp)
+        m_environment.platform.workspace->activate(*m_previousFrontmostApp);
+}
+
+} // namespace quorvane

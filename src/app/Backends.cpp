@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include <app/Backends.h>
+#include <platform_null/NullServices.h>
+#include <platform_x11/X11Services.h>
+
+#include <QLoggingCategory>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
+
+bool wantsX11(const QString& forced, const QString& qtPlatform) {
+    return forced == "x11"_L1 || (forced != "null"_L1 && qtPlatform == "xcb"_L1);
+}
+
+} // namespace
+
+PlatformServices
+makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue) {
+    if (wantsX11(forced, qtPlatform)) {
+        if (auto services = makeX11Services(queue))
+            return *std::move(services);
+    }
+    qCInfo(
+        lcBackend,
+        "no services of a desktop: \"%ls\" on \"%ls\"",
+        qUtf16Printable(forced),
+        qUtf16Printable(qtPlatform));
+    return makeNullServices(queue);
+}
+
+} // namespace quorvane

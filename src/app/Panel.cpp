@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include <app/Panel.h>
+#include <app/PanelPlacement.h>
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <utility>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+Panel::Panel(QWidget* content)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      m_content(content),
+      m_fittingHeight(0) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowTitle(u"Quorvane"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->addWidget(content);
+    setFixedWidth(panelplacement::contentWidth);
+    m_fittingHeight = fittingHeight();
+}
+
+int Panel::fittingHeight() const {
+    m_content->ensurePolished();
+    const int width = panelplacement::contentWidth;
+    const auto* layout = m_content->layout();
+    return layout != nullptr && layout->hasHeightForWidth() ? layout->heightForWidth(width)
+                                                            : m_content->sizeHint().height();
+}
+
+bool Panel::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest) {
+        const int before = std::exchange(m_fittingHeight, fittingHeight());
+        if (before != m_fittingHeight)
+            Q_EMIT fittingHeightChanged();
+    }
+    return handled;
+}
+
+void Panel::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    Q_EMIT frameChanged();
+}
+
+void Panel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    Q_EMIT frameChanged();
+}
+
+void Panel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
+        windowHandle()->startSystemMove();
+}
+
+// A window manager's close hides the panel as its own button does; it is kept for the next time.
+void Panel::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    hide();
+}
+
+void Panel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+} // namespace quorvane

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include <app/PanelPlacement.h>
+
+#include <algorithm>
+
+namespace quorvane::panelplacement {
+
+int contentHeight(int fittingHeight) {
+    return std::max(fittingHeight, minimumContentHeight);
+}
+
+QRect centred(QSize size, const QRect& available) {
+    QRect frame(QPoint(), size);
+    frame.moveCenter(available.center());
+    frame.moveLeft(std::max(frame.left(), available.left()));
+    frame.moveTop(std::max(frame.top(), available.top()));
+    return frame;
+}
+
+std::optional<QRect> restored(const std::optional<QRect>& stored) {
+    if (!stored)
+        return std::nullopt;
+    return QRect(stored->topLeft(), QSize(contentWidth, stored->height()));
+}
+
+bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas) {
+    return std::ranges::any_of(
+        availableAreas, [&](const QRect& area) { return area.intersects(frame); });
+}
+
+QRect resized(const QRect& frame, int height, const QRect& available) {
+    QRect grown(frame.topLeft(), QSize(frame.width(), height));
+    const int overhang = grown.bottom() - available.bottom();
+    const bool wasInside = frame.bottom() <= available.bottom();
+    if (wasInside && overhang > 0)
+        grown.moveTop(std::max(available.top(), grown.top() - overhang));
+    return grown;
+}
+
+} // namespace quorvane::panelplacement

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+
+#include <optional>
+#include <vector>
+
+namespace quorvane {
+
+/// Where the panel goes. All rectangles in points of the virtual desktop.
+namespace panelplacement {
+
+inline constexpr int contentWidth = 504;
+inline constexpr int minimumContentHeight = 300;
+
+/// The height for content that needs `fittingHeight`.
+[[nodiscard]] int contentHeight(int fittingHeight);
+
+/// Of the panel's size, in the middle of the screen's available area; clamped to its top left
+/// corner where the area is smaller.
+[[nodiscard]] QRect centred(QSize size, const QRect& available);
+
+/// The stored frame with the width that the content has today; none without a stored frame.
+[[nodiscard]] std::optional<QRect> restored(const std::optional<QRect>& stored);
+
+/// Whether any of the areas shows a piece of the panel.
+[[nodiscard]] bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas);
+
+/// The frame at another height: its top left corner stays, unless it would then leave the area that
+/// it was inside.
+[[nodiscard]] QRect resized(const QRect& frame, int height, const QRect& available);
+
+} // namespace panelplacement
+
+} // namespace quorvane

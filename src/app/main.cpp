@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include <app/AppDelegate.h>
+#include <app/Backends.h>
+#include <app/TerminationSignals.h>
+#include <foundation/DiskFileWriter.h>
+#include <foundation/JsonDefaultsStore.h>
+#include <foundation/QtMainQueue.h>
+#include <foundation/SystemCurrentZone.h>
+#include <foundation/UserFolders.h>
+#include <platform_dbus/DBusApplicationInstance.h>
+
+#include <QApplication>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+void configure(QApplication& application) {
+    application.setApplicationName(u"quorvane"_s);
+    application.setApplicationDisplayName(u"Quorvane"_s);
+    application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
+    application.setQuitOnLastWindowClosed(false);
+}
+
+int run(QApplication& application, TerminationSignals& signals, ApplicationInstance& instance) {
+    const auto environment = processEnvironment();
+    const auto folders = UserFolders::fromEnvironment(environment);
+    QtMainQueue mainQueue;
+    SystemClock clock;
+    ZoneDatabase zones;
+    SystemCurrentZone currentZone(zones, environment);
+    DiskFileWriter files;
+    JsonDefaultsStore defaults(folders.defaultsFile(), files);
+    WindowFrameStore windowFrames(folders.windowsFile(), files);
+    auto platform = makePlatformServices(
+        qEnvironmentVariable("QUORVANE_BACKEND"), QGuiApplication::platformName(), mainQueue);
+
+    AppDelegate delegate(
+        {clock,
+         defaults,
+         windowFrames,
+         currentZone,
+         zones,
+         UserLocale::fromEnvironment(environment),
+         mainQueue,
+         platform});
+    instance.onReopen([&] { delegate.surfaceMainUIForReopen(); });
+    instance.onAction([&](const QString& name) { delegate.performAction(name); });
+    signals.onSignal([&] { delegate.terminate(); });
+    mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
+    return application.exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    TerminationSignals signals;
+    QApplication application(argc, argv);
+    configure(application);
+    DBusApplicationInstance instance;
+    // The model writes settings when it is made: a second process must not come that far.
+    if (instance.claim() == ApplicationInstance::Role::Second)
+        return 0;
+    return run(application, signals, instance);
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusAbstractAdaptor>
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace quorvane {
+
+/// org.freedesktop.Application, by which a desktop activates a program that runs (Desktop Entry
+/// Specification, "D-Bus Activation").
+class FreedesktopApplication final : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    /// Why this process runs. One that the bus started gets the request that it was started for as
+    /// its first; a start shows the interface, so that a "toggle" must not hide it again.
+    enum class Start { ByUser, ByBus };
+
+    FreedesktopApplication(Start start, QObject* parent);
+
+    void setReopenHandler(std::function<void()> handler);
+    void setActionHandler(std::function<void(const QString&)> handler);
+
+public Q_SLOTS: // the methods of the interface, with its spelling
+    // NOLINTBEGIN(readability-identifier-naming)
+    void Activate(const QVariantMap& platformData);
+    void Open(const QStringList& uris, const QVariantMap& platformData);
+    void ActivateAction(
+        const QString& actionName, const QVariantList& parameter, const QVariantMap& platformData);
+    // NOLINTEND(readability-identifier-naming)
+
+private:
+    /// True at the first request of a process that the bus started.
+    [[nodiscard]] bool takeStart();
+    void reopen();
+
+    bool m_startPending;
+    std::function<void()> m_reopen;
+    std::function<void(const QString&)> m_action;
+};
+
+} // namespace quorvane

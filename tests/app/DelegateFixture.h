@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <app/AppDelegate.h>
+#include <app/Panel.h>
+#include <fakes/CallLog.h>
+#include <fakes/FakeAccessibilityRight.h>
+#include <fakes/FakeEventTaps.h>
+#include <fakes/FakeKeyPoster.h>
+#include <fakes/FakeKeyboardLayout.h>
+#include <fakes/FakePasteboard.h>
+#include <fakes/FakeWindowTraits.h>
+#include <fakes/FakeWorkspace.h>
+#include <fakes/FixedClock.h>
+#include <fakes/FixedCurrentZone.h>
+#include <fakes/MemoryDefaults.h>
+#include <foundation/DiskFileWriter.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// A delegate in a world of fakes, on a virtual clock, at 2024-03-09T22:05:00Z in New York.
+class DelegateFixture : public testing::Test {
+protected:
+    static constexpr KeyPress shortcut{2, modifier::control | modifier::shift | modifier::command};
+
+    DelegateFixture() { makeDelegate(); }
+
+    // Pending triggers keep the monitor, which must not outlive its services.
+    void TearDown() override {
+        delegate.reset();
+        queue.run();
+    }
+
+    void makeDelegate() {
+        delegate.reset();
+        platform = makeFakes();
+        m_frames = std::make_unique<WindowFrameStore>(
+            m_folder.filePath(QStringLiteral("windows.json")), m_files);
+        delegate = std::make_unique<AppDelegate>(AppDelegate::Environment{
+            clock,
+            defaults,
+            *m_frames,
+            currentZone,
+            zones,
+            UserLocale::named(QStringLiteral("en_US")),
+            queue,
+            platform});
+    }
+
+    void launch() { delegate->applicationDidFinishLaunching(); }
+
+    void pressShortcut() {
+        EXPECT_EQ(taps->press(shortcut), TapVerdict::Swallow);
+        queue.run();
+    }
+
+    /// Launched, hidden, and called again while the application was in front.
+    void showOver(const RunningApplication& application) {
+        launch();
+        pressShortcut();
+        workspace->setFront(application);
+        pressShortcut();
+    }
+
+    [[nodiscard]] std::chrono::milliseconds elapsed() const {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(queue.now());
+    }
+
+    [[nodiscard]] WindowFrameStore& frames() { return *m_frames; }
+
+    [[nodiscard]] static QWidget* window(const QString& title) {
+        for (auto* widget : QApplication::topLevelWidgets()) {
+            if (widget->windowTitle() == title)
+                return widget;
+        }
+        return nullptr;
+    }
+
+    [[nodiscard]] static QWidget* panel() { return window(QStringLiteral("Quorvane")); }
+
+    VirtualMainQueue queue;
+    CallLog log{queue};
+    ZoneDatabase zones;
+    FixedClock clock{Instant{1710021900}};
+    FixedCurrentZone currentZone{*zones.zone(QStringLiteral("America/New_York"))};
+    MemoryDefaults defaults;
+    FakeEventTaps* taps = nullptr;
+    FakePasteboard* pasteboard = nullptr;
+    FakeWorkspace* workspace = nullptr;
+    PlatformServices platform;
+    std::unique_ptr<AppDelegate> delegate;
+
+private:
+    PlatformServices makeFakes() {
+        auto eventTaps = std::make_unique<FakeEventTaps>(log);
+        auto board = std::make_unique<FakePasteboard>(log, queue);
+        auto space = std::make_unique<FakeWorkspace>(log);
+        taps = eventTaps.get();
+        pasteboard = board.get();
+        workspace = space.get();
+        return {
+            std::make_unique<FakeAccessibilityRight>(log),
+            std::move(eventTaps),
+            std::make_unique<FakeKeyPoster>(log),
+            std::move(board),
+            std::move(space),
+            std::make_unique<FakeKeyboardLayout>(),
+            std::make_unique<FakeWindowTraits>(log)};
+    }
+
+    QTemporaryDir m_folder;
+    DiskFileWriter m_files;
+    std::unique_ptr<WindowFrameStore> m_frames;
+};
+
+} // namespace quorvane
