@@ -1,0 +1,65 @@
+# SPDX-License-Identifier: MIT
+"""The common ground of the desktop's test cases."""
+
+import os
+import sys
+import unittest
+
+from .clipboard import Clipboard
+from .keys import INSERT, SHORTCUT, Keyboard
+from .quorvane import Quorvane
+from .session import Session
+from .targets import EDITORS, Editor, Target
+
+_NO_WINDOW_MANAGER = "none"
+
+
+class DesktopCase(unittest.TestCase):
+    """A fresh session for each test, under the window manager that QUORVANE_TEST_WM names."""
+
+    maxDiff = None
+    session: Session
+
+    def run(self, result: unittest.TestResult | None = None) -> unittest.TestResult | None:
+        """Runs the test inside its session, and shows the session's logs if it fails."""
+        name = os.environ.get("QUORVANE_TEST_WM", "openbox")
+        with Session(None if name == _NO_WINDOW_MANAGER else name) as self.session:
+            before = _troubles(result)
+            outcome = super().run(result)
+            if _troubles(result) > before:
+                print(self.session.logs(), file=sys.stderr)
+        return outcome
+
+    def setUp(self) -> None:
+        self.keyboard = Keyboard(self.session.display)
+        self.addCleanup(self.keyboard.close)
+        self.clipboard = Clipboard(self.session)
+        self.addCleanup(self.clipboard.close)
+
+    def editor(self, name: str = "mousepad") -> Editor:
+        """An open editor with the focus."""
+        return Editor(self.session, EDITORS[name])
+
+    def hidden_quorvane(self) -> Quorvane:
+        """A running Quorvane that waits for its shortcut."""
+        quorvane = Quorvane(self.session)
+        quorvane.hide()
+        return quorvane
+
+    def summon(self, quorvane: Quorvane) -> None:
+        """Presses the shortcut and waits for the panel."""
+        self.keyboard.tap(*SHORTCUT)
+        quorvane.wait_active()
+
+    def insert(self, quorvane: Quorvane, target: Target) -> str:
+        """Walks the road from the shortcut to the text in the target, and returns the text."""
+        before = target.text()
+        self.summon(quorvane)
+        text = quorvane.preview()
+        self.keyboard.tap(*INSERT)
+        target.wait_text(before + text)
+        return text
+
+
+def _troubles(result: unittest.TestResult | None) -> int:
+    return len(result.errors) + len(result.failures) if result else 0

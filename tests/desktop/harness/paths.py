@@ -1,0 +1,11 @@
+# SPDX-License-Identifier: MIT
+"""Where the tree and what is built of it lie."""
+
+import os
+from pathlib import Path
+
+TREE = Path(__file__).resolve().parents[3]
+"""The checkout."""
+
+PROGRAM = Path(os.environ.get("QUORVANE_PROGRAM", TREE / "build" / "quorvane"))
+"""The program under test; QUORVANE_PROGRAM names another one than the tree's build."""

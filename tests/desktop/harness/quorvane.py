@@ -1,0 +1,92 @@
+# SPDX-License-Identifier: MIT
+"""The program under test, run and driven as a user and a desktop would."""
+
+import subprocess
+from pathlib import Path
+
+from .accessible import Accessible
+from .expected import ZONE
+from .message_bus import MessageBus
+from .paths import PROGRAM
+from .session import Session
+from .waiting import wait_until
+
+_NAME = "org.quorvane.Quorvane"
+_PATH = "/org/quorvane/Quorvane"
+_INTERFACE = "org.freedesktop.Application"
+
+_ENVIRONMENT = {"QUORVANE_BACKEND": "x11", "LANG": "en_US.UTF-8", "TZ": ZONE}
+
+
+class Quorvane:
+    """One run of the program in a session."""
+
+    def __init__(self, session: Session, **environment: str) -> None:
+        self._session = session
+        self._environment = _ENVIRONMENT | environment
+        self.process = self.launch()
+
+    def launch(self) -> subprocess.Popen[bytes]:
+        """Starts the program once more, as a launcher's icon does."""
+        return self._session.start([str(PROGRAM)], self._environment)
+
+    def panel(self) -> int | None:
+        """The panel's window while it shows."""
+        return self._session.windows.of_process(self.process.pid, "Quorvane")
+
+    def is_active(self) -> bool:
+        """Whether the panel shows and has the keyboard."""
+        return self._active_panel() is not None
+
+    def wait_active(self) -> int:
+        """Waits until the panel shows and has the keyboard, and returns its window."""
+        return self._session.windows.wait(self._active_panel, "the panel to be active")
+
+    def wait_hidden(self) -> None:
+        """Waits until the panel does not show."""
+        self._session.windows.wait(lambda: self.panel() is None, "the panel to be hidden")
+
+    def hide(self) -> None:
+        """Hides the panel, which every start shows."""
+        self.wait_active()
+        self.action("toggle")
+        self.wait_hidden()
+
+    def action(self, name: str) -> None:
+        """What a desktop's own key binding calls: toggle, insert, copy, preferences, quit."""
+        self._call("ActivateAction", "(sava{sv})", name, [], {})
+
+    def activate(self) -> None:
+        """What a desktop calls when the user opens the running program again."""
+        self._call("Activate", "(a{sv})", {})
+
+    def quit(self) -> int:
+        """Ends the program in its own way and returns its exit status."""
+        self.action("quit")
+        return self.process.wait(10)
+
+    def tree(self) -> Accessible:
+        """The program's accessible tree."""
+        return self._session.accessibility.application(self.process.pid)
+
+    def preview(self) -> str:
+        """The text that the panel shows as its result."""
+        return self.tree().find("Preview").text
+
+    def _active_panel(self) -> int | None:
+        panel = self.panel()
+        return panel if self._session.windows.active() == panel else None
+
+    def _call(self, method: str, signature: str, *values: object) -> None:
+        bus = MessageBus(self._session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        try:
+            # The first window may be there before the name is.
+            wait_until(lambda: bus.has_owner(_NAME), f"{_NAME} on the bus")
+            bus.call(_NAME, _PATH, _INTERFACE, method, signature, *values)
+        finally:
+            bus.close()
+
+
+def settings_file(session: Session) -> Path:
+    """Where the program keeps the settings of a session's user."""
+    return session.directory("config") / "quorvane" / "defaults.json"

@@ -1,0 +1,58 @@
+# SPDX-License-Identifier: MIT
+"""A session bus that starts the few services a test needs, and no others."""
+
+import os
+from collections.abc import Mapping
+from pathlib import Path
+
+from .processes import Processes
+
+_SERVICES = Path("/usr/share/dbus-1/services")
+
+# Portals and the like start by themselves on a full bus and fall over without a desktop. The
+# accessibility bus is how the tests see; xfwm4 and xfce4-panel do not run without their settings.
+_ACTIVATABLE = ("org.a11y.Bus.service", "org.xfce.Xfconf.service")
+
+_CONFIGURATION = """\
+<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path={socket}</listen>
+  <auth>EXTERNAL</auth>
+  <servicedir>{services}</servicedir>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+
+def start(processes: Processes, environment: Mapping[str, str], directory: Path) -> str:
+    """Starts the daemon with its files in `directory` and returns the bus's address.
+
+    `environment` holds DISPLAY already: the services inherit it.
+    """
+    services = directory / "services"
+    services.mkdir()
+    for name in _ACTIVATABLE:
+        if (_SERVICES / name).exists():
+            (services / name).symlink_to(_SERVICES / name)
+    configuration = directory / "session.conf"
+    configuration.write_text(
+        _CONFIGURATION.format(socket=directory / "socket", services=services)
+    )
+    reading, writing = os.pipe()
+    try:
+        processes.start(
+            ["dbus-daemon", f"--config-file={configuration}", "--nofork"]
+            + [f"--print-address={writing}"],
+            environment,
+            pass_fds=[writing],
+        )
+    finally:
+        os.close(writing)
+    with os.fdopen(reading) as announcement:
+        return announcement.readline().strip()

@@ -1,0 +1,69 @@
+# SPDX-License-Identifier: MIT
+"""Foreign programs that texts are inserted into."""
+
+from abc import ABC, abstractmethod
+from collections.abc import Sequence
+
+from .session import Session
+from .waiting import wait_until
+
+
+class Target(ABC):
+    """A program with an active window, and a way to read what arrived in it."""
+
+    def __init__(self, session: Session, command: Sequence[str]) -> None:
+        self._session = session
+        self.process = session.start(command)
+        windows = session.windows
+        self.window = windows.wait(
+            lambda: windows.of_process(self.process.pid), f"a window of {command[0]}"
+        )
+        self.focus()
+
+    @abstractmethod
+    def text(self) -> str:
+        """Everything that has arrived."""
+
+    def focus(self) -> None:
+        """Makes the program the one the user works in."""
+        self._session.windows.activate(self.window)
+
+    def wait_active(self) -> None:
+        """Waits until the program has the keyboard again."""
+        windows = self._session.windows
+        windows.wait(lambda: windows.active() == self.window, "the focus to come back")
+
+    def wait_text(self, *texts: str) -> None:
+        """Waits until exactly one of these texts has arrived."""
+        wait_until(lambda: self.text() in texts, f"{texts} to arrive, not {self.text()!r}")
+
+
+class Editor(Target):
+    """An editor whose text is read out of its process by AT-SPI."""
+
+    def __init__(self, session: Session, command: Sequence[str]) -> None:
+        super().__init__(session, command)
+        self._editor = session.accessibility.application(self.process.pid).find_editor()
+
+    def text(self) -> str:
+        return self._editor.text
+
+
+class Terminal(Target):
+    """xterm, whose terminal line goes into a file untouched."""
+
+    def __init__(self, session: Session) -> None:
+        self._typed = session.root / "typed"
+        self._typed.touch()
+        command = ["sh", "-c", 'stty raw -echo; exec cat >"$0"', str(self._typed)]
+        super().__init__(session, ["xterm", "-e", *command])
+
+    def text(self) -> str:
+        return self._typed.read_text()
+
+
+EDITORS = {
+    "mousepad": ["mousepad", "--disable-server"],
+    "featherpad": ["featherpad", "--standalone"],
+}
+"""A GTK editor and a Qt editor, by name, with the command that starts a process of its own."""

@@ -1,0 +1,174 @@
+# SPDX-License-Identifier: MIT
+"""The windows of a session as its X server and its window manager report them."""
+
+import select
+from collections.abc import Callable
+from typing import TypeVar
+
+from Xlib import X
+from Xlib.display import Display
+from Xlib.error import XError
+from Xlib.protocol.event import ClientMessage
+from Xlib.xobject.drawable import Window
+
+from .waiting import PATIENCE, Deadline, Timeout, wait_until
+
+Result = TypeVar("Result")
+
+
+class Windows:
+    """Observes one display: every wait ends with the event that fulfils it."""
+
+    def __init__(self, display: str) -> None:
+        self._display = Display(display)
+        self._root = self._display.screen().root
+        self._root.change_attributes(
+            event_mask=X.PropertyChangeMask | X.SubstructureNotifyMask
+        )
+
+    def close(self) -> None:
+        """Ends the connection."""
+        self._display.close()
+
+    def wait(
+        self, condition: Callable[[], Result | None], what: str, seconds: float = PATIENCE
+    ) -> Result:
+        """Asks anew whenever something happens to a window, until the answer is true."""
+        deadline = Deadline(what, seconds)
+        while True:
+            for _ in range(self._display.pending_events()):
+                self._display.next_event()
+            if result := condition():
+                return result
+            try:
+                self._wait_for_event(deadline)
+            except Timeout as timeout:
+                timeout.add_note(self.describe())
+                raise
+
+    def describe(self) -> str:
+        """The windows on the screen in words, for whoever looks into a failure."""
+        active = self.active()
+        lines = (
+            f"{window:#x} {self.title(window)!r} {self.wm_class(window)}"
+            f"{' is active' if window == active else ''}"
+            for window in self.shown()
+        )
+        return "Windows:\n" + "\n".join(lines)
+
+    def is_managed(self) -> bool:
+        """Whether a window manager of the EWMH kind is at work."""
+        check = self._first(self._root, "_NET_SUPPORTING_WM_CHECK")
+        return bool(check) and self._first(self._window(check), "_NET_SUPPORTING_WM_CHECK") == check
+
+    def wait_for_manager(self) -> None:
+        """Waits until a window manager is at work.
+
+        One that is starting announces itself before it listens, and what happens in between is
+        lost: windows stay unmapped or without the focus. That it answers a request, and that a
+        window of ours then gets the focus, is what tells that it has started.
+        """
+        self.wait(self.is_managed, "a window manager")
+        probe = self._root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+
+        def answers() -> bool:
+            self._send_to_manager(probe, "_NET_REQUEST_FRAME_EXTENTS", [0, 0, 0, 0, 0])
+            return self._property(probe, "_NET_FRAME_EXTENTS") is not None
+
+        wait_until(answers, "an answer from the window manager")
+        probe.map()
+        self.wait(lambda: probe.id in self.shown(), "the window manager to show a window")
+        self.activate(probe.id)
+        probe.destroy()
+        self.wait(lambda: probe.id not in self.shown(), "the window manager to forget a window")
+
+    def shown(self) -> list[int]:
+        """The application windows on the screen, oldest first."""
+        if self.is_managed():
+            return self._cardinals(self._root, "_NET_CLIENT_LIST")
+        children = (child.id for child in self._root.query_tree().children)
+        return [window for window in children if self._is_viewable(window)]
+
+    def active(self) -> int | None:
+        """The window that has the user's attention."""
+        if self.is_managed():
+            return self._first(self._root, "_NET_ACTIVE_WINDOW")
+        focus = self._display.get_input_focus().focus
+        return focus.id if isinstance(focus, Window) and focus != self._root else None
+
+    def of_process(self, pid: int, title: str | None = None) -> int | None:
+        """The first shown window of a process, and of a title where one is asked for."""
+        for window in self.shown():
+            if self._first(self._window(window), "_NET_WM_PID") == pid:
+                if title is None or self.title(window) == title:
+                    return window
+        return None
+
+    def title(self, window: int) -> str:
+        """A window's title; empty where it has none, or is gone."""
+        value = self._property(self._window(window), "_NET_WM_NAME")
+        return bytes(value).decode() if value is not None else ""
+
+    def wm_class(self, window: int) -> tuple[str, str] | None:
+        """A window's instance and class names."""
+        try:
+            return self._window(window).get_wm_class()
+        except XError:
+            return None
+
+    def states(self, window: int) -> set[str]:
+        """The EWMH states of a window, by name."""
+        atoms = self._cardinals(self._window(window), "_NET_WM_STATE")
+        return {self._display.get_atom_name(atom) for atom in atoms}
+
+    def focus(self, window: int) -> None:
+        """Gives a window the keyboard as a session without a window manager does."""
+        self._window(window).set_input_focus(X.RevertToPointerRoot, X.CurrentTime)
+        self._display.sync()
+
+    def activate(self, window: int) -> None:
+        """Brings a window to the front as a taskbar does, and waits until it is there."""
+        if not self.is_managed():
+            self.focus(window)
+        else:
+            source_is_pager = 2
+            values = [source_is_pager, X.CurrentTime, 0, 0, 0]
+            self._send_to_manager(self._window(window), "_NET_ACTIVE_WINDOW", values)
+        self.wait(lambda: self.active() == window, "the window to be active")
+
+    def _wait_for_event(self, deadline: Deadline) -> None:
+        # The question asked before may have read the event into the client's queue already.
+        if not self._display.pending_events():
+            select.select([self._display], [], [], deadline.remaining())
+
+    def _send_to_manager(self, window: Window, name: str, values: list[int]) -> None:
+        message = ClientMessage(
+            window=window, client_type=self._display.get_atom(name), data=(32, values)
+        )
+        mask = X.SubstructureRedirectMask | X.SubstructureNotifyMask
+        self._root.send_event(message, event_mask=mask)
+        self._display.flush()
+
+    def _window(self, window: int) -> Window:
+        return self._display.create_resource_object("window", window)
+
+    def _property(self, window: Window, name: str) -> object | None:
+        try:
+            answer = window.get_full_property(self._display.get_atom(name), X.AnyPropertyType)
+        except XError:
+            return None
+        return answer.value if answer else None
+
+    def _cardinals(self, window: Window, name: str) -> list[int]:
+        value = self._property(window, name)
+        return [int(item) for item in value] if value is not None else []
+
+    def _first(self, window: Window, name: str) -> int | None:
+        values = self._cardinals(window, name)
+        return values[0] if values and values[0] else None
+
+    def _is_viewable(self, window: int) -> bool:
+        try:
+            return self._window(window).get_attributes().map_state == X.IsViewable
+        except XError:
+            return False

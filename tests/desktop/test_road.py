@@ -1,0 +1,47 @@
+# SPDX-License-Identifier: MIT
+"""From the shortcut to the text in the application, twenty times in a row."""
+
+from harness.case import DesktopCase
+from harness.expected import long_form, now
+from harness.keys import Key
+from harness.offer import plain_text
+
+_ROUNDS = 20
+
+
+class Road(DesktopCase):
+    """The way that every insertion takes."""
+
+    def test_every_text_arrives_in_a_gtk_editor(self) -> None:
+        self.walk("mousepad")
+
+    def test_every_text_arrives_in_a_qt_editor(self) -> None:
+        self.walk("featherpad")
+
+    def test_shift_that_the_user_still_holds_does_not_reach_the_paste(self) -> None:
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.focus()
+        self.summon(quorvane)
+        text = quorvane.preview()
+        with self.keyboard.held(Key.SHIFT):
+            quorvane.tree().find_role("push button", "Insert").press()
+            editor.wait_text(text)
+        self.keyboard.tap(Key.D)
+        editor.wait_text(text + "d")
+
+    def walk(self, name: str) -> None:
+        had = plain_text("what the user had copied")
+        editor = self.editor(name)
+        before = now()
+        quorvane = self.hidden_quorvane()
+        # The program composes the minute of its start, which may end while it starts.
+        possible = {long_form(before), long_form(now())}
+        # Where no window manager gives the focus back after the first panel, the user takes it.
+        editor.focus()
+        self.clipboard.own(had)
+        for _ in range(_ROUNDS):
+            self.assertIn(self.insert(quorvane, editor), possible)
+            quorvane.wait_hidden()
+            editor.wait_active()
+            self.clipboard.wait_for(had)
