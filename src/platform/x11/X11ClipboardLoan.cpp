@@ -69,22 +69,29 @@ void X11ClipboardLoan::refreshQtTime(const QWindow& window) {
     m_connection->flush();
 }
 
+// Qt takes note of an event's time after its filters: we lend before the next event, which may be
+// the key that pastes, or else on the next turn.
 bool X11ClipboardLoan::nativeEventFilter(const QByteArray& kind, void* message, qintptr*) {
     if (kind != "xcb_generic_event_t")
         return false;
+    lend();
     const auto* change =
         eventAs<xcb_property_notify_event_t>(*static_cast<const xcb_generic_event_t*>(message));
-    // Qt takes note of the time after its filters.
-    if (change != nullptr && change->atom == m_connection->atom(timeProperty))
-        m_lending = m_queue.after(Seconds(0), [this, time = change->time] { lend(time); });
+    if (change != nullptr && change->atom == m_connection->atom(timeProperty)) {
+        m_qtTime = change->time;
+        m_lending = m_queue.after(Seconds(0), [this] { lend(); });
+    }
     return false;
 }
 
-void X11ClipboardLoan::lend(xcb_timestamp_t qtTime) {
+void X11ClipboardLoan::lend() {
+    const auto qtTime = std::exchange(m_qtTime, std::nullopt);
     const auto* content = m_clipboard.content();
-    const bool isLaterThanOurs = static_cast<std::int32_t>(qtTime - m_clipboard.since()) >= 0;
     const bool isWanted = !m_isSuspended && QGuiApplication::focusWindow() != nullptr;
-    if (content != nullptr && isLaterThanOurs && isWanted)
+    if (!qtTime || content == nullptr || !isWanted)
+        return;
+    const bool isLaterThanOurs = static_cast<std::int32_t>(*qtTime - m_clipboard.since()) >= 0;
+    if (isLaterThanOurs)
         QGuiApplication::clipboard()->setMimeData(new X11LentData(content->item()));
 }
 

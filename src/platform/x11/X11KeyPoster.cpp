@@ -8,9 +8,9 @@
 #include <QLoggingCategory>
 #include <xcb/xtest.h>
 
+#include <algorithm>
 #include <array>
 #include <climits>
-#include <ranges>
 #include <utility>
 
 namespace quorvane {
@@ -143,8 +143,8 @@ void X11KeyPoster::type(const Keys& keys) {
             requests.push_back(fake(XCB_KEY_RELEASE, key));
         for (const auto key : keys)
             requests.push_back(fake(XCB_KEY_PRESS, key));
-        for (const auto key : keys | std::views::reverse)
-            requests.push_back(fake(XCB_KEY_RELEASE, key));
+        for (auto key = keys.rbegin(); key != keys.rend(); ++key)
+            requests.push_back(fake(XCB_KEY_RELEASE, *key));
         m_postedKeys->note(requests.front(), requests.back());
     }
     m_connection->waitForServer();

@@ -15,7 +15,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcDelivery, "quorvane.pasteboard.delivery", QtFatalMsg)
 
 // Large enough that few round trips are needed, small enough to leave the server to others.
-constexpr qsizetype preferredPiece = 256 * 1024;
+constexpr qsizetype preferredPiece = 262'144;
 
 qsizetype largestPiece(xcb_connection_t* connection) {
     constexpr qsizetype bytesPerUnit = 4;

@@ -127,7 +127,7 @@ TEST_F(TapOnX11, FollowsAModifierThatMovesWhileItRuns) {
     setLayout(u"us"_s);
     m_keyboard.swapModifiers(XCB_MAP_INDEX_4, XCB_MAP_INDEX_3);
     // The grab follows on a later turn of the loop; until then the old one stands.
-    EXPECT_TRUE(waitUntil([this] {
+    ASSERT_TRUE(waitUntil([this] {
         m_keyboard.type(shortcutKeys);
         return !m_presses.empty();
     }));

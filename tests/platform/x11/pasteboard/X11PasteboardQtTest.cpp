@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PasteboardTest.h"
 #include "support/ForeignWindow.h"
+#include "support/Keyboard.h"
 
 #include <platform_x11/QtX11.h>
 
@@ -9,6 +10,9 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QWindow>
+
+#include <linux/input-event-codes.h>
 
 namespace quorvane {
 namespace {
@@ -20,8 +24,15 @@ class X11PasteboardQtTest : public PasteboardTest {
 protected:
     X11PasteboardQtTest() { m_field.show(); }
 
+    // Not by Qt, whose clock may be behind the last change of the focus.
     void focusOurField() {
-        m_field.activateWindow();
+        ASSERT_TRUE(waitUntil([this] { return m_field.windowHandle()->isExposed(); }));
+        xcb_set_input_focus(
+            m_connection->xcb(),
+            XCB_INPUT_FOCUS_PARENT,
+            static_cast<xcb_window_t>(m_field.winId()),
+            XCB_CURRENT_TIME);
+        m_connection->flush();
         ASSERT_TRUE(waitUntil([this] { return m_field.isActiveWindow(); }));
     }
 
@@ -106,6 +117,17 @@ TEST_F(X11PasteboardQtTest, OurTextFieldPastesAtOnceWhatWeCopiedInItsWindow) {
     m_pasteboard.setString(u"12:30"_s, TextStay::Lasting);
     ASSERT_TRUE(isQtsSoon());
     EXPECT_EQ(pasted(), u"12:30"_s);
+}
+
+TEST_F(X11PasteboardQtTest, OurTextFieldPastesByKeysThatFollowOnTheText) {
+    focusOurField();
+    m_pasteboard.setString(u"12:30"_s, TextStay::Passing);
+    Keyboard keyboard;
+    keyboard.type({KEY_LEFTCTRL, KEY_V});
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(waitUntil([this] { return m_field.text() == u"12:30"_s; }));
+    EXPECT_LT(clock.elapsed(), 1000);
 }
 
 TEST_F(X11PasteboardQtTest, OurTextFieldPastesAtOnceWhatWeHadRestoredBefore) {

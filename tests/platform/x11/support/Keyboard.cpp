@@ -9,7 +9,6 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
-#include <ranges>
 #include <string_view>
 
 #define explicit explicit_
@@ -38,9 +37,8 @@ Keyboard::Keyboard(Device device) : m_connection(xcb_connect(nullptr, nullptr)),
 }
 
 Keyboard::~Keyboard() {
-    const auto down = m_down;
-    for (const auto key : down | std::views::reverse)
-        release(key);
+    while (!m_down.empty())
+        release(m_down.back());
     xcb_disconnect(m_connection);
 }
 
@@ -57,8 +55,8 @@ void Keyboard::release(std::uint16_t evdevCode) {
 void Keyboard::type(const std::vector<std::uint16_t>& evdevCodes) {
     for (const auto key : evdevCodes)
         press(key);
-    for (const auto key : evdevCodes | std::views::reverse)
-        release(key);
+    for (auto key = evdevCodes.rbegin(); key != evdevCodes.rend(); ++key)
+        release(*key);
 }
 
 std::uint16_t Keyboard::state() const {

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class QWindow;
 
@@ -34,7 +35,7 @@ private:
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
     void follow(const QWindow* focus);
     void refreshQtTime(const QWindow& window);
-    void lend(xcb_timestamp_t qtTime);
+    void lend();
     void takeBack();
 
     std::shared_ptr<X11Connection> m_connection;
@@ -42,6 +43,7 @@ private:
     X11SelectionOwner& m_clipboard;
     bool m_isSuspended = false;
     Deadline m_following;
+    std::optional<xcb_timestamp_t> m_qtTime; ///< what Qt's clock has been set to, until we lend
     Deadline m_lending;
 };
 
