@@ -97,6 +97,7 @@ void AppDelegate::performAction(const QString& name) {
 void AppDelegate::terminate() {
     if (std::exchange(m_terminating, true))
         return;
+    Q_EMIT willTerminate();
     if (m_frameSave)
         savePanelFrame();
     m_insertSteps.cancelAll();

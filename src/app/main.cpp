@@ -18,7 +18,6 @@ using namespace quorvane;
 
 void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
-    application.setApplicationDisplayName(u"Quorvane"_s);
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
     application.setQuitOnLastWindowClosed(false);
 }
@@ -47,6 +46,7 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
          platform});
     instance.onReopen([&] { delegate.surfaceMainUIForReopen(); });
     instance.onAction([&](const QString& name) { delegate.performAction(name); });
+    QObject::connect(&delegate, &AppDelegate::willTerminate, [&] { instance.release(); });
     signals.onSignal([&] { delegate.terminate(); });
     mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
     return application.exec();

@@ -22,6 +22,9 @@ Q_LOGGING_CATEGORY(lcInstance, "quorvane.instance", QtFatalMsg)
 // A first process that hangs must not keep the second one from ending.
 constexpr std::chrono::milliseconds activationTimeout = 2s;
 
+// Each more than the first means that a process ended between two questions to the bus.
+constexpr int maxClaims = 3;
+
 // The bus says so to what it starts (D-Bus Specification, "Message Bus Starting Services").
 FreedesktopApplication::Start howStarted() {
     return qEnvironmentVariableIsSet("DBUS_STARTER_ADDRESS")
@@ -47,18 +50,26 @@ ApplicationInstance::Role DBusApplicationInstance::claim() {
     }
     // The object first: whoever sees the name may call at once.
     m_bus.registerObject(objectPath.toString(), &m_object);
-    const auto reply = m_bus.interface()->registerService(
-        serviceName.toString(),
-        QDBusConnectionInterface::DontQueueService,
-        QDBusConnectionInterface::DontAllowReplacement);
-    if (!reply.isValid()) {
-        qCInfo(lcInstance, "no name on the bus: %ls", qUtf16Printable(reply.error().message()));
-        return Role::Alone;
+    for (int attempt = 0; attempt < maxClaims; ++attempt) {
+        const auto reply = m_bus.interface()->registerService(
+            serviceName.toString(),
+            QDBusConnectionInterface::DontQueueService,
+            QDBusConnectionInterface::DontAllowReplacement);
+        if (!reply.isValid()) {
+            qCInfo(lcInstance, "no name on the bus: %ls", qUtf16Printable(reply.error().message()));
+            return Role::Alone;
+        }
+        if (reply.value() == QDBusConnectionInterface::ServiceRegistered)
+            return Role::First;
+        if (activateFirst())
+            return Role::Second;
     }
-    if (reply.value() == QDBusConnectionInterface::ServiceRegistered)
-        return Role::First;
-    activateFirst();
-    return Role::Second;
+    return Role::Alone;
+}
+
+void DBusApplicationInstance::release() {
+    if (m_bus.isConnected())
+        m_bus.interface()->unregisterService(serviceName.toString());
 }
 
 void DBusApplicationInstance::onReopen(std::function<void()> handler) {
@@ -69,7 +80,7 @@ void DBusApplicationInstance::onAction(std::function<void(const QString& name)> 
     m_application->setActionHandler(std::move(handler));
 }
 
-void DBusApplicationInstance::activateFirst() {
+bool DBusApplicationInstance::activateFirst() {
     auto call = QDBusMessage::createMethodCall(
         serviceName.toString(),
         objectPath.toString(),
@@ -77,8 +88,11 @@ void DBusApplicationInstance::activateFirst() {
         u"Activate"_s);
     call << QVariantMap{};
     const auto reply = m_bus.call(call, QDBus::Block, static_cast<int>(activationTimeout.count()));
-    if (reply.type() == QDBusMessage::ErrorMessage)
-        qCInfo(lcInstance, "the first process: %ls", qUtf16Printable(reply.errorMessage()));
+    if (reply.type() != QDBusMessage::ErrorMessage)
+        return true;
+    qCInfo(lcInstance, "the first process: %ls", qUtf16Printable(reply.errorMessage()));
+    // One that hangs is there all the same.
+    return m_bus.interface()->isServiceRegistered(serviceName.toString());
 }
 
 } // namespace quorvane

@@ -39,11 +39,17 @@ std::optional<QString> textOf(const PasteboardItem& item) {
     return std::nullopt;
 }
 
+// Names of text that Qt offers of its own accord.
+bool isTextOfQts(const QString& type) {
+    return type == u"TEXT" || type == u"COMPOUND_TEXT" ||
+           std::ranges::find(textTypes, type, &TextType::name) != textTypes.end();
+}
+
 } // namespace
 
 X11LentData::X11LentData(PasteboardItem item) : m_item(std::move(item)) {
     for (const auto& entry : m_item) {
-        if (entry.type.contains(u'/'))
+        if (entry.unitBits == 8 && !isTextOfQts(entry.type))
             setData(entry.type, entry.bytes);
     }
     if (const auto text = textOf(m_item))

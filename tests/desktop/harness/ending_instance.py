@@ -4,15 +4,12 @@
 from gi.repository import Gio, GLib
 
 from .message_bus import MessageBus
+from .quorvane import BUS_INTERFACE, BUS_NAME, BUS_PATH
 from .waiting import wait_until
-
-NAME = "org.quorvane.Quorvane"
-PATH = "/org/quorvane/Quorvane"
-INTERFACE = "org.freedesktop.Application"
 
 _INTROSPECTION = f"""
 <node>
-  <interface name="{INTERFACE}">
+  <interface name="{BUS_INTERFACE}">
     <method name="Activate"><arg type="a{{sv}}" direction="in"/></method>
   </interface>
 </node>
@@ -26,8 +23,8 @@ class EndingInstance:
         self._bus = MessageBus(session_bus_address)
         self._called = False
         interface = Gio.DBusNodeInfo.new_for_xml(_INTROSPECTION).interfaces[0]
-        self._bus.connection.register_object(PATH, interface, self._note_call, None, None)
-        self._bus.request_name(NAME)
+        self._bus.connection.register_object(BUS_PATH, interface, self._note_call, None, None)
+        self._bus.request_name(BUS_NAME)
 
     def end_when_called(self) -> None:
         """Waits for the call, and leaves."""

@@ -28,7 +28,13 @@ class MessageBus:
         self.connection.close_sync(None)
 
     def call(
-        self, owner: str, path: str, interface: str, method: str, signature: str = "()", *values: Any
+        self,
+        owner: str,
+        path: str,
+        interface: str,
+        method: str,
+        signature: str = "()",
+        *values: Any,
     ) -> tuple[Any, ...]:
         """Calls a method with arguments of a D-Bus signature and returns what it answers."""
         return self.connection.call_sync(

@@ -11,9 +11,9 @@ from .paths import PROGRAM
 from .session import Session
 from .waiting import wait_until
 
-_NAME = "org.quorvane.Quorvane"
-_PATH = "/org/quorvane/Quorvane"
-_INTERFACE = "org.freedesktop.Application"
+BUS_NAME = "org.quorvane.Quorvane"
+BUS_PATH = "/org/quorvane/Quorvane"
+BUS_INTERFACE = "org.freedesktop.Application"
 
 _ENVIRONMENT = {"QUORVANE_BACKEND": "x11", "LANG": "en_US.UTF-8", "TZ": ZONE}
 
@@ -81,8 +81,8 @@ class Quorvane:
         bus = MessageBus(self._session.environment["DBUS_SESSION_BUS_ADDRESS"])
         try:
             # The first window may be there before the name is.
-            wait_until(lambda: bus.has_owner(_NAME), f"{_NAME} on the bus")
-            bus.call(_NAME, _PATH, _INTERFACE, method, signature, *values)
+            wait_until(lambda: bus.has_owner(BUS_NAME), f"{BUS_NAME} on the bus")
+            bus.call(BUS_NAME, BUS_PATH, BUS_INTERFACE, method, signature, *values)
         finally:
             bus.close()
 

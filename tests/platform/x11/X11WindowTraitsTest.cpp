@@ -165,6 +165,31 @@ TEST_F(PanelOnX11WithoutManager, IsPreparedBeforeItIsMapped) {
     EXPECT_TRUE(hasState(m_panel, "_NET_WM_STATE_STICKY"));
 }
 
+// What each window manager needs differs: some drop the desktop of a window that is not mapped yet.
+TEST_F(PanelOnX11WithoutManager, IsAskedToBeOnAllDesktopsOnceItIsMapped) {
+    const auto witness = X11Connection::open();
+    constexpr std::uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(witness->xcb(), witness->root(), XCB_CW_EVENT_MASK, &events);
+    witness->waitForServer();
+    bool isMapped = false;
+    bool isAsked = false;
+    const auto panel = static_cast<xcb_window_t>(m_panel.winId());
+    const auto subscription = witness->subscribe([&](const xcb_generic_event_t& event) {
+        const auto type = event.response_type & 0x7f;
+        if (type == XCB_MAP_NOTIFY)
+            isMapped = reinterpret_cast<const xcb_map_notify_event_t&>(event).window == panel;
+        if (type != XCB_CLIENT_MESSAGE)
+            return;
+        const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(event);
+        if (message.window == panel && message.type == witness->atom("_NET_WM_DESKTOP")) {
+            isAsked = isMapped && message.data.data32[0] == 0xffffffff &&
+                      message.data.data32[1] == fromPager;
+        }
+    });
+    showPanel();
+    EXPECT_TRUE(waitUntil([&isAsked] { return isAsked; }));
+}
+
 } // namespace
 
 } // namespace quorvane

@@ -82,6 +82,10 @@ public:
     /// The mode actually used: a popover needs a status item to hang from.
     [[nodiscard]] PresentationMode effectivePresentationMode() const;
 
+Q_SIGNALS:
+    /// The end begins; the process lives until the pasteboard is in good hands.
+    void willTerminate();
+
 private:
     void startHotKeyMonitor(HotKeyCombo combo);
     void applyActivationPolicy(bool showInDock);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "SelectionOffers.h"
+#include "support/ForeignWindow.h"
 #include "support/WaitUntil.h"
 
 #include <foundation/QtMainQueue.h>
@@ -29,6 +30,15 @@ protected:
         const auto contents = saved();
         EXPECT_EQ(contents.items.size(), 1);
         return contents.items.empty() ? PasteboardItem{} : contents.items.front();
+    }
+
+    /// Another program takes a selection, and says nothing when it is asked. The main loop has not
+    /// turned when this returns: we have not been told.
+    static void takeSelection(const ForeignWindow& program, xcb_atom_t selection) {
+        auto* xcb = program.connection();
+        xcb_set_selection_owner(xcb, program.id(), selection, XCB_CURRENT_TIME);
+        const XcbReply<xcb_get_input_focus_reply_t> done(
+            xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
     }
 
     QtMainQueue m_queue;

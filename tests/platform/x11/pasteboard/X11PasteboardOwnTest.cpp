@@ -75,12 +75,14 @@ TEST_F(X11PasteboardOwnTest, AnswersSeveralTargetsInOneRequest) {
     const PasteboardItem item{
         {u"a"_s, "1"_ba, u"a"_s},
         {u"big"_s, noise(900'000), u"INTEGER"_s, 32},
+        {u"bigger"_s, noise(1'500'000), u"bigger"_s},
     };
     m_pasteboard.write(item, std::nullopt);
-    const auto answers = readAs(u"multiple"_s, {u"a"_s, u"absent"_s, u"big"_s});
+    const auto answers = readAs(u"multiple"_s, {u"a"_s, u"absent"_s, u"big"_s, u"bigger"_s});
     EXPECT_EQ(entryFrom(answers[0]), item[0]);
     EXPECT_TRUE(answers[1].isNull());
     EXPECT_EQ(entryFrom(answers[2]), item[1]);
+    EXPECT_EQ(entryFrom(answers[3]), item[2]);
 }
 
 TEST_F(X11PasteboardOwnTest, AnswersAClientOfOldThatNamesNoProperty) {
@@ -168,13 +170,15 @@ TEST_F(X11PasteboardOwnTest, NothingIsSavedBetweenAClearAndTheTurnsEnd) {
 }
 
 TEST_F(X11PasteboardOwnTest, ContentsThatFollowOnAClearStay) {
-    for (int i = 0; i < 20; ++i) {
-        m_pasteboard.setString(u"first"_s, TextStay::Passing);
-        m_pasteboard.clear();
-        m_pasteboard.setString(u"second"_s, TextStay::Lasting);
-    }
-    EXPECT_EQ(contentsOf().front().bytes, "second"_ba);
-    EXPECT_EQ(contentsOf().front().bytes, "second"_ba);
+    m_pasteboard.setString(u"first"_s, TextStay::Passing);
+    m_pasteboard.clear();
+    m_pasteboard.setString(u"second"_s, TextStay::Passing);
+    m_pasteboard.clear();
+    // A save ends the clear: the server's word of the loss comes after the next text.
+    m_pasteboard.save([](const PasteboardContents&) {});
+    m_pasteboard.setString(u"third"_s, TextStay::Lasting);
+    EXPECT_EQ(contentsOf().front().bytes, "third"_ba);
+    EXPECT_EQ(contentsOf().front().bytes, "third"_ba);
 }
 
 TEST_F(X11PasteboardOwnTest, NobodySeesAnEmptyClipboardBetweenTwoContents) {

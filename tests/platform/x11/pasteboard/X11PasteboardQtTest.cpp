@@ -164,6 +164,15 @@ TEST_F(X11PasteboardQtTest, WhatIsLentIsClearedLikeTheRest) {
     EXPECT_EQ(saved(), PasteboardContents{});
 }
 
+TEST_F(X11PasteboardQtTest, APassingTextStaysASecretWhileItIsLent) {
+    focusOurField();
+    m_pasteboard.setString(u"12:30"_s, TextStay::Passing);
+    ASSERT_TRUE(isQtsSoon());
+    const auto types = typesOf(contentsOf());
+    EXPECT_TRUE(types.contains(u"x-kde-passwordManagerHint"_s));
+    EXPECT_EQ(types.count(u"UTF8_STRING"_s), 1);
+}
+
 TEST_F(X11PasteboardQtTest, AnotherProgramMayTakeWhatIsLent) {
     focusOurField();
     m_pasteboard.write(foreignItem, std::nullopt);

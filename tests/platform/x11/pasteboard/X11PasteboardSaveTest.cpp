@@ -190,11 +190,7 @@ TEST_F(X11PasteboardSaveTest, GivesOutWhatItOwnsItselfWithoutAsking) {
 TEST_F(X11PasteboardSaveTest, AsksAnOwnerWhomWeHaveNotNoticedYet) {
     m_pasteboard.setString(u"ours"_s, TextStay::Lasting);
     ForeignWindow taciturn;
-    auto* foreign = taciturn.connection();
-    xcb_set_selection_owner(
-        foreign, taciturn.id(), m_connection->atom("CLIPBOARD"), XCB_CURRENT_TIME);
-    const XcbReply<xcb_get_input_focus_reply_t> isDone(
-        xcb_get_input_focus_reply(foreign, xcb_get_input_focus(foreign), nullptr));
+    takeSelection(taciturn, m_connection->atom("CLIPBOARD"));
     EXPECT_EQ(saved(), PasteboardContents{});
 }
 

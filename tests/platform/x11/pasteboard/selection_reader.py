@@ -51,9 +51,9 @@ class Reader(SelectionClient):
     def take(self, window, store: int):
         """Reads a property and deletes it: its type, the bits of a unit, its bytes."""
         value = window.get_full_property(store, X.AnyPropertyType, sizehint=1 << 20)
-        window.delete_property(store)
         if value is None:
-            return None
+            return None  # and nothing to delete: it may be there by now, unread
+        window.delete_property(store)
         data = value.value
         raw = data if isinstance(data, bytes) else data.tobytes()
         return value.property_type, value.format, raw

@@ -39,15 +39,49 @@ protected:
         return tap;
     }
 
-    /// Types one more key, and waits until it has come out at the window behind all before it.
+    /// Types one more key, and waits until it has come out at the window behind all before it, and
+    /// the tap has seen all that it was sent meanwhile.
     [[nodiscard]] bool keysAreThrough() {
         const auto before = m_target.keys().size();
         m_keyboard.type({KEY_F8});
-        return waitUntil([this, before] {
+        const bool atTarget = waitUntil([this, before] {
             const auto& keys = m_target.keys();
             return keys.size() > before && keys.back().keycode == KEY_F8 + 8 &&
                    keys.back().kind == ReceivedKey::Kind::Release;
         });
+        return atTarget && eventsAreDelivered();
+    }
+
+    /// Sends an event to the tap's own connection, which arrives behind all others.
+    [[nodiscard]] bool eventsAreDelivered() {
+        auto* xcb = m_connection->xcb();
+        const auto window = xcb_generate_id(xcb);
+        xcb_create_window(
+            xcb,
+            XCB_COPY_FROM_PARENT,
+            window,
+            m_connection->root(),
+            0,
+            0,
+            1,
+            1,
+            0,
+            XCB_WINDOW_CLASS_INPUT_ONLY,
+            XCB_COPY_FROM_PARENT,
+            0,
+            nullptr);
+        xcb_client_message_event_t last{};
+        last.response_type = XCB_CLIENT_MESSAGE;
+        last.format = 32;
+        last.window = window;
+        // Without a mask it goes to the client that made the window.
+        xcb_send_event(xcb, 0, window, 0, reinterpret_cast<const char*>(&last));
+        bool isThere = false;
+        const auto subscription = m_connection->subscribe([&](const xcb_generic_event_t& event) {
+            isThere = isThere || (event.response_type & 0x7f) == XCB_CLIENT_MESSAGE;
+        });
+        m_connection->flush();
+        return waitUntil([&isThere] { return isThere; });
     }
 
     [[nodiscard]] bool targetGot(ReceivedKey::Kind kind) {

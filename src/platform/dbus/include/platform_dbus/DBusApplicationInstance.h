@@ -24,11 +24,13 @@ public:
     DBusApplicationInstance& operator=(const DBusApplicationInstance&) = delete;
 
     [[nodiscard]] Role claim() override;
+    void release() override;
     void onReopen(std::function<void()> handler) override;
     void onAction(std::function<void(const QString& name)> handler) override;
 
 private:
-    void activateFirst();
+    /// False if the first process is gone and took the request with it.
+    [[nodiscard]] bool activateFirst();
 
     QDBusConnection m_bus;
     QObject m_object;
