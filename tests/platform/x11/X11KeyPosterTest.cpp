@@ -188,9 +188,10 @@ TEST(PosterOnX11WithoutXtest, IsUnavailable) {
     const PrivateDisplay display({u"-extension"_s, u"XTEST"_s});
     const ScopedDisplayVariable variable(display.name());
     QtMainQueue queue;
-    X11KeyPoster poster(
-        X11Connection::open(), X11Keymap::open(queue), std::make_shared<X11PostedKeys>());
+    const auto connection = X11Connection::open();
+    X11KeyPoster poster(connection, X11Keymap::open(queue), std::make_shared<X11PostedKeys>());
     EXPECT_EQ(poster.post(paste), PostOutcome::Unavailable);
+    EXPECT_EQ(xcb_connection_has_error(connection->xcb()), 0) << "the other services live on";
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/PrivateDisplay.h"
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace quorvane {
 
 using namespace Qt::StringLiterals;
@@ -16,6 +19,8 @@ PrivateDisplay::PrivateDisplay(const QStringList& extraArguments) {
         u"-nolisten"_s,
         u"tcp"_s};
     m_server.setStandardErrorFile(QProcess::nullDevice());
+    // A test that crashes leaves no server behind.
+    m_server.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_server.start(u"Xvfb"_s, arguments + extraArguments);
     // The server writes its number once it takes connections.
     while (!m_server.canReadLine()) {
