@@ -46,7 +46,8 @@ public:
     };
 
     /// The running delegate, for code that nobody can hand one to; null before start-up.
-    [[nodiscard]] static QPointer<AppDelegate>& _sharedDelegate();
+    [[nodiscard]] static QPointer<AppDelegate>&
+    _sharedDelegate(); // NOLINT(readability-identifier-naming)
 
     explicit AppDelegate(Environment environment);
     ~AppDelegate() override;
