@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include <controls/AnchoredPopover.h>
+#include <controls/DevicePixels.h>
+#include <controls/FocusRing.h>
+#include <controls/Theme.h>
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPropertyAnimation>
+#include <QScreen>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace quorvane {
+
+namespace {
+
+constexpr double cornerRadius = 10;
+constexpr int fadeMilliseconds = 90;
+
+/// The shadow's steps: rounded rectangles grown by so much, and moved down by 1, 2, 3 and so on.
+constexpr std::array shadowGrowth{1, 2, 3, 5, 7, 9};
+/// How far the shadow reaches beyond the surface.
+constexpr QMargins shadowReach{9, 3, 9, 15};
+
+void paintShadow(QPainter& painter, const QRect& surface, const Theme& theme) {
+    for (std::size_t step = 0; step < shadowGrowth.size(); ++step) {
+        const int growth = shadowGrowth.at(step);
+        const auto rect = QRectF(surface)
+                              .adjusted(-growth, -growth, growth, growth)
+                              .translated(0, static_cast<double>(step + 1));
+        fillRounded(painter, rect, cornerRadius + growth, theme.shadow.at(step));
+    }
+}
+
+} // namespace
+
+AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const PopoverEffects& effects)
+    : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
+      m_anchor(anchor),
+      m_content(content),
+      m_composited(effects.isComposited && effects.isComposited()) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_TranslucentBackground, m_composited);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(m_composited ? shadowReach : QMargins());
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(content);
+    setFocusProxy(content->focusProxy() != nullptr ? content->focusProxy() : content);
+    new FocusRing(this);
+    anchor->window()->installEventFilter(this);
+}
+
+void AnchoredPopover::open() {
+    adjustSize();
+    place();
+    fadeIn();
+    show();
+    if (auto* focused = m_content->focusProxy())
+        focused->setFocus(Qt::PopupFocusReason);
+    else
+        m_content->setFocus(Qt::PopupFocusReason);
+}
+
+bool AnchoredPopover::eventFilter(QObject* watched, QEvent* event) {
+    // A popover outlives neither the sight of its anchor nor the place where it stood.
+    if (watched != this && event->type() == QEvent::Hide)
+        close();
+    return QWidget::eventFilter(watched, event);
+}
+
+void AnchoredPopover::mousePressEvent(QMouseEvent* event) {
+    const auto point = event->globalPosition().toPoint();
+    if (surface().contains(mapFromGlobal(point)))
+        return;
+    // Without this the press would go on to the anchor, which would open the next one.
+    setAttribute(Qt::WA_NoMouseReplay, anchorRect().contains(point));
+    close();
+}
+
+void AnchoredPopover::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel))
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const auto theme = Theme::of(palette());
+    if (m_composited) {
+        paintShadow(painter, surface(), theme);
+        fillRounded(painter, surface(), cornerRadius, theme.pop);
+        return;
+    }
+    painter.fillRect(rect(), theme.pop);
+    frameRounded(painter, surface(), 0, theme.sep, 1);
+}
+
+void AnchoredPopover::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+    if (m_anchor && m_anchor->window()->isVisible())
+        m_anchor->setFocus(Qt::PopupFocusReason);
+    Q_EMIT closed();
+}
+
+QRect AnchoredPopover::surface() const {
+    return m_composited ? rect().marginsRemoved(shadowReach) : rect();
+}
+
+QRect AnchoredPopover::anchorRect() const {
+    return m_anchor ? QRect(m_anchor->mapToGlobal(QPoint()), m_anchor->size()) : QRect();
+}
+
+void AnchoredPopover::fadeIn() {
+    const int styleDuration = style()->styleHint(QStyle::SH_Widget_Animation_Duration);
+    if (!m_composited || styleDuration == 0)
+        return;
+    auto* fade = new QPropertyAnimation(this, "windowOpacity", this);
+    fade->setDuration(fadeMilliseconds);
+    fade->setStartValue(0.0);
+    fade->setEndValue(1.0);
+    setWindowOpacity(0);
+    fade->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void AnchoredPopover::place() {
+    if (!m_anchor)
+        return;
+    const auto mirrored = m_alignment == PopoverAlignment::LeftEdges ? PopoverAlignment::RightEdges
+                                                                     : PopoverAlignment::LeftEdges;
+    const auto alignment = m_anchor->layoutDirection() == Qt::RightToLeft ? mirrored : m_alignment;
+    const auto placed = popoverPlacement(
+        anchorRect(), surface().size(), m_anchor->screen()->availableGeometry(), alignment);
+    move(placed.topLeft() - surface().topLeft());
+}
+
+} // namespace quorvane

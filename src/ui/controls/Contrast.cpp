@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quorvane {
+
+namespace {
+
+constexpr float lightnessStep = 0.01F;
+
+double linear(double channel) {
+    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double relativeLuminance(const QColor& color) {
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+} // namespace
+
+double contrastRatio(const QColor& a, const QColor& b) {
+    const auto [darker, lighter] = std::minmax(relativeLuminance(a), relativeLuminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor blended(const QColor& top, const QColor& bottom) {
+    const float alpha = top.alphaF();
+    const auto mix = [alpha](float over, float under) {
+        return over * alpha + under * (1 - alpha);
+    };
+    return QColor::fromRgbF(
+        mix(top.redF(), bottom.redF()),
+        mix(top.greenF(), bottom.greenF()),
+        mix(top.blueF(), bottom.blueF()));
+}
+
+QColor withOpacity(QColor color, double opacity) {
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+QColor pushedToContrast(QColor color, const QColor& ground, double ratio) {
+    const bool lighten = contrastRatio(Qt::white, ground) > contrastRatio(Qt::black, ground);
+    auto [hue, saturation, lightness, alpha] = std::array<float, 4>{};
+    color.getHslF(&hue, &saturation, &lightness, &alpha);
+    while (contrastRatio(color, ground) < ratio && lightness > 0 && lightness < 1) {
+        lightness = std::clamp(lightness + (lighten ? lightnessStep : -lightnessStep), 0.0F, 1.0F);
+        color = QColor::fromHslF(std::max(hue, 0.0F), saturation, lightness, alpha);
+    }
+    return color;
+}
+
+} // namespace quorvane

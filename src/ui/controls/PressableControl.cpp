@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "PressableAccessible.h"
+
+#include <controls/PressableControl.h>
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace quorvane {
+
+PressableControl::PressableControl(QWidget* parent) : QAbstractButton(parent) {
+    PressableAccessible::install();
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+FocusOutline PressableControl::focusOutline() const {
+    return {QRectF(rect()), cornerRadius()};
+}
+
+double PressableControl::disabledOpacity() const {
+    return 0.4;
+}
+
+PressableControl::Look PressableControl::look() const {
+    if (!isEnabled())
+        return Look::Rest;
+    if (isDown())
+        return Look::Pressed;
+    return underMouse() ? Look::Hover : Look::Rest;
+}
+
+void PressableControl::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (!isEnabled())
+        painter.setOpacity(disabledOpacity());
+    paintControl(painter, Theme::of(palette()));
+}
+
+void PressableControl::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (isReturn && modifiers == Qt::NoModifier && !event->isAutoRepeat())
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void PressableControl::changeEvent(QEvent* event) {
+    QAbstractButton::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LayoutDirectionChange:
+        updateGeometry();
+        update();
+        break;
+    default:
+        break;
+    }
+}
+
+QColor overlayFor(PressableControl::Look look, const Theme& theme) {
+    switch (look) {
+    case PressableControl::Look::Hover:
+        return theme.hover;
+    case PressableControl::Look::Pressed:
+        return theme.press;
+    case PressableControl::Look::Rest:
+        break;
+    }
+    return Qt::transparent;
+}
+
+} // namespace quorvane

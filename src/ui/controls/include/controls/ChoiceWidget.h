@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+#include <optional>
+
+namespace quorvane {
+
+/// A control that offers titles, of which at most one is selected. It knows positions only; see
+/// Choice.h for items of a type.
+class ChoiceWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    [[nodiscard]] virtual const QStringList& titles() const = 0;
+    [[nodiscard]] virtual std::optional<int> selectedIndex() const = 0;
+
+    /// Shows these titles, with that one selected; an index outside them selects none. The user's
+    /// choice is not announced by this.
+    virtual void setChoices(const QStringList& titles, std::optional<int> selected) = 0;
+
+Q_SIGNALS:
+    /// The user chose a title, perhaps the one that was selected before.
+    void chosen(int index);
+};
+
+} // namespace quorvane

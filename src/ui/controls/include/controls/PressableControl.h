@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/FocusShaped.h>
+#include <controls/Theme.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+
+#include <optional>
+
+namespace quorvane {
+
+/// What every control that one presses has in common: Space and Return press it, it shows hover,
+/// press and the keyboard's focus, and follows palette, font and direction while it is shown.
+class PressableControl : public QAbstractButton, public FocusShaped {
+    Q_OBJECT
+
+public:
+    enum class Look { Rest, Hover, Pressed };
+
+    explicit PressableControl(QWidget* parent = nullptr);
+
+    /// The whole control, with cornerRadius().
+    [[nodiscard]] FocusOutline focusOutline() const override;
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+    /// For assistive technology; see PressableAccessible.h.
+    [[nodiscard]] virtual QAccessible::Role accessibleRole() const { return QAccessible::Button; }
+
+    /// Whether what the control opens is open; none for one that opens nothing.
+    [[nodiscard]] virtual std::optional<bool> isExpanded() const { return std::nullopt; }
+
+    /// The value, for one that has a value apart from its name.
+    [[nodiscard]] virtual QString accessibleValue() const { return {}; }
+
+protected:
+    [[nodiscard]] virtual double cornerRadius() const = 0;
+
+    /// Paints the control at the opacity that goes with its state.
+    virtual void paintControl(QPainter& painter, const Theme& theme) = 0;
+
+    /// While it is disabled, 0 to 1.
+    [[nodiscard]] virtual double disabledOpacity() const;
+
+    [[nodiscard]] Look look() const;
+
+    void paintEvent(QPaintEvent* event) final;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+};
+
+/// What the look lays over a control's fill: nothing at rest.
+[[nodiscard]] QColor overlayFor(PressableControl::Look look, const Theme& theme);
+
+} // namespace quorvane

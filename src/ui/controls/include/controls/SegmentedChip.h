@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/SegmentedRow.h>
+
+namespace quorvane {
+
+/// A row of mutually exclusive segments in the look of a chip.
+class SegmentedChip final : public SegmentedRow {
+    Q_OBJECT
+
+public:
+    using SegmentedRow::SegmentedRow;
+};
+
+} // namespace quorvane

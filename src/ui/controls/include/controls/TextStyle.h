@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFont>
+
+namespace quorvane {
+
+/// The sizes that text comes in. Body is the desktop's own font; the others scale with it.
+enum class TextStyle { Title, Headline, Body, Callout, Caption };
+
+/// A style's font for a widget whose font is `body`: never below 9 pixels. Titles and headlines
+/// are semibold, all others regular.
+[[nodiscard]] QFont textFont(const QFont& body, TextStyle style);
+
+/// Likewise, in another weight.
+[[nodiscard]] QFont textFont(const QFont& body, TextStyle style, QFont::Weight weight);
+
+/// In a fixed size, for what is drawn inside a fixed frame (key caps, the digits of a clock).
+[[nodiscard]] QFont fixedSizeFont(QFont body, int pixels, QFont::Weight weight);
+
+} // namespace quorvane
