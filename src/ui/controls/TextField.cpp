@@ -56,8 +56,7 @@ void TextField::changeEvent(QEvent* event) {
 }
 
 void TextField::paintSurface(QPainter& painter) {
-    ChipSurface::paint(
-        painter, rect(), Theme::of(surroundings()), PressableControl::Look::Rest);
+    ChipSurface::paint(painter, rect(), Theme::of(surroundings()), PressableControl::Look::Rest);
 }
 
 const QPalette& TextField::surroundings() const {
