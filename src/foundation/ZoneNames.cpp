@@ -22,7 +22,11 @@ ZoneNames::ZoneNames(Instant instant, const UserLocale& locale)
 }
 
 std::optional<QString> ZoneNames::abbreviation(const TimeZone& zone) const {
-    return name(UTZFMT_STYLE_SPECIFIC_SHORT, *icuTimeZoneAt(zone, m_instant));
+    return abbreviation(*icuTimeZone(zone));
+}
+
+std::optional<QString> ZoneNames::abbreviation(const icu::TimeZone& zone) const {
+    return name(UTZFMT_STYLE_SPECIFIC_SHORT, zone);
 }
 
 std::optional<QString> ZoneNames::genericName(const TimeZone& zone) const {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <foundation/IcuTimeZone.h>
 #include <foundation/ZoneNames.h>
 #include <timezones/TimeZoneAliases.h>
 #include <timezones/ZoneSearch.h>
@@ -20,6 +21,10 @@ QString normalised(QStringView query) {
     while (!query.isEmpty() && isBlank(query.back()))
         query.chop(1);
     return query.toString().toLower();
+}
+
+QString lowerCase(const std::optional<QString>& name) {
+    return name.value_or(QString()).toLower();
 }
 
 } // namespace
@@ -49,8 +54,8 @@ ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidat
     const auto matches = [&](std::size_t index) {
         const auto& [zone, searchText] = m_catalogue.entries()[index];
         return text.isEmpty() || aliased.contains(zone.identifier()) || searchText.contains(text) ||
-               names.abbreviation(zone).value_or(QString()).toLower().contains(text) ||
-               genericName(index).contains(text);
+               lowerCase(names.abbreviation(*named(index).zone)).contains(text) ||
+               named(index).genericName.contains(text);
     };
     std::vector<TimeZone> zones;
     for (std::size_t index = 0; index < m_catalogue.entries().size(); ++index) {
@@ -61,13 +66,13 @@ ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidat
     return zones;
 }
 
-const QString& ZoneSearch::genericName(std::size_t index) const {
-    if (m_genericNames.empty()) {
+const ZoneSearch::Named& ZoneSearch::named(std::size_t index) const {
+    if (m_named.empty()) {
         const ZoneNames names(m_catalogue.instant(), m_locale);
-        for (const auto& entry : m_catalogue.entries())
-            m_genericNames.push_back(names.genericName(entry.zone).value_or(QString()).toLower());
+        for (const auto& [zone, searchText] : m_catalogue.entries())
+            m_named.push_back({icuTimeZone(zone), lowerCase(names.genericName(zone))});
     }
-    return m_genericNames[index];
+    return m_named[index];
 }
 
 } // namespace quorvane

@@ -22,6 +22,10 @@ public:
     /// Never the time zone database's own, which are not those that users of a locale know.
     [[nodiscard]] std::optional<QString> abbreviation(const TimeZone& zone) const;
 
+    /// The same text for what icuTimeZone() made: for those who ask again and again, as making that
+    /// costs more than the name does.
+    [[nodiscard]] std::optional<QString> abbreviation(const icu::TimeZone& zone) const;
+
     /// The text of the date pattern "vvvv", the same all year round: "Pacific Time". None for a
     /// zone that is newer than ICU's data.
     [[nodiscard]] std::optional<QString> genericName(const TimeZone& zone) const;

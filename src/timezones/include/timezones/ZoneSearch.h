@@ -6,8 +6,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <unicode/timezone.h>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace quorvane {
@@ -32,17 +34,23 @@ public:
 private:
     using Candidate = std::function<bool(const TimeZone& zone)>;
 
+    /// What an entry is asked for its names with.
+    struct Named {
+        std::unique_ptr<icu::TimeZone> zone;
+        QString genericName; ///< in lower case; empty for none
+    };
+
     [[nodiscard]] std::vector<TimeZone>
     found(const QString& query, Instant now, const Candidate& isCandidate) const;
-    [[nodiscard]] const QString& genericName(std::size_t index) const;
+    [[nodiscard]] const Named& named(std::size_t index) const;
 
     TimeZoneCatalogue m_catalogue;
     UserLocale m_locale;
 
-    /// In lower case, one for each entry, empty for none. They make up nine tenths of the cost of a
-    /// search and cannot change while catalogue and locale do not: made for the first query that
-    /// needs them, as most lists are opened and closed without one.
-    mutable std::vector<QString> m_genericNames;
+    /// One for each entry. They make up nine tenths of the cost of a search and cannot change while
+    /// catalogue and locale do not. Made for the first query that needs them, as most lists are
+    /// opened and closed without one.
+    mutable std::vector<Named> m_named;
 };
 
 } // namespace quorvane
