@@ -20,6 +20,9 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// Writes what the key writes, as if the field had been typed into.
+    void typeKey(QKeyEvent* event) { keyPressEvent(event); }
+
     bool event(QEvent* event) override;
 
 protected:
