@@ -4,6 +4,7 @@
 #include <timezones/TimeZoneAliases.h>
 #include <timezones/ZoneSearch.h>
 
+#include <cmath>
 #include <unordered_set>
 
 namespace quorvane {
@@ -21,6 +22,13 @@ QString normalised(QStringView query) {
     while (!query.isEmpty() && isBlank(query.back()))
         query.chop(1);
     return query.toString().toLower();
+}
+
+/// Clocks are put forward and back on whole minutes, so that names are the same from here on to the
+/// instant. A zone keeps the last offset that it was asked for: keystrokes of one minute share it.
+Instant startOfMinute(Instant instant) {
+    constexpr double minute = 60;
+    return {std::floor(instant.secondsSince1970 / minute) * minute};
 }
 
 QString lowerCase(const std::optional<QString>& name) {
@@ -50,7 +58,7 @@ std::vector<TimeZone>
 ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidate) const {
     const auto text = normalised(query);
     const auto aliased = TimeZoneAliases::identifiersMatching(text);
-    const ZoneNames names(now, m_locale);
+    const ZoneNames names(startOfMinute(now), m_locale);
     const auto matches = [&](std::size_t index) {
         const auto& [zone, searchText] = m_catalogue.entries()[index];
         return text.isEmpty() || aliased.contains(zone.identifier()) || searchText.contains(text) ||

@@ -83,6 +83,18 @@ TEST_F(ZoneSearchTest, AbbreviationsAreThoseOfTheMoment) {
     EXPECT_THAT(found(u"gmt+9"_s), IsSupersetOf({"Asia/Tokyo", "Asia/Seoul"}));
 }
 
+TEST_F(ZoneSearchTest, AbbreviationsChangeAtTheTransitionItself) {
+    constexpr double transition = 1710064800; // 2024-03-10T10:00:00Z
+    for (const double before : {0.001, 0.5, 59.0, 61.0}) {
+        EXPECT_THAT(found(u"pst"_s, {transition - before}), Contains("America/Los_Angeles"));
+        EXPECT_THAT(found(u"pdt"_s, {transition - before}), Not(Contains("America/Los_Angeles")));
+    }
+    for (const double after : {0.0, 0.001, 59.0, 61.0}) {
+        EXPECT_THAT(found(u"pdt"_s, {transition + after}), Contains("America/Los_Angeles"));
+        EXPECT_THAT(found(u"pst"_s, {transition + after}), Not(Contains("America/Los_Angeles")));
+    }
+}
+
 TEST_F(ZoneSearchTest, GenericNamesAreTheLocales) {
     EXPECT_THAT(found(u"pacific time"_s), IsSupersetOf({"America/Los_Angeles", "America/Tijuana"}));
     const ZoneSearch german({ZoneDatabase(), winter}, locale("de_DE"));
