@@ -15,27 +15,19 @@ bool isBlank(QChar character) {
     return character == u' ' || character == u'\t';
 }
 
-/// Without blanks around it, in lower case. Line feeds are no blanks: they are part of the query.
-QString normalised(QStringView query) {
+QString lowerCase(const std::optional<QString>& name) {
+    return name.value_or(QString()).toLower();
+}
+
+} // namespace
+
+QString normalisedQuery(QStringView query) {
     while (!query.isEmpty() && isBlank(query.front()))
         query = query.sliced(1);
     while (!query.isEmpty() && isBlank(query.back()))
         query.chop(1);
     return query.toString().toLower();
 }
-
-/// Clocks are put forward and back on whole minutes, so that names are the same from here on to the
-/// instant. A zone keeps the last offset that it was asked for: keystrokes of one minute share it.
-Instant startOfMinute(Instant instant) {
-    constexpr double minute = 60;
-    return {std::floor(instant.secondsSince1970 / minute) * minute};
-}
-
-QString lowerCase(const std::optional<QString>& name) {
-    return name.value_or(QString()).toLower();
-}
-
-} // namespace
 
 ZoneSearch::ZoneSearch(TimeZoneCatalogue catalogue, UserLocale locale)
     : m_catalogue(std::move(catalogue)),
@@ -56,7 +48,7 @@ ZoneSearch::filteredStarred(const QString& query, Instant now, const QStringList
 
 std::vector<TimeZone>
 ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidate) const {
-    const auto text = normalised(query);
+    const auto text = normalisedQuery(query);
     const auto aliased = TimeZoneAliases::identifiersMatching(text);
     const ZoneNames names(startOfMinute(now), m_locale);
     const auto matches = [&](std::size_t index) {

@@ -143,8 +143,7 @@ void TimeZonePickerView::choose(const QModelIndex& index) {
 std::vector<ZoneListModel::Section> TimeZonePickerView::sections() const {
     auto zones = filtered();
     // Favourites are a section of their own only in the list of everything.
-    const bool everything = zones.size() == m_search.catalogue().entries().size();
-    if (!everything || m_favorites.empty())
+    if (m_favorites.empty() || !normalisedQuery(m_field->text()).isEmpty())
         return {{{}, std::move(zones)}};
     return {{tr("Favorites"), m_favorites}, {tr("All Time Zones"), std::move(zones)}};
 }

@@ -14,6 +14,10 @@
 
 namespace quorvane {
 
+/// What is searched for: without spaces and tabs around it, in lower case. Line feeds are no blanks:
+/// they are part of the query.
+[[nodiscard]] QString normalisedQuery(QStringView query);
+
 /// Finds zones of a catalogue by what the user types. A zone is found by an alias, its identifier,
 /// its abbreviation or its generic name in the user's locale; case does not matter, nor do spaces
 /// and tabs around the query. An empty query finds every zone. What is found keeps the catalogue's
