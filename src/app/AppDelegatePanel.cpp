@@ -62,7 +62,9 @@ std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
             m_environment.mainQueue,
             m_environment.clock,
             m_environment.currentZone,
-            {[&traits = *m_environment.platform.windowTraits] { return traits.isComposited(); }}},
+            {[&traits = *m_environment.platform.windowTraits] {
+                return traits.isComposited();
+            }}},
         PopoverView::Callbacks{
             weakly(&AppDelegate::performInsert),
             weakly(&AppDelegate::showPreferences),

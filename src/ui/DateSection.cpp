@@ -18,7 +18,7 @@ constexpr int boxSpacing = 16;
 constexpr int rowSpacing = 4;
 constexpr int rangeBoxPadding = 2;
 
-void show(CheckBox* box, bool isChecked) {
+void tick(CheckBox* box, bool isChecked) {
     const QSignalBlocker blocker(box);
     box->setChecked(isChecked);
     box->update();
@@ -37,12 +37,16 @@ DateSection::DateSection(
       m_isRange(new CheckBox(tr("to"), this)),
       m_start(dateTimePair(
           {[&model] { return model.startDate(); },
-           [&model](Instant instant) { model.setStartDate(instant); }},
+           [&model](Instant instant) {
+               model.setStartDate(instant);
+           }},
           {},
           {tr("Start date"), tr("Start time")})),
       m_end(dateTimePair(
           {[&model] { return model.endDate(); },
-           [&model](Instant instant) { model.setEndDate(instant); }},
+           [&model](Instant instant) {
+               model.setEndDate(instant);
+           }},
           [&model] { return std::optional(model.startDate()); },
           {tr("End date"), tr("End time")})) {
     layOut();
@@ -53,9 +57,9 @@ DateSection::DateSection(
 void DateSection::refresh() {
     const auto guard = IncludeGuard::of(m_model.includeDate(), m_model.includeTime());
     m_label->setNote(tr("(in local time %1)").arg(localTimeZoneLabel()));
-    show(m_includeDate, m_model.includeDate());
-    show(m_includeTime, m_model.includeTime());
-    show(m_isRange, m_model.isRange());
+    tick(m_includeDate, m_model.includeDate());
+    tick(m_includeTime, m_model.includeTime());
+    tick(m_isRange, m_model.isRange());
     m_includeDate->setEnabled(guard.dateEnabled);
     m_includeTime->setEnabled(guard.timeEnabled);
     refresh(m_start);

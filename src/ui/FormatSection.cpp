@@ -37,13 +37,17 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
           model.availableFormatPresets(),
           [](const DateFormatPreset& preset) { return rawValue(preset); },
           {[&model] { return model.formatPreset(); },
-           [&model](DateFormatPreset preset) { model.setFormatPreset(preset); }}),
+           [&model](DateFormatPreset preset) {
+               model.setFormatPreset(preset);
+           }}),
       m_layoutChoice(
           *m_layout,
           {allMultiZoneLayouts.begin(), allMultiZoneLayouts.end()},
           [](const MultiZoneLayout& layout) { return rawValue(layout); },
           {[&model] { return model.multiZoneLayout(); },
-           [&model](MultiZoneLayout layout) { model.setMultiZoneLayout(layout); }}) {
+           [&model](MultiZoneLayout layout) {
+               model.setMultiZoneLayout(layout);
+           }}) {
     m_preset->setLabel(tr("Format"));
     m_layout->setLabel(tr("Layout"));
     m_layout->setFixedWidth(layoutWidth);

@@ -84,8 +84,7 @@ void PopoverHeader::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
     painter.fillRect(0, height() - 1, width(), 1, theme.line);
-    const QRect symbol(
-        panelmetrics::sideMargin, 0, static_cast<int>(appSymbol.size), height());
+    const QRect symbol(panelmetrics::sideMargin, 0, static_cast<int>(appSymbol.size), height());
     paintSymbol(
         painter,
         Symbol::CalendarBadgeClock,

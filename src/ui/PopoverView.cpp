@@ -26,8 +26,8 @@ PopoverView::PopoverView(DateTimeModel& model, Services services, Callbacks call
       m_refresh(m_services.mainQueue, [this] { refresh(); }),
       m_header(new PopoverHeader([this] { m_callbacks.onClose(); }, this)),
       m_dateSection(new DateSection(model, entrySurroundings(), this)),
-      m_timeZoneSection(new TimeZoneSection(
-          model, {m_services.zones, m_services.clock, model.locale()}, this)),
+      m_timeZoneSection(
+          new TimeZoneSection(model, {m_services.zones, m_services.clock, model.locale()}, this)),
       m_formatSection(new FormatSection(model, m_services.popoverEffects, this)),
       m_preview(new OutputPreview(this)),
       m_actionBar(new ActionBar(m_services.mainQueue, this)) {
@@ -57,8 +57,7 @@ void PopoverView::keyPressEvent(QKeyEvent* event) {
 }
 
 EntrySurroundings PopoverView::entrySurroundings() const {
-    return {
-        m_services.clock, m_services.currentZone, m_model.locale(), m_services.popoverEffects};
+    return {m_services.clock, m_services.currentZone, m_model.locale(), m_services.popoverEffects};
 }
 
 QVBoxLayout* PopoverView::makeSections() {

@@ -63,8 +63,8 @@ void TimeZoneSection::refresh() {
         before = chip;
     }
     if (hadFocus && !m_chips.empty())
-        m_chips[static_cast<std::size_t>(std::min(focusedPlace, std::ssize(m_chips) - 1))]->setFocus(
-            Qt::OtherFocusReason);
+        m_chips[static_cast<std::size_t>(std::min(focusedPlace, std::ssize(m_chips) - 1))]
+            ->setFocus(Qt::OtherFocusReason);
 }
 
 void TimeZoneSection::showTimeZonePicker() {
@@ -72,7 +72,9 @@ void TimeZoneSection::showTimeZonePicker() {
         return;
     auto* picker = new TimeZonePickerView(
         {[this] { return m_model.selectedTimeZones(); },
-         [this](std::vector<TimeZone> zones) { m_model.setSelectedTimeZones(std::move(zones)); }},
+         [this](std::vector<TimeZone> zones) {
+             m_model.setSelectedTimeZones(std::move(zones));
+         }},
         m_model.favoriteTimeZoneIdentifiers(),
         m_surroundings);
     m_picker = new Sheet(window(), picker);
@@ -103,8 +105,10 @@ ZoneChip* TimeZoneSection::takeOrMakeChip(const Slot& slot) {
     }
     const auto zone = slot.zone;
     if (slot.isSelected)
-        return new TimeZoneChip(zone, label(zone), [this, zone] { remove(zone); }, this);
-    return new FavoriteSuggestionChip(zone, label(zone), [this, zone] { add(zone); }, this);
+        return new TimeZoneChip(
+            zone, label(zone), [this, zone] { remove(zone); }, this);
+    return new FavoriteSuggestionChip(
+        zone, label(zone), [this, zone] { add(zone); }, this);
 }
 
 QString TimeZoneSection::label(const TimeZone& zone) const {

@@ -52,8 +52,7 @@ void X11WindowTraits::setActivationPolicy(ActivationPolicy policy) {
 bool X11WindowTraits::isComposited() const {
     // The running compositing manager of a screen owns this selection (EWMH, _NET_WM_CM_Sn).
     const auto name = QStringLiteral("_NET_WM_CM_S%1").arg(m_connection->screenNumber());
-    const auto cookie =
-        xcb_get_selection_owner(m_connection->xcb(), m_connection->atom(name));
+    const auto cookie = xcb_get_selection_owner(m_connection->xcb(), m_connection->atom(name));
     const XcbReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(m_connection->xcb(), cookie, nullptr));
     return reply && reply->owner != XCB_WINDOW_NONE;

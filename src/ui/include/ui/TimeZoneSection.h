@@ -3,11 +3,11 @@
 
 #include <controls/FlowLayout.h>
 #include <model/DateTimeModel.h>
-#include <picker/TimeZonePickerView.h>
 
 #include <QPointer>
 #include <QWidget>
 
+#include <picker/TimeZonePickerView.h>
 #include <vector>
 
 namespace quorvane {

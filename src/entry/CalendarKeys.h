@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/CivilTime.h>
+#include <foundation/UserLocale.h>
+
+#include <QtGlobal>
+
+#include <optional>
+
+class QKeyEvent;
+
+namespace quorvane {
+
+/// Whether the key press moves about in a calendar: an arrow, Page Up or Down, Home or End, without
+/// modifiers.
+[[nodiscard]] bool isCalendarKey(const QKeyEvent& event);
+
+/// The day that such a key leads to. Left and Right go where one sees the neighbour in that
+/// direction of layout, Page Up and Down by a month, Home and End to the ends of the week. None for
+/// other keys.
+[[nodiscard]] std::optional<CivilDay> dayAfterKey(
+    CivilDay day, const QKeyEvent& event, Qt::LayoutDirection direction, const UserLocale& locale);
+
+} // namespace quorvane

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include <entry/DateField.h>
+#include <foundation/DateText.h>
+
+#include <utility>
+
+namespace quorvane {
+
+DateField::DateField(
+    DateBinding date, MinDate minDate, const EntrySurroundings& surroundings, QWidget* parent)
+    : FieldChip(Symbol::Calendar, surroundings.popoverEffects, parent),
+      m_date(std::move(date)),
+      m_minDate(std::move(minDate)),
+      m_surroundings(surroundings) {
+    refresh();
+}
+
+void DateField::refresh() {
+    showText(
+        dateChipText(m_date.get(), m_surroundings.currentZone.current(), m_surroundings.locale));
+    if (m_calendar)
+        m_calendar->refresh();
+}
+
+QWidget* DateField::makeContent() {
+    const auto set = [this](Instant date) {
+        m_date.set(date);
+        refresh();
+    };
+    m_calendar = new CalendarPicker({m_date.get, set}, m_minDate, m_surroundings);
+    return m_calendar;
+}
+
+} // namespace quorvane

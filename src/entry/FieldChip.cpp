@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include <controls/ChipSurface.h>
+#include <controls/TextStyle.h>
+#include <entry/FieldChip.h>
+
+#include <QPainter>
+
+#include <cmath>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr double spacing = 5;
+constexpr SymbolStyle iconStyle{12, SymbolStyle::semibold};
+
+} // namespace
+
+FieldChip::FieldChip(Symbol icon, PopoverEffects effects, QWidget* parent)
+    : PressableControl(parent),
+      m_icon(icon),
+      m_effects(std::move(effects)) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &FieldChip::clicked, this, &FieldChip::toggle);
+}
+
+QSize FieldChip::sizeHint() const {
+    const double content = contentRow(Theme::of(palette())).width();
+    return {
+        static_cast<int>(std::ceil(content)) + 2 * ChipSurface::horizontalPadding,
+        ChipSurface::height};
+}
+
+void FieldChip::showText(const QString& newText) {
+    if (newText == text())
+        return;
+    setText(newText);
+    updateGeometry();
+}
+
+double FieldChip::cornerRadius() const {
+    return ChipSurface::cornerRadius;
+}
+
+void FieldChip::paintControl(QPainter& painter, const Theme& theme) {
+    const auto frame = m_popover ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
+    ChipSurface::paint(painter, rect(), theme, look(), frame);
+    constexpr int padding = ChipSurface::horizontalPadding;
+    contentRow(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
+}
+
+void FieldChip::hideEvent(QHideEvent* event) {
+    PressableControl::hideEvent(event);
+    if (m_popover)
+        m_popover->close();
+}
+
+void FieldChip::toggle() {
+    if (m_popover)
+        m_popover->close();
+    else
+        open();
+}
+
+void FieldChip::open() {
+    m_popover = new AnchoredPopover(this, makeContent(), m_effects);
+    m_popover->setLayoutDirection(layoutDirection());
+    connect(m_popover, &AnchoredPopover::closed, this, &FieldChip::noteClosed);
+    m_popover->open();
+    announceExpansion();
+}
+
+void FieldChip::noteClosed() {
+    m_popover = nullptr;
+    announceExpansion();
+}
+
+void FieldChip::announceExpansion() {
+    update();
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+ContentRow FieldChip::contentRow(const Theme& theme) const {
+    ContentRow row(spacing);
+    row.addSymbol(m_icon, iconStyle, theme.text2);
+    row.addText(text(), textFont(font(), TextStyle::Callout), theme.text);
+    return row;
+}
+
+} // namespace quorvane

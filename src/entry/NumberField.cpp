@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
+#include <controls/DevicePixels.h>
+#include <controls/TextStyle.h>
+#include <controls/Theme.h>
+#include <entry/NumberField.h>
+
+#include <QFocusEvent>
+#include <QPainter>
+#include <QValidator>
+
+#include <limits>
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr QSize fieldSize(52, 48);
+constexpr double cornerRadius = 8;
+constexpr int digitPixels = 28;
+constexpr double selectionOpacity = 0.24;
+constexpr qsizetype longestText = 10'000;
+
+/// Refuses a paste that would take seconds to lay out, and refuses it whole: the start of a text is
+/// another text, which might be a number.
+class LengthValidator final : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& /*cursor*/) const override {
+        return text.size() <= longestText ? Acceptable : Invalid;
+    }
+};
+
+} // namespace
+
+NumberField::NumberField(const QString& placeholder, QWidget* parent) : QLineEdit(parent) {
+    setFrame(false);
+    setFixedSize(fieldSize);
+    setAlignment(Qt::AlignCenter);
+    setMaxLength(std::numeric_limits<int>::max());
+    setValidator(new LengthValidator(this));
+    setPlaceholderText(placeholder);
+    setFont(fixedSizeFont(font(), digitPixels, QFont::Light));
+    followPalette();
+}
+
+void NumberField::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter(this);
+        const auto theme = Theme::of(parentWidget()->palette());
+        fillRounded(painter, rect(), cornerRadius, theme.base);
+        const auto& ink = hasFocus() ? theme.accentText : theme.sep;
+        frameRounded(painter, rect(), cornerRadius, ink, hasFocus() ? 2 : 1);
+    }
+    QLineEdit::paintEvent(event);
+}
+
+void NumberField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    m_focusedByPress = event->reason() == Qt::MouseFocusReason;
+    selectAll();
+}
+
+void NumberField::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    // The press that gave the focus has put the cursor between the digits.
+    if (std::exchange(m_focusedByPress, false) && !hasSelectedText())
+        selectAll();
+}
+
+void NumberField::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        followPalette();
+}
+
+void NumberField::followPalette() {
+    const auto theme = Theme::of(parentWidget()->palette());
+    auto own = palette();
+    own.setColor(QPalette::Base, Qt::transparent);
+    own.setColor(QPalette::Text, theme.text);
+    own.setColor(QPalette::PlaceholderText, theme.text2);
+    own.setColor(QPalette::Highlight, withOpacity(theme.accentText, selectionOpacity));
+    own.setColor(QPalette::HighlightedText, theme.text);
+    if (own != palette())
+        setPalette(own);
+}
+
+} // namespace quorvane

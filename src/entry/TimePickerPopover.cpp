@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "EntryKeyCodes.h"
+
+#include <controls/SegmentedChip.h>
+#include <controls/TextStyle.h>
+#include <controls/Theme.h>
+#include <entry/TimePickerPopover.h>
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int padding = 16;
+constexpr int spacing = 10;
+constexpr int periodWidth = 80;
+constexpr int periodLeading = 4;
+constexpr int colonWidth = 6;
+constexpr int colonPixels = 26;
+constexpr int colonRise = 4; ///< from the row's middle to the middle of the digits
+
+} // namespace
+
+TimePickerPopover::TimePickerPopover(
+    DateBinding date, const CurrentZone& currentZone, QWidget* parent)
+    : QWidget(parent),
+      m_date(std::move(date)),
+      m_currentZone(currentZone),
+      m_hour(numberField(tr("Hour"), u"12"_s)),
+      m_minute(numberField(tr("Minute"), u"00"_s)),
+      m_period(new SegmentedChip(this)) {
+    // A clock reads from left to right in every script.
+    setLayoutDirection(Qt::LeftToRight);
+    m_period->setAccessibleName(tr("AM or PM"));
+    m_period->setFixedWidth(periodWidth);
+    connect(m_period, &SegmentedChip::chosen, this, [this](int index) { setPM(index == 1); });
+    layOut();
+    addShortcuts();
+    setFocusProxy(m_hour);
+}
+
+std::optional<TimePickerPopover::Field> TimePickerPopover::focus() const {
+    for (const auto field : {Field::Hour, Field::Minute}) {
+        if (fieldWidget(field)->hasFocus())
+            return field;
+    }
+    return std::nullopt;
+}
+
+void TimePickerPopover::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    load();
+    setFocus(Field::Hour, Qt::PopupFocusReason);
+    installKeyMonitor();
+}
+
+void TimePickerPopover::hideEvent(QHideEvent* event) {
+    m_keyMonitor.reset();
+    QWidget::hideEvent(event);
+}
+
+void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setFont(fixedSizeFont(font(), colonPixels, QFont::Thin));
+    painter.setPen(Theme::of(palette()).text2);
+    const QRect gap(m_hour->geometry().topRight(), m_minute->geometry().bottomLeft());
+    painter.drawText(gap.translated(0, -colonRise), Qt::AlignCenter, u":"_s);
+}
+
+NumberField* TimePickerPopover::numberField(const QString& name, const QString& placeholder) {
+    auto* field = new NumberField(placeholder, this);
+    field->setAccessibleName(name);
+    connect(field, &NumberField::textChanged, this, &TimePickerPopover::save);
+    return field;
+}
+
+NumberField* TimePickerPopover::fieldWidget(Field field) const {
+    return field == Field::Hour ? m_hour : m_minute;
+}
+
+TimeTexts TimePickerPopover::texts() const {
+    return {m_hour->text(), m_minute->text(), m_period->selectedIndex() == 1};
+}
+
+void TimePickerPopover::layOut() {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(padding, padding, padding, padding);
+    row->setSpacing(spacing);
+    row->addWidget(m_hour);
+    row->addSpacing(spacing + colonWidth);
+    row->addWidget(m_minute);
+    row->addSpacing(periodLeading);
+    row->addWidget(m_period);
+}
+
+void TimePickerPopover::addShortcuts() {
+    const auto add = [this](Qt::Key key, bool isPM) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
+        connect(shortcut, &QShortcut::activated, this, [this, isPM] { setPM(isPM); });
+    };
+    add(Qt::Key_A, false);
+    add(Qt::Key_P, true);
+}
+
+void TimePickerPopover::load() {
+    const auto time = loadedTime(m_date.get(), m_currentZone.current());
+    {
+        // What is shown in between is no time that anyone chose.
+        const QSignalBlocker hourBlocker(m_hour);
+        const QSignalBlocker minuteBlocker(m_minute);
+        m_hour->setText(time.hourText);
+        m_minute->setText(time.minuteText);
+        showPeriod(time.isPM);
+    }
+    save();
+}
+
+void TimePickerPopover::save() {
+    if (const auto saved = savedTime(texts(), m_date.get(), m_currentZone.current()))
+        m_date.set(*saved);
+}
+
+void TimePickerPopover::step(int amount) {
+    const bool isHour = focus() == Field::Hour;
+    auto* field = isHour ? m_hour : m_minute;
+    field->setText(
+        isHour ? steppedHour(field->text(), amount) : steppedMinute(field->text(), amount));
+    if (field->hasFocus())
+        field->selectAll();
+}
+
+void TimePickerPopover::setPM(bool isPM) {
+    showPeriod(isPM);
+    save();
+}
+
+void TimePickerPopover::showPeriod(bool isPM) {
+    m_period->setChoices({tr("AM"), tr("PM")}, isPM ? 1 : 0);
+    // Tab and arrows are the digits' own here, so that a focus on the segments would be of no use;
+    // and a press on them must not take it from the digits.
+    for (auto* segment : m_period->findChildren<QWidget*>())
+        segment->setFocusPolicy(Qt::NoFocus);
+}
+
+void TimePickerPopover::setFocus(Field field, Qt::FocusReason reason) {
+    fieldWidget(field)->setFocus(reason);
+}
+
+void TimePickerPopover::installKeyMonitor() {
+    m_keyMonitor = std::make_unique<LocalKeyMonitor>(
+        [this](std::uint32_t keyCode) { return handleKey(keyCode); });
+}
+
+LocalKeyMonitor::Verdict TimePickerPopover::handleKey(std::uint32_t keyCode) {
+    switch (keyCode) {
+    case keycode::tab:
+        setFocus(focus() == Field::Hour ? Field::Minute : Field::Hour, Qt::TabFocusReason);
+        break;
+    case keycode::leftArrow:
+        setFocus(Field::Hour, Qt::TabFocusReason);
+        break;
+    case keycode::rightArrow:
+        setFocus(Field::Minute, Qt::TabFocusReason);
+        break;
+    case keycode::downArrow:
+        step(-1);
+        break;
+    case keycode::upArrow:
+        step(+1);
+        break;
+    default:
+        return LocalKeyMonitor::Verdict::Pass;
+    }
+    return LocalKeyMonitor::Verdict::Swallow;
+}
+
+} // namespace quorvane

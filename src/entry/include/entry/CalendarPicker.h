@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <entry/CalendarGrid.h>
+#include <entry/DateBinding.h>
+#include <entry/EntrySurroundings.h>
+#include <foundation/CivilTime.h>
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+class QLabel;
+
+namespace quorvane {
+
+/// The earliest instant whose day may be chosen; asked whenever it matters. Absent, or none: any.
+using MinDate = std::function<std::optional<Instant>()>;
+
+/// A calendar to choose a date's day from, one month at a time, in the locale's own calendar. Each
+/// choice goes into the date at once and leaves its time of day; turning pages changes nothing.
+class CalendarPicker final : public QWidget {
+    Q_OBJECT
+
+public:
+    CalendarPicker(
+        DateBinding date,
+        MinDate minDate,
+        const EntrySurroundings& surroundings,
+        QWidget* parent = nullptr);
+
+    /// Shows date, minimum, zone and today as they are now. The page turns only if the date's day
+    /// is another.
+    void refresh();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void layOut();
+    void turnPage(int months);
+    void pick(CivilDay day);
+    void showCursor(CivilDay day);
+    void mark();
+    void followFont();
+
+    [[nodiscard]] TimeZone zone() const { return m_surroundings.currentZone.current(); }
+
+    [[nodiscard]] CivilDay chosenDay() const { return civilDay(m_date.get(), zone()); }
+
+    [[nodiscard]] std::optional<CivilDay> earliestDay() const;
+
+    DateBinding m_date;
+    MinDate m_minDate;
+    EntrySurroundings m_surroundings;
+    QLabel* m_title;
+    CalendarGrid* m_grid;
+    std::optional<CivilDay> m_chosen; ///< as last shown
+    CivilDay m_cursor;                ///< where the keyboard is; its month is the page
+};
+
+} // namespace quorvane

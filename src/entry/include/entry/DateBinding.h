@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/Instant.h>
+
+#include <functional>
+
+namespace quorvane {
+
+/// One date that a view shows and edits; the date itself is someone else's.
+struct DateBinding {
+    std::function<Instant()> get;
+    std::function<void(Instant)> set;
+};
+
+} // namespace quorvane

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <entry/CalendarPicker.h>
+#include <entry/DateBinding.h>
+#include <entry/EntrySurroundings.h>
+#include <entry/FieldChip.h>
+
+#include <QPointer>
+
+namespace quorvane {
+
+/// The chip of a date's day; it opens a calendar.
+class DateField final : public FieldChip {
+    Q_OBJECT
+
+public:
+    DateField(
+        DateBinding date,
+        MinDate minDate,
+        const EntrySurroundings& surroundings,
+        QWidget* parent = nullptr);
+
+    /// Shows date, minimum, zone and today as they are now, in an open calendar too.
+    void refresh();
+
+protected:
+    [[nodiscard]] QWidget* makeContent() override;
+
+private:
+    DateBinding m_date;
+    MinDate m_minDate;
+    EntrySurroundings m_surroundings;
+    QPointer<CalendarPicker> m_calendar;
+};
+
+} // namespace quorvane

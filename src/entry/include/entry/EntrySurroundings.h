@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/PopoverEffects.h>
+#include <foundation/Clock.h>
+#include <foundation/CurrentZone.h>
+#include <foundation/UserLocale.h>
+
+namespace quorvane {
+
+/// What the entry of dates and times needs to know of the system. What is referred to must outlive
+/// the views.
+struct EntrySurroundings {
+    const Clock& clock;             ///< marks today
+    const CurrentZone& currentZone; ///< days and times are those of this zone
+    UserLocale locale;
+    PopoverEffects popoverEffects;
+};
+
+} // namespace quorvane

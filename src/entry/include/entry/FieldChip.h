@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/AnchoredPopover.h>
+#include <controls/ContentRow.h>
+#include <controls/PressableControl.h>
+#include <controls/Symbol.h>
+
+#include <QPointer>
+
+namespace quorvane {
+
+/// A chip that shows a value and opens a popover to edit it; the next press closes the popover. To
+/// assistive technology it is a button that has its text for a name and can be expanded.
+class FieldChip : public PressableControl {
+    Q_OBJECT
+
+public:
+    FieldChip(Symbol icon, PopoverEffects effects, QWidget* parent);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+    [[nodiscard]] std::optional<bool> isExpanded() const override { return !m_popover.isNull(); }
+
+    /// Shows another value.
+    void showText(const QString& text);
+
+protected:
+    /// What the popover shows: made anew at each opening and gone when it closes.
+    [[nodiscard]] virtual QWidget* makeContent() = 0;
+
+    [[nodiscard]] double cornerRadius() const override;
+    void paintControl(QPainter& painter, const Theme& theme) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void toggle();
+    void open();
+    void noteClosed();
+    void announceExpansion();
+    [[nodiscard]] ContentRow contentRow(const Theme& theme) const;
+
+    Symbol m_icon;
+    PopoverEffects m_effects;
+    QPointer<AnchoredPopover> m_popover;
+};
+
+} // namespace quorvane

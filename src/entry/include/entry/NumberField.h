@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLineEdit>
+
+namespace quorvane {
+
+/// A framed field for two large digits. It takes any text up to ten thousand characters and refuses
+/// a longer one whole; getting the focus selects it.
+class NumberField final : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit NumberField(const QString& placeholder, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void followPalette();
+
+    bool m_focusedByPress = false;
+};
+
+} // namespace quorvane

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <entry/DateBinding.h>
+#include <entry/EntrySurroundings.h>
+#include <entry/FieldChip.h>
+
+namespace quorvane {
+
+/// The chip of a date's time of day; it opens the entry of hour and minute.
+class TimeField final : public FieldChip {
+    Q_OBJECT
+
+public:
+    TimeField(DateBinding date, const EntrySurroundings& surroundings, QWidget* parent = nullptr);
+
+    /// Shows date and zone as they are now. What is being typed in an open popover stays.
+    void refresh();
+
+protected:
+    [[nodiscard]] QWidget* makeContent() override;
+
+private:
+    DateBinding m_date;
+    EntrySurroundings m_surroundings;
+};
+
+} // namespace quorvane

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include <entry/TimeEntry.h>
+#include <foundation/ZoneDatabase.h>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+TimeZone zone(const char* identifier) {
+    return ZoneDatabase().zone(QString::fromUtf8(identifier)).value();
+}
+
+// Midnight of 2024-03-09 in New York, which is 05:00Z.
+constexpr Instant midnight{1709960400};
+
+struct Loaded {
+    Seconds timeOfDay;
+    TimeTexts texts;
+};
+
+class TimeLoadTest : public testing::TestWithParam<Loaded> {};
+
+TEST_P(TimeLoadTest, ShowsTheTimeOnTheDial) {
+    const auto [timeOfDay, texts] = GetParam();
+    EXPECT_EQ(loadedTime(midnight + timeOfDay, zone("America/New_York")), texts);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ,
+    TimeLoadTest,
+    testing::Values(
+        Loaded{0h, {u"12"_s, u"00"_s, false}},
+        Loaded{30min + 45s, {u"12"_s, u"30"_s, false}},
+        Loaded{1h + 5min, {u"1"_s, u"05"_s, false}},
+        Loaded{11h + 59min + 59.75s, {u"11"_s, u"59"_s, false}},
+        Loaded{12h + 5min, {u"12"_s, u"05"_s, true}},
+        Loaded{13h + 7min, {u"1"_s, u"07"_s, true}},
+        Loaded{23h + 59min, {u"11"_s, u"59"_s, true}}));
+
+struct Saved {
+    TimeTexts texts;
+    std::optional<Seconds> timeOfDay;
+};
+
+class TimeSaveTest : public testing::TestWithParam<Saved> {};
+
+TEST_P(TimeSaveTest, WritesWhatIsATimeAndNothingElse) {
+    const auto [texts, timeOfDay] = GetParam();
+    const auto saved = savedTime(texts, midnight + 9h + 15min + 45s, zone("America/New_York"));
+    EXPECT_EQ(saved, timeOfDay ? std::optional(midnight + *timeOfDay) : std::nullopt);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ,
+    TimeSaveTest,
+    testing::Values(
+        Saved{{u"9"_s, u"15"_s, false}, 9h + 15min},
+        Saved{{u"9"_s, u"15"_s, true}, 21h + 15min},
+        Saved{{u"7"_s, u"15"_s, true}, 19h + 15min},
+        Saved{{u"+7"_s, u"15"_s, true}, 19h + 15min},
+        Saved{{u"12"_s, u"00"_s, false}, 0h},
+        Saved{{u"12"_s, u"00"_s, true}, 12h},
+        Saved{{u"1"_s, u"00"_s, true}, 13h},
+        Saved{{u"9"_s, u"5"_s, false}, 9h + 5min},
+        Saved{{u"9"_s, u"59"_s, false}, 9h + 59min},
+        Saved{{u"0"_s, u"15"_s, false}, std::nullopt},
+        Saved{{u"13"_s, u"15"_s, false}, std::nullopt},
+        Saved{{u"-3"_s, u"15"_s, false}, std::nullopt},
+        Saved{{u"9"_s, u"60"_s, false}, std::nullopt},
+        Saved{{u"9"_s, u"-1"_s, false}, std::nullopt},
+        Saved{{u""_s, u"15"_s, false}, std::nullopt},
+        Saved{{u"9"_s, u""_s, false}, std::nullopt},
+        Saved{{u"nine"_s, u"15"_s, false}, std::nullopt},
+        Saved{{u"9"_s, u"+"_s, false}, std::nullopt},
+        Saved{{u"9223372036854775807"_s, u"15"_s, true}, std::nullopt},
+        Saved{{u"9"_s, u"-9223372036854775808"_s, true}, std::nullopt}));
+
+TEST(TimeEntryTest, OpeningDropsTheSecondsAndNothingElse) {
+    const auto date = midnight + 30min + 45.5s;
+    const auto newYork = zone("America/New_York");
+    EXPECT_EQ(savedTime(loadedTime(date, newYork), date, newYork), midnight + 30min);
+}
+
+TEST(TimeEntryTest, OpeningInARepeatedHourStaysInItsTurn) {
+    // 2024-11-03, 01:20 in New York, at 05:20Z and again at 06:20Z.
+    const auto newYork = zone("America/New_York");
+    for (const auto date : {Instant{1730611200}, Instant{1730614800}})
+        EXPECT_EQ(savedTime(loadedTime(date, newYork), date, newYork), date);
+}
+
+TEST(TimeEntryTest, SkippedTimeIsTakenAfterTheGap) {
+    // 2024-03-10, 02:30 in New York, becomes 03:30 EDT.
+    const TimeTexts texts{u"2"_s, u"30"_s, false};
+    EXPECT_EQ(savedTime(texts, midnight + 34h, zone("America/New_York")), Instant{1710055800});
+}
+
+struct Step {
+    QString before;
+    qint64 step;
+    QString after;
+};
+
+class HourStepTest : public testing::TestWithParam<Step> {};
+
+TEST_P(HourStepTest, GoesRoundTheDial) {
+    const auto& [before, step, after] = GetParam();
+    EXPECT_EQ(steppedHour(before, step), after);
+}
+
+// The limits of 64 bits are 7 and -8 modulo 12.
+INSTANTIATE_TEST_SUITE_P(
+    ,
+    HourStepTest,
+    testing::Values(
+        Step{u"12"_s, 1, u"1"_s},
+        Step{u"1"_s, -1, u"12"_s},
+        Step{u"11"_s, 1, u"12"_s},
+        Step{u"12"_s, -1, u"11"_s},
+        Step{u"09"_s, 1, u"10"_s},
+        Step{u"15"_s, 1, u"4"_s},
+        Step{u"0"_s, 1, u"1"_s},
+        Step{u"0"_s, -1, u"11"_s},
+        Step{u"-3"_s, 1, u"10"_s},
+        Step{u""_s, 1, u"1"_s},
+        Step{u"x"_s, -1, u"11"_s},
+        Step{u"9223372036854775807"_s, 1, u"8"_s},
+        Step{u"-9223372036854775808"_s, -1, u"3"_s},
+        Step{u"-9223372036854775808"_s, std::numeric_limits<qint64>::min(), u"8"_s}));
+
+class MinuteStepTest : public testing::TestWithParam<Step> {};
+
+TEST_P(MinuteStepTest, GoesRoundTheHour) {
+    const auto& [before, step, after] = GetParam();
+    EXPECT_EQ(steppedMinute(before, step), after);
+}
+
+// The limits of 64 bits are 7 and -8 modulo 60.
+INSTANTIATE_TEST_SUITE_P(
+    ,
+    MinuteStepTest,
+    testing::Values(
+        Step{u"59"_s, 1, u"00"_s},
+        Step{u"00"_s, -1, u"59"_s},
+        Step{u"5"_s, 1, u"06"_s},
+        Step{u"30"_s, -1, u"29"_s},
+        Step{u"100"_s, -1, u"39"_s},
+        Step{u"-1"_s, 1, u"00"_s},
+        Step{u""_s, 1, u"01"_s},
+        Step{u"x"_s, -1, u"59"_s},
+        Step{u"9223372036854775807"_s, 1, u"08"_s},
+        Step{u"-9223372036854775808"_s, -1, u"51"_s}));
+
+} // namespace
+} // namespace quorvane
