@@ -106,6 +106,14 @@ UClassID DatabaseTimeZone::getDynamicClassID() const {
 }
 
 DatabaseTimeZone::Offset DatabaseTimeZone::offsetAt(UDate date) const {
+    if (date != m_lastDate) {
+        m_lastOffset = computedOffsetAt(date);
+        m_lastDate = date;
+    }
+    return m_lastOffset;
+}
+
+DatabaseTimeZone::Offset DatabaseTimeZone::computedOffsetAt(UDate date) const {
     const Instant instant{date / U_MILLIS_PER_SECOND};
     const int32_t total = m_zone.secondsFromGMT(instant) * U_MILLIS_PER_SECOND;
     if (m_own) {

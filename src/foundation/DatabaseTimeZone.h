@@ -5,6 +5,7 @@
 
 #include <unicode/timezone.h>
 
+#include <limits>
 #include <memory>
 
 namespace quorvane {
@@ -58,10 +59,16 @@ private:
     };
 
     [[nodiscard]] Offset offsetAt(UDate date) const;
+    [[nodiscard]] Offset computedOffsetAt(UDate date) const;
     [[nodiscard]] Offset offsetAtLocal(UDate local) const;
 
     quorvane::TimeZone m_zone;
     std::unique_ptr<icu::TimeZone> m_own; ///< null if ICU does not know the zone
+
+    /// For one text ICU asks for the same date two or three times. Offsets never change: this is
+    /// the answer to the last question, at hand for the next.
+    mutable UDate m_lastDate = std::numeric_limits<UDate>::quiet_NaN();
+    mutable Offset m_lastOffset;
 };
 
 } // namespace quorvane

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <foundation/DateText.h>
+#include <foundation/ZoneNames.h>
 #include <model/FormatSingle.h>
 
 #include <cmath>
 #include <cstdlib>
 
 namespace quorvane {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,10 +39,6 @@ constexpr Variants<Iso8601Options> iso8601Variants{
     iso8601::time | iso8601::colonSeparatorInTime | iso8601::timeZone,
     iso8601::fullDate};
 
-QString zoneAbbreviation(Instant instant, const TimeZone& zone, const UserLocale& locale) {
-    return patternText(instant, zone, u"zzz"_s, locale);
-}
-
 QString styledWithZone(
     Instant instant, const TimeZone& zone, FormatStyle dateStyle, const FormatSettings& settings) {
     const FormatStyles styles{
@@ -52,7 +47,7 @@ QString styledWithZone(
     const auto text = styledText(instant, zone, styles, settings.locale);
     if (!settings.includeTime)
         return text;
-    return text + u' ' + zoneAbbreviation(instant, zone, settings.locale);
+    return text + u' ' + zoneAbbreviation(zone, instant, settings.locale).value_or(QString());
 }
 
 QString unixTimestamp(Instant instant) {

@@ -9,6 +9,8 @@
 
 namespace quorvane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString jsonText(const QJsonValue& value) {
@@ -38,6 +40,26 @@ bool runRow(
     return false;
 }
 
+/// A plain text is one row that holds all of its lines.
+QByteArray rowOfLines(QFile& file) {
+    QJsonArray lines;
+    while (!file.atEnd())
+        lines.append(QString::fromUtf8(file.readLine().trimmed()));
+    return QJsonDocument(QJsonObject{{"lines"_L1, lines}}).toJson(QJsonDocument::Compact);
+}
+
+QByteArrayList rowsOf(QFile& file) {
+    if (file.fileName().endsWith(".txt"_L1))
+        return {rowOfLines(file)};
+    QByteArrayList rows;
+    while (!file.atEnd()) {
+        const auto line = file.readLine().trimmed();
+        if (!line.isEmpty())
+            rows.append(line);
+    }
+    return rows;
+}
+
 VectorCount refused(const QString& path, const char* reason, QTextStream& out) {
     out << path << ": " << reason << '\n';
     return {.failed = 1};
@@ -59,11 +81,8 @@ VectorCount runVectorFile(const QString& path, const ZoneDatabase& zones, QTextS
     if (!file.open(QIODevice::ReadOnly))
         return refused(path, "cannot be read", out);
     VectorCount count;
-    while (!file.atEnd()) {
-        const auto line = file.readLine().trimmed();
-        if (!line.isEmpty())
-            ++(runRow(check, line, zones, out) ? count.passed : count.failed);
-    }
+    for (const auto& row : rowsOf(file))
+        ++(runRow(check, row, zones, out) ? count.passed : count.failed);
     if (count.passed + count.failed == 0)
         return refused(path, "has no rows", out);
     out << path << ": " << count.passed << " passed, " << count.failed << " failed\n";

@@ -33,6 +33,15 @@ constexpr std::array kinds{
     VectorKind{"hotkey_display"_L1, checkHotKeyDisplay},
     VectorKind{"hotkey_load"_L1, checkHotKeyLoad},
     VectorKind{"hotkey_keychar"_L1, checkHotKeyKeyChar},
+    VectorKind{"universe"_L1, checkUniverse},
+    VectorKind{"alias"_L1, checkAlias},
+    VectorKind{"search"_L1, checkSearch},
+    VectorKind{"starred"_L1, checkStarred},
+    VectorKind{"catalogue_sort"_L1, checkCatalogueSort},
+    VectorKind{"offset_text"_L1, checkOffsetText},
+    VectorKind{"labels"_L1, checkLabel},
+    VectorKind{"labels_by_zone"_L1, checkLabelByZone},
+    VectorKind{"toggle"_L1, checkToggle},
 };
 
 } // namespace

@@ -40,5 +40,14 @@ using VectorCheck = Comparison (*)(const VectorRow& row);
 [[nodiscard]] Comparison checkHotKeyDisplay(const VectorRow& row);
 [[nodiscard]] Comparison checkHotKeyLoad(const VectorRow& row);
 [[nodiscard]] Comparison checkHotKeyKeyChar(const VectorRow& row);
+[[nodiscard]] Comparison checkUniverse(const VectorRow& row);
+[[nodiscard]] Comparison checkAlias(const VectorRow& row);
+[[nodiscard]] Comparison checkSearch(const VectorRow& row);
+[[nodiscard]] Comparison checkStarred(const VectorRow& row);
+[[nodiscard]] Comparison checkCatalogueSort(const VectorRow& row);
+[[nodiscard]] Comparison checkOffsetText(const VectorRow& row);
+[[nodiscard]] Comparison checkLabel(const VectorRow& row);
+[[nodiscard]] Comparison checkLabelByZone(const VectorRow& row);
+[[nodiscard]] Comparison checkToggle(const VectorRow& row);
 
 } // namespace quorvane

@@ -2,6 +2,7 @@
 #include <controls/AnchoredPopover.h>
 #include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
+#include <controls/PopoverShadow.h>
 #include <controls/Theme.h>
 
 #include <QCloseEvent>
@@ -20,21 +21,6 @@ namespace {
 constexpr double cornerRadius = 10;
 constexpr int fadeMilliseconds = 90;
 
-/// The shadow's steps: rounded rectangles grown by so much, and moved down by 1, 2, 3 and so on.
-constexpr std::array shadowGrowth{1, 2, 3, 5, 7, 9};
-/// How far the shadow reaches beyond the surface.
-constexpr QMargins shadowReach{9, 3, 9, 15};
-
-void paintShadow(QPainter& painter, const QRect& surface, const Theme& theme) {
-    for (std::size_t step = 0; step < shadowGrowth.size(); ++step) {
-        const int growth = shadowGrowth.at(step);
-        const auto rect = QRectF(surface)
-                              .adjusted(-growth, -growth, growth, growth)
-                              .translated(0, static_cast<double>(step + 1));
-        fillRounded(painter, rect, cornerRadius + growth, theme.shadow.at(step));
-    }
-}
-
 } // namespace
 
 AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const PopoverEffects& effects)
@@ -45,7 +31,7 @@ AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const Popove
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_TranslucentBackground, m_composited);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(m_composited ? shadowReach : QMargins());
+    layout->setContentsMargins(m_composited ? popoverShadowReach : QMargins());
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(content);
     setFocusProxy(content->focusProxy() != nullptr ? content->focusProxy() : content);
@@ -91,7 +77,7 @@ void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
     if (m_composited) {
-        paintShadow(painter, surface(), theme);
+        paintPopoverShadow(painter, surface(), cornerRadius, theme);
         fillRounded(painter, surface(), cornerRadius, theme.pop);
         return;
     }
@@ -107,7 +93,7 @@ void AnchoredPopover::closeEvent(QCloseEvent* event) {
 }
 
 QRect AnchoredPopover::surface() const {
-    return m_composited ? rect().marginsRemoved(shadowReach) : rect();
+    return m_composited ? rect().marginsRemoved(popoverShadowReach) : rect();
 }
 
 QRect AnchoredPopover::anchorRect() const {

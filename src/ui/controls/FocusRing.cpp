@@ -76,7 +76,8 @@ void FocusRing::noteFocus(QWidget* widget, Qt::FocusReason reason) {
 
 void FocusRing::follow() {
     const auto* shape = shapeOf(m_target);
-    if (shape == nullptr || !m_target->isVisibleTo(m_window)) {
+    if (shape == nullptr || shape->focusOutline().rect.isEmpty() ||
+        !m_target->isVisibleTo(m_window)) {
         hide();
         return;
     }
@@ -100,7 +101,7 @@ void FocusRing::paintEvent(QPaintEvent* /*event*/) {
         painter,
         rect.adjusted(-reach, -reach, reach, reach),
         outline.radius + reach,
-        Theme::of(m_window->palette()).accentText,
+        Theme::of(m_target->palette()).accentText,
         thickness);
 }
 

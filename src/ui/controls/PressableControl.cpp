@@ -32,9 +32,20 @@ PressableControl::Look PressableControl::look() const {
 
 void PressableControl::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    if (!isEnabled())
-        painter.setOpacity(disabledOpacity());
-    paintControl(painter, Theme::of(palette()));
+    const auto theme = Theme::of(palette());
+    if (isEnabled()) {
+        paintControl(painter, theme);
+        return;
+    }
+    // Faded as one: parts that overlap must not show through each other.
+    const double scale = painter.deviceTransform().m11();
+    QPixmap layer((QSizeF(size()) * scale).toSize());
+    layer.setDevicePixelRatio(scale);
+    layer.fill(Qt::transparent);
+    QPainter layerPainter(&layer);
+    paintControl(layerPainter, theme);
+    painter.setOpacity(disabledOpacity());
+    painter.drawPixmap(QPointF(), layer);
 }
 
 void PressableControl::keyPressEvent(QKeyEvent* event) {

@@ -23,6 +23,9 @@ public:
     /// choice is not announced by this.
     virtual void setChoices(const QStringList& titles, std::optional<int> selected) = 0;
 
+    /// What the choice is about, for assistive technology.
+    virtual void setLabel(const QString& label) { setAccessibleName(label); }
+
 Q_SIGNALS:
     /// The user chose a title, perhaps the one that was selected before.
     void chosen(int index);

@@ -5,7 +5,8 @@
 
 namespace quorvane {
 
-/// What the focus ring goes around, in the coordinates of the widget that has the focus.
+/// What the focus ring goes around, in the coordinates of the widget that has the focus; an empty
+/// rectangle for no ring.
 struct FocusOutline {
     QRectF rect;
     double radius = 0;

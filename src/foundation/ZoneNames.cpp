@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/IcuText.h>
+#include <foundation/IcuTimeZone.h>
+#include <foundation/ZoneNames.h>
+
+namespace quorvane {
+
+namespace {
+
+std::unique_ptr<icu::TimeZoneFormat> zoneFormat(const UserLocale& locale) {
+    auto status = U_ZERO_ERROR;
+    std::unique_ptr<icu::TimeZoneFormat> format(
+        icu::TimeZoneFormat::createInstance(locale.icuLocale(), status));
+    return U_SUCCESS(status) ? std::move(format) : nullptr;
+}
+
+} // namespace
+
+ZoneNames::ZoneNames(Instant instant, const UserLocale& locale)
+    : m_instant(instant),
+      m_format(zoneFormat(locale)) {
+}
+
+std::optional<QString> ZoneNames::abbreviation(const TimeZone& zone) const {
+    return abbreviation(*icuTimeZone(zone));
+}
+
+std::optional<QString> ZoneNames::abbreviation(const icu::TimeZone& zone) const {
+    return name(UTZFMT_STYLE_SPECIFIC_SHORT, zone);
+}
+
+std::optional<QString> ZoneNames::genericName(const TimeZone& zone) const {
+    // ICU gives generic names to none but its own kind of zone.
+    const auto own = icuOwnTimeZone(zone);
+    return own ? name(UTZFMT_STYLE_GENERIC_LONG, *own) : std::nullopt;
+}
+
+std::optional<QString>
+ZoneNames::name(UTimeZoneFormatStyle style, const icu::TimeZone& zone) const {
+    if (!m_format)
+        return std::nullopt;
+    icu::UnicodeString text;
+    m_format->format(style, zone, icuDate(m_instant), text);
+    return text.isEmpty() ? std::nullopt : std::optional(fromIcu(text));
+}
+
+std::optional<QString>
+zoneAbbreviation(const TimeZone& zone, Instant instant, const UserLocale& locale) {
+    return ZoneNames(instant, locale).abbreviation(zone);
+}
+
+std::optional<QString>
+genericZoneName(const TimeZone& zone, Instant instant, const UserLocale& locale) {
+    return ZoneNames(instant, locale).genericName(zone);
+}
+
+} // namespace quorvane

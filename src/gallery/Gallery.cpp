@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include <QGridLayout>
+
+#include <gallery/Gallery.h>
+#include <gallery/StatesBoard.h>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+Gallery::Gallery(QWidget* parent) : QScrollArea(parent) {
+    setWindowTitle(u"Gallery"_s);
+    auto* boards = new QWidget;
+    auto* grid = new QGridLayout(boards);
+    grid->setSpacing(0);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(new StatesBoard(ColorScheme::Light), 0, 0);
+    grid->addWidget(new StatesBoard(ColorScheme::Dark), 0, 1);
+    setWidget(boards);
+}
+
+} // namespace quorvane

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QScrollArea>
+
+namespace quorvane {
+
+/// One window with all boards, light and dark side by side.
+class Gallery final : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit Gallery(QWidget* parent = nullptr);
+};
+
+} // namespace quorvane

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include <timezones/TimeZoneCatalogue.h>
+
+#include <algorithm>
+#include <functional>
+#include <tuple>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct PlacedZone {
+    int offset;
+    TimeZone zone;
+
+    friend bool operator<(const PlacedZone& a, const PlacedZone& b) {
+        return std::tie(a.offset, a.zone.identifier()) < std::tie(b.offset, b.zone.identifier());
+    }
+};
+
+std::vector<TimeZone> offeredZones(const ZoneDatabase& database) {
+    auto identifiers = database.zonesByCountry();
+    identifiers << u"UTC"_s << u"Etc/GMT+12"_s;
+    identifiers.removeDuplicates();
+    std::vector<TimeZone> zones;
+    for (const auto& identifier : identifiers) {
+        if (auto zone = database.zone(identifier))
+            zones.push_back(*std::move(zone));
+    }
+    return zones;
+}
+
+} // namespace
+
+std::vector<TimeZone> sortedByOffset(std::vector<TimeZone> zones, Instant instant) {
+    std::vector<PlacedZone> placed;
+    placed.reserve(zones.size());
+    for (auto& zone : zones) {
+        const int offset = zone.secondsFromGMT(instant);
+        placed.push_back({offset, std::move(zone)});
+    }
+    std::ranges::stable_sort(placed, std::less<>());
+    std::ranges::transform(
+        placed, zones.begin(), [](PlacedZone& each) { return std::move(each.zone); });
+    return zones;
+}
+
+TimeZoneCatalogue::TimeZoneCatalogue(const ZoneDatabase& database, Instant instant)
+    : m_instant(instant) {
+    for (auto& zone : sortedByOffset(offeredZones(database), instant)) {
+        auto searchText = zone.identifier().toLower().replace(u'_', u' ');
+        m_entries.push_back({std::move(zone), std::move(searchText)});
+    }
+}
+
+} // namespace quorvane

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/IcuTimeZone.h>
+#include <foundation/ZoneNames.h>
+#include <timezones/TimeZoneAliases.h>
+#include <timezones/ZoneSearch.h>
+
+#include <cmath>
+#include <unordered_set>
+
+namespace quorvane {
+
+namespace {
+
+bool isBlank(QChar character) {
+    return character == u' ' || character == u'\t';
+}
+
+QString lowerCase(const std::optional<QString>& name) {
+    return name.value_or(QString()).toLower();
+}
+
+} // namespace
+
+QString normalisedQuery(QStringView query) {
+    while (!query.isEmpty() && isBlank(query.front()))
+        query = query.sliced(1);
+    while (!query.isEmpty() && isBlank(query.back()))
+        query.chop(1);
+    return query.toString().toLower();
+}
+
+ZoneSearch::ZoneSearch(TimeZoneCatalogue catalogue, UserLocale locale)
+    : m_catalogue(std::move(catalogue)),
+      m_locale(std::move(locale)) {
+}
+
+std::vector<TimeZone> ZoneSearch::filtered(const QString& query, Instant now) const {
+    return found(query, now, [](const TimeZone&) { return true; });
+}
+
+std::vector<TimeZone>
+ZoneSearch::filteredStarred(const QString& query, Instant now, const QStringList& starred) const {
+    const std::unordered_set<QString> identifiers(starred.begin(), starred.end());
+    return found(query, now, [&identifiers](const TimeZone& zone) {
+        return identifiers.contains(zone.identifier());
+    });
+}
+
+std::vector<TimeZone>
+ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidate) const {
+    const auto text = normalisedQuery(query);
+    const auto aliased = TimeZoneAliases::identifiersMatching(text);
+    const ZoneNames names(startOfMinute(now), m_locale);
+    const auto matches = [&](std::size_t index) {
+        const auto& [zone, searchText] = m_catalogue.entries()[index];
+        return text.isEmpty() || aliased.contains(zone.identifier()) || searchText.contains(text) ||
+               lowerCase(names.abbreviation(*named(index).zone)).contains(text) ||
+               named(index).genericName.contains(text);
+    };
+    std::vector<TimeZone> zones;
+    for (std::size_t index = 0; index < m_catalogue.entries().size(); ++index) {
+        const auto& zone = m_catalogue.entries()[index].zone;
+        if (isCandidate(zone) && matches(index))
+            zones.push_back(zone);
+    }
+    return zones;
+}
+
+const ZoneSearch::Named& ZoneSearch::named(std::size_t index) const {
+    if (m_named.empty()) {
+        const ZoneNames names(m_catalogue.instant(), m_locale);
+        for (const auto& [zone, searchText] : m_catalogue.entries())
+            m_named.push_back({icuTimeZone(zone), lowerCase(names.genericName(zone))});
+    }
+    return m_named[index];
+}
+
+} // namespace quorvane

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/ZoneDatabase.h>
+
+#include <QStringList>
+
+#include <vector>
+
+namespace quorvane {
+
+/// The zones that the identifiers name, in their order; what names none is dropped. Links are zones
+/// of their own and keep their name.
+[[nodiscard]] std::vector<TimeZone>
+favoriteZones(const QStringList& identifiers, const ZoneDatabase& database);
+
+} // namespace quorvane

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/UserLocale.h>
+#include <timezones/TimeZoneCatalogue.h>
+
+#include <QString>
+#include <QStringList>
+#include <unicode/timezone.h>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace quorvane {
+
+/// What is searched for: without spaces and tabs around it, in lower case. Line feeds are no blanks:
+/// they are part of the query.
+[[nodiscard]] QString normalisedQuery(QStringView query);
+
+/// Finds zones of a catalogue by what the user types. A zone is found by an alias, its identifier,
+/// its abbreviation or its generic name in the user's locale; case does not matter, nor do spaces
+/// and tabs around the query. An empty query finds every zone. What is found keeps the catalogue's
+/// order.
+class ZoneSearch {
+public:
+    ZoneSearch(TimeZoneCatalogue catalogue, UserLocale locale);
+
+    [[nodiscard]] const TimeZoneCatalogue& catalogue() const { return m_catalogue; }
+
+    /// `now` decides which abbreviation a zone has: "PST" finds no zone in July.
+    [[nodiscard]] std::vector<TimeZone> filtered(const QString& query, Instant now) const;
+
+    /// The same among the zones with these identifiers.
+    [[nodiscard]] std::vector<TimeZone>
+    filteredStarred(const QString& query, Instant now, const QStringList& starred) const;
+
+private:
+    using Candidate = std::function<bool(const TimeZone& zone)>;
+
+    /// What an entry is asked for its names with.
+    struct Named {
+        std::unique_ptr<icu::TimeZone> zone;
+        QString genericName; ///< in lower case; empty for none
+    };
+
+    [[nodiscard]] std::vector<TimeZone>
+    found(const QString& query, Instant now, const Candidate& isCandidate) const;
+    [[nodiscard]] const Named& named(std::size_t index) const;
+
+    TimeZoneCatalogue m_catalogue;
+    UserLocale m_locale;
+
+    /// One for each entry. They make up nine tenths of the cost of a search and cannot change while
+    /// catalogue and locale do not. Made for the first query that needs them, as most lists are
+    /// opened and closed without one.
+    mutable std::vector<Named> m_named;
+};
+
+} // namespace quorvane

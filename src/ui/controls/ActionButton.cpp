@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include <controls/ActionButton.h>
+#include <controls/ChipSurface.h>
+#include <controls/ContentRow.h>
+#include <controls/DevicePixels.h>
+#include <controls/TextStyle.h>
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int buttonHeight = 34;
+constexpr int horizontalPadding = 16;
+constexpr double spacing = 6;
+
+QColor prominentFill(PressableControl::Look look, const Theme& theme) {
+    switch (look) {
+    case PressableControl::Look::Hover:
+        return theme.accentHover;
+    case PressableControl::Look::Pressed:
+        return theme.accentPress;
+    case PressableControl::Look::Rest:
+        break;
+    }
+    return theme.accent;
+}
+
+} // namespace
+
+ActionButton::ActionButton(
+    Prominence prominence, Symbol symbol, const QString& label, QWidget* parent)
+    : PressableControl(parent),
+      m_prominence(prominence),
+      m_symbol(symbol) {
+    setText(label);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize ActionButton::sizeHint() const {
+    const auto label = QFontMetricsF(labelFont()).horizontalAdvance(text());
+    const double content = SymbolStyle().size + spacing + std::ceil(label);
+    return {static_cast<int>(content) + 2 * horizontalPadding, buttonHeight};
+}
+
+double ActionButton::cornerRadius() const {
+    return ChipSurface::cornerRadius;
+}
+
+void ActionButton::paintControl(QPainter& painter, const Theme& theme) {
+    paintSurface(painter, theme);
+    const bool prominent = m_prominence == Prominence::Prominent;
+    ContentRow row(spacing);
+    row.addSymbol(m_symbol, {}, prominent ? theme.onAccent : theme.text2);
+    row.addText(text(), labelFont(), prominent ? theme.onAccent : theme.text);
+    QRectF place(0, 0, row.width(), height());
+    place.moveCenter(QRectF(rect()).center());
+    row.paint(painter, place, layoutDirection());
+}
+
+QFont ActionButton::labelFont() const {
+    const bool prominent = m_prominence == Prominence::Prominent;
+    return textFont(font(), TextStyle::Body, prominent ? QFont::DemiBold : QFont::Medium);
+}
+
+void ActionButton::paintSurface(QPainter& painter, const Theme& theme) const {
+    if (m_prominence == Prominence::Prominent)
+        fillRounded(painter, rect(), cornerRadius(), prominentFill(look(), theme));
+    else
+        ChipSurface::paint(painter, rect(), theme, look());
+}
+
+} // namespace quorvane

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include <controls/CheckBox.h>
+#include <controls/DevicePixels.h>
+#include <controls/SymbolPainter.h>
+#include <controls/TextStyle.h>
+
+#include <QPainter>
+#include <QStyle>
+
+#include <cmath>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int boxSize = 16;
+constexpr int labelGap = 8;
+constexpr int rowHeight = 24;
+constexpr double boxRadius = 4.5;
+constexpr SymbolStyle markStyle{10, 2.5};
+
+QColor accentFor(PressableControl::Look look, const Theme& theme) {
+    switch (look) {
+    case PressableControl::Look::Hover:
+        return theme.accentHover;
+    case PressableControl::Look::Pressed:
+        return theme.accentPress;
+    case PressableControl::Look::Rest:
+        break;
+    }
+    return theme.accent;
+}
+
+} // namespace
+
+CheckBox::CheckBox(const QString& label, QWidget* parent) : PressableControl(parent) {
+    setText(label);
+    setCheckable(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize CheckBox::sizeHint() const {
+    if (text().isEmpty())
+        return {rowHeight, rowHeight};
+    const QFontMetricsF metrics(textFont(font(), TextStyle::Body));
+    const auto label = static_cast<int>(std::ceil(metrics.horizontalAdvance(text())));
+    return {boxSize + labelGap + label, std::max(rowHeight, qRound(metrics.height()))};
+}
+
+FocusOutline CheckBox::focusOutline() const {
+    return {box(), boxRadius};
+}
+
+double CheckBox::cornerRadius() const {
+    return boxRadius;
+}
+
+double CheckBox::disabledOpacity() const {
+    return 0.45;
+}
+
+void CheckBox::paintControl(QPainter& painter, const Theme& theme) {
+    paintBox(painter, theme);
+    const QRect label = rect().adjusted(boxSize + labelGap, 0, 0, 0);
+    painter.setFont(textFont(font(), TextStyle::Body));
+    painter.setPen(theme.text);
+    painter.drawText(
+        QStyle::visualRect(layoutDirection(), rect(), label),
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) |
+            Qt::AlignVCenter | Qt::TextSingleLine,
+        text());
+}
+
+QRectF CheckBox::box() const {
+    const int inset = text().isEmpty() ? (width() - boxSize) / 2 : 0;
+    const QRect place(inset, (height() - boxSize) / 2, boxSize, boxSize);
+    return QStyle::visualRect(layoutDirection(), rect(), place);
+}
+
+void CheckBox::paintBox(QPainter& painter, const Theme& theme) const {
+    if (!isChecked()) {
+        paintEmptyBox(painter, theme);
+        return;
+    }
+    fillRounded(painter, box(), boxRadius, accentFor(look(), theme));
+    paintSymbol(painter, Symbol::Checkmark, markStyle, box(), theme.onAccent);
+}
+
+void CheckBox::paintEmptyBox(QPainter& painter, const Theme& theme) const {
+    fillRounded(painter, box(), boxRadius, theme.base);
+    if (look() == Look::Pressed)
+        fillRounded(painter, box(), boxRadius, theme.press);
+    frameRounded(painter, box(), boxRadius, look() == Look::Hover ? theme.text2 : theme.outline, 1);
+}
+
+} // namespace quorvane

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include <controls/ChipSurface.h>
+#include <controls/Contrast.h>
+#include <controls/DevicePixels.h>
+#include <controls/FavoriteSuggestionChip.h>
+
+#include <QPainter>
+
+namespace quorvane {
+
+namespace {
+
+constexpr double spacing = 5;
+constexpr double frameOpacity = 0.3;
+constexpr double frameWidth = 0.5;
+constexpr SymbolStyle markStyle{9, SymbolStyle::bold};
+
+} // namespace
+
+FavoriteSuggestionChip::FavoriteSuggestionChip(
+    const TimeZone& timeZone, const QString& label, std::function<void()> onAdd, QWidget* parent)
+    : ZoneChip(timeZone, label, std::move(onAdd), parent) {
+    setAccessibleDescription(tr("Add"));
+}
+
+ContentRow FavoriteSuggestionChip::content(const Theme& theme) const {
+    const auto& ink = look() == Look::Rest ? theme.text2 : theme.text;
+    ContentRow row(spacing);
+    row.addSymbol(Symbol::Plus, markStyle, ink);
+    row.addText(text(), labelFont(), ink);
+    return row;
+}
+
+void FavoriteSuggestionChip::paintControl(QPainter& painter, const Theme& theme) {
+    fillRounded(painter, rect(), cornerRadius(), overlayFor(look(), theme));
+    frameRounded(
+        painter, rect(), cornerRadius(), withOpacity(theme.text2, frameOpacity), frameWidth);
+    constexpr int padding = ChipSurface::horizontalPadding;
+    content(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
+}
+
+} // namespace quorvane

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include <controls/ChipSurface.h>
+#include <controls/PopUpButton.h>
+#include <controls/SymbolPainter.h>
+#include <controls/TextStyle.h>
+
+#include <QAccessible>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int spacing = 6;
+constexpr SymbolStyle chevronStyle{10, SymbolStyle::bold};
+
+} // namespace
+
+PopUpButton::PopUpButton(QWidget* parent) : PressableControl(parent) {
+}
+
+void PopUpButton::setTitle(const QString& title, const QStringList& titles) {
+    setText(title);
+    m_titles = titles;
+    updateGeometry();
+    QAccessibleValueChangeEvent change(this, title);
+    QAccessible::updateAccessibility(&change);
+}
+
+void PopUpButton::setOpen(bool isOpen) {
+    m_isOpen = isOpen;
+    update();
+    QAccessible::State changed;
+    changed.expanded = true;
+    QAccessibleStateChangeEvent change(this, changed);
+    QAccessible::updateAccessibility(&change);
+}
+
+QSize PopUpButton::sizeHint() const {
+    const QFontMetricsF metrics(textFont(font(), TextStyle::Callout));
+    double widest = metrics.horizontalAdvance(text());
+    for (const auto& title : m_titles)
+        widest = std::max(widest, metrics.horizontalAdvance(title));
+    const double content = std::ceil(widest) + spacing + chevronStyle.size;
+    return {static_cast<int>(content) + 2 * ChipSurface::horizontalPadding, ChipSurface::height};
+}
+
+double PopUpButton::cornerRadius() const {
+    return ChipSurface::cornerRadius;
+}
+
+void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
+    const auto frame = m_isOpen ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
+    ChipSurface::paint(painter, rect(), theme, look(), frame);
+    constexpr int padding = ChipSurface::horizontalPadding;
+    const auto inner = rect().adjusted(padding, 0, -padding, 0);
+    const int chevron = static_cast<int>(chevronStyle.size);
+    const auto placed = [&](const QRect& place) {
+        return QStyle::visualRect(layoutDirection(), rect(), place);
+    };
+    painter.setFont(textFont(font(), TextStyle::Callout));
+    painter.setPen(theme.text);
+    painter.drawText(
+        placed(inner.adjusted(0, 0, -chevron - spacing, 0)),
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) |
+            Qt::AlignVCenter | Qt::TextSingleLine,
+        text());
+    const QRect end(inner.right() + 1 - chevron, 0, chevron, height());
+    paintSymbol(painter, Symbol::ChevronDown, chevronStyle, placed(end), theme.text2);
+}
+
+} // namespace quorvane

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include <controls/ChipSurface.h>
+#include <controls/Contrast.h>
+#include <controls/DevicePixels.h>
+#include <controls/TimeZoneChip.h>
+
+#include <QPainter>
+
+namespace quorvane {
+
+namespace {
+
+constexpr double spacing = 5;
+constexpr double frameOpacity = 0.25;
+constexpr double frameWidth = 0.5;
+constexpr SymbolStyle markStyle{9, SymbolStyle::bold};
+
+double fillOpacity(PressableControl::Look look) {
+    switch (look) {
+    case PressableControl::Look::Hover:
+        return 0.18;
+    case PressableControl::Look::Pressed:
+        return 0.26;
+    case PressableControl::Look::Rest:
+        break;
+    }
+    return 0.12;
+}
+
+} // namespace
+
+TimeZoneChip::TimeZoneChip(
+    const TimeZone& timeZone, const QString& label, std::function<void()> onRemove, QWidget* parent)
+    : ZoneChip(timeZone, label, std::move(onRemove), parent) {
+    setToolTip(tr("Remove"));
+    setAccessibleDescription(tr("Remove"));
+}
+
+ContentRow TimeZoneChip::content(const Theme& theme) const {
+    ContentRow row(spacing);
+    row.addText(text(), labelFont(), theme.text);
+    row.addSymbol(Symbol::Xmark, markStyle, look() == Look::Rest ? theme.text2 : theme.text);
+    return row;
+}
+
+void TimeZoneChip::paintControl(QPainter& painter, const Theme& theme) {
+    const auto fill = withOpacity(theme.accentText, fillOpacity(look()));
+    fillRounded(painter, rect(), cornerRadius(), fill);
+    frameRounded(
+        painter, rect(), cornerRadius(), withOpacity(theme.accentText, frameOpacity), frameWidth);
+    constexpr int padding = ChipSurface::horizontalPadding;
+    content(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
+}
+
+} // namespace quorvane

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/PressableControl.h>
+#include <controls/SymbolPainter.h>
+
+namespace quorvane {
+
+/// A button that shows a symbol only. Its name, which is its tooltip as well, says what it does.
+class IconButton final : public PressableControl {
+    Q_OBJECT
+
+public:
+    enum class Kind {
+        Header,  ///< 28 x 28
+        Section, ///< 24 x 24
+        Close    ///< 28 x 28, red while the pointer is over it
+    };
+
+    IconButton(Kind kind, Symbol symbol, const QString& name, QWidget* parent = nullptr);
+
+    void setSymbol(Symbol symbol, SymbolStyle style = {});
+
+    /// Whether what the button opens is open: it then looks pressed.
+    void setExpanded(std::optional<bool> expanded);
+
+    [[nodiscard]] std::optional<bool> isExpanded() const override { return m_expanded; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    [[nodiscard]] double cornerRadius() const override;
+    void paintControl(QPainter& painter, const Theme& theme) override;
+
+private:
+    Kind m_kind;
+    Symbol m_symbol;
+    SymbolStyle m_style;
+    std::optional<bool> m_expanded;
+};
+
+} // namespace quorvane

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLineEdit>
+
+namespace quorvane {
+
+/// One line of text in the look of a chip; the frame shows the focus.
+class TextField : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit TextField(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+    /// What stands behind the text.
+    virtual void paintSurface(QPainter& painter);
+
+    /// The palette that the field stands in: its own holds what the line of text needs.
+    [[nodiscard]] const QPalette& surroundings() const;
+
+private:
+    void adoptColors();
+
+    bool m_adopting = false;
+};
+
+} // namespace quorvane

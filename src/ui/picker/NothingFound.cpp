@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "NothingFound.h"
+
+#include <controls/SymbolPainter.h>
+#include <controls/TextStyle.h>
+#include <controls/Theme.h>
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int top = 96;
+constexpr int lensSize = 24;
+constexpr int textGap = 12;
+constexpr int sideMargin = 40;
+
+} // namespace
+
+NothingFound::NothingFound(QWidget* parent) : QWidget(parent), m_text(new QLabel(this)) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setAlignment(Qt::AlignHCenter);
+    m_text->setWordWrap(true);
+    m_text->setForegroundRole(QPalette::PlaceholderText);
+    m_text->setFont(textFont(font(), TextStyle::Callout));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(sideMargin, top + lensSize + textGap, sideMargin, 0);
+    column->addWidget(m_text);
+    column->addStretch();
+}
+
+void NothingFound::setQuery(const QString& query) {
+    constexpr int longest = 60;
+    const auto shown = query.size() > longest ? query.first(longest) + u'…' : query;
+    m_text->setText(tr("No time zone matches “%1”").arg(shown));
+}
+
+void NothingFound::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const QRectF place(0, top, width(), lensSize);
+    const SymbolStyle style{lensSize, SymbolStyle::regular};
+    paintSymbol(painter, Symbol::Magnifyingglass, style, place, Theme::of(palette()).text2);
+}
+
+} // namespace quorvane

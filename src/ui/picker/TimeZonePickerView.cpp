@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "NothingFound.h"
+
+#include <controls/SearchField.h>
+#include <controls/TextButton.h>
+#include <controls/TextStyle.h>
+#include <controls/Theme.h>
+#include <timezones/FavoriteZones.h>
+#include <timezones/ZoneSelection.h>
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <picker/TimeZonePickerView.h>
+#include <picker/ZoneList.h>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int headHeight = 44;
+constexpr int sideMargin = 16;
+constexpr int doneReach = 8; ///< the button's padding ends beyond the column
+constexpr int listGap = 8;
+constexpr int lineWidth = 1;
+
+QWidget* makeHead(TextButton* done) {
+    auto* head = new QWidget;
+    head->setFixedHeight(headHeight);
+    auto* title = new QLabel(TimeZonePickerView::tr("Time Zones"), head);
+    title->setFont(textFont(title->font(), TextStyle::Headline));
+    auto* row = new QHBoxLayout(head);
+    row->setContentsMargins(sideMargin, 4, sideMargin - doneReach, 0);
+    row->addWidget(title);
+    row->addStretch();
+    row->addWidget(done);
+    return head;
+}
+
+} // namespace
+
+TimeZonePickerView::TimeZonePickerView(
+    Selection selectedTimeZones,
+    const QStringList& favoriteIdentifiers,
+    const Surroundings& surroundings,
+    QWidget* parent)
+    : QWidget(parent),
+      m_selection(std::move(selectedTimeZones)),
+      m_clock(surroundings.clock),
+      m_favorites(favoriteZones(favoriteIdentifiers, surroundings.zones)),
+      m_search(
+          TimeZoneCatalogue(surroundings.zones, surroundings.clock.now()), surroundings.locale),
+      m_field(new SearchField(tr("Search by name, city, or abbreviation"), this)),
+      m_model(new ZoneListModel(
+          surroundings.clock,
+          surroundings.locale,
+          [this](const TimeZone& zone) { return isSelected(zone); },
+          this)),
+      m_list(new ZoneList(this)),
+      m_nothing(new NothingFound(m_list)) {
+    setAccessibleName(tr("Time Zones"));
+    setFocusProxy(m_field);
+    m_list->setModel(m_model);
+    layOut();
+    m_field->installEventFilter(this);
+    connect(m_field, &SearchField::textChanged, this, &TimeZonePickerView::search);
+    connect(m_list, &ZoneList::chosen, this, &TimeZonePickerView::choose);
+    connect(m_list, &ZoneList::typed, this, [this](QKeyEvent* event) {
+        m_field->setFocus(Qt::OtherFocusReason);
+        m_field->end(false);
+        m_field->typeKey(event);
+    });
+    search();
+}
+
+std::vector<TimeZone> TimeZonePickerView::filtered() const {
+    return m_search.filtered(m_field->text(), m_clock.now());
+}
+
+void TimeZonePickerView::toggleTimeZone(const TimeZone& zone) {
+    m_selection.set(toggledSelection(m_selection.get(), zone));
+    m_model->selectionChanged();
+}
+
+bool TimeZonePickerView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* keyEvent = static_cast<QKeyEvent*>(event);
+    if (keyEvent->modifiers() & ~Qt::KeypadModifier)
+        return false;
+    if (m_list->moveByKey(keyEvent->key()))
+        return true;
+    if (keyEvent->key() != Qt::Key_Return && keyEvent->key() != Qt::Key_Enter)
+        return false;
+    choose(m_list->currentIndex());
+    return true;
+}
+
+void TimeZonePickerView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const QRectF line(0, m_list->y() - lineWidth, width(), lineWidth);
+    painter.fillRect(line, Theme::of(palette()).line);
+}
+
+void TimeZonePickerView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    m_nothing->setGeometry(m_list->rect());
+}
+
+void TimeZonePickerView::layOut() {
+    auto* done = new TextButton(tr("Done"), this);
+    connect(done, &TextButton::clicked, this, &TimeZonePickerView::done);
+    auto* search = new QHBoxLayout;
+    search->setContentsMargins(sideMargin, 0, sideMargin, listGap + lineWidth);
+    search->addWidget(m_field);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeHead(done));
+    column->addLayout(search);
+    column->addWidget(m_list, 1);
+    setTabOrder(m_field, m_list);
+    setTabOrder(m_list, done);
+}
+
+void TimeZonePickerView::search() {
+    m_model->setSections(sections());
+    const bool nothing = m_model->rowCount() == 0;
+    m_nothing->setQuery(m_field->text().trimmed());
+    m_nothing->setVisible(nothing);
+    m_list->goToFirst();
+}
+
+void TimeZonePickerView::choose(const QModelIndex& index) {
+    if (const auto* zone = m_model->zoneAt(index))
+        toggleTimeZone(*zone);
+}
+
+std::vector<ZoneListModel::Section> TimeZonePickerView::sections() const {
+    auto zones = filtered();
+    // Favourites are a section of their own only in the list of everything.
+    if (m_favorites.empty() || !normalisedQuery(m_field->text()).isEmpty())
+        return {{{}, std::move(zones)}};
+    return {{tr("Favorites"), m_favorites}, {tr("All Time Zones"), std::move(zones)}};
+}
+
+bool TimeZonePickerView::isSelected(const TimeZone& zone) const {
+    return std::ranges::count(m_selection.get(), zone) > 0;
+}
+
+} // namespace quorvane

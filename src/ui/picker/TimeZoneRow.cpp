@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include <foundation/ZoneNames.h>
+#include <timezones/ZoneTexts.h>
+
+#include <picker/TimeZoneRow.h>
+
+namespace quorvane {
+
+TimeZoneRow::TimeZoneRow(TimeZone zone, Instant now, UserLocale locale)
+    : m_zone(std::move(zone)),
+      m_now(now),
+      m_locale(std::move(locale)) {
+}
+
+QString TimeZoneRow::city() const {
+    return cityName(m_zone.identifier());
+}
+
+std::optional<QString> TimeZoneRow::regionName() const {
+    return quorvane::regionName(m_zone.identifier());
+}
+
+QString TimeZoneRow::offsetString() const {
+    return quorvane::offsetString(m_zone, m_now);
+}
+
+QString TimeZoneRow::abbreviation() const {
+    return zoneAbbreviation(m_zone, m_now, m_locale).value_or(QString());
+}
+
+} // namespace quorvane

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include <picker/ZoneListModel.h>
+
+namespace quorvane {
+
+namespace {
+
+QVariant headData(const QString& head, int role) {
+    switch (role) {
+    case Qt::DisplayRole:
+        return head;
+    case ZoneListModel::IsHeadRole:
+        return true;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+ZoneListModel::ZoneListModel(
+    const Clock& clock, UserLocale locale, IsSelected isSelected, QObject* parent)
+    : QAbstractListModel(parent),
+      m_clock(clock),
+      m_locale(std::move(locale)),
+      m_isSelected(std::move(isSelected)) {
+}
+
+void ZoneListModel::setSections(std::vector<Section> sections) {
+    beginResetModel();
+    m_items.clear();
+    for (auto& section : sections) {
+        if (!section.head.isEmpty())
+            m_items.emplace_back(std::move(section.head));
+        for (auto& zone : section.zones)
+            m_items.emplace_back(std::move(zone));
+    }
+    endResetModel();
+}
+
+const TimeZone* ZoneListModel::zoneAt(const QModelIndex& index) const {
+    const auto row = static_cast<std::size_t>(index.row());
+    return index.isValid() && row < m_items.size() ? std::get_if<TimeZone>(&m_items[row]) : nullptr;
+}
+
+void ZoneListModel::selectionChanged() {
+    if (!m_items.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+}
+
+int ZoneListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_items.size());
+}
+
+QVariant ZoneListModel::data(const QModelIndex& index, int role) const {
+    if (const auto* zone = zoneAt(index))
+        return zoneData(*zone, role);
+    return index.isValid()
+               ? headData(std::get<QString>(m_items[static_cast<std::size_t>(index.row())]), role)
+               : QVariant();
+}
+
+Qt::ItemFlags ZoneListModel::flags(const QModelIndex& index) const {
+    if (zoneAt(index) == nullptr)
+        return Qt::NoItemFlags;
+    // Pressing anywhere in the row is what checks it: see ZoneList.
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+}
+
+QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {
+    const TimeZoneRow row(zone, m_clock.now(), m_locale);
+    switch (role) {
+    case Qt::DisplayRole:
+        return row.city();
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return zone.identifier();
+    case Qt::CheckStateRole:
+        return m_isSelected(zone) ? Qt::Checked : Qt::Unchecked;
+    case RegionRole:
+        return row.regionName().value_or(QString());
+    case AbbreviationRole:
+        return row.abbreviation();
+    case OffsetRole:
+        return row.offsetString();
+    case IsHeadRole:
+        return false;
+    default:
+        return {};
+    }
+}
+
+} // namespace quorvane

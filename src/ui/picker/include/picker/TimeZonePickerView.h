@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/Clock.h>
+#include <timezones/ZoneSearch.h>
+
+#include <QWidget>
+
+#include <functional>
+#include <picker/ZoneListModel.h>
+
+namespace quorvane {
+
+class NothingFound;
+class SearchField;
+class ZoneList;
+
+/// Chooses time zones: the favourites and the whole catalogue, or what a search finds. What one
+/// types always searches, wherever the focus is; arrows move, Return toggles.
+class TimeZonePickerView final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The selection is the caller's own.
+    struct Selection {
+        std::function<std::vector<TimeZone>()> get;
+        std::function<void(std::vector<TimeZone>)> set;
+    };
+
+    /// What is referred to must outlive the view.
+    struct Surroundings {
+        const ZoneDatabase& zones;
+        const Clock& clock;
+        UserLocale locale;
+    };
+
+    /// Identifiers of favourites that name no zone are left out.
+    TimeZonePickerView(
+        Selection selectedTimeZones,
+        const QStringList& favoriteIdentifiers,
+        const Surroundings& surroundings,
+        QWidget* parent = nullptr);
+
+    /// The catalogue in its order, by the search text.
+    [[nodiscard]] std::vector<TimeZone> filtered() const;
+
+    /// Adds the zone to the selection, or removes it; the last one stays.
+    void toggleTimeZone(const TimeZone& zone);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The user has finished.
+    void done();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void layOut();
+    void search();
+    void choose(const QModelIndex& index);
+    [[nodiscard]] std::vector<ZoneListModel::Section> sections() const;
+    [[nodiscard]] bool isSelected(const TimeZone& zone) const;
+
+    Selection m_selection;
+    const Clock& m_clock;
+    std::vector<TimeZone> m_favorites;
+    ZoneSearch m_search;
+    SearchField* m_field;
+    ZoneListModel* m_model;
+    ZoneList* m_list;
+    NothingFound* m_nothing;
+};
+
+} // namespace quorvane

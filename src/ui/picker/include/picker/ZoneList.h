@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QListView>
+
+namespace quorvane {
+
+/// The list of a picker. Its current row is shown wherever the keyboard's focus is, because it is
+/// moved from the search field as well. A press on a row chooses it, as do Return and Space.
+class ZoneList final : public QListView {
+    Q_OBJECT
+
+public:
+    explicit ZoneList(QWidget* parent = nullptr);
+
+    /// Moves the current row by what the key stands for (arrows, Page Up and Down); false for any
+    /// other key.
+    bool moveByKey(int key);
+
+    /// Whether the pointer holds the row down.
+    [[nodiscard]] bool isPressed(const QModelIndex& index) const;
+
+    /// Makes the first row that is no head the current one and shows it.
+    void goToFirst();
+
+Q_SIGNALS:
+    void chosen(const QModelIndex& index);
+
+    /// A key that writes text was pressed in the list.
+    void typed(QKeyEvent* event);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    QPersistentModelIndex m_pressed;
+};
+
+} // namespace quorvane

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/Clock.h>
+
+#include <QAbstractListModel>
+
+#include <functional>
+#include <picker/TimeZoneRow.h>
+#include <variant>
+#include <vector>
+
+namespace quorvane {
+
+/// Sections of zones as rows of a list. Rows that are heads cannot be chosen.
+class ZoneListModel final : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    enum Role {
+        RegionRole = Qt::UserRole,
+        AbbreviationRole,
+        OffsetRole,
+        IsHeadRole,
+    };
+
+    struct Section {
+        QString head; ///< empty for none
+        std::vector<TimeZone> zones;
+    };
+
+    using IsSelected = std::function<bool(const TimeZone&)>;
+
+    /// `clock` must outlive the model; texts are those of the moment in which they are asked for.
+    ZoneListModel(
+        const Clock& clock, UserLocale locale, IsSelected isSelected, QObject* parent = nullptr);
+
+    void setSections(std::vector<Section> sections);
+
+    /// Null for a head, and outside the list.
+    [[nodiscard]] const TimeZone* zoneAt(const QModelIndex& index) const;
+
+    /// Which zones are selected has changed; the rows themselves have not.
+    void selectionChanged();
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    using Item = std::variant<QString, TimeZone>;
+
+    [[nodiscard]] QVariant zoneData(const TimeZone& zone, int role) const;
+
+    const Clock& m_clock;
+    UserLocale m_locale;
+    IsSelected m_isSelected;
+    std::vector<Item> m_items;
+};
+
+} // namespace quorvane
