@@ -28,10 +28,9 @@ void tick(CheckBox* box, bool isChecked) {
 
 DateSection::DateSection(
     DateTimeModel& model, const EntrySurroundings& surroundings, QWidget* parent)
-    : QWidget(parent),
+    : Section(tr("When"), Symbol::Calendar, parent),
       m_model(model),
       m_surroundings(surroundings),
-      m_label(whenSectionLabel()),
       m_includeDate(new CheckBox(tr("Date"), this)),
       m_includeTime(new CheckBox(tr("Time"), this)),
       m_isRange(new CheckBox(tr("to"), this)),
@@ -56,7 +55,7 @@ DateSection::DateSection(
 
 void DateSection::refresh() {
     const auto guard = IncludeGuard::of(m_model.includeDate(), m_model.includeTime());
-    m_label->setNote(tr("(in local time %1)").arg(localTimeZoneLabel()));
+    label().setNote(tr("(in local time %1)").arg(localTimeZoneLabel()));
     tick(m_includeDate, m_model.includeDate());
     tick(m_includeTime, m_model.includeTime());
     tick(m_isRange, m_model.isRange());
@@ -89,25 +88,22 @@ DateSection::DateTimePair DateSection::dateTimePair(
     return pair;
 }
 
-SectionLabel* DateSection::whenSectionLabel() {
-    return new SectionLabel(tr("When"), Symbol::Calendar, this);
-}
-
 void DateSection::layOut() {
-    m_label->addTrailing(m_includeDate);
-    m_label->addTrailing(m_includeTime, boxSpacing);
+    auto* parts = new QWidget(this);
+    auto* partsRow = new QHBoxLayout(parts);
+    partsRow->setContentsMargins(0, 0, 0, 0);
+    partsRow->setSpacing(boxSpacing);
+    partsRow->addWidget(m_includeDate);
+    partsRow->addWidget(m_includeTime);
+    label().addTrailing(parts);
     auto* range = new QHBoxLayout;
     range->setContentsMargins(rangeBoxPadding, 0, rangeBoxPadding, 0);
     range->addWidget(m_isRange);
     range->addStretch();
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(rowSpacing);
-    column->addWidget(m_label);
-    column->addSpacing(panelmetrics::labelSpacing - rowSpacing);
-    column->addWidget(m_start.row);
-    column->addLayout(range);
-    column->addWidget(m_end.row);
+    body().setSpacing(rowSpacing);
+    body().addWidget(m_start.row);
+    body().addLayout(range);
+    body().addWidget(m_end.row);
     // In the order in which one reads.
     setTabOrder(m_includeDate, m_includeTime);
     setTabOrder(m_includeTime, m_start.date);

@@ -4,8 +4,6 @@
 #include <controls/TextField.h>
 #include <controls/TextStyle.h>
 #include <ui/FormatSection.h>
-#include <ui/PanelMetrics.h>
-#include <ui/SectionLabel.h>
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -27,7 +25,7 @@ QFont fixedFont(const QFont& body) {
 } // namespace
 
 FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects, QWidget* parent)
-    : QWidget(parent),
+    : Section(tr("Format"), Symbol::TextformatAlt, parent),
       m_model(model),
       m_preset(new MacPopUpButton(effects, this)),
       m_layout(new MacSegmentedControl(this)),
@@ -74,12 +72,8 @@ void FormatSection::layOut() {
     choices->setSpacing(layoutGap);
     choices->addWidget(m_preset, 1);
     choices->addWidget(m_layout);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(panelmetrics::labelSpacing);
-    column->addWidget(new SectionLabel(tr("Format"), Symbol::TextformatAlt, this));
-    column->addLayout(choices);
-    column->addWidget(m_customFormat);
+    body().addLayout(choices);
+    body().addWidget(m_customFormat);
 }
 
 } // namespace quorvane

@@ -56,13 +56,15 @@ PopoverHeader::PopoverHeader(std::function<void()> onClose, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     constexpr int titleStart =
         panelmetrics::sideMargin + static_cast<int>(appSymbol.size) + titleGap;
-    row->setContentsMargins(titleStart, 0, panelmetrics::sideMargin - buttonReach, 0);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
+    row->addSpacing(titleStart);
     row->addWidget(title);
     row->addSpacing(capsGap);
     row->addLayout(m_caps);
     row->addStretch();
     row->addWidget(close);
+    row->addSpacing(panelmetrics::sideMargin - buttonReach);
 }
 
 void PopoverHeader::setKeys(const QStringList& labels) {

@@ -4,11 +4,10 @@
 #include <ui/CopyButton.h>
 #include <ui/DateSection.h>
 #include <ui/FormatSection.h>
-#include <ui/OutputPreview.h>
 #include <ui/PanelMetrics.h>
 #include <ui/PopoverHeader.h>
 #include <ui/PopoverView.h>
-#include <ui/SectionLabel.h>
+#include <ui/PreviewSection.h>
 #include <ui/TimeZoneSection.h>
 
 #include <QKeyEvent>
@@ -29,7 +28,7 @@ PopoverView::PopoverView(DateTimeModel& model, Services services, Callbacks call
       m_timeZoneSection(
           new TimeZoneSection(model, {m_services.zones, m_services.clock, model.locale()}, this)),
       m_formatSection(new FormatSection(model, m_services.popoverEffects, this)),
-      m_preview(new OutputPreview(this)),
+      m_previewSection(new PreviewSection(this)),
       m_actionBar(new ActionBar(m_services.mainQueue, this)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -62,30 +61,16 @@ EntrySurroundings PopoverView::entrySurroundings() const {
 
 QVBoxLayout* PopoverView::makeSections() {
     auto* sections = new QVBoxLayout;
+    constexpr int side = panelmetrics::sideMargin - panelmetrics::reach;
     sections->setContentsMargins(
-        panelmetrics::sideMargin,
-        panelmetrics::sectionSpacing,
-        panelmetrics::sideMargin,
-        panelmetrics::sectionSpacing);
+        side, panelmetrics::sectionSpacing, side, panelmetrics::sectionSpacing);
     sections->setSpacing(panelmetrics::sectionSpacing);
     sections->addWidget(m_dateSection);
     sections->addWidget(m_timeZoneSection);
     sections->addWidget(m_formatSection);
-    sections->addWidget(makePreviewSection());
+    sections->addWidget(m_previewSection);
     sections->addStretch();
     return sections;
-}
-
-QWidget* PopoverView::makePreviewSection() {
-    auto* section = new QWidget(this);
-    auto* label = new SectionLabel(tr("Preview"), Symbol::EyeSquare, section);
-    label->setBuddy(m_preview);
-    auto* column = new QVBoxLayout(section);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(panelmetrics::labelSpacing);
-    column->addWidget(label);
-    column->addWidget(m_preview);
-    return section;
 }
 
 void PopoverView::addShortcuts() {
@@ -117,12 +102,13 @@ void PopoverView::refresh() {
     m_timeZoneSection->refresh();
     m_formatSection->refresh();
     refreshDownstream();
-    m_preview->setOutput(m_model.formattedOutput());
+    m_previewSection->setOutput(m_model.formattedOutput());
 }
 
 void PopoverView::refreshDownstream() {
     const bool enabled = !downstreamDisabled();
-    const std::initializer_list<QWidget*> downstream{m_formatSection, m_preview, m_actionBar};
+    const std::initializer_list<QWidget*> downstream{
+        m_formatSection, m_previewSection, m_actionBar};
     for (auto* section : downstream)
         section->setEnabled(enabled);
 }

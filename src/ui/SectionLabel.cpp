@@ -29,8 +29,9 @@ SectionLabel::SectionLabel(const QString& name, Symbol icon, QWidget* parent)
       m_row(new QHBoxLayout(this)) {
     setMinimumHeight(panelmetrics::labelHeight);
     m_note->setForegroundRole(QPalette::PlaceholderText);
-    m_row->setContentsMargins(symbolSize + symbolGap, 0, 0, 0);
+    m_row->setContentsMargins(0, 0, 0, 0);
     m_row->setSpacing(0);
+    m_row->addSpacing(panelmetrics::reach + symbolSize + symbolGap);
     m_row->addWidget(m_name);
     m_row->addSpacing(noteGap);
     m_row->addWidget(m_note);
@@ -42,10 +43,10 @@ void SectionLabel::setNote(const QString& note) {
     m_note->setText(note);
 }
 
-void SectionLabel::addTrailing(QWidget* widget, int spacing, int reach) {
-    m_row->addSpacing(spacing);
+void SectionLabel::addTrailing(QWidget* widget, End end) {
     m_row->addWidget(widget);
-    m_row->setContentsMargins(symbolSize + symbolGap, 0, -reach, 0);
+    if (end == End::WithColumn)
+        m_row->addSpacing(panelmetrics::reach);
 }
 
 void SectionLabel::setBuddy(QWidget* control) {
@@ -54,7 +55,7 @@ void SectionLabel::setBuddy(QWidget* control) {
 
 void SectionLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QRect symbol(0, 0, symbolSize, height());
+    const QRect symbol(panelmetrics::reach, 0, symbolSize, height());
     paintSymbol(
         painter,
         m_icon,

@@ -16,8 +16,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr int addReach = 4;
-
 bool isChipOfSelected(const ZoneChip* chip) {
     return qobject_cast<const TimeZoneChip*>(chip) != nullptr;
 }
@@ -26,18 +24,13 @@ bool isChipOfSelected(const ZoneChip* chip) {
 
 TimeZoneSection::TimeZoneSection(
     DateTimeModel& model, const TimeZonePickerView::Surroundings& surroundings, QWidget* parent)
-    : QWidget(parent),
+    : Section(tr("Time Zones"), Symbol::Globe, parent),
       m_model(model),
       m_surroundings(surroundings),
       m_add(new IconButton(IconButton::Kind::Section, Symbol::Plus, tr("Add time zone"), this)),
       m_flow(new FlowLayout(panelmetrics::chipSpacing)) {
-    auto* label = new SectionLabel(tr("Time Zones"), Symbol::Globe, this);
-    label->addTrailing(m_add, 0, addReach);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(panelmetrics::labelSpacing);
-    column->addWidget(label);
-    column->addLayout(m_flow);
+    label().addTrailing(m_add, SectionLabel::End::BeyondColumn);
+    body().addLayout(m_flow);
     connect(m_add, &IconButton::clicked, this, &TimeZoneSection::showTimeZonePicker);
     refresh();
 }
@@ -100,18 +93,18 @@ ZoneChip* TimeZoneSection::takeOrMakeChip(const Slot& slot) {
     if (found != m_chips.end()) {
         auto* chip = *found;
         m_chips.erase(found);
-        chip->setLabel(label(slot.zone));
+        chip->setLabel(shortName(slot.zone));
         return chip;
     }
     const auto zone = slot.zone;
     if (slot.isSelected)
         return new TimeZoneChip(
-            zone, label(zone), [this, zone] { remove(zone); }, this);
+            zone, shortName(zone), [this, zone] { remove(zone); }, this);
     return new FavoriteSuggestionChip(
-        zone, label(zone), [this, zone] { add(zone); }, this);
+        zone, shortName(zone), [this, zone] { add(zone); }, this);
 }
 
-QString TimeZoneSection::label(const TimeZone& zone) const {
+QString TimeZoneSection::shortName(const TimeZone& zone) const {
     return zoneLabel(zone, m_surroundings.clock.now(), m_surroundings.locale);
 }
 

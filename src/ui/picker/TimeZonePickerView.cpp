@@ -23,6 +23,7 @@ namespace quorvane {
 namespace {
 
 constexpr int headHeight = 44;
+constexpr int topPadding = 4;
 constexpr int sideMargin = 16;
 constexpr int doneReach = 8; ///< the button's padding ends beyond the column
 constexpr int listGap = 8;
@@ -34,10 +35,13 @@ QWidget* makeHead(TextButton* done) {
     auto* title = new QLabel(TimeZonePickerView::tr("Time Zones"), head);
     title->setFont(textFont(title->font(), TextStyle::Headline));
     auto* row = new QHBoxLayout(head);
-    row->setContentsMargins(sideMargin, 4, sideMargin - doneReach, 0);
+    row->setContentsMargins(0, topPadding, 0, 0);
+    row->setSpacing(0);
+    row->addSpacing(sideMargin);
     row->addWidget(title);
     row->addStretch();
     row->addWidget(done);
+    row->addSpacing(sideMargin - doneReach);
     return head;
 }
 

@@ -71,7 +71,7 @@ class Quorvane:
 
     def preview(self) -> str:
         """The text that the panel shows as its result."""
-        return self.tree().find("Preview").text
+        return self.tree().find_role("text", "Preview").text
 
     def _active_panel(self) -> int | None:
         panel = self.panel()

@@ -6,16 +6,14 @@
 #include <entry/EntrySurroundings.h>
 #include <entry/TimeField.h>
 #include <model/DateTimeModel.h>
-
-#include <QWidget>
+#include <ui/Section.h>
 
 namespace quorvane {
 
 class CheckBox;
-class SectionLabel;
 
 /// "When": which parts of the date are written, the start, and the end of a range.
-class DateSection final : public QWidget {
+class DateSection final : public Section {
     Q_OBJECT
 
 public:
@@ -42,14 +40,12 @@ private:
 
     [[nodiscard]] DateTimePair
     dateTimePair(const DateBinding& selection, const MinDate& minDate, const PairNames& names);
-    [[nodiscard]] SectionLabel* whenSectionLabel();
     void layOut();
     void connectBoxes();
     void refresh(const DateTimePair& pair);
 
     DateTimeModel& m_model;
     EntrySurroundings m_surroundings;
-    SectionLabel* m_label;
     CheckBox* m_includeDate;
     CheckBox* m_includeTime;
     CheckBox* m_isRange;

@@ -4,8 +4,7 @@
 #include <controls/Choice.h>
 #include <controls/PopoverEffects.h>
 #include <model/DateTimeModel.h>
-
-#include <QWidget>
+#include <ui/Section.h>
 
 namespace quorvane {
 
@@ -14,7 +13,7 @@ class MacSegmentedControl;
 class TextField;
 
 /// The format of the output: a preset, the user's own pattern, and how several zones stand.
-class FormatSection final : public QWidget {
+class FormatSection final : public Section {
     Q_OBJECT
 
 public:

@@ -20,8 +20,8 @@ namespace quorvane {
 class ActionBar;
 class DateSection;
 class FormatSection;
-class OutputPreview;
 class PopoverHeader;
+class PreviewSection;
 class TimeZoneSection;
 
 /// The interface of the program: what to compose, the live output, and the two ways to deliver it.
@@ -63,7 +63,6 @@ protected:
 private:
     [[nodiscard]] EntrySurroundings entrySurroundings() const;
     [[nodiscard]] QVBoxLayout* makeSections();
-    [[nodiscard]] QWidget* makePreviewSection();
     void addShortcuts();
     void connectControls();
 
@@ -80,7 +79,7 @@ private:
     DateSection* m_dateSection;
     TimeZoneSection* m_timeZoneSection;
     FormatSection* m_formatSection;
-    OutputPreview* m_preview;
+    PreviewSection* m_previewSection;
     ActionBar* m_actionBar;
 };
 

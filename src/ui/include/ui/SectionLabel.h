@@ -20,8 +20,12 @@ public:
 
     void setNote(const QString& note);
 
-    /// `reach` lets a control end beyond the column, so that its ink ends with it.
-    void addTrailing(QWidget* widget, int spacing = 0, int reach = 0);
+    enum class End {
+        WithColumn,
+        BeyondColumn ///< so that a symbol's ink ends with the column
+    };
+
+    void addTrailing(QWidget* widget, End end = End::WithColumn);
 
     /// The control that the name stands for, to assistive technology.
     void setBuddy(QWidget* control);

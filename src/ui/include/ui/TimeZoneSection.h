@@ -3,9 +3,9 @@
 
 #include <controls/FlowLayout.h>
 #include <model/DateTimeModel.h>
+#include <ui/Section.h>
 
 #include <QPointer>
-#include <QWidget>
 
 #include <picker/TimeZonePickerView.h>
 #include <vector>
@@ -18,7 +18,7 @@ class ZoneChip;
 
 /// The zones of the output as chips: favourites in their place, selected or offered, then whatever
 /// else is selected; and the way to all other zones.
-class TimeZoneSection final : public QWidget {
+class TimeZoneSection final : public Section {
     Q_OBJECT
 
 public:
@@ -31,7 +31,7 @@ public:
     /// place, the pointer and the focus.
     void refresh();
 
-    /// Opens the picker over `cover`, which it must be inside of.
+    /// Opens the picker over the window.
     void showTimeZonePicker();
 
 private:
@@ -44,7 +44,7 @@ private:
     [[nodiscard]] std::vector<Slot> slotsOfModel() const;
     [[nodiscard]] bool isSelected(const TimeZone& zone) const;
     [[nodiscard]] ZoneChip* takeOrMakeChip(const Slot& slot);
-    [[nodiscard]] QString label(const TimeZone& zone) const;
+    [[nodiscard]] QString shortName(const TimeZone& zone) const;
     void add(const TimeZone& zone);
     void remove(const TimeZone& zone);
 

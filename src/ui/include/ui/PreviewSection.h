@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ui/Section.h>
+
+namespace quorvane {
+
+class OutputPreview;
+
+/// The output as it will be delivered.
+class PreviewSection final : public Section {
+    Q_OBJECT
+
+public:
+    explicit PreviewSection(QWidget* parent);
+
+    void setOutput(const QString& output);
+
+private:
+    OutputPreview* m_preview;
+};
+
+} // namespace quorvane
