@@ -20,6 +20,13 @@ bool isChipOfSelected(const ZoneChip* chip) {
     return qobject_cast<const TimeZoneChip*>(chip) != nullptr;
 }
 
+/// What is gone must not show, nor be found, until it is deleted; it may be what was just pressed.
+void discard(ZoneChip* chip) {
+    chip->hide();
+    chip->setParent(nullptr);
+    chip->deleteLater();
+}
+
 } // namespace
 
 TimeZoneSection::TimeZoneSection(
@@ -46,7 +53,7 @@ void TimeZoneSection::refresh() {
     while (m_flow->count() > 0)
         delete m_flow->takeAt(0);
     for (auto* chip : std::exchange(m_chips, {}))
-        chip->deleteLater(); // it may be what was just pressed
+        discard(chip);
     m_chips = chips;
     QWidget* before = m_add;
     for (auto* chip : m_chips) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <controls/MenuRow.h>
 #include <fakes/CallLog.h>
 #include <fakes/FakeKeyboardLayout.h>
 #include <fakes/FakePasteboard.h>
@@ -9,11 +10,13 @@
 #include <ui/PopoverView.h>
 
 #include <QAbstractButton>
-#include <QComboBox>
+#include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace quorvane {
 namespace {
@@ -39,7 +42,7 @@ protected:
     int quits = 0;
     PopoverView view{
         model,
-        {pasteboard, layout, zones, queue},
+        {pasteboard, layout, zones, queue, clock, currentZone, {}},
         {[this] { ++inserted; },
          [this] { ++preferences; },
          [this] { ++closed; },
@@ -68,19 +71,36 @@ protected:
         return find<QAbstractButton>(QAccessible::CheckBox, name);
     }
 
-    QComboBox& choice(const QString& name) { return find<QComboBox>(QAccessible::ComboBox, name); }
-
     QLineEdit& field(const QString& name) {
         return find<QLineEdit>(QAccessible::EditableText, name);
     }
 
     QString preview() { return view.findChild<QPlainTextEdit*>()->toPlainText(); }
 
-    void choose(QComboBox& combo, const QString& text) {
-        combo.setFocus();
-        combo.setCurrentText(text);
-        Q_EMIT combo.activated(combo.currentIndex());
+    /// What a pop-up shows.
+    PressableControl& popUp(const QString& name) {
+        return find<PressableControl>(QAccessible::ComboBox, name);
+    }
+
+    /// Opens a pop-up and chooses a row of its list.
+    void choose(const QString& name, const QString& title) {
+        auto& control = popUp(name);
+        QTest::mouseClick(&control, Qt::LeftButton);
+        auto* row = widgetByRole(*QApplication::activePopupWidget(), QAccessible::ListItem, title);
+        ASSERT_NE(row, nullptr) << title.toStdString();
+        QTest::mouseClick(row, Qt::LeftButton);
         queue.run();
+    }
+
+    /// What the list of a pop-up offers.
+    QStringList offered(const QString& name) {
+        auto& control = popUp(name);
+        QTest::keyClick(&control, Qt::Key_Space);
+        QStringList titles;
+        for (const auto* row : QApplication::activePopupWidget()->findChildren<MenuRow*>())
+            titles.append(row->text());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        return titles;
     }
 };
 
@@ -109,32 +129,96 @@ TEST_F(PopoverViewTest, BoxesSetTheFlagsAndOneStaysOn) {
 }
 
 TEST_F(PopoverViewTest, PresetThatIsNoLongerOfferedGivesWayToTheFirst) {
-    choose(choice(u"Format"_s), u"Medium"_s);
+    choose(u"Format"_s, u"Medium"_s);
     EXPECT_EQ(model.formatPreset(), DateFormatPreset::MediumForm);
     box(u"Date"_s).click(); // the time alone reads the same as Long and Medium
     queue.run();
     EXPECT_EQ(model.formatPreset(), DateFormatPreset::LongForm);
-    EXPECT_EQ(choice(u"Format"_s).currentText(), u"Long"_s);
-    EXPECT_EQ(choice(u"Format"_s).findText(u"Medium"_s), -1);
+    EXPECT_EQ(popUp(u"Format"_s).accessibleValue(), u"Long"_s);
+    EXPECT_FALSE(offered(u"Format"_s).contains(u"Medium"_s));
 }
 
-TEST_F(PopoverViewTest, ZonesAreTypedAndLaidOut) {
-    auto& zoneField = field(u"Time Zones"_s);
-    EXPECT_EQ(zoneField.text(), u"America/New_York"_s);
-    EXPECT_FALSE(choice(u"Layout"_s).isVisible());
-    zoneField.selectAll();
-    QTest::keyClicks(&zoneField, u"UTC, America/New_York, Nowhere"_s);
-    QTest::keyClick(&zoneField, Qt::Key_Return);
+TEST_F(PopoverViewTest, ChipsAddAndRemoveZonesAndTheLayoutIsChosen) {
+    EXPECT_FALSE(find<QWidget>(QAccessible::RadioButton, u"Lines"_s).isVisible());
+    button(u"GMT"_s).click(); // London, a favourite
     queue.run();
-    EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST / March 9, 2024 at 10:05 PM UTC"_s);
-    choose(choice(u"Layout"_s), u"Lines"_s);
-    EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST\nMarch 9, 2024 at 10:05 PM UTC"_s);
+    EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST / March 9, 2024 at 10:05 PM GMT"_s);
+    QTest::mouseClick(&find<QWidget>(QAccessible::RadioButton, u"Lines"_s), Qt::LeftButton);
+    queue.run();
+    EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST\nMarch 9, 2024 at 10:05 PM GMT"_s);
+    button(u"EST"_s).click();
+    queue.run();
+    EXPECT_EQ(preview(), u"March 9, 2024 at 10:05 PM GMT"_s);
+}
+
+TEST_F(PopoverViewTest, FocusStaysAtTheChipsPlaceWhenItIsPressed) {
+    button(u"GMT"_s).setFocus();
+    QTest::keyClick(&button(u"GMT"_s), Qt::Key_Space);
+    queue.run();
+    EXPECT_TRUE(button(u"GMT"_s).hasFocus());
+    EXPECT_EQ(button(u"GMT"_s).accessibleDescription(), u"Remove"_s);
+}
+
+TEST_F(PopoverViewTest, PlusOpensThePickerAndWhatIsPickedIsWritten) {
+    QTest::mouseClick(&button(u"Add time zone"_s), Qt::LeftButton);
+    auto& search = field(u"Search"_s);
+    EXPECT_TRUE(search.hasFocus());
+    QTest::keyClicks(&search, u"kathmandu"_s);
+    QTest::keyClick(&search, Qt::Key_Return);
+    QTest::keyClick(&search, Qt::Key_Escape);
+    queue.run();
+    EXPECT_EQ(closed, 0);
+    EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST / March 10, 2024 at 3:50 AM GMT+5:45"_s);
+    EXPECT_EQ(button(u"Kathmandu"_s).accessibleDescription(), u"Remove"_s);
+    EXPECT_TRUE(button(u"Add time zone"_s).hasFocus());
+}
+
+TEST_F(PopoverViewTest, RangeShowsTheEndAsItWas) {
+    const auto chips = [this](const QString& description) {
+        const auto controls = view.findChildren<PressableControl*>();
+        return std::ranges::count_if(controls, [&](const auto* control) {
+            return control->isVisible() && control->accessibleDescription() == description;
+        });
+    };
+    EXPECT_EQ(chips(u"End date"_s), 0);
+    box(u"to"_s).click();
+    queue.run();
+    EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST – March 9, 2024 at 6:05 PM EST"_s);
+    EXPECT_EQ(chips(u"End date"_s), 1);
+    EXPECT_EQ(chips(u"End time"_s), 1);
+    const auto end = model.endDate();
+    box(u"to"_s).click();
+    box(u"to"_s).click();
+    EXPECT_EQ(model.endDate(), end);
+}
+
+TEST_F(PopoverViewTest, OnlyTheChipsOfIncludedPartsShow) {
+    box(u"to"_s).click();
+    box(u"Date"_s).click();
+    queue.run();
+    for (const auto* control : view.findChildren<PressableControl*>()) {
+        const auto part = control->accessibleDescription();
+        if (part == u"Start date"_s || part == u"End date"_s) {
+            EXPECT_FALSE(control->isVisible()) << part.toStdString();
+        }
+        if (part == u"Start time"_s || part == u"End time"_s) {
+            EXPECT_TRUE(control->isVisible()) << part.toStdString();
+        }
+    }
+}
+
+TEST_F(PopoverViewTest, LabelNamesTheLocalZone) {
+    EXPECT_NE(widgetByRole(view, QAccessible::StaticText, u"(in local time EST)"_s), nullptr);
+    currentZone.set(*zones.zone(u"Asia/Kolkata"_s));
+    view.refreshSoon();
+    queue.run();
+    EXPECT_NE(widgetByRole(view, QAccessible::StaticText, u"(in local time Kolkata)"_s), nullptr);
 }
 
 TEST_F(PopoverViewTest, CustomPatternShowsOnlyForTheCustomPreset) {
     auto& pattern = field(u"Custom format"_s);
     EXPECT_FALSE(pattern.isVisible());
-    choose(choice(u"Format"_s), u"Custom…"_s);
+    choose(u"Format"_s, u"Custom…"_s);
     EXPECT_TRUE(pattern.isVisible());
     pattern.selectAll();
     QTest::keyClicks(&pattern, u"yyyy"_s);

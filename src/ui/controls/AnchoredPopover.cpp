@@ -73,6 +73,13 @@ void AnchoredPopover::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
+void AnchoredPopover::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    // Content that grows must not leave the screen, nor cover the anchor.
+    if (isVisible())
+        place();
+}
+
 void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());

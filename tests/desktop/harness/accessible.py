@@ -10,6 +10,8 @@ from .waiting import PATIENCE, wait_until
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
 _TEXT = "org.a11y.atspi.Text"
+_COMPONENT = "org.a11y.atspi.Component"
+_SCREEN = 0  # ATSPI_COORD_TYPE_SCREEN
 _ACTION = "org.a11y.atspi.Action"
 _PROPERTIES = "org.freedesktop.DBus.Properties"
 _REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
@@ -20,6 +22,7 @@ class State(IntEnum):
 
     CHECKED = 4
     EDITABLE = 7
+    FOCUSED = 12
     ENABLED = 8
     SHOWING = 25
 
@@ -57,6 +60,16 @@ class Accessible:
         words = self._call(_ACCESSIBLE, "GetState")
         return bool(words[state // 32] >> (state % 32) & 1)
 
+    @property
+    def description(self) -> str:
+        """What a screen reader says after name and role."""
+        return self._call(_PROPERTIES, "Get", "(ss)", _ACCESSIBLE, "Description")
+
+    @property
+    def extents(self) -> tuple[int, int, int, int]:
+        """Left, top, width and height on the screen."""
+        return self._call(_COMPONENT, "GetExtents", "(u)", _SCREEN)
+
     def press(self) -> None:
         """Performs the object's first action: a click, for a button."""
         self._call(_ACTION, "DoAction", "(i)", 0)
@@ -75,6 +88,17 @@ class Accessible:
         return self._await(
             lambda found: found.name == name and found.role == role, f'a {role} named "{name}"'
         )
+
+    def find_described(self, role: str, description: str) -> "Accessible":
+        """The showing object of a role and a description; waits until there is one."""
+        return self._await(
+            lambda found: found.role == role and found.description == description,
+            f'a {role} described as "{description}"',
+        )
+
+    def shows(self, role: str, name: str) -> bool:
+        """Whether something of a role and a name shows now."""
+        return self._first(lambda found: found.name == name and found.role == role) is not None
 
     def find_editor(self) -> "Accessible":
         """The first editable text that shows; waits until there is one."""

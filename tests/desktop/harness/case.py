@@ -7,6 +7,7 @@ import unittest
 
 from .clipboard import Clipboard
 from .keys import INSERT, SHORTCUT, Keyboard
+from .mouse import Mouse
 from .quorvane import Quorvane
 from .session import Session
 from .targets import EDITORS, Editor, Target
@@ -33,6 +34,8 @@ class DesktopCase(unittest.TestCase):
     def setUp(self) -> None:
         self.keyboard = Keyboard(self.session.display)
         self.addCleanup(self.keyboard.close)
+        self.mouse = Mouse(self.session.display)
+        self.addCleanup(self.mouse.close)
         self.clipboard = Clipboard(self.session)
         self.addCleanup(self.clipboard.close)
 

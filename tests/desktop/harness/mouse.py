@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: MIT
+"""A user's other hand: a pointer that the X server takes for a real one."""
+
+from Xlib import X
+from Xlib.display import Display
+from Xlib.ext import xtest
+
+from .accessible import Accessible
+
+_LEFT = 1
+
+
+class Mouse:
+    """Moves and presses on one display."""
+
+    def __init__(self, display: str) -> None:
+        self._display = Display(display)
+
+    def close(self) -> None:
+        """Ends the connection."""
+        self._display.close()
+
+    def click(self, target: Accessible) -> None:
+        """Presses and releases the left button in the middle of something that shows."""
+        left, top, width, height = target.extents
+        self.click_at(left + width // 2, top + height // 2)
+
+    def click_at(self, x: int, y: int) -> None:
+        """The same at a place on the screen."""
+        xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
+        xtest.fake_input(self._display, X.ButtonPress, _LEFT)
+        xtest.fake_input(self._display, X.ButtonRelease, _LEFT)
+        self._display.sync()
