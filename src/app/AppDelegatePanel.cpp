@@ -59,7 +59,12 @@ std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
             *m_environment.platform.pasteboard,
             *m_environment.platform.keyboardLayout,
             m_environment.zones,
-            m_environment.mainQueue},
+            m_environment.mainQueue,
+            m_environment.clock,
+            m_environment.currentZone,
+            {[&traits = *m_environment.platform.windowTraits] {
+                return traits.isComposited();
+            }}},
         PopoverView::Callbacks{
             weakly(&AppDelegate::performInsert),
             weakly(&AppDelegate::showPreferences),
@@ -84,6 +89,20 @@ void AppDelegate::setupPanel() {
         restored ? *restored
                  : panelplacement::centred(size, mainArea(*m_environment.platform.workspace)));
     connect(m_panel.get(), &Panel::fittingHeightChanged, this, &AppDelegate::fitPanelHeight);
+    connect(
+        m_panel.get(),
+        &Panel::painted,
+        this,
+        &AppDelegate::warmUpZones,
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+void AppDelegate::warmUpZones() {
+    m_zoneWarmUp = std::make_unique<ZoneWarmUp>(
+        m_environment.mainQueue,
+        m_environment.zones,
+        m_environment.clock.now(),
+        m_environment.locale);
 }
 
 void AppDelegate::showPanel() {

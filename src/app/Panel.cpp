@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <app/Panel.h>
 #include <app/PanelPlacement.h>
+#include <controls/DevicePixels.h>
+#include <controls/FocusRing.h>
+#include <controls/Theme.h>
 
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -25,6 +28,7 @@ Panel::Panel(QWidget* content)
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
     setFixedWidth(panelplacement::contentWidth);
+    new FocusRing(this);
     m_fittingHeight = fittingHeight();
 }
 
@@ -69,8 +73,8 @@ void Panel::closeEvent(QCloseEvent* event) {
 
 void Panel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    frameRounded(painter, rect(), 0, Theme::of(palette()).sep, 1);
+    Q_EMIT painted();
 }
 
 } // namespace quorvane

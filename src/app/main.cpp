@@ -2,6 +2,7 @@
 #include <app/AppDelegate.h>
 #include <app/Backends.h>
 #include <app/TerminationSignals.h>
+#include <controls/Theme.h>
 #include <foundation/DiskFileWriter.h>
 #include <foundation/JsonDefaultsStore.h>
 #include <foundation/QtMainQueue.h>
@@ -10,6 +11,7 @@
 #include <platform_dbus/DBusApplicationInstance.h>
 
 #include <QApplication>
+#include <QStyle>
 
 namespace {
 
@@ -20,6 +22,9 @@ void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
     application.setQuitOnLastWindowClosed(false);
+    // A palette that is the style's own comes from no desktop.
+    if (QApplication::palette() == QApplication::style()->standardPalette())
+        QApplication::setPalette(housePalette(ColorScheme::Light));
 }
 
 int run(QApplication& application, TerminationSignals& signals, ApplicationInstance& instance) {

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <controls/DevicePixels.h>
+#include <controls/TextStyle.h>
+#include <controls/Theme.h>
 #include <ui/OutputPreview.h>
 
 #include <QAbstractTextDocumentLayout>
@@ -16,13 +19,14 @@ namespace {
 constexpr int padding = 10;
 constexpr int leastHeight = 38;
 constexpr int cornerRadius = 8;
-constexpr float tintOpacity = 0.06F;
 
 } // namespace
 
 OutputPreview::OutputPreview(QWidget* parent) : QPlainTextEdit(parent) {
     setAccessibleName(tr("Preview"));
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    auto fixed = textFont(font(), TextStyle::Callout);
+    fixed.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    setFont(fixed);
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
@@ -58,12 +62,7 @@ void OutputPreview::resizeEvent(QResizeEvent* event) {
 void OutputPreview::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(viewport());
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        auto tint = palette().color(QPalette::WindowText);
-        tint.setAlphaF(tintOpacity);
-        painter.setBrush(tint);
-        painter.drawRoundedRect(viewport()->rect(), cornerRadius, cornerRadius);
+        fillRounded(painter, viewport()->rect(), cornerRadius, Theme::of(palette()).quiet);
     }
     QPlainTextEdit::paintEvent(event);
 }

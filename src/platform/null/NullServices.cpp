@@ -79,6 +79,8 @@ public:
     void presentPanel(QWindow&) override {}
 
     void orderFront(QWindow&) override {}
+
+    [[nodiscard]] bool isComposited() const override { return false; }
 };
 
 } // namespace

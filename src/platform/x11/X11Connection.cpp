@@ -51,6 +51,7 @@ std::shared_ptr<X11Connection> X11Connection::open() {
 
 X11Connection::X11Connection(xcb_connection_t* connection, int preferredScreen)
     : m_connection(connection),
+      m_screenNumber(preferredScreen),
       m_screen(screenAt(connection, preferredScreen)),
       m_notifier(std::make_unique<QSocketNotifier>(
           xcb_get_file_descriptor(connection), QSocketNotifier::Read)) {

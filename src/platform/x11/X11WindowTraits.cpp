@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <platform_x11/QtX11.h>
 #include <platform_x11/X11WindowTraits.h>
+#include <platform_x11/XcbReply.h>
 
 #include <QGuiApplication>
 #include <QWindow>
@@ -46,6 +47,15 @@ void X11WindowTraits::setActivationPolicy(ActivationPolicy policy) {
         if (window->isVisible() && isManaged(*window))
             m_states.request(idOf(*window), hiddenFromTaskbar, taskbarChange());
     }
+}
+
+bool X11WindowTraits::isComposited() const {
+    // The running compositing manager of a screen owns this selection (EWMH, _NET_WM_CM_Sn).
+    const auto name = QStringLiteral("_NET_WM_CM_S%1").arg(m_connection->screenNumber());
+    const auto cookie = xcb_get_selection_owner(m_connection->xcb(), m_connection->atom(name));
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(m_connection->xcb(), cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
 bool X11WindowTraits::eventFilter(QObject* watched, QEvent* event) {

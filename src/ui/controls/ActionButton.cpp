@@ -40,6 +40,15 @@ ActionButton::ActionButton(
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
+void ActionButton::setFace(Symbol symbol, const QString& label) {
+    m_symbol = symbol;
+    setText(label);
+}
+
+std::optional<QColor> ActionButton::tint(const Theme& /*theme*/) const {
+    return std::nullopt;
+}
+
 QSize ActionButton::sizeHint() const {
     const auto label = QFontMetricsF(labelFont()).horizontalAdvance(text());
     const double content = SymbolStyle().size + spacing + std::ceil(label);
@@ -54,8 +63,9 @@ void ActionButton::paintControl(QPainter& painter, const Theme& theme) {
     paintSurface(painter, theme);
     const bool prominent = m_prominence == Prominence::Prominent;
     ContentRow row(spacing);
-    row.addSymbol(m_symbol, {}, prominent ? theme.onAccent : theme.text2);
-    row.addText(text(), labelFont(), prominent ? theme.onAccent : theme.text);
+    const auto ink = tint(theme);
+    row.addSymbol(m_symbol, {}, ink.value_or(prominent ? theme.onAccent : theme.text2));
+    row.addText(text(), labelFont(), ink.value_or(prominent ? theme.onAccent : theme.text));
     QRectF place(0, 0, row.width(), height());
     place.moveCenter(QRectF(rect()).center());
     row.paint(painter, place, layoutDirection());

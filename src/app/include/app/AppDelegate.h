@@ -13,6 +13,7 @@
 #include <hotkey/HotKeyMonitor.h>
 #include <model/DateTimeModel.h>
 #include <platform/PlatformServices.h>
+#include <timezones/ZoneWarmUp.h>
 #include <ui/PopoverView.h>
 
 #include <QObject>
@@ -98,6 +99,7 @@ private:
     void present();
     void setupPanel();
     void showPanel();
+    void warmUpZones();
     void orderOutPanel();
     void fitPanelHeight();
     void movePanelOntoScreen();
@@ -113,6 +115,7 @@ private:
     std::shared_ptr<HotKeyMonitor> m_hotKeyMonitor;
     std::unique_ptr<QWidget> m_preferencesWindow;
     std::optional<RunningApplication> m_previousFrontmostApp;
+    std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< under way since the first paint
     TextInserter m_inserter;
     DeadlineSet m_insertSteps;
     std::optional<Deadline> m_frameSave; ///< the panel has a place that is not saved yet

@@ -17,6 +17,9 @@ public:
     [[nodiscard]] int fittingHeight() const;
 
 Q_SIGNALS:
+    /// The panel is on the screen as it is now.
+    void painted();
+
     /// The user or the window manager moved or sized the panel.
     void frameChanged();
 

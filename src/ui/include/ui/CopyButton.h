@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/ActionButton.h>
 #include <foundation/DeadlineSet.h>
 #include <foundation/MainQueue.h>
-
-#include <QPushButton>
 
 namespace quorvane {
 
 /// "Copy", and "Copied" for a while after confirm().
-class CopyButton final : public QPushButton {
+class CopyButton final : public ActionButton {
     Q_OBJECT
 
 public:
@@ -21,6 +20,9 @@ public:
 
     /// Each call ends the confirmation `confirmation` later, also one that a later call began.
     void confirm();
+
+protected:
+    [[nodiscard]] std::optional<QColor> tint(const Theme& theme) const override;
 
 private:
     void setCopyConfirmed(bool confirmed);

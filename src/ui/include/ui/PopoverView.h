@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <entry/EntrySurroundings.h>
 #include <foundation/CoalescedRefresh.h>
 #include <foundation/MainQueue.h>
 #include <foundation/ZoneDatabase.h>
@@ -12,19 +13,16 @@
 
 #include <functional>
 
-class QCheckBox;
-class QComboBox;
-class QHBoxLayout;
-class QLabel;
-class QLineEdit;
-class QPushButton;
 class QVBoxLayout;
 
 namespace quorvane {
 
-class CopyButton;
+class ActionBar;
+class DateSection;
+class FormatSection;
 class OutputPreview;
-class ZoneField;
+class PopoverHeader;
+class TimeZoneSection;
 
 /// The interface of the program: what to compose, the live output, and the two ways to deliver it.
 class PopoverView final : public QWidget {
@@ -37,6 +35,9 @@ public:
         const KeyboardLayout& keyboardLayout;
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
+        const Clock& clock;
+        const CurrentZone& currentZone;
+        PopoverEffects popoverEffects;
     };
 
     /// What the view asks of its owner.
@@ -60,20 +61,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] QHBoxLayout* makeHeader();
-    [[nodiscard]] QHBoxLayout* makeDateRow();
-    [[nodiscard]] QHBoxLayout* makeFormatRow();
-    [[nodiscard]] QHBoxLayout* makeActionBar();
-    /// `main` is the control that the name stands for.
-    void addSection(QVBoxLayout* column, const QString& name, QLayout* content, QWidget* main);
+    [[nodiscard]] EntrySurroundings entrySurroundings() const;
+    [[nodiscard]] QVBoxLayout* makeSections();
+    [[nodiscard]] QWidget* makePreviewSection();
     void addShortcuts();
     void connectControls();
 
     void refresh();
-    void refreshPresets();
     void refreshDownstream();
-    void setIncludeDate(bool include);
-    void setIncludeTime(bool include);
     [[nodiscard]] bool downstreamDisabled() const;
 
     DateTimeModel& m_model;
@@ -81,16 +76,12 @@ private:
     Callbacks m_callbacks;
     CoalescedRefresh m_refresh;
 
-    QLabel* m_keys;
-    QCheckBox* m_includeDate;
-    QCheckBox* m_includeTime;
-    ZoneField* m_zoneField;
-    QComboBox* m_preset;
-    QComboBox* m_layout;
-    QLineEdit* m_customFormat;
+    PopoverHeader* m_header;
+    DateSection* m_dateSection;
+    TimeZoneSection* m_timeZoneSection;
+    FormatSection* m_formatSection;
     OutputPreview* m_preview;
-    CopyButton* m_copy;
-    QPushButton* m_insert;
+    ActionBar* m_actionBar;
 };
 
 } // namespace quorvane

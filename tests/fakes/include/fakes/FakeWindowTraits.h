@@ -20,6 +20,10 @@ public:
 
     void orderFront(QWindow&) override { m_log.add("orderFront"); }
 
+    [[nodiscard]] bool isComposited() const override { return composited; }
+
+    bool composited = false;
+
 private:
     CallLog& m_log;
 };

@@ -46,6 +46,9 @@ public:
 
     [[nodiscard]] const xcb_screen_t& screen() const { return *m_screen; }
 
+    /// Of the screen in use, among those of the server.
+    [[nodiscard]] int screenNumber() const { return m_screenNumber; }
+
     /// Whether the window was made by this connection.
     [[nodiscard]] bool owns(xcb_window_t window) const;
 
@@ -80,6 +83,7 @@ private:
     void stopListening();
 
     xcb_connection_t* m_connection;
+    int m_screenNumber;
     const xcb_screen_t* m_screen;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::list<std::weak_ptr<EventHandler>> m_handlers;

@@ -23,6 +23,7 @@ public:
     void preparePanel(QWindow& window) override;
     void presentPanel(QWindow& window) override;
     void orderFront(QWindow& window) override;
+    [[nodiscard]] bool isComposited() const override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Theme.h>
+#include <ui/ActionBar.h>
+#include <ui/CopyButton.h>
+#include <ui/PanelMetrics.h>
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int verticalPadding = 12;
+constexpr int buttonSpacing = 8;
+
+} // namespace
+
+ActionBar::ActionBar(MainQueue& queue, QWidget* parent)
+    : QWidget(parent),
+      m_copy(new CopyButton(queue, this)),
+      m_insert(new ActionButton(
+          ActionButton::Prominence::Prominent, Symbol::Return, tr("Insert"), this)) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(
+        panelmetrics::sideMargin, verticalPadding, panelmetrics::sideMargin, verticalPadding);
+    row->setSpacing(buttonSpacing);
+    row->addWidget(m_copy, 1);
+    row->addWidget(m_insert, 1);
+}
+
+void ActionBar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(0, 0, width(), 1, Theme::of(palette()).line);
+}
+
+} // namespace quorvane

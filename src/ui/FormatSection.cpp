@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include <controls/MacPopUpButton.h>
+#include <controls/MacSegmentedControl.h>
+#include <controls/TextField.h>
+#include <controls/TextStyle.h>
+#include <ui/FormatSection.h>
+#include <ui/PanelMetrics.h>
+#include <ui/SectionLabel.h>
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int layoutWidth = 160;
+constexpr int layoutGap = 8;
+
+QFont fixedFont(const QFont& body) {
+    auto font = textFont(body, TextStyle::Callout);
+    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    return font;
+}
+
+} // namespace
+
+FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects, QWidget* parent)
+    : QWidget(parent),
+      m_model(model),
+      m_preset(new MacPopUpButton(effects, this)),
+      m_layout(new MacSegmentedControl(this)),
+      m_customFormat(new TextField(this)),
+      m_presetChoice(
+          *m_preset,
+          model.availableFormatPresets(),
+          [](const DateFormatPreset& preset) { return rawValue(preset); },
+          {[&model] { return model.formatPreset(); },
+           [&model](DateFormatPreset preset) {
+               model.setFormatPreset(preset);
+           }}),
+      m_layoutChoice(
+          *m_layout,
+          {allMultiZoneLayouts.begin(), allMultiZoneLayouts.end()},
+          [](const MultiZoneLayout& layout) { return rawValue(layout); },
+          {[&model] { return model.multiZoneLayout(); },
+           [&model](MultiZoneLayout layout) {
+               model.setMultiZoneLayout(layout);
+           }}) {
+    m_preset->setLabel(tr("Format"));
+    m_layout->setLabel(tr("Layout"));
+    m_layout->setFixedWidth(layoutWidth);
+    m_customFormat->setFont(fixedFont(font()));
+    m_customFormat->setAccessibleName(tr("Custom format"));
+    m_customFormat->setPlaceholderText(tr("e.g. yyyy-MM-dd HH:mm zzz"));
+    connect(
+        m_customFormat, &QLineEdit::textEdited, &m_model, &DateTimeModel::setCustomFormatString);
+    layOut();
+    refresh();
+}
+
+void FormatSection::refresh() {
+    m_presetChoice.setItems(m_model.availableFormatPresets());
+    m_layoutChoice.refresh();
+    m_layout->setVisible(m_model.includeTime() && m_model.selectedTimeZones().size() > 1);
+    m_customFormat->setVisible(m_model.formatPreset() == DateFormatPreset::Custom);
+    if (m_customFormat->text() != m_model.customFormatString())
+        m_customFormat->setText(m_model.customFormatString());
+}
+
+void FormatSection::layOut() {
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(layoutGap);
+    choices->addWidget(m_preset, 1);
+    choices->addWidget(m_layout);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(panelmetrics::labelSpacing);
+    column->addWidget(new SectionLabel(tr("Format"), Symbol::TextformatAlt, this));
+    column->addLayout(choices);
+    column->addWidget(m_customFormat);
+}
+
+} // namespace quorvane

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include <controls/SymbolPainter.h>
+#include <controls/TextStyle.h>
+#include <controls/Theme.h>
+#include <ui/PanelMetrics.h>
+#include <ui/SectionLabel.h>
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QStyle>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int symbolSize = 16;
+constexpr int symbolGap = 6;
+constexpr int noteGap = 6;
+
+} // namespace
+
+SectionLabel::SectionLabel(const QString& name, Symbol icon, QWidget* parent)
+    : QWidget(parent),
+      m_icon(icon),
+      m_name(new QLabel(name, this)),
+      m_note(new QLabel(this)),
+      m_row(new QHBoxLayout(this)) {
+    setMinimumHeight(panelmetrics::labelHeight);
+    m_note->setForegroundRole(QPalette::PlaceholderText);
+    m_row->setContentsMargins(symbolSize + symbolGap, 0, 0, 0);
+    m_row->setSpacing(0);
+    m_row->addWidget(m_name);
+    m_row->addSpacing(noteGap);
+    m_row->addWidget(m_note);
+    m_row->addStretch();
+    followFont();
+}
+
+void SectionLabel::setNote(const QString& note) {
+    m_note->setText(note);
+}
+
+void SectionLabel::addTrailing(QWidget* widget, int spacing, int reach) {
+    m_row->addSpacing(spacing);
+    m_row->addWidget(widget);
+    m_row->setContentsMargins(symbolSize + symbolGap, 0, -reach, 0);
+}
+
+void SectionLabel::setBuddy(QWidget* control) {
+    m_name->setBuddy(control);
+}
+
+void SectionLabel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const QRect symbol(0, 0, symbolSize, height());
+    paintSymbol(
+        painter,
+        m_icon,
+        {},
+        QStyle::visualRect(layoutDirection(), rect(), symbol),
+        Theme::of(palette()).text2);
+}
+
+void SectionLabel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        followFont();
+}
+
+void SectionLabel::followFont() {
+    m_name->setFont(textFont(font(), TextStyle::Headline));
+    m_note->setFont(textFont(font(), TextStyle::Callout));
+}
+
+} // namespace quorvane

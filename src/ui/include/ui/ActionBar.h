@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/MainQueue.h>
+
+#include <QWidget>
+
+namespace quorvane {
+
+class ActionButton;
+class CopyButton;
+
+/// The two ways to deliver the output, side by side.
+class ActionBar final : public QWidget {
+    Q_OBJECT
+
+public:
+    ActionBar(MainQueue& queue, QWidget* parent);
+
+    [[nodiscard]] CopyButton& copyButton() { return *m_copy; }
+
+    [[nodiscard]] ActionButton& insertButton() { return *m_insert; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    CopyButton* m_copy;
+    ActionButton* m_insert;
+};
+
+} // namespace quorvane

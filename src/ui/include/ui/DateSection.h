@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <entry/DateBinding.h>
+#include <entry/DateField.h>
+#include <entry/EntrySurroundings.h>
+#include <entry/TimeField.h>
+#include <model/DateTimeModel.h>
+
+#include <QWidget>
+
+namespace quorvane {
+
+class CheckBox;
+class SectionLabel;
+
+/// "When": which parts of the date are written, the start, and the end of a range.
+class DateSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    DateSection(DateTimeModel& model, const EntrySurroundings& surroundings, QWidget* parent);
+
+    /// Shows the model, the zone and the day as they are now.
+    void refresh();
+
+    /// The zone that the dates are entered in, shortly.
+    [[nodiscard]] QString localTimeZoneLabel() const;
+
+private:
+    /// The chips of one date.
+    struct DateTimePair {
+        QWidget* row;
+        DateField* date;
+        TimeField* time;
+    };
+
+    struct PairNames {
+        QString date;
+        QString time;
+    };
+
+    [[nodiscard]] DateTimePair
+    dateTimePair(const DateBinding& selection, const MinDate& minDate, const PairNames& names);
+    [[nodiscard]] SectionLabel* whenSectionLabel();
+    void layOut();
+    void connectBoxes();
+    void refresh(const DateTimePair& pair);
+
+    DateTimeModel& m_model;
+    EntrySurroundings m_surroundings;
+    SectionLabel* m_label;
+    CheckBox* m_includeDate;
+    CheckBox* m_includeTime;
+    CheckBox* m_isRange;
+    DateTimePair m_start;
+    DateTimePair m_end;
+};
+
+} // namespace quorvane

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/Choice.h>
+#include <controls/PopoverEffects.h>
+#include <model/DateTimeModel.h>
+
+#include <QWidget>
+
+namespace quorvane {
+
+class MacPopUpButton;
+class MacSegmentedControl;
+class TextField;
+
+/// The format of the output: a preset, the user's own pattern, and how several zones stand.
+class FormatSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    FormatSection(DateTimeModel& model, const PopoverEffects& effects, QWidget* parent);
+
+    void refresh();
+
+private:
+    void layOut();
+
+    DateTimeModel& m_model;
+    MacPopUpButton* m_preset;
+    MacSegmentedControl* m_layout;
+    TextField* m_customFormat;
+    Choice<DateFormatPreset> m_presetChoice;
+    Choice<MultiZoneLayout> m_layoutChoice;
+};
+
+} // namespace quorvane

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/Symbol.h>
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QLabel;
+
+namespace quorvane {
+
+/// The first line of a section: its symbol and name, perhaps a quiet note, and at its end whatever
+/// belongs to the section as a whole.
+class SectionLabel final : public QWidget {
+    Q_OBJECT
+
+public:
+    SectionLabel(const QString& name, Symbol icon, QWidget* parent);
+
+    void setNote(const QString& note);
+
+    /// `reach` lets a control end beyond the column, so that its ink ends with it.
+    void addTrailing(QWidget* widget, int spacing = 0, int reach = 0);
+
+    /// The control that the name stands for, to assistive technology.
+    void setBuddy(QWidget* control);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void followFont();
+
+    Symbol m_icon;
+    QLabel* m_name;
+    QLabel* m_note;
+    QHBoxLayout* m_row;
+};
+
+} // namespace quorvane

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/FlowLayout.h>
+#include <model/DateTimeModel.h>
+
+#include <QPointer>
+#include <QWidget>
+
+#include <picker/TimeZonePickerView.h>
+#include <vector>
+
+namespace quorvane {
+
+class IconButton;
+class Sheet;
+class ZoneChip;
+
+/// The zones of the output as chips: favourites in their place, selected or offered, then whatever
+/// else is selected; and the way to all other zones.
+class TimeZoneSection final : public QWidget {
+    Q_OBJECT
+
+public:
+    TimeZoneSection(
+        DateTimeModel& model,
+        const TimeZonePickerView::Surroundings& surroundings,
+        QWidget* parent);
+
+    /// Shows the model's zones, with the labels that they have now. Chips that stay keep their
+    /// place, the pointer and the focus.
+    void refresh();
+
+    /// Opens the picker over `cover`, which it must be inside of.
+    void showTimeZonePicker();
+
+private:
+    /// What a chip shows.
+    struct Slot {
+        TimeZone zone;
+        bool isSelected;
+    };
+
+    [[nodiscard]] std::vector<Slot> slotsOfModel() const;
+    [[nodiscard]] bool isSelected(const TimeZone& zone) const;
+    [[nodiscard]] ZoneChip* takeOrMakeChip(const Slot& slot);
+    [[nodiscard]] QString label(const TimeZone& zone) const;
+    void add(const TimeZone& zone);
+    void remove(const TimeZone& zone);
+
+    DateTimeModel& m_model;
+    TimeZonePickerView::Surroundings m_surroundings;
+    IconButton* m_add;
+    FlowLayout* m_flow;
+    std::vector<ZoneChip*> m_chips;
+    QPointer<Sheet> m_picker;
+};
+
+} // namespace quorvane
