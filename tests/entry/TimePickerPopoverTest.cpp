@@ -2,6 +2,7 @@
 #include "EntryFixture.h"
 
 #include <entry/TimeField.h>
+#include <entry/TimePickerPopover.h>
 
 namespace quorvane {
 namespace {
@@ -239,6 +240,19 @@ TEST_F(TimePickerPopoverTest, KeysAreTheWindowsOwnAgainOnceItIsClosed) {
     press(Qt::Key_Left);
     EXPECT_EQ(other.cursorPosition(), 2);
     EXPECT_EQ(timeOfDay(), 9h + 15min);
+}
+
+TEST_F(TimePickerPopoverTest, KeysAreTheWindowsOwnWhileItIsHidden) {
+    QLineEdit other(u"abc"_s, &window);
+    TimePickerPopover content(binding(), currentZone, &window);
+    showWindow();
+    content.hide();
+    other.setFocus();
+    press(Qt::Key_Left);
+    EXPECT_EQ(other.cursorPosition(), 2);
+    content.show();
+    press(Qt::Key_Right);
+    EXPECT_EQ(content.focus(), TimePickerPopover::Field::Minute);
 }
 
 TEST_F(TimePickerPopoverTest, EachOpeningStartsAfresh) {

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quorvane {
 namespace {
 
