@@ -31,8 +31,8 @@ void PopUpButton::setTitle(const QString& title, const QStringList& titles) {
     QAccessible::updateAccessibility(&change);
 }
 
-void PopUpButton::setOpen(bool isOpen) {
-    m_isOpen = isOpen;
+void PopUpButton::setOpened(QWidget* surface) {
+    m_opened = surface;
     update();
     QAccessible::State changed;
     changed.expanded = true;
@@ -54,7 +54,7 @@ double PopUpButton::cornerRadius() const {
 }
 
 void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
-    const auto frame = m_isOpen ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
+    const auto frame = m_opened ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
     ChipSurface::paint(painter, rect(), theme, look(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     const auto inner = rect().adjusted(padding, 0, -padding, 0);

@@ -42,9 +42,9 @@ void PopUpChoice::open() {
     });
     connect(m_popover, &AnchoredPopover::closed, this, [this] {
         m_popover = nullptr;
-        m_button->setOpen(false);
+        m_button->setOpened(nullptr);
     });
-    m_button->setOpen(true);
+    m_button->setOpened(m_popover);
     m_popover->open();
 }
 

@@ -38,6 +38,21 @@ QAccessible::State PressableAccessible::state() const {
     return state;
 }
 
+int PressableAccessible::childCount() const {
+    return QAccessibleWidget::childCount() + (surface() != nullptr ? 1 : 0);
+}
+
+QAccessibleInterface* PressableAccessible::child(int index) const {
+    return index == QAccessibleWidget::childCount() ? surface() : QAccessibleWidget::child(index);
+}
+
+int PressableAccessible::indexOfChild(const QAccessibleInterface* child) const {
+    const auto* opened = surface();
+    return opened != nullptr && child != nullptr && child->object() == opened->object()
+               ? QAccessibleWidget::childCount()
+               : QAccessibleWidget::indexOfChild(child);
+}
+
 QString PressableAccessible::text(QAccessible::Text kind) const {
     if (kind == QAccessible::Value)
         return m_control.accessibleValue();
@@ -64,6 +79,11 @@ void PressableAccessible::doAction(const QString& name) {
 QStringList PressableAccessible::keyBindingsForAction(const QString& name) const {
     return name == pressName() ? QStringList{m_control.shortcut().toString()}
                                : QAccessibleWidget::keyBindingsForAction(name);
+}
+
+QAccessibleInterface* PressableAccessible::surface() const {
+    auto* opened = m_control.openedSurface();
+    return opened != nullptr ? QAccessible::queryAccessibleInterface(opened) : nullptr;
 }
 
 QString PressableAccessible::pressName() const {

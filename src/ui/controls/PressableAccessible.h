@@ -17,6 +17,9 @@ public:
     static void install();
 
     [[nodiscard]] QAccessible::State state() const override;
+    [[nodiscard]] int childCount() const override;
+    [[nodiscard]] QAccessibleInterface* child(int index) const override;
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override;
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
     [[nodiscard]] QStringList actionNames() const override;
     void doAction(const QString& name) override;
@@ -24,6 +27,8 @@ public:
 
 private:
     [[nodiscard]] QString pressName() const;
+    /// Of what the control has opened; null while there is nothing.
+    [[nodiscard]] QAccessibleInterface* surface() const;
 
     PressableControl& m_control;
 };

@@ -15,13 +15,27 @@ class Key(IntEnum):
     """Keys by position, as X key codes: the evdev code plus eight."""
 
     ESCAPE = 9
+    DIGIT_5 = 14
+    DIGIT_7 = 16
+    TAB = 23
     Q = 24
+    T = 28
+    Y = 29
+    O = 32
+    P = 33
     RETURN = 36
     CONTROL = 37
     D = 40
+    K = 45
     SHIFT = 50
     V = 55
     ALT = 64
+    HOME = 110
+    UP = 111
+    PAGE_UP = 112
+    LEFT = 113
+    RIGHT = 114
+    DOWN = 116
     SUPER = 133
 
 

@@ -22,6 +22,8 @@ public:
 
     [[nodiscard]] std::optional<bool> isExpanded() const override { return !m_popover.isNull(); }
 
+    [[nodiscard]] QWidget* openedSurface() const override { return m_popover; }
+
     /// Shows another value.
     void showText(const QString& text);
 

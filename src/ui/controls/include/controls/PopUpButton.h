@@ -3,6 +3,8 @@
 
 #include <controls/PressableControl.h>
 
+#include <QPointer>
+
 namespace quorvane {
 
 /// The face of a pop-up: the selected title and a chevron on a chip's surface.
@@ -14,7 +16,8 @@ public:
 
     /// Shows a title; the width that it asks for is that of the widest of `titles`.
     void setTitle(const QString& title, const QStringList& titles);
-    void setOpen(bool isOpen);
+    /// What it has opened; null once that is closed.
+    void setOpened(QWidget* surface);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -22,7 +25,9 @@ public:
         return QAccessible::ComboBox;
     }
 
-    [[nodiscard]] std::optional<bool> isExpanded() const override { return m_isOpen; }
+    [[nodiscard]] std::optional<bool> isExpanded() const override { return m_opened != nullptr; }
+
+    [[nodiscard]] QWidget* openedSurface() const override { return m_opened; }
 
     [[nodiscard]] QString accessibleValue() const override { return text(); }
 
@@ -32,7 +37,7 @@ protected:
 
 private:
     QStringList m_titles;
-    bool m_isOpen = false;
+    QPointer<QWidget> m_opened;
 };
 
 } // namespace quorvane

@@ -32,6 +32,10 @@ public:
     /// Whether what the control opens is open; none for one that opens nothing.
     [[nodiscard]] virtual std::optional<bool> isExpanded() const { return std::nullopt; }
 
+    /// The surface that the control has opened, which belongs to it in the eyes of assistive
+    /// technology: Qt lists no popup among the program's windows. Null while there is none.
+    [[nodiscard]] virtual QWidget* openedSurface() const { return nullptr; }
+
     /// The value, for one that has a value apart from its name.
     [[nodiscard]] virtual QString accessibleValue() const { return {}; }
 
