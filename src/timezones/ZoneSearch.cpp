@@ -15,6 +15,13 @@ bool isBlank(QChar character) {
     return character == u' ' || character == u'\t';
 }
 
+/// Clocks are put forward and back on whole minutes, so that names are the same from here on to the
+/// instant. A zone keeps the last offset that it was asked for: keystrokes of one minute share it.
+Instant startOfMinute(Instant instant) {
+    constexpr double minute = 60;
+    return {std::floor(instant.secondsSince1970 / minute) * minute};
+}
+
 QString lowerCase(const std::optional<QString>& name) {
     return name.value_or(QString()).toLower();
 }
