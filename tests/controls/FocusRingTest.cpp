@@ -76,6 +76,13 @@ TEST_F(FocusRingTest, IsGoneWhenItsTargetIsDestroyed) {
     EXPECT_FALSE(picture(window).isNull());
 }
 
+TEST_F(FocusRingTest, IsGoneWhenATargetWithoutFocusIsDestroyed) {
+    ring.surround(first);
+    ASSERT_TRUE(ring.isVisible());
+    delete first;
+    EXPECT_FALSE(ring.isVisible());
+}
+
 TEST_F(FocusRingTest, StaysWithTheNextTargetWhenTheLastIsDestroyed) {
     first->setFocus(Qt::TabFocusReason);
     second->setFocus(Qt::TabFocusReason);

@@ -177,11 +177,21 @@ TYPED_TEST(PopUpChoiceTest, SecondPressOnItClosesAndDoesNotReopen) {
     EXPECT_TRUE(this->popUp.isOpen());
 }
 
-TYPED_TEST(PopUpChoiceTest, PressElsewhereClosesIt) {
+// The desktop's own windows hand the press on unless the popover forbids it.
+TYPED_TEST(PopUpChoiceTest, PressOnItIsNotHandedOnAndOneElsewhereIs) {
     this->popUp.open();
-    auto* popover = QApplication::activePopupWidget();
+    QPointer<QWidget> popover = QApplication::activePopupWidget();
+    const auto onIt = this->button().mapToGlobal(this->button().rect().center());
+    QTest::mousePress(popover, Qt::LeftButton, {}, popover->mapFromGlobal(onIt));
+    EXPECT_FALSE(this->popUp.isOpen());
+    ASSERT_TRUE(popover);
+    EXPECT_TRUE(popover->testAttribute(Qt::WA_NoMouseReplay));
+    this->popUp.open();
+    popover = QApplication::activePopupWidget();
     QTest::mousePress(popover, Qt::LeftButton, {}, {-300, -300});
     EXPECT_FALSE(this->popUp.isOpen());
+    ASSERT_TRUE(popover);
+    EXPECT_FALSE(popover->testAttribute(Qt::WA_NoMouseReplay));
 }
 
 TYPED_TEST(PopUpChoiceTest, HidingItsWindowClosesIt) {
