@@ -42,6 +42,7 @@ constexpr std::array kinds{
     VectorKind{"labels"_L1, checkLabel},
     VectorKind{"labels_by_zone"_L1, checkLabelByZone},
     VectorKind{"toggle"_L1, checkToggle},
+    VectorKind{"flow"_L1, checkFlow},
 };
 
 } // namespace

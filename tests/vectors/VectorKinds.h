@@ -49,5 +49,6 @@ using VectorCheck = Comparison (*)(const VectorRow& row);
 [[nodiscard]] Comparison checkLabel(const VectorRow& row);
 [[nodiscard]] Comparison checkLabelByZone(const VectorRow& row);
 [[nodiscard]] Comparison checkToggle(const VectorRow& row);
+[[nodiscard]] Comparison checkFlow(const VectorRow& row);
 
 } // namespace quorvane

@@ -10,19 +10,22 @@ namespace {
 
 constexpr float lightnessStep = 0.01F;
 
-double linear(double channel) {
+double linear(int eightBits) {
+    const double channel = eightBits / 255.0;
     return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }
 
+/// Of the colour as a screen shows it: a ratio that holds only before rounding is not met.
 double relativeLuminance(const QColor& color) {
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
+    const QRgb shown = color.rgb();
+    return 0.2126 * linear(qRed(shown)) + 0.7152 * linear(qGreen(shown)) +
+           0.0722 * linear(qBlue(shown));
 }
 
 } // namespace
 
 double contrastRatio(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(relativeLuminance(a), relativeLuminance(b));
+    const auto [darker, lighter] = std::minmax({relativeLuminance(a), relativeLuminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
@@ -46,9 +49,10 @@ QColor pushedToContrast(QColor color, const QColor& ground, double ratio) {
     const bool lighten = contrastRatio(Qt::white, ground) > contrastRatio(Qt::black, ground);
     auto [hue, saturation, lightness, alpha] = std::array<float, 4>{};
     color.getHslF(&hue, &saturation, &lightness, &alpha);
-    while (contrastRatio(color, ground) < ratio && lightness > 0 && lightness < 1) {
+    const float end = lighten ? 1 : 0;
+    while (contrastRatio(color, ground) < ratio && lightness != end) {
         lightness = std::clamp(lightness + (lighten ? lightnessStep : -lightnessStep), 0.0F, 1.0F);
-        color = QColor::fromHslF(std::max(hue, 0.0F), saturation, lightness, alpha);
+        color = QColor::fromHslF(std::max(hue, 0.0F), saturation, lightness, alpha).toRgb();
     }
     return color;
 }

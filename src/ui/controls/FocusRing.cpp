@@ -38,6 +38,9 @@ FocusRing::FocusRing(QWidget* window) : QWidget(window), m_window(window) {
 
 void FocusRing::surround(QWidget* target) {
     m_target = shapeOf(target) != nullptr ? target : nullptr;
+    // What is destroyed loses the focus too late to be known as the target.
+    if (m_target)
+        connect(m_target, &QObject::destroyed, this, &FocusRing::follow, Qt::UniqueConnection);
     follow();
 }
 

@@ -23,6 +23,9 @@ PopUpChoice::PopUpChoice(PopoverEffects effects, QWidget* parent)
 }
 
 void PopUpChoice::setChoices(const QStringList& titles, std::optional<int> selected) {
+    // A list that is open shows other titles than one would choose from.
+    if (m_popover && titles != m_titles)
+        m_popover->close();
     m_titles = titles;
     const bool isOneOfThem = selected && *selected >= 0 && *selected < titles.size();
     m_selected = isOneOfThem ? selected : std::nullopt;

@@ -109,17 +109,15 @@ void SegmentedRow::setSegmentCount(qsizetype count) {
 }
 
 void SegmentedRow::select(std::optional<int> index) {
-    const int stop = index.value_or(0);
-    for (int position = 0; position < static_cast<int>(m_segments.size()); ++position) {
+    const int count = static_cast<int>(m_segments.size());
+    // Without a selection, Tab stops at the first segment.
+    const int stop = index && *index >= 0 && *index < count ? *index : 0;
+    for (int position = 0; position < count; ++position) {
         auto* segment = m_segments[static_cast<std::size_t>(position)];
         segment->setChecked(position == index);
-        // Without a selection, Tab stops at the first segment.
         segment->setFocusPolicy(position == stop ? Qt::StrongFocus : Qt::ClickFocus);
     }
-    setFocusProxy(
-        m_segments.empty() ? nullptr
-                           : m_segments[static_cast<std::size_t>(
-                                 std::clamp(stop, 0, static_cast<int>(m_segments.size()) - 1))]);
+    setFocusProxy(count == 0 ? nullptr : m_segments[static_cast<std::size_t>(stop)]);
 }
 
 void SegmentedRow::choose(int index) {

@@ -112,6 +112,17 @@ void adoptGrounds(Theme& theme, const QPalette& palette) {
     theme.off = blended(withOpacity(theme.text, 0.4), theme.win);
 }
 
+/// `color` with enough contrast on `ground` under a tint of itself.
+QColor inkOnItsOwnTint(QColor color, const QColor& ground) {
+    // The tint darkens or lightens with its ink: that takes some rounds to come to rest.
+    for (QColor before; before != color;) {
+        before = color;
+        const auto tinted = blended(withOpacity(color, chosenTint), ground);
+        color = pushedToContrast(color, tinted, readable);
+    }
+    return color;
+}
+
 /// The accent of the desktop, made to carry text: white where a darker tone of it still is that
 /// colour, dark ink for yellow, lime and their like, which have no dark tone.
 void adoptAccent(Theme& theme, const QColor& accent) {
@@ -120,12 +131,7 @@ void adoptAccent(Theme& theme, const QColor& accent) {
     theme.accent = isBright ? accent : pushedToContrast(accent, Qt::white, readable);
     theme.accentHover = theme.accent.darker(108);
     theme.accentPress = theme.accent.darker(122);
-    theme.accentText = accent;
-    // The tint darkens or lightens with its ink: some rounds bring both to rest.
-    for (int round = 0; round < 4; ++round) {
-        const auto tinted = blended(withOpacity(theme.accentText, chosenTint), theme.base);
-        theme.accentText = pushedToContrast(theme.accentText, tinted, readable);
-    }
+    theme.accentText = inkOnItsOwnTint(accent, theme.base);
 }
 
 } // namespace

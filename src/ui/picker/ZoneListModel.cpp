@@ -63,8 +63,10 @@ QVariant ZoneListModel::data(const QModelIndex& index, int role) const {
 Qt::ItemFlags ZoneListModel::flags(const QModelIndex& index) const {
     if (zoneAt(index) == nullptr)
         return Qt::NoItemFlags;
-    // Pressing anywhere in the row is what checks it: see ZoneList.
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    // Checkable for assistive technology. Pressing anywhere in the row is what checks it: see
+    // ZoneList; a delegate that would do it as well is refused by setData().
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
+           Qt::ItemNeverHasChildren;
 }
 
 QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "ControlWindow.h"
+
+#include <controls/ActionButton.h>
+#include <controls/CheckBox.h>
+#include <controls/FavoriteSuggestionChip.h>
+#include <controls/KeyCap.h>
+#include <controls/MenuChip.h>
+#include <controls/MenuRow.h>
+#include <controls/SegmentButton.h>
+#include <controls/SegmentedChip.h>
+#include <controls/TextButton.h>
+#include <controls/TextStyle.h>
+#include <controls/TimeZoneChip.h>
+#include <foundation/ZoneDatabase.h>
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// By size of the body's font in pixels.
+class TextFits : public testing::TestWithParam<int> {
+protected:
+    ControlWindow window;
+    QString label = u"Wednesday, Preferences…"_s;
+
+    TextFits() {
+        auto font = window.font();
+        font.setPixelSize(GetParam());
+        window.setFont(font);
+    }
+
+    /// What the look gives the label, beside which `ornament` points are taken by other things.
+    void expectRoom(const QWidget& control, const QFont& font, double ornament) {
+        const QFontMetricsF metrics(font);
+        const auto size = control.sizeHint();
+        EXPECT_GE(size.width() - ornament, metrics.horizontalAdvance(label));
+        EXPECT_GE(size.height(), metrics.height());
+        EXPECT_LE(size.width() - ornament, metrics.horizontalAdvance(label) + 16);
+    }
+
+    [[nodiscard]] QFont font(TextStyle style, QFont::Weight weight = QFont::Normal) const {
+        return textFont(window.font(), style, weight);
+    }
+};
+
+TEST_P(TextFits, InButtons) {
+    auto& insert =
+        window.add(new ActionButton(ActionButton::Prominence::Prominent, Symbol::Return, label));
+    expectRoom(insert, font(TextStyle::Body, QFont::DemiBold), 16 + 6 + 2 * 16);
+    auto& copy =
+        window.add(new ActionButton(ActionButton::Prominence::Bordered, Symbol::DocOnDoc, label));
+    expectRoom(copy, font(TextStyle::Body, QFont::Medium), 16 + 6 + 2 * 16);
+    auto& done = window.add(new TextButton(label));
+    expectRoom(done, font(TextStyle::Body, QFont::DemiBold), 2 * 8);
+}
+
+TEST_P(TextFits, InABox) {
+    expectRoom(window.add(new CheckBox(label)), font(TextStyle::Body), 16 + 8);
+}
+
+TEST_P(TextFits, InChips) {
+    const auto zone = ZoneDatabase::utc();
+    const auto medium = font(TextStyle::Callout, QFont::Medium);
+    expectRoom(window.add(new TimeZoneChip(zone, label, [] {})), medium, 9 + 5 + 2 * 10);
+    expectRoom(window.add(new FavoriteSuggestionChip(zone, label, [] {})), medium, 9 + 5 + 2 * 10);
+}
+
+TEST_P(TextFits, InListsToChooseFrom) {
+    auto& chip = window.add(new MenuChip(PopoverEffects{}));
+    chip.setChoices({u"Short"_s, label}, 0);
+    expectRoom(chip, font(TextStyle::Callout), 6 + 10 + 2 * 10);
+    expectRoom(window.add(new MenuRow(label, true, nullptr)), font(TextStyle::Callout), 32 + 12);
+}
+
+TEST_P(TextFits, InSegmentsThatAreSelected) {
+    auto& row = window.add(new SegmentedChip);
+    row.setChoices({u"Short"_s, label}, 0);
+    row.resize(row.sizeHint());
+    for (const auto* segment : row.findChildren<SegmentButton*>()) {
+        const QFontMetricsF metrics(font(TextStyle::Callout, QFont::DemiBold));
+        EXPECT_GE(segment->width() - 4, metrics.horizontalAdvance(segment->text()));
+    }
+}
+
+TEST_P(TextFits, InKeyCapsThatKeepTheirSize) {
+    for (const auto& key : {u"⌃"_s, u"D"_s, u"F12"_s, u"Escape"_s, u"…"_s}) {
+        const KeyCap cap(key, &window);
+        const QFontMetricsF metrics(fixedSizeFont(window.font(), 12, QFont::DemiBold));
+        EXPECT_EQ(cap.sizeHint().height(), 22);
+        EXPECT_GE(cap.sizeHint().width(), 22);
+        EXPECT_GE(cap.sizeHint().width() - 8, metrics.horizontalAdvance(key));
+    }
+}
+
+/// Where a label that starts at the leading edge ends, in points.
+double inkEnd(QWidget& control, int width, double scale) {
+    control.setFixedWidth(width);
+    const auto image = picture(control, scale);
+    const QRgb ground = image.pixel(image.width() - 1, image.height() / 2);
+    for (int x = image.width() - 1; x > 0; --x)
+        for (int y = 0; y < image.height(); ++y)
+            if (image.pixel(x, y) != ground)
+                return (x + 1) / scale;
+    return 0;
+}
+
+TEST_P(TextFits, AsItIsDrawnAtEveryScale) {
+    CheckBox box(label, &window);
+    const int asked = box.sizeHint().width();
+    for (const double scale : {1.0, 1.25, 2.0}) {
+        const double whole = inkEnd(box, asked + 60, scale);
+        EXPECT_LE(whole, asked + 0.5) << scale;
+        EXPECT_GT(whole, asked / 2) << scale;
+        EXPECT_NEAR(inkEnd(box, asked, scale), whole, 1) << scale;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(BodySizes, TextFits, testing::Values(9, 13, 16));
+
+} // namespace
+} // namespace quorvane

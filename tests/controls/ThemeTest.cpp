@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
+#include <controls/Theme.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <ostream>
+
+namespace quorvane {
+namespace {
+
+struct Token {
+    const char* name;
+    QColor Theme::*color;
+    QRgb light; ///< with alpha
+    QRgb dark;
+};
+
+constexpr QRgb ink(double opacity) {
+    return qRgba(0x14, 0x16, 0x1c, static_cast<int>(opacity * 255 + 0.5));
+}
+
+constexpr QRgb white(double opacity) {
+    return qRgba(255, 255, 255, static_cast<int>(opacity * 255 + 0.5));
+}
+
+constexpr QRgb black(double opacity) {
+    return qRgba(0, 0, 0, static_cast<int>(opacity * 255 + 0.5));
+}
+
+constexpr QRgb faded(QRgb color, double opacity) {
+    return qRgba(qRed(color), qGreen(color), qBlue(color), static_cast<int>(opacity * 255 + 0.5));
+}
+
+const Token tokens[] = {
+    {"win", &Theme::win, 0xfff6f6f8, 0xff1d1e21},
+    {"base", &Theme::base, 0xffffffff, 0xff2a2b2f},
+    {"pop", &Theme::pop, 0xffffffff, 0xff27282c},
+    {"text", &Theme::text, 0xff1a1b1e, 0xfff0f1f3},
+    {"text2", &Theme::text2, 0xff5c6068, 0xffaeb2bb},
+    {"off", &Theme::off, 0xffa4a7ae, 0xff62656d},
+    {"accent", &Theme::accent, 0xff3457d5, 0xff4666ea},
+    {"accentHover", &Theme::accentHover, 0xff2c4dc4, 0xff3e5de0},
+    {"accentPress", &Theme::accentPress, 0xff2542ac, 0xff3652ca},
+    {"onAccent", &Theme::onAccent, 0xffffffff, 0xffffffff},
+    {"accentText", &Theme::accentText, 0xff2f50c8, 0xffa6b7ff},
+    {"sep", &Theme::sep, ink(0.13), white(0.12)},
+    {"line", &Theme::line, ink(0.09), white(0.08)},
+    {"outline", &Theme::outline, 0xff85888f, 0xff7c8089},
+    {"track", &Theme::track, 0xff85888f, 0xff6a6e77},
+    {"quiet", &Theme::quiet, ink(0.05), white(0.065)},
+    {"hover", &Theme::hover, ink(0.05), white(0.06)},
+    {"press", &Theme::press, ink(0.10), white(0.11)},
+    {"green", &Theme::green, 0xff1a7a37, 0xff63d387},
+    {"danger", &Theme::danger, 0xffc4302b, 0xffff8a80},
+    {"dangerHover", &Theme::dangerHover, faded(0xc4302b, 0.10), faded(0xff8a80, 0.14)},
+    {"dangerPress", &Theme::dangerPress, faded(0xc4302b, 0.18), faded(0xff8a80, 0.22)},
+    {"yellow", &Theme::yellow, 0xfff4b90b, 0xfff5c542},
+    {"yellowEdge", &Theme::yellowEdge, 0xffb07d00, 0xfff5c542},
+    {"scrim", &Theme::scrim, ink(0.24), black(0.5)},
+};
+
+TEST(Theme, HousePalettesGiveTheHousesTokens) {
+    const auto light = Theme::of(housePalette(ColorScheme::Light));
+    const auto dark = Theme::of(housePalette(ColorScheme::Dark));
+    for (const auto& token : tokens) {
+        EXPECT_EQ((light.*token.color).rgba(), token.light) << token.name << " in light";
+        EXPECT_EQ((dark.*token.color).rgba(), token.dark) << token.name << " in dark";
+    }
+}
+
+TEST(Theme, HousesShadowFadesOutwards) {
+    constexpr std::array light{0.028, 0.028, 0.022, 0.022, 0.016, 0.016};
+    constexpr std::array dark{0.10, 0.10, 0.08, 0.08, 0.06, 0.06};
+    for (std::size_t step = 0; step < light.size(); ++step) {
+        EXPECT_EQ(Theme::house(ColorScheme::Light).shadow.at(step).rgba(), ink(light.at(step)));
+        EXPECT_EQ(Theme::house(ColorScheme::Dark).shadow.at(step).rgba(), black(dark.at(step)));
+    }
+}
+
+struct Desktop {
+    const char* name;
+    QRgb win;
+    QRgb base;
+    QRgb text;
+    QRgb accent;
+
+    [[nodiscard]] QPalette palette() const {
+        QPalette palette;
+        palette.setColor(QPalette::Window, win);
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::WindowText, text);
+        palette.setColor(QPalette::Highlight, accent);
+        return palette;
+    }
+};
+
+void PrintTo(const Desktop& desktop, std::ostream* out) {
+    *out << desktop.name;
+}
+
+class ThemeOfADesktop : public testing::TestWithParam<Desktop> {
+protected:
+    Theme theme = Theme::of(GetParam().palette());
+
+    /// As it is seen: in eight bits a channel.
+    static double ratio(const QColor& ink, const QColor& ground) {
+        return contrastRatio(QColor(ink.rgb()), QColor(ground.rgb()));
+    }
+};
+
+TEST_P(ThemeOfADesktop, KeepsItsGroundsAndText) {
+    EXPECT_EQ(theme.win.rgb(), GetParam().win);
+    EXPECT_EQ(theme.base.rgb(), GetParam().base);
+    EXPECT_EQ(theme.text.rgb(), GetParam().text);
+}
+
+TEST_P(ThemeOfADesktop, CaptionsAreReadableOnEveryGround) {
+    EXPECT_GE(ratio(theme.text2, theme.win), 4.5);
+    EXPECT_GE(ratio(theme.text2, theme.base), 4.5);
+    EXPECT_GE(ratio(theme.text2, theme.pop), 4.5);
+}
+
+TEST_P(ThemeOfADesktop, TextOnTheAccentIsReadableInEveryState) {
+    EXPECT_GE(ratio(theme.onAccent, theme.accent), 4.5);
+    EXPECT_GE(ratio(theme.onAccent, theme.accentHover), 4.5);
+    EXPECT_GE(ratio(theme.onAccent, theme.accentPress), 4.5);
+}
+
+TEST_P(ThemeOfADesktop, AccentAsInkIsReadableUnderItsOwnTint) {
+    const auto tinted = blended(withOpacity(theme.accentText, 0.15), theme.base);
+    EXPECT_GE(ratio(theme.accentText, tinted), 4.5);
+    EXPECT_GE(ratio(theme.accentText, theme.base), 4.5);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Odd,
+    ThemeOfADesktop,
+    testing::Values(
+        Desktop{"YellowAccent", 0xfff6f5f4, 0xffffffff, 0xff2e3436, 0xfff6d32d},
+        Desktop{"YellowAccentOnDark", 0xff242424, 0xff1e1e1e, 0xffffffff, 0xfff6d32d},
+        Desktop{"LimeAccent", 0xfff6f5f4, 0xffffffff, 0xff2e3436, 0xff00ff00},
+        Desktop{"LimeAccentOnDark", 0xff303030, 0xff202020, 0xffeeeeee, 0xffbfff00},
+        Desktop{"PaleGreyText", 0xfff0f0f0, 0xffffffff, 0xffb0b0b0, 0xff9a9a9a},
+        Desktop{"DimTextOnDark", 0xff101010, 0xff202020, 0xff606060, 0xff404040},
+        Desktop{"WhiteOnBlack", 0xff000000, 0xff000000, 0xffffffff, 0xffffffff},
+        Desktop{"WhiteOnBlackWithBlackAccent", 0xff000000, 0xff000000, 0xffffffff, 0xff000000},
+        Desktop{"BlackOnWhite", 0xffffffff, 0xffffffff, 0xff000000, 0xff000000},
+        Desktop{"BlackOnWhiteWithWhiteAccent", 0xffffffff, 0xffffffff, 0xff000000, 0xffffffff},
+        Desktop{"BlueishLight", 0xffeff0f1, 0xfffcfcfc, 0xff232629, 0xff3daee9},
+        Desktop{"BlueishDark", 0xff2a2e32, 0xff1b1e20, 0xfffcfcfc, 0xff3daee9},
+        Desktop{"OrangeAccent", 0xfffafafa, 0xffffffff, 0xff3d3d3d, 0xffe95420},
+        Desktop{"MidGreyGrounds", 0xffc0c0c0, 0xffd4d4d4, 0xff000000, 0xff0a246a}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST(Theme, YellowAndLimeCarryDarkInkAndStayThemselves) {
+    for (const QRgb accent : {0xffffff00, 0xfff6d32d, 0xff00ff00, 0xffbfff00}) {
+        const auto theme =
+            Theme::of(Desktop{"", 0xfff6f5f4, 0xffffffff, 0xff2e3436, accent}.palette());
+        EXPECT_EQ(theme.accent.rgb(), accent);
+        EXPECT_LT(theme.onAccent.lightness(), 40);
+    }
+}
+
+TEST(Theme, AccentThatIsDarkEnoughIsKept) {
+    const auto theme =
+        Theme::of(Desktop{"", 0xfff6f5f4, 0xffffffff, 0xff2e3436, 0xff1c71d8}.palette());
+    EXPECT_EQ(theme.accent.rgb(), 0xff1c71d8);
+    EXPECT_EQ(theme.onAccent, QColor(Qt::white));
+}
+
+TEST(Theme, SchemeIsThatOfTextAndGround) {
+    EXPECT_EQ(colorScheme(housePalette(ColorScheme::Light)), ColorScheme::Light);
+    EXPECT_EQ(colorScheme(housePalette(ColorScheme::Dark)), ColorScheme::Dark);
+}
+
+} // namespace
+} // namespace quorvane
