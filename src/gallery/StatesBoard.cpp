@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "Samples.h"
+
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
 #include <controls/DevicePixels.h>
@@ -13,13 +15,14 @@
 #include <controls/TextStyle.h>
 #include <controls/TimeZoneChip.h>
 #include <controls/ToggleSwitch.h>
+#include <entry/DateField.h>
 #include <foundation/ZoneDatabase.h>
+#include <gallery/StatesBoard.h>
 
 #include <QLabel>
 #include <QPainter>
 
 #include <array>
-#include <gallery/StatesBoard.h>
 
 namespace quorvane {
 
@@ -64,7 +67,13 @@ Control* wide(Control* control, int width) {
 
 } // namespace
 
-StatesBoard::StatesBoard(ColorScheme scheme, QWidget* parent) : QWidget(parent) {
+StatesBoard::StatesBoard(ColorScheme scheme, QWidget* parent)
+    : QWidget(parent),
+      m_day(
+          {[] { return sample::now; },
+           [](Instant) {
+           }}),
+      m_surroundings(sample::entrySurroundings()) {
     setPalette(housePalette(scheme));
     setFixedSize(boardSize);
     const std::array heads{u"rest"_s, u"hover"_s, u"press"_s, u"focus"_s};
@@ -95,6 +104,7 @@ void StatesBoard::paintEvent(QPaintEvent* /*event*/) {
 
 void StatesBoard::addChips() {
     const auto zone = ZoneDatabase::utc();
+    addRow(u"date chip"_s, [this](State) { return new DateField(m_day, {}, m_surroundings); });
     addRow(u"selected zone"_s, [&](State) { return new TimeZoneChip(zone, u"EST"_s, [] {}); });
     addRow(u"suggested zone"_s, [&](State) {
         return new FavoriteSuggestionChip(zone, u"Tokyo"_s, [] {});
@@ -188,6 +198,7 @@ void StatesBoard::addControl(QWidget* control, int column, State state) {
         control->sizeHint().height());
     control->setGeometry(QRect(QPoint(columnStart(column), rowCenter() - size.height() / 2), size));
     auto* part = pressablePart(control);
+    control->show();
     if (part == nullptr)
         return;
     part->setAttribute(Qt::WA_UnderMouse, state == State::Hover);

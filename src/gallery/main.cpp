@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
-
 #include <gallery/Gallery.h>
+
+#include <QApplication>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <controls/Theme.h>
+#include <entry/DateBinding.h>
+#include <entry/EntrySurroundings.h>
 
 #include <QWidget>
 
@@ -37,6 +39,8 @@ private:
     void addControl(QWidget* control, int column, State state);
     [[nodiscard]] int rowCenter() const;
 
+    DateBinding m_day;
+    EntrySurroundings m_surroundings;
     int m_rows = 0;
 };
 
