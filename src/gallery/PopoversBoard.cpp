@@ -3,15 +3,20 @@
 
 #include <controls/ChoiceMenu.h>
 #include <controls/DevicePixels.h>
+#include <controls/MenuChip.h>
 #include <controls/PopoverShadow.h>
 #include <controls/SearchField.h>
+#include <controls/SegmentedChip.h>
 #include <controls/Sheet.h>
+#include <controls/TextButton.h>
+#include <controls/TextField.h>
 #include <entry/CalendarPicker.h>
 #include <entry/TimePickerPopover.h>
 #include <gallery/PopoversBoard.h>
 #include <picker/TimeZonePickerView.h>
 
 #include <QPainter>
+#include <QVBoxLayout>
 
 namespace quorvane {
 
@@ -19,7 +24,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize boardSize{1140, 1100};
+constexpr QSize boardSize{1140, 888};
 constexpr QSize panelSize{504, 516};
 constexpr double popoverRadius = 10;
 constexpr double panelRadius = 12;
@@ -29,6 +34,26 @@ DateBinding shown(Instant instant) {
         [instant] { return instant; },
         [](Instant) {
         }};
+}
+
+/// What the panel itself has no use for, or shows in one state only.
+QWidget* makeFormControls() {
+    auto* form = new QWidget;
+    auto* column = new QVBoxLayout(form);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(12);
+    auto* menuChip = new MenuChip({});
+    menuChip->setChoices({u"Medium"_s, u"Unix Timestamp"_s}, 0);
+    column->addWidget(menuChip);
+    auto* segments = new SegmentedChip;
+    segments->setChoices({u"None"_s, u"is"_s, u"selected"_s}, std::nullopt);
+    column->addWidget(segments);
+    auto* pattern = new TextField;
+    pattern->setPlaceholderText(u"e.g. yyyy-MM-dd HH:mm zzz"_s);
+    column->addWidget(pattern);
+    column->addWidget(new SearchField(u"Search"_s));
+    column->addWidget(new TextButton(u"Done"_s));
+    return form;
 }
 
 } // namespace
@@ -46,6 +71,7 @@ PopoversBoard::PopoversBoard(ColorScheme scheme, QWidget* parent) : QWidget(pare
         new ChoiceMenu(
             {u"Long"_s, u"Medium"_s, u"Short"_s, u"ISO 8601"_s, u"RFC 2822"_s, u"Custom…"_s}, 0),
         {640, 32});
+    addPopover(makeFormControls(), {852, 32});
     addPicker({32, 340}, {});
     addPicker({568, 340}, u"la"_s);
 }

@@ -39,9 +39,11 @@ QString nameOf(ColorScheme scheme) {
 /// Shown, so that layouts and list views are where a user sees them.
 template <typename Board>
 void writePictures(const QString& name, ColorScheme scheme) {
-    Board board(scheme);
-    board.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&board));
+    QWidget window;
+    Board board(scheme, &window);
+    window.resize(board.size());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     for (const double scale : {1.0, 1.25, 2.0}) {
         const auto image = picture(board, scale);
         EXPECT_TRUE(

@@ -53,6 +53,21 @@ protected:
     QWidget m_panel;
 };
 
+TEST_F(WindowTraitsTest, CompositesWhileAManagerOwnsTheScreensSelection) {
+    EXPECT_FALSE(m_traits.isComposited());
+    {
+        ForeignWindow manager;
+        xcb_set_selection_owner(
+            manager.connection(),
+            manager.id(),
+            m_connection->atom("_NET_WM_CM_S0"),
+            XCB_CURRENT_TIME);
+        xcb_flush(manager.connection());
+        EXPECT_TRUE(waitUntil([this] { return m_traits.isComposited(); }));
+    }
+    EXPECT_TRUE(waitUntil([this] { return !m_traits.isComposited(); }));
+}
+
 class PanelOnX11 : public WindowTraitsTest {
 protected:
     void SetUp() override { ASSERT_TRUE(m_manager.isRunning()); }
