@@ -68,10 +68,14 @@ bool ZoneDatabase::isKnown(const QString& identifier) const {
 std::optional<TimeZone> ZoneDatabase::zone(const QString& identifier) const {
     if (!isKnown(identifier))
         return std::nullopt;
-    QTimeZone zone(identifier.toUtf8());
-    if (!zone.isValid())
-        return std::nullopt;
-    return TimeZone(identifier, std::move(zone));
+    auto opened = m_opened.find(identifier);
+    if (opened == m_opened.end()) {
+        QTimeZone zone(identifier.toUtf8());
+        if (!zone.isValid())
+            return std::nullopt;
+        opened = m_opened.emplace(identifier, std::move(zone)).first;
+    }
+    return TimeZone(identifier, opened->second);
 }
 
 TimeZone ZoneDatabase::utc() {

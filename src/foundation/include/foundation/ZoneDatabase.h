@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 namespace quorvane {
@@ -38,6 +39,10 @@ private:
     QString m_directory;
     QByteArray m_index;                        ///< the text that m_identifiers points into
     std::vector<QByteArrayView> m_identifiers; ///< sorted
+
+    /// The zones that were asked for: a list of all of them would read 420 files at each opening.
+    /// They are as old as the index above.
+    mutable std::unordered_map<QString, QTimeZone> m_opened;
 };
 
 } // namespace quorvane
