@@ -2,6 +2,7 @@
 #include "CalendarDayAccessible.h"
 #include "CalendarKeys.h"
 
+#include <controls/AccentFill.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
 #include <entry/CalendarDay.h>
@@ -87,17 +88,7 @@ QRectF CalendarDay::disc() const {
 
 QColor CalendarDay::discColor(const Theme& theme) const {
     const auto shown = m_marks.isRefused ? Look::Rest : look();
-    if (!m_marks.isChosen)
-        return overlayFor(shown, theme);
-    switch (shown) {
-    case Look::Hover:
-        return theme.accentHover;
-    case Look::Pressed:
-        return theme.accentPress;
-    case Look::Rest:
-        break;
-    }
-    return theme.accent;
+    return m_marks.isChosen ? accentFill(shown, theme) : overlayFor(shown, theme);
 }
 
 QColor CalendarDay::ink(const Theme& theme) const {

@@ -2,10 +2,9 @@
 #include <controls/MacPopUpButton.h>
 #include <controls/MacSegmentedControl.h>
 #include <controls/TextField.h>
-#include <controls/TextStyle.h>
 #include <ui/FormatSection.h>
+#include <ui/OutputFont.h>
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -15,12 +14,6 @@ namespace {
 
 constexpr int layoutWidth = 160;
 constexpr int layoutGap = 8;
-
-QFont fixedFont(const QFont& body) {
-    auto font = textFont(body, TextStyle::Callout);
-    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
-    return font;
-}
 
 } // namespace
 
@@ -49,7 +42,7 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
     m_preset->setLabel(tr("Format"));
     m_layout->setLabel(tr("Layout"));
     m_layout->setFixedWidth(layoutWidth);
-    m_customFormat->setFont(fixedFont(font()));
+    m_customFormat->setFont(outputFont(font()));
     m_customFormat->setAccessibleName(tr("Custom format"));
     m_customFormat->setPlaceholderText(tr("e.g. yyyy-MM-dd HH:mm zzz"));
     connect(

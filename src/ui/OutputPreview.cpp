@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <controls/DevicePixels.h>
-#include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <ui/OutputFont.h>
 #include <ui/OutputPreview.h>
 
 #include <QAbstractTextDocumentLayout>
-#include <QFontDatabase>
 #include <QPainter>
 #include <QTextDocument>
 
@@ -24,9 +23,7 @@ constexpr int cornerRadius = 8;
 
 OutputPreview::OutputPreview(QWidget* parent) : QPlainTextEdit(parent) {
     setAccessibleName(tr("Preview"));
-    auto fixed = textFont(font(), TextStyle::Callout);
-    fixed.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
-    setFont(fixed);
+    setFont(outputFont(font()));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);

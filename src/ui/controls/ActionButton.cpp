@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <controls/AccentFill.h>
 #include <controls/ActionButton.h>
 #include <controls/ChipSurface.h>
 #include <controls/ContentRow.h>
@@ -16,18 +17,6 @@ namespace {
 constexpr int buttonHeight = 34;
 constexpr int horizontalPadding = 16;
 constexpr double spacing = 6;
-
-QColor prominentFill(PressableControl::Look look, const Theme& theme) {
-    switch (look) {
-    case PressableControl::Look::Hover:
-        return theme.accentHover;
-    case PressableControl::Look::Pressed:
-        return theme.accentPress;
-    case PressableControl::Look::Rest:
-        break;
-    }
-    return theme.accent;
-}
 
 } // namespace
 
@@ -78,7 +67,7 @@ QFont ActionButton::labelFont() const {
 
 void ActionButton::paintSurface(QPainter& painter, const Theme& theme) const {
     if (m_prominence == Prominence::Prominent)
-        fillRounded(painter, rect(), cornerRadius(), prominentFill(look(), theme));
+        fillRounded(painter, rect(), cornerRadius(), accentFill(look(), theme));
     else
         ChipSurface::paint(painter, rect(), theme, look());
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <controls/AccentFill.h>
 #include <controls/CheckBox.h>
 #include <controls/DevicePixels.h>
 #include <controls/SymbolPainter.h>
@@ -18,18 +19,6 @@ constexpr int labelGap = 8;
 constexpr int rowHeight = 24;
 constexpr double boxRadius = 4.5;
 constexpr SymbolStyle markStyle{10, 2.5};
-
-QColor accentFor(PressableControl::Look look, const Theme& theme) {
-    switch (look) {
-    case PressableControl::Look::Hover:
-        return theme.accentHover;
-    case PressableControl::Look::Pressed:
-        return theme.accentPress;
-    case PressableControl::Look::Rest:
-        break;
-    }
-    return theme.accent;
-}
 
 } // namespace
 
@@ -82,7 +71,7 @@ void CheckBox::paintBox(QPainter& painter, const Theme& theme) const {
         paintEmptyBox(painter, theme);
         return;
     }
-    fillRounded(painter, box(), boxRadius, accentFor(look(), theme));
+    fillRounded(painter, box(), boxRadius, accentFill(look(), theme));
     paintSymbol(painter, Symbol::Checkmark, markStyle, box(), theme.onAccent);
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <controls/AccentFill.h>
 #include <controls/DevicePixels.h>
 #include <controls/ToggleSwitch.h>
 
@@ -46,7 +47,8 @@ void ToggleSwitch::paintControl(QPainter& painter, const Theme& theme) {
     const double run = trackSize.width() - 2 * knobInset - knobSize;
     const QRectF knob(
         track().left() + knobInset + along * run, track().top() + knobInset, knobSize, knobSize);
-    fillRounded(painter, track(), cornerRadius(), trackColor(theme));
+    fillRounded(
+        painter, track(), cornerRadius(), isChecked() ? accentFill(look(), theme) : theme.track);
     painter.setBrush(theme.knob);
     painter.drawEllipse(knob);
 }
@@ -57,20 +59,6 @@ QRectF ToggleSwitch::track() const {
         (height() - trackSize.height()) / 2.0,
         trackSize.width() * 1.0,
         trackSize.height() * 1.0};
-}
-
-QColor ToggleSwitch::trackColor(const Theme& theme) const {
-    if (!isChecked())
-        return theme.track;
-    switch (look()) {
-    case Look::Hover:
-        return theme.accentHover;
-    case Look::Pressed:
-        return theme.accentPress;
-    case Look::Rest:
-        break;
-    }
-    return theme.accent;
 }
 
 void ToggleSwitch::moveKnob() {

@@ -3,11 +3,11 @@
 
 #include <controls/FlowLayout.h>
 #include <model/DateTimeModel.h>
+#include <picker/TimeZonePickerView.h>
 #include <ui/Section.h>
 
 #include <QPointer>
 
-#include <picker/TimeZonePickerView.h>
 #include <vector>
 
 namespace quorvane {

@@ -27,7 +27,6 @@ protected:
 
 private:
     [[nodiscard]] QRectF track() const;
-    [[nodiscard]] QColor trackColor(const Theme& theme) const;
     void moveKnob();
 
     QVariantAnimation m_knob; ///< its place, 0 (off) to 1 (on)

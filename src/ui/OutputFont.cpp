@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include <controls/TextStyle.h>
+#include <ui/OutputFont.h>
+
+#include <QFontDatabase>
+
+namespace quorvane {
+
+QFont outputFont(const QFont& body) {
+    auto font = textFont(body, TextStyle::Callout);
+    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    return font;
+}
+
+} // namespace quorvane

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/PressableControl.h>
+
+namespace quorvane {
+
+/// The accent as the fill of a control in that look: it darkens where others are laid over.
+[[nodiscard]] QColor accentFill(PressableControl::Look look, const Theme& theme);
+
+} // namespace quorvane
