@@ -3,6 +3,7 @@
 #include <controls/Theme.h>
 #include <fakes/FixedClock.h>
 #include <foundation/ZoneDatabase.h>
+#include <picker/TimeZonePickerView.h>
 #include <support/WidgetSearch.h>
 
 #include <QLabel>
@@ -14,7 +15,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <picker/TimeZonePickerView.h>
 #include <set>
 
 namespace quorvane {

@@ -56,7 +56,7 @@ int PressableAccessible::indexOfChild(const QAccessibleInterface* child) const {
 QString PressableAccessible::text(QAccessible::Text kind) const {
     if (kind == QAccessible::Value)
         return m_control.accessibleValue();
-    const auto text = QAccessibleWidget::text(kind);
+    auto text = QAccessibleWidget::text(kind);
     if (!text.isEmpty() || kind != QAccessible::Name)
         return text;
     return m_control.text().isEmpty() ? m_control.toolTip() : m_control.text();

@@ -5,6 +5,8 @@
 #include <controls/TextButton.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <picker/TimeZonePickerView.h>
+#include <picker/ZoneList.h>
 #include <timezones/FavoriteZones.h>
 #include <timezones/ZoneSelection.h>
 
@@ -15,8 +17,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <picker/TimeZonePickerView.h>
-#include <picker/ZoneList.h>
 
 namespace quorvane {
 

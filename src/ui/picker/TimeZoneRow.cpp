@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <foundation/ZoneNames.h>
-#include <timezones/ZoneTexts.h>
-
 #include <picker/TimeZoneRow.h>
+#include <timezones/ZoneTexts.h>
 
 namespace quorvane {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <controls/OverlayScrollBar.h>
-
-#include <QAccessible>
-#include <QKeyEvent>
-
 #include <picker/ZoneList.h>
 #include <picker/ZoneListModel.h>
 #include <picker/ZoneRowDelegate.h>
+
+#include <QAccessible>
+#include <QKeyEvent>
 
 namespace quorvane {
 

@@ -4,13 +4,13 @@
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <picker/ZoneList.h>
+#include <picker/ZoneListModel.h>
+#include <picker/ZoneRowDelegate.h>
 
 #include <QPainter>
 
 #include <cmath>
-#include <picker/ZoneList.h>
-#include <picker/ZoneListModel.h>
-#include <picker/ZoneRowDelegate.h>
 
 namespace quorvane {
 

@@ -14,8 +14,8 @@
 
 namespace quorvane {
 
-/// What is searched for: without spaces and tabs around it, in lower case. Line feeds are no blanks:
-/// they are part of the query.
+/// What is searched for: without spaces and tabs around it, in lower case. Line feeds are no
+/// blanks: they are part of the query.
 [[nodiscard]] QString normalisedQuery(QStringView query);
 
 /// Finds zones of a catalogue by what the user types. A zone is found by an alias, its identifier,

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <foundation/Clock.h>
+#include <picker/ZoneListModel.h>
 #include <timezones/ZoneSearch.h>
 
 #include <QWidget>
 
 #include <functional>
-#include <picker/ZoneListModel.h>
 
 namespace quorvane {
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <foundation/Clock.h>
+#include <picker/TimeZoneRow.h>
 
 #include <QAbstractListModel>
 
 #include <functional>
-#include <picker/TimeZoneRow.h>
 #include <variant>
 #include <vector>
 
