@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
 #include <app/Panel.h>
+#include <app/PanelFrame.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -98,8 +99,8 @@ void AppDelegate::terminate() {
     if (std::exchange(m_terminating, true))
         return;
     Q_EMIT willTerminate();
-    if (m_frameSave)
-        savePanelFrame();
+    if (m_panelFrame)
+        m_panelFrame->saveNow();
     m_insertSteps.cancelAll();
     m_inserter.finish();
     m_environment.platform.pasteboard->handOver([] { QCoreApplication::quit(); });

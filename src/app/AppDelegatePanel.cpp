@@ -1,46 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
 #include <app/Panel.h>
-#include <app/PanelPlacement.h>
+#include <app/PanelFrame.h>
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QWindow>
 
 namespace quorvane {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-const auto panelFrameName = u"PanelV2"_s;
-
-// A drag moves the panel many times a second; the file is written once it rests.
-constexpr Seconds frameSaveDelay{0.5};
-
-std::vector<QRect> availableAreas() {
-    std::vector<QRect> areas;
-    for (const auto* screen : QGuiApplication::screens())
-        areas.push_back(screen->availableGeometry());
-    return areas;
-}
-
-/// Of the screen where the user is: that of the focused window, else of the pointer.
-QRect mainArea(const Workspace& workspace) {
-    const auto* screen = workspace.focusedScreen();
-    if (screen == nullptr)
-        screen = QGuiApplication::screenAt(QCursor::pos());
-    if (screen == nullptr)
-        screen = QGuiApplication::primaryScreen();
-    return screen->availableGeometry();
-}
-
-QRect areaAround(const QRect& frame, const Workspace& workspace) {
-    const auto* screen = QGuiApplication::screenAt(frame.center());
-    return screen != nullptr ? screen->availableGeometry() : mainArea(workspace);
-}
-
-} // namespace
 
 bool AppDelegate::isPanelVisible() const {
     return m_panel && m_panel->isVisible();
@@ -68,6 +33,7 @@ std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
         PopoverView::Callbacks{
             weakly(&AppDelegate::performInsert),
             weakly(&AppDelegate::showPreferences),
+            weakly(&AppDelegate::checkForUpdates),
             weakly(&AppDelegate::orderOutPanel),
             weakly(&AppDelegate::terminate)});
 }
@@ -81,14 +47,13 @@ void AppDelegate::setupPanel() {
         return;
     m_contentView = makeContentView().release();
     m_panel = std::make_unique<Panel>(m_contentView);
-    const QSize size(
-        panelplacement::contentWidth, panelplacement::contentHeight(m_panel->fittingHeight()));
-    const auto restored =
-        panelplacement::restored(m_environment.windowFrames.frame(panelFrameName));
-    m_panel->setGeometry(
-        restored ? *restored
-                 : panelplacement::centred(size, mainArea(*m_environment.platform.workspace)));
-    connect(m_panel.get(), &Panel::fittingHeightChanged, this, &AppDelegate::fitPanelHeight);
+    m_panelFrame = std::make_unique<PanelFrame>(
+        *m_panel,
+        PanelFrame::Surroundings{
+            m_environment.windowFrames,
+            m_environment.mainQueue,
+            *m_environment.platform.workspace});
+    m_panelFrame->restore();
     connect(
         m_panel.get(),
         &Panel::painted,
@@ -107,48 +72,20 @@ void AppDelegate::warmUpZones() {
 
 void AppDelegate::showPanel() {
     setupPanel();
-    movePanelOntoScreen();
+    m_panelFrame->moveOntoScreen();
     m_panel->winId();
     auto& traits = *m_environment.platform.windowTraits;
     traits.preparePanel(*m_panel->windowHandle());
     m_panel->show();
     m_panel->raise();
     // Only now: the first place is ours, not the user's.
-    connect(
-        m_panel.get(),
-        &Panel::frameChanged,
-        this,
-        &AppDelegate::savePanelFrameSoon,
-        Qt::UniqueConnection);
+    m_panelFrame->follow();
     traits.presentPanel(*m_panel->windowHandle());
 }
 
 void AppDelegate::orderOutPanel() {
     if (m_panel)
         m_panel->hide();
-}
-
-void AppDelegate::fitPanelHeight() {
-    const auto frame = m_panel->geometry();
-    const int height = panelplacement::contentHeight(m_panel->fittingHeight());
-    m_panel->setGeometry(panelplacement::resized(
-        frame, height, areaAround(frame, *m_environment.platform.workspace)));
-}
-
-void AppDelegate::movePanelOntoScreen() {
-    const auto frame = m_panel->geometry();
-    if (!panelplacement::touchesAny(frame, availableAreas()))
-        m_panel->setGeometry(
-            panelplacement::centred(frame.size(), mainArea(*m_environment.platform.workspace)));
-}
-
-void AppDelegate::savePanelFrameSoon() {
-    m_frameSave = m_environment.mainQueue.after(frameSaveDelay, [this] { savePanelFrame(); });
-}
-
-void AppDelegate::savePanelFrame() {
-    m_frameSave.reset();
-    m_environment.windowFrames.setFrame(panelFrameName, m_panel->geometry());
 }
 
 } // namespace quorvane

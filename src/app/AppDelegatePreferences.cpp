@@ -2,6 +2,7 @@
 #include <app/AppDelegate.h>
 #include <app/Panel.h>
 #include <ui/PreferencesView.h>
+#include <ui/SparkleUpdater.h>
 
 namespace quorvane {
 
@@ -18,6 +19,10 @@ void AppDelegate::showPreferences() {
     m_preferencesWindow->show();
     m_preferencesWindow->raise();
     m_preferencesWindow->activateWindow();
+}
+
+void AppDelegate::checkForUpdates() {
+    SparkleUpdater::shared().controller().checkForUpdates(*m_environment.platform.softwareCentre);
 }
 
 } // namespace quorvane

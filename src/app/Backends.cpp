@@ -2,7 +2,9 @@
 #include <app/Backends.h>
 #include <platform_null/NullServices.h>
 #include <platform_x11/X11Services.h>
+#include <platform_xdg/XdgSoftwareCentre.h>
 
+#include <QDesktopServices>
 #include <QLoggingCategory>
 
 namespace quorvane {
@@ -22,8 +24,11 @@ bool wantsX11(const QString& forced, const QString& qtPlatform) {
 PlatformServices
 makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue) {
     if (wantsX11(forced, qtPlatform)) {
-        if (auto services = makeX11Services(queue))
+        if (auto services = makeX11Services(queue)) {
+            services->softwareCentre = std::make_unique<XdgSoftwareCentre>(
+                MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
             return *std::move(services);
+        }
     }
     qCInfo(
         lcBackend,

@@ -28,6 +28,7 @@ Panel::Panel(QWidget* content)
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
     setFixedWidth(panelplacement::contentWidth);
+    setMinimumHeight(panelplacement::minimumContentHeight);
     new FocusRing(this);
     m_fittingHeight = fittingHeight();
 }
@@ -63,6 +64,11 @@ void Panel::resizeEvent(QResizeEvent* event) {
 void Panel::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
         windowHandle()->startSystemMove();
+}
+
+void Panel::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    Q_EMIT pointerLeft();
 }
 
 // A window manager's close hides the panel as its own button does; it is kept for the next time.

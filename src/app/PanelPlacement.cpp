@@ -29,12 +29,18 @@ bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas) {
 }
 
 QRect resized(const QRect& frame, int height, const QRect& available) {
-    QRect grown(frame.topLeft(), QSize(frame.width(), height));
+    QRect grown(frame.topLeft(), QSize(frame.width(), std::min(height, available.height())));
     const int overhang = grown.bottom() - available.bottom();
     const bool wasInside = frame.bottom() <= available.bottom();
     if (wasInside && overhang > 0)
         grown.moveTop(std::max(available.top(), grown.top() - overhang));
     return grown;
+}
+
+QRect resizedInPlace(const QRect& frame, int height, const QRect& available) {
+    const int below = available.bottom() + 1 - frame.top();
+    const int room = frame.bottom() <= available.bottom() ? below : available.height();
+    return {frame.topLeft(), QSize(frame.width(), std::min(height, room))};
 }
 
 } // namespace quorvane::panelplacement

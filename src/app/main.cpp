@@ -20,6 +20,7 @@ using namespace quorvane;
 
 void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
+    application.setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
     application.setQuitOnLastWindowClosed(false);
     // A palette that is the style's own comes from no desktop.

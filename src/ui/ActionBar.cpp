@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <controls/DimmingVeil.h>
 #include <controls/Theme.h>
 #include <ui/ActionBar.h>
 #include <ui/CopyButton.h>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int verticalPadding = 12;
 constexpr int buttonSpacing = 8;
+constexpr double unavailableOpacity = 0.5;
 
 } // namespace
 
@@ -20,13 +22,19 @@ ActionBar::ActionBar(MainQueue& queue, QWidget* parent)
     : QWidget(parent),
       m_copy(new CopyButton(queue, this)),
       m_insert(new ActionButton(
-          ActionButton::Prominence::Prominent, Symbol::Return, tr("Insert"), this)) {
+          ActionButton::Prominence::Prominent, Symbol::Return, tr("Insert"), this)),
+      m_veil(new DimmingVeil(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(
         panelmetrics::sideMargin, verticalPadding, panelmetrics::sideMargin, verticalPadding);
     row->setSpacing(buttonSpacing);
     row->addWidget(m_copy, 1);
     row->addWidget(m_insert, 1);
+}
+
+void ActionBar::setAvailable(bool available) {
+    setEnabled(available);
+    m_veil->setOpacity(available ? 1 : unavailableOpacity);
 }
 
 void ActionBar::paintEvent(QPaintEvent* /*event*/) {

@@ -66,6 +66,13 @@ void DateSection::refresh() {
     m_end.row->setVisible(m_model.isRange());
 }
 
+void DateSection::focusStart() {
+    FieldChip* start = m_start.date;
+    if (!m_model.includeDate())
+        start = m_start.time;
+    start->setFocus(Qt::OtherFocusReason);
+}
+
 QString DateSection::localTimeZoneLabel() const {
     return zoneLabel(
         m_surroundings.currentZone.current(), m_surroundings.clock.now(), m_surroundings.locale);

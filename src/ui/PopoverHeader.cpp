@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <controls/IconButton.h>
 #include <controls/KeyCap.h>
+#include <controls/MenuButton.h>
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
@@ -26,6 +27,7 @@ constexpr SymbolStyle appSymbol{20, SymbolStyle::regular};
 constexpr int titleGap = 8;
 constexpr int capsGap = 12;
 constexpr int capSpacing = 4;
+constexpr int buttonSpacing = 4;
 constexpr int buttonReach = 8; ///< the last button's ink ends with the column
 
 /// What a screen reader says for a modifier's glyph; any other label says itself.
@@ -44,18 +46,27 @@ QString spokenName(const QString& label) {
 
 } // namespace
 
-PopoverHeader::PopoverHeader(std::function<void()> onClose, QWidget* parent)
+PopoverHeader::PopoverHeader(Actions actions, const PopoverEffects& effects, QWidget* parent)
     : QWidget(parent),
-      m_caps(new QHBoxLayout) {
+      m_caps(new QHBoxLayout),
+      m_presentation(new IconButton(IconButton::Kind::Header, Symbol::Macwindow, {}, this)) {
     setFixedHeight(headerHeight);
-    auto* title = new QLabel(u"Quorvane"_s, this);
-    title->setFont(textFont(font(), TextStyle::Title));
+    auto* more =
+        new MenuButton(Symbol::Ellipsis, tr("More"), std::move(actions.menu), effects, this);
     auto* close = new IconButton(IconButton::Kind::Close, Symbol::Xmark, tr("Close"), this);
-    connect(close, &IconButton::clicked, this, std::move(onClose));
-    m_caps->setSpacing(capSpacing);
-    auto* row = new QHBoxLayout(this);
+    connect(m_presentation, &IconButton::clicked, this, std::move(actions.togglePresentationMode));
+    connect(close, &IconButton::clicked, this, std::move(actions.close));
+    setPresentationMode(PresentationMode::Popover);
+    layOut({m_presentation, more, close});
+}
+
+void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
     constexpr int titleStart =
         panelmetrics::sideMargin + static_cast<int>(appSymbol.size) + titleGap;
+    auto* title = new QLabel(u"Quorvane"_s, this);
+    title->setFont(textFont(font(), TextStyle::Title));
+    m_caps->setSpacing(capSpacing);
+    auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addSpacing(titleStart);
@@ -63,7 +74,10 @@ PopoverHeader::PopoverHeader(std::function<void()> onClose, QWidget* parent)
     row->addSpacing(capsGap);
     row->addLayout(m_caps);
     row->addStretch();
-    row->addWidget(close);
+    for (auto* button : buttons) {
+        row->addSpacing(buttonSpacing);
+        row->addWidget(button);
+    }
     row->addSpacing(panelmetrics::sideMargin - buttonReach);
 }
 
@@ -80,6 +94,13 @@ void PopoverHeader::setKeys(const QStringList& labels) {
         cap->setToolTip(spokenName(label));
         m_caps->addWidget(cap);
     }
+}
+
+void PopoverHeader::setPresentationMode(PresentationMode mode) {
+    if (mode == PresentationMode::Popover)
+        m_presentation->setFace(Symbol::Macwindow, tr("Detach as window"));
+    else
+        m_presentation->setFace(Symbol::MenubarArrowUpRectangle, tr("Move to menu bar"));
 }
 
 void PopoverHeader::paintEvent(QPaintEvent* /*event*/) {

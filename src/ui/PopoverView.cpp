@@ -4,10 +4,10 @@
 #include <ui/CopyButton.h>
 #include <ui/DateSection.h>
 #include <ui/FormatSection.h>
-#include <ui/PanelMetrics.h>
 #include <ui/PopoverHeader.h>
 #include <ui/PopoverView.h>
 #include <ui/PreviewSection.h>
+#include <ui/SectionColumn.h>
 #include <ui/TimeZoneSection.h>
 
 #include <QKeyEvent>
@@ -18,24 +18,26 @@
 
 namespace quorvane {
 
+namespace {
+
+const QKeySequence preferencesKeys(Qt::CTRL | Qt::Key_Comma);
+const QKeySequence quitKeys(Qt::CTRL | Qt::Key_Q);
+
+} // namespace
+
 PopoverView::PopoverView(DateTimeModel& model, Services services, Callbacks callbacks)
     : m_model(model),
       m_services(std::move(services)),
       m_callbacks(std::move(callbacks)),
       m_refresh(m_services.mainQueue, [this] { refresh(); }),
-      m_header(new PopoverHeader([this] { m_callbacks.onClose(); }, this)),
+      m_header(makeHeader()),
       m_dateSection(new DateSection(model, entrySurroundings(), this)),
       m_timeZoneSection(
           new TimeZoneSection(model, {m_services.zones, m_services.clock, model.locale()}, this)),
       m_formatSection(new FormatSection(model, m_services.popoverEffects, this)),
       m_previewSection(new PreviewSection(this)),
       m_actionBar(new ActionBar(m_services.mainQueue, this)) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_header);
-    column->addLayout(makeSections(), 1);
-    column->addWidget(m_actionBar);
+    layOut();
     addShortcuts();
     connectControls();
     refresh();
@@ -48,6 +50,11 @@ void PopoverView::performCopy() {
     m_actionBar->copyButton().confirm();
 }
 
+void PopoverView::togglePresentationMode() {
+    const bool isPopover = m_model.presentationMode() == PresentationMode::Popover;
+    m_model.setPresentationMode(isPopover ? PresentationMode::Window : PresentationMode::Popover);
+}
+
 void PopoverView::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
         m_callbacks.onClose();
@@ -55,37 +62,59 @@ void PopoverView::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
+void PopoverView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    m_dateSection->focusStart();
+}
+
 EntrySurroundings PopoverView::entrySurroundings() const {
     return {m_services.clock, m_services.currentZone, m_model.locale(), m_services.popoverEffects};
 }
 
-QVBoxLayout* PopoverView::makeSections() {
-    auto* sections = new QVBoxLayout;
-    constexpr int side = panelmetrics::sideMargin - panelmetrics::reach;
-    sections->setContentsMargins(
-        side, panelmetrics::sectionSpacing, side, panelmetrics::sectionSpacing);
-    sections->setSpacing(panelmetrics::sectionSpacing);
-    sections->addWidget(m_dateSection);
-    sections->addWidget(m_timeZoneSection);
-    sections->addWidget(m_formatSection);
-    sections->addWidget(m_previewSection);
-    sections->addStretch();
-    return sections;
+PopoverHeader* PopoverView::makeHeader() {
+    return new PopoverHeader(
+        {[this] { togglePresentationMode(); },
+         [this] { m_callbacks.onClose(); },
+         {{tr("Preferences…"), Symbol::Gear, preferencesKeys, [this] { m_callbacks.onShowPreferences(); }},
+          {tr("Check for Updates…"), Symbol::ArrowDownCircle, {}, [this] { m_callbacks.onCheckForUpdates(); }},
+          {tr("Quit Quorvane"), Symbol::Power, quitKeys, [this] { m_callbacks.onQuit(); }}}},
+        m_services.popoverEffects,
+        this);
+}
+
+void PopoverView::layOut() {
+    auto* sections = new SectionColumn(this);
+    sections->add(m_dateSection);
+    sections->add(m_timeZoneSection);
+    sections->add(m_formatSection);
+    sections->add(m_previewSection, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_header);
+    column->addWidget(sections, 1);
+    column->addWidget(m_actionBar);
 }
 
 void PopoverView::addShortcuts() {
     const auto add = [this](const QKeySequence& keys, auto action) {
+        // What the panel has opened is a window of its own, where these keys hold as well; but only
+        // while the panel is the one that the user works in.
         auto* shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::ApplicationShortcut);
         shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, this, action);
+        connect(shortcut, &QShortcut::activated, this, [this, action] {
+            if (isActiveWindow())
+                action();
+        });
     };
     const auto insert = [this] {
         m_actionBar->insertButton().click();
     };
     add(Qt::CTRL | Qt::Key_Return, insert);
     add(Qt::CTRL | Qt::Key_Enter, insert);
-    add(Qt::CTRL | Qt::Key_Comma, [this] { m_callbacks.onShowPreferences(); });
-    add(Qt::CTRL | Qt::Key_Q, [this] { m_callbacks.onQuit(); });
+    add(preferencesKeys, [this] { m_callbacks.onShowPreferences(); });
+    add(quitKeys, [this] { m_callbacks.onQuit(); });
 }
 
 void PopoverView::connectControls() {
@@ -98,6 +127,7 @@ void PopoverView::connectControls() {
 
 void PopoverView::refresh() {
     m_header->setKeys(m_model.hotKey().displayKeys(m_services.keyboardLayout));
+    m_header->setPresentationMode(m_model.presentationMode());
     m_dateSection->refresh();
     m_timeZoneSection->refresh();
     m_formatSection->refresh();
@@ -106,11 +136,10 @@ void PopoverView::refresh() {
 }
 
 void PopoverView::refreshDownstream() {
-    const bool enabled = !downstreamDisabled();
-    const std::initializer_list<QWidget*> downstream{
-        m_formatSection, m_previewSection, m_actionBar};
-    for (auto* section : downstream)
-        section->setEnabled(enabled);
+    const bool available = !downstreamDisabled();
+    m_formatSection->setAvailable(available);
+    m_previewSection->setAvailable(available);
+    m_actionBar->setAvailable(available);
 }
 
 bool PopoverView::downstreamDisabled() const {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <controls/DimmingVeil.h>
+#include <controls/WidgetRole.h>
 #include <ui/PanelMetrics.h>
 #include <ui/Section.h>
 #include <ui/SectionLabel.h>
@@ -7,17 +9,32 @@
 
 namespace quorvane {
 
+namespace {
+
+constexpr double unavailableOpacity = 0.4;
+
+} // namespace
+
 Section::Section(const QString& name, Symbol icon, QWidget* parent)
     : QWidget(parent),
       m_label(new SectionLabel(name, icon, this)),
-      m_body(new QVBoxLayout) {
+      m_content(new QWidget(this)),
+      m_body(new QVBoxLayout(m_content)),
+      m_veil(new DimmingVeil(this)) {
+    setWidgetRole(*this, QAccessible::Grouping);
+    setAccessibleName(name);
     m_body->setContentsMargins(panelmetrics::reach, 0, panelmetrics::reach, 0);
     m_body->setSpacing(panelmetrics::labelSpacing);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(panelmetrics::labelSpacing);
     column->addWidget(m_label);
-    column->addLayout(m_body);
+    column->addWidget(m_content, 1);
+}
+
+void Section::setAvailable(bool available) {
+    m_content->setEnabled(available);
+    m_veil->setOpacity(available ? 1 : unavailableOpacity);
 }
 
 } // namespace quorvane

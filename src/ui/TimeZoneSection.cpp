@@ -43,18 +43,22 @@ TimeZoneSection::TimeZoneSection(
 }
 
 void TimeZoneSection::refresh() {
-    const auto focused = std::ranges::find_if(m_chips, [](auto* chip) { return chip->hasFocus(); });
-    const auto focusedPlace = focused - m_chips.begin();
-    const bool hadFocus = focused != m_chips.end();
-
+    const auto before = m_chips;
     std::vector<ZoneChip*> chips;
     for (const auto& slot : slotsOfModel())
         chips.push_back(takeOrMakeChip(slot));
+    const auto gone = std::exchange(m_chips, chips);
+    if (m_chips == before)
+        return;
+    layOutChips();
+    moveFocusFrom(before);
+    for (auto* chip : gone)
+        discard(chip);
+}
+
+void TimeZoneSection::layOutChips() {
     while (m_flow->count() > 0)
         delete m_flow->takeAt(0);
-    for (auto* chip : std::exchange(m_chips, {}))
-        discard(chip);
-    m_chips = chips;
     QWidget* before = m_add;
     for (auto* chip : m_chips) {
         m_flow->addWidget(chip);
@@ -62,9 +66,15 @@ void TimeZoneSection::refresh() {
         setTabOrder(before, chip);
         before = chip;
     }
-    if (hadFocus && !m_chips.empty())
-        m_chips[static_cast<std::size_t>(std::min(focusedPlace, std::ssize(m_chips) - 1))]
-            ->setFocus(Qt::OtherFocusReason);
+}
+
+void TimeZoneSection::moveFocusFrom(const std::vector<ZoneChip*>& before) {
+    const auto focused = std::ranges::find_if(before, [](auto* chip) { return chip->hasFocus(); });
+    const bool isGone = focused != before.end() && std::ranges::count(m_chips, *focused) == 0;
+    if (!isGone || m_chips.empty())
+        return;
+    const auto place = std::min(focused - before.begin(), std::ssize(m_chips) - 1);
+    m_chips[static_cast<std::size_t>(place)]->setFocus(Qt::OtherFocusReason);
 }
 
 void TimeZoneSection::showTimeZonePicker() {

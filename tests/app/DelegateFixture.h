@@ -9,6 +9,7 @@
 #include <fakes/FakeKeyPoster.h>
 #include <fakes/FakeKeyboardLayout.h>
 #include <fakes/FakePasteboard.h>
+#include <fakes/FakeSoftwareCentre.h>
 #include <fakes/FakeWindowTraits.h>
 #include <fakes/FakeWorkspace.h>
 #include <fakes/FixedClock.h>
@@ -111,7 +112,8 @@ private:
             std::move(board),
             std::move(space),
             std::make_unique<FakeKeyboardLayout>(),
-            std::make_unique<FakeWindowTraits>(log)};
+            std::make_unique<FakeWindowTraits>(log),
+            std::make_unique<FakeSoftwareCentre>(log)};
     }
 
     QTemporaryDir m_folder;

@@ -40,7 +40,14 @@ TEST(PanelPlacement, GrowingMovesUpOnlyAsFarAsNeeded) {
     const QRect screen(0, 0, 800, 600);
     EXPECT_EQ(resized({10, 50, 504, 300}, 400, screen), QRect(10, 50, 504, 400));
     EXPECT_EQ(resized({10, 250, 504, 300}, 400, screen), QRect(10, 200, 504, 400));
-    EXPECT_EQ(resized({10, 250, 504, 300}, 900, screen), QRect(10, 0, 504, 900));
+    EXPECT_EQ(resized({10, 250, 504, 300}, 900, screen), QRect(10, 0, 504, 600));
+}
+
+TEST(PanelPlacement, GrowingInPlaceEndsAtTheEdgeOfTheScreen) {
+    const QRect screen(0, 0, 800, 600);
+    EXPECT_EQ(resizedInPlace({10, 50, 504, 300}, 400, screen), QRect(10, 50, 504, 400));
+    EXPECT_EQ(resizedInPlace({10, 250, 504, 300}, 400, screen), QRect(10, 250, 504, 350));
+    EXPECT_EQ(resizedInPlace({10, 500, 504, 300}, 400, screen), QRect(10, 500, 504, 400));
 }
 
 TEST(PanelPlacement, PanelThatHangsOverTheEdgeStaysWhereTheUserPutIt) {

@@ -180,14 +180,13 @@ TEST_F(PressableControlTest, SymbolButtonIsNamedByItsTooltip) {
     EXPECT_EQ(plus.sizeHint(), QSize(24, 24));
 }
 
-TEST_F(PressableControlTest, SymbolButtonTellsWhetherWhatItOpensIsOpen) {
-    auto& more = window.add(new IconButton(IconButton::Kind::Header, Symbol::Ellipsis, u"More"_s));
-    EXPECT_FALSE(accessible(more).state().expandable);
-    more.setExpanded(false);
-    EXPECT_TRUE(accessible(more).state().expandable);
-    EXPECT_TRUE(accessible(more).state().collapsed);
-    more.setExpanded(true);
-    EXPECT_TRUE(accessible(more).state().expanded);
+TEST_F(PressableControlTest, SymbolButtonTakesAnotherNameWithItsSymbol) {
+    auto& toggle = window.add(
+        new IconButton(IconButton::Kind::Header, Symbol::Macwindow, u"Detach as window"_s));
+    toggle.setFace(Symbol::MenubarArrowUpRectangle, u"Move to menu bar"_s);
+    EXPECT_EQ(toggle.toolTip(), u"Move to menu bar"_s);
+    EXPECT_EQ(accessible(toggle).text(QAccessible::Name), u"Move to menu bar"_s);
+    EXPECT_FALSE(accessible(toggle).state().expandable);
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 #include <controls/FavoriteSuggestionChip.h>
 #include <controls/KeyCap.h>
 #include <controls/MenuChip.h>
-#include <controls/MenuRow.h>
+#include <controls/ChoiceRow.h>
 #include <controls/SegmentButton.h>
 #include <controls/SegmentedChip.h>
 #include <controls/TextButton.h>
@@ -75,7 +75,7 @@ TEST_P(TextFits, InListsToChooseFrom) {
     auto& chip = window.add(new MenuChip(PopoverEffects{}));
     chip.setChoices({u"Short"_s, label}, 0);
     expectRoom(chip, font(TextStyle::Callout), 6 + 10 + 2 * 10);
-    expectRoom(window.add(new MenuRow(label, true, nullptr)), font(TextStyle::Callout), 32 + 12);
+    expectRoom(window.add(new ChoiceRow(label, true, nullptr)), font(TextStyle::Callout), 32 + 12);
 }
 
 TEST_P(TextFits, InSegmentsThatAreSelected) {

@@ -39,12 +39,14 @@ protected:
     int inserted = 0;
     int closed = 0;
     int preferences = 0;
+    int updateChecks = 0;
     int quits = 0;
     PopoverView view{
         model,
         {pasteboard, layout, zones, queue, clock, currentZone, {}},
         {[this] { ++inserted; },
          [this] { ++preferences; },
+         [this] { ++updateChecks; },
          [this] { ++closed; },
          [this] {
              ++quits;

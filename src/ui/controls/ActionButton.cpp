@@ -29,15 +29,6 @@ ActionButton::ActionButton(
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void ActionButton::setFace(Symbol symbol, const QString& label) {
-    m_symbol = symbol;
-    setText(label);
-}
-
-std::optional<QColor> ActionButton::tint(const Theme& /*theme*/) const {
-    return std::nullopt;
-}
-
 QSize ActionButton::sizeHint() const {
     const auto label = QFontMetricsF(labelFont()).horizontalAdvance(text());
     const double content = SymbolStyle().size + spacing + std::ceil(label);
@@ -50,11 +41,23 @@ double ActionButton::cornerRadius() const {
 
 void ActionButton::paintControl(QPainter& painter, const Theme& theme) {
     paintSurface(painter, theme);
+    paintFace(painter, theme);
+}
+
+void ActionButton::paintFace(QPainter& painter, const Theme& theme) {
     const bool prominent = m_prominence == Prominence::Prominent;
+    paint(
+        painter,
+        {m_symbol,
+         text(),
+         prominent ? theme.onAccent : theme.text2,
+         prominent ? theme.onAccent : theme.text});
+}
+
+void ActionButton::paint(QPainter& painter, const Face& face) const {
     ContentRow row(spacing);
-    const auto ink = tint(theme);
-    row.addSymbol(m_symbol, {}, ink.value_or(prominent ? theme.onAccent : theme.text2));
-    row.addText(text(), labelFont(), ink.value_or(prominent ? theme.onAccent : theme.text));
+    row.addSymbol(face.symbol, {}, face.symbolInk);
+    row.addText(face.label, labelFont(), face.labelInk);
     QRectF place(0, 0, row.width(), height());
     place.moveCenter(QRectF(rect()).center());
     row.paint(painter, place, layoutDirection());

@@ -51,9 +51,11 @@ void AnchoredPopover::open() {
 }
 
 bool AnchoredPopover::eventFilter(QObject* watched, QEvent* event) {
-    // A popover outlives neither the sight of its anchor nor the place where it stood.
+    // A popover stands where its anchor does, and does not outlive the sight of it.
     if (watched != this && event->type() == QEvent::Hide)
         close();
+    else if (watched != this && event->type() == QEvent::Move && isVisible())
+        place();
     return QWidget::eventFilter(watched, event);
 }
 

@@ -1,86 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChoiceMenu.h>
-#include <controls/MenuRow.h>
-
-#include <QKeyEvent>
-#include <QVBoxLayout>
-
-#include <algorithm>
+#include <controls/ChoiceRow.h>
+#include <controls/WidgetRole.h>
 
 namespace quorvane {
 
 namespace {
 
-constexpr int verticalPadding = 4;
-constexpr int leastWidth = 180;
+std::vector<MenuRow*> makeRows(const QStringList& titles, std::optional<int> selected) {
+    std::vector<MenuRow*> rows;
+    for (int index = 0; index < titles.size(); ++index)
+        rows.push_back(new ChoiceRow(titles[index], index == selected, nullptr));
+    return rows;
+}
 
 } // namespace
 
 ChoiceMenu::ChoiceMenu(const QStringList& titles, std::optional<int> selected, QWidget* parent)
-    : QWidget(parent) {
-    setMinimumWidth(leastWidth);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, verticalPadding, 0, verticalPadding);
-    column->setSpacing(0);
-    for (int index = 0; index < titles.size(); ++index) {
-        auto* row = new MenuRow(titles[index], index == selected, this);
-        row->installEventFilter(this);
-        connect(row, &MenuRow::clicked, this, [this, index] { Q_EMIT chosen(index); });
-        column->addWidget(row);
-        m_rows.push_back(row);
-    }
-    const auto first = static_cast<std::size_t>(selected.value_or(0));
-    if (first < m_rows.size())
-        setFocusProxy(m_rows[first]);
-}
-
-bool ChoiceMenu::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const auto row = std::ranges::find(m_rows, watched);
-    if (row == m_rows.end())
-        return false;
-    const auto* keyEvent = static_cast<QKeyEvent*>(event);
-    const auto index = static_cast<int>(row - m_rows.begin());
-    auto next = indexAfterKey(keyEvent->key(), index);
-    if (!next)
-        next = indexAfterText(keyEvent->text(), index);
-    if (!next)
-        return false;
-    m_rows[static_cast<std::size_t>(*next)]->setFocus(Qt::OtherFocusReason);
-    return true;
-}
-
-std::optional<int> ChoiceMenu::indexAfterKey(int key, int index) const {
-    const int last = static_cast<int>(m_rows.size()) - 1;
-    switch (key) {
-    case Qt::Key_Up:
-        return std::max(index - 1, 0);
-    case Qt::Key_Down:
-        return std::min(index + 1, last);
-    case Qt::Key_Home:
-    case Qt::Key_PageUp:
-        return 0;
-    case Qt::Key_End:
-    case Qt::Key_PageDown:
-        return last;
-    default:
-        return std::nullopt;
-    }
-}
-
-std::optional<int> ChoiceMenu::indexAfterText(const QString& text, int index) const {
-    // Space chooses; control characters are no letters.
-    if (text.isEmpty() || !text.front().isPrint() || text.front().isSpace())
-        return std::nullopt;
-    const int count = static_cast<int>(m_rows.size());
-    for (int step = 1; step <= count; ++step) {
-        const int candidate = (index + step) % count;
-        const auto& title = m_rows[static_cast<std::size_t>(candidate)]->text();
-        if (title.startsWith(text, Qt::CaseInsensitive))
-            return candidate;
-    }
-    return std::nullopt;
+    : RowMenu(makeRows(titles, selected), selected.value_or(0), parent) {
+    setWidgetRole(*this, QAccessible::List);
 }
 
 } // namespace quorvane

@@ -4,6 +4,7 @@
 #include <controls/FocusShaped.h>
 #include <controls/Theme.h>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QPainter>
@@ -18,6 +19,16 @@ constexpr double reach = gap + thickness;
 
 const FocusShaped* shapeOf(const QWidget* widget) {
     return dynamic_cast<const FocusShaped*>(widget);
+}
+
+/// Where the target can be seen: within what scrolls it, if anything does.
+QRect sightOf(const QWidget* target, const QWidget* window) {
+    for (const auto* widget = target; widget != window; widget = widget->parentWidget()) {
+        const auto* area = qobject_cast<const QAbstractScrollArea*>(widget->parentWidget());
+        if (area != nullptr && area->viewport() == widget)
+            return {widget->mapTo(window, QPoint()), widget->size()};
+    }
+    return window->rect();
 }
 
 bool isByKeyboard(Qt::FocusReason reason) {
@@ -86,9 +97,11 @@ void FocusRing::follow() {
     }
     const auto rect =
         shape->focusOutline().rect.translated(QPointF(m_target->mapTo(m_window, QPoint())));
-    setGeometry(rect.adjusted(-reach, -reach, reach, reach).toAlignedRect());
+    const auto ring = rect.adjusted(-reach, -reach, reach, reach).toAlignedRect();
+    const auto seen = ring & sightOf(m_target, m_window);
+    setGeometry(seen);
     raise();
-    show();
+    setVisible(!seen.isEmpty());
     update();
 }
 

@@ -26,19 +26,14 @@ IconButton::IconButton(Kind kind, Symbol symbol, const QString& name, QWidget* p
     : PressableControl(parent),
       m_kind(kind),
       m_symbol(symbol) {
-    setToolTip(name);
-    setAccessibleName(name);
+    setFace(symbol, name);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-void IconButton::setSymbol(Symbol symbol, SymbolStyle style) {
+void IconButton::setFace(Symbol symbol, const QString& name) {
     m_symbol = symbol;
-    m_style = style;
-    update();
-}
-
-void IconButton::setExpanded(std::optional<bool> expanded) {
-    m_expanded = expanded;
+    setToolTip(name);
+    setAccessibleName(name);
     update();
 }
 
@@ -51,9 +46,9 @@ double IconButton::cornerRadius() const {
 }
 
 void IconButton::paintControl(QPainter& painter, const Theme& theme) {
-    const auto shown = m_expanded == true ? Look::Pressed : look();
+    const auto shown = isExpanded() == true ? Look::Pressed : look();
     fillRounded(painter, rect(), cornerRadius(), fillOf(m_kind, shown, theme));
-    paintSymbol(painter, m_symbol, m_style, rect(), inkOf(m_kind, shown, theme));
+    paintSymbol(painter, m_symbol, {}, rect(), inkOf(m_kind, shown, theme));
 }
 
 } // namespace quorvane

@@ -33,7 +33,8 @@ PressableControl::Look PressableControl::look() const {
 void PressableControl::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
-    if (isEnabled()) {
+    // What is disabled with all that surrounds it is faded with it as well.
+    if (isEnabled() || isEnabledTo(parentWidget())) {
         paintControl(painter, theme);
         return;
     }

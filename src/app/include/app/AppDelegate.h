@@ -27,6 +27,7 @@ class QWidget;
 namespace quorvane {
 
 class Panel;
+class PanelFrame;
 
 /// The shell of the program: owns the one model and everything that shows it, and carries each
 /// request from the shortcut to the text in the other application.
@@ -70,6 +71,9 @@ public:
 
     void showPreferences();
 
+    /// Shows where an update would come from.
+    void checkForUpdates();
+
     /// Does what the desktop calls by name: "toggle", "insert", "copy", "preferences", "quit".
     /// An unknown name does nothing.
     void performAction(const QString& name);
@@ -101,16 +105,12 @@ private:
     void showPanel();
     void warmUpZones();
     void orderOutPanel();
-    void fitPanelHeight();
-    void movePanelOntoScreen();
-    void savePanelFrameSoon();
-    void savePanelFrame();
-
     void activatePreviousApplication();
 
     Environment m_environment;
     DateTimeModel m_model;
     std::unique_ptr<Panel> m_panel;
+    std::unique_ptr<PanelFrame> m_panelFrame;
     QPointer<PopoverView> m_contentView; ///< the panel's
     std::shared_ptr<HotKeyMonitor> m_hotKeyMonitor;
     std::unique_ptr<QWidget> m_preferencesWindow;
@@ -118,7 +118,6 @@ private:
     std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< under way since the first paint
     TextInserter m_inserter;
     DeadlineSet m_insertSteps;
-    std::optional<Deadline> m_frameSave; ///< the panel has a place that is not saved yet
     bool m_terminating = false;
 };
 

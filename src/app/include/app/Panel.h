@@ -26,11 +26,14 @@ Q_SIGNALS:
     /// The content needs another height than before.
     void fittingHeightChanged();
 
+    void pointerLeft();
+
 protected:
     bool event(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

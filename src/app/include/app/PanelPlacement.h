@@ -27,9 +27,13 @@ inline constexpr int minimumContentHeight = 300;
 /// Whether any of the areas shows a piece of the panel.
 [[nodiscard]] bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas);
 
-/// The frame at another height: its top left corner stays, unless it would then leave the area that
-/// it was inside.
+/// The frame at another height, at most that of the area: its top left corner stays, unless it
+/// would then leave the area that it was inside.
 [[nodiscard]] QRect resized(const QRect& frame, int height, const QRect& available);
+
+/// The frame at that height, or as near to it as it can come without moving: one inside the area
+/// stays inside.
+[[nodiscard]] QRect resizedInPlace(const QRect& frame, int height, const QRect& available);
 
 } // namespace panelplacement
 

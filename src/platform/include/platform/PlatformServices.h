@@ -5,6 +5,7 @@
 #include <platform/EventTap.h>
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
+#include <platform/NoSoftwareCentre.h>
 #include <platform/Pasteboard.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
@@ -22,6 +23,7 @@ struct PlatformServices {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<WindowTraits> windowTraits;
+    std::unique_ptr<SoftwareCentre> softwareCentre = std::make_unique<NoSoftwareCentre>();
 };
 
 } // namespace quorvane

@@ -9,6 +9,7 @@ namespace quorvane {
 
 class ActionButton;
 class CopyButton;
+class DimmingVeil;
 
 /// The two ways to deliver the output, side by side.
 class ActionBar final : public QWidget {
@@ -16,6 +17,9 @@ class ActionBar final : public QWidget {
 
 public:
     ActionBar(MainQueue& queue, QWidget* parent);
+
+    /// Whether there is anything to deliver; while there is not, the bar is dimmed.
+    void setAvailable(bool available);
 
     [[nodiscard]] CopyButton& copyButton() { return *m_copy; }
 
@@ -27,6 +31,7 @@ protected:
 private:
     CopyButton* m_copy;
     ActionButton* m_insert;
+    DimmingVeil* m_veil;
 };
 
 } // namespace quorvane

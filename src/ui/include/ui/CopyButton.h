@@ -5,6 +5,8 @@
 #include <foundation/DeadlineSet.h>
 #include <foundation/MainQueue.h>
 
+#include <QVariantAnimation>
+
 namespace quorvane {
 
 /// "Copy", and "Copied" for a while after confirm().
@@ -22,13 +24,15 @@ public:
     void confirm();
 
 protected:
-    [[nodiscard]] std::optional<QColor> tint(const Theme& theme) const override;
+    void paintFace(QPainter& painter, const Theme& theme) override;
 
 private:
     void setCopyConfirmed(bool confirmed);
+    [[nodiscard]] Face faceWhile(bool confirmed, const Theme& theme) const;
 
     MainQueue& m_queue;
     DeadlineSet m_resets;
+    QVariantAnimation m_change; ///< from one face to the other
     bool m_copyConfirmed = false;
 };
 

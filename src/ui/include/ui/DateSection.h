@@ -22,6 +22,9 @@ public:
     /// Shows the model, the zone and the day as they are now.
     void refresh();
 
+    /// Gives the focus to the start: its day, or its time where no day is written.
+    void focusStart();
+
     /// The zone that the dates are entered in, shortly.
     [[nodiscard]] QString localTimeZoneLabel() const;
 

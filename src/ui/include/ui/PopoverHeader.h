@@ -1,29 +1,48 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Command.h>
+#include <controls/PopoverEffects.h>
+#include <model/PresentationMode.h>
+
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class QHBoxLayout;
 
 namespace quorvane {
 
-/// The panel's title row: the program, its shortcut, and the way out.
+class IconButton;
+
+/// The panel's title row: the program, its shortcut, and what concerns the panel as a whole.
 class PopoverHeader final : public QWidget {
     Q_OBJECT
 
 public:
-    PopoverHeader(std::function<void()> onClose, QWidget* parent);
+    struct Actions {
+        std::function<void()> togglePresentationMode;
+        std::function<void()> close;
+        std::vector<Command> menu;
+    };
+
+    PopoverHeader(Actions actions, const PopoverEffects& effects, QWidget* parent);
 
     /// One cap for each label, in order.
     void setKeys(const QStringList& labels);
+
+    /// The mode that the switch leads away from.
+    void setPresentationMode(PresentationMode mode);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void layOut(const std::vector<QWidget*>& buttons);
+
     QHBoxLayout* m_caps;
+    IconButton* m_presentation;
     QStringList m_keys;
 };
 

@@ -13,8 +13,6 @@
 
 #include <functional>
 
-class QVBoxLayout;
-
 namespace quorvane {
 
 class ActionBar;
@@ -44,6 +42,7 @@ public:
     struct Callbacks {
         std::function<void()> onInsert;
         std::function<void()> onShowPreferences;
+        std::function<void()> onCheckForUpdates;
         std::function<void()> onClose;
         std::function<void()> onQuit;
     };
@@ -57,12 +56,17 @@ public:
     /// Puts the output on the pasteboard and says so on the button for a while.
     void performCopy();
 
+    /// Switches between the popover at the menu bar and the detached window.
+    void togglePresentationMode();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     [[nodiscard]] EntrySurroundings entrySurroundings() const;
-    [[nodiscard]] QVBoxLayout* makeSections();
+    [[nodiscard]] PopoverHeader* makeHeader();
+    void layOut();
     void addShortcuts();
     void connectControls();
 

@@ -9,14 +9,19 @@ class QVBoxLayout;
 
 namespace quorvane {
 
+class DimmingVeil;
 class SectionLabel;
 
-/// One part of the panel: a label and what stands below it.
+/// One part of the panel: a label and what stands below it. To assistive technology it is a group
+/// that has the label for a name.
 class Section : public QWidget {
     Q_OBJECT
 
 public:
     Section(const QString& name, Symbol icon, QWidget* parent);
+
+    /// Whether what stands below the label can be used; while it cannot, the section is dimmed.
+    void setAvailable(bool available);
 
 protected:
     [[nodiscard]] SectionLabel& label() { return *m_label; }
@@ -26,7 +31,9 @@ protected:
 
 private:
     SectionLabel* m_label;
+    QWidget* m_content; ///< holds the body, so that it can be disabled without the label
     QVBoxLayout* m_body;
+    DimmingVeil* m_veil;
 };
 
 } // namespace quorvane

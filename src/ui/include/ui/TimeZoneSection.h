@@ -43,6 +43,9 @@ private:
 
     [[nodiscard]] std::vector<Slot> slotsOfModel() const;
     [[nodiscard]] bool isSelected(const TimeZone& zone) const;
+    void layOutChips();
+    /// The focus stays at the place of a chip that has gone.
+    void moveFocusFrom(const std::vector<ZoneChip*>& before);
     [[nodiscard]] ZoneChip* takeOrMakeChip(const Slot& slot);
     [[nodiscard]] QString shortName(const TimeZone& zone) const;
     void add(const TimeZone& zone);

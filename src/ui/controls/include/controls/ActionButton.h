@@ -16,17 +16,24 @@ public:
     ActionButton(
         Prominence prominence, Symbol symbol, const QString& label, QWidget* parent = nullptr);
 
-    /// Shows another symbol and label.
-    void setFace(Symbol symbol, const QString& label);
-
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     [[nodiscard]] double cornerRadius() const override;
-    void paintControl(QPainter& painter, const Theme& theme) override;
+    /// What stands in the middle of the button.
+    struct Face {
+        Symbol symbol;
+        QString label;
+        QColor symbolInk;
+        QColor labelInk;
+    };
 
-    /// The ink of symbol and label, for one that differs from what the prominence gives.
-    [[nodiscard]] virtual std::optional<QColor> tint(const Theme& theme) const;
+    void paintControl(QPainter& painter, const Theme& theme) final;
+
+    /// Paints what stands on the surface.
+    virtual void paintFace(QPainter& painter, const Theme& theme);
+
+    void paint(QPainter& painter, const Face& face) const;
 
 private:
     [[nodiscard]] QFont labelFont() const;

@@ -6,8 +6,9 @@
 
 namespace quorvane {
 
-/// A button that shows a symbol only. Its name, which is its tooltip as well, says what it does.
-class IconButton final : public PressableControl {
+/// A button that shows a symbol only. Its name, which is its tooltip as well, says what it does. One
+/// that has something open looks pressed.
+class IconButton : public PressableControl {
     Q_OBJECT
 
 public:
@@ -19,12 +20,8 @@ public:
 
     IconButton(Kind kind, Symbol symbol, const QString& name, QWidget* parent = nullptr);
 
-    void setSymbol(Symbol symbol, SymbolStyle style = {});
-
-    /// Whether what the button opens is open: it then looks pressed.
-    void setExpanded(std::optional<bool> expanded);
-
-    [[nodiscard]] std::optional<bool> isExpanded() const override { return m_expanded; }
+    /// Shows another symbol, and says by another name what a press does now.
+    void setFace(Symbol symbol, const QString& name);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -35,8 +32,6 @@ protected:
 private:
     Kind m_kind;
     Symbol m_symbol;
-    SymbolStyle m_style;
-    std::optional<bool> m_expanded;
 };
 
 } // namespace quorvane

@@ -45,7 +45,7 @@ protected:
     /// Paints the control at the opacity that goes with its state.
     virtual void paintControl(QPainter& painter, const Theme& theme) = 0;
 
-    /// While it is disabled, 0 to 1.
+    /// While it is disabled by itself, 0 to 1.
     [[nodiscard]] virtual double disabledOpacity() const;
 
     [[nodiscard]] Look look() const;

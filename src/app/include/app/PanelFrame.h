@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/Deadline.h>
+#include <foundation/MainQueue.h>
+#include <foundation/WindowFrameStore.h>
+#include <platform/Workspace.h>
+
+#include <QObject>
+#include <QRect>
+
+#include <deque>
+#include <optional>
+
+namespace quorvane {
+
+class Panel;
+
+/// Where the panel stands and how high it is: at the place and height that the user gave it, as
+/// high as its content needs, on a screen.
+class PanelFrame final : public QObject {
+    Q_OBJECT
+
+public:
+    /// What the frame depends on; all must outlive it.
+    struct Surroundings {
+        WindowFrameStore& frames;
+        MainQueue& queue;
+        const Workspace& workspace;
+    };
+
+    PanelFrame(Panel& panel, Surroundings surroundings);
+
+    /// The stored frame, else one around the content in the middle of the screen.
+    void restore();
+
+    /// Into the middle of the screen, if no screen shows any of it.
+    void moveOntoScreen();
+
+    /// What moves the panel from now on is the user, and worth keeping. Any number of calls.
+    void follow();
+
+    /// Saves what is not saved yet.
+    void saveNow();
+
+private:
+    void request(const QRect& frame);
+    void fit();
+    void fitOnceThePointerIsGone();
+    void noteChange();
+    void save();
+
+    Panel& m_panel;
+    Surroundings m_surroundings;
+    std::optional<int> m_userHeight;   ///< less than that only the user gives it
+    std::deque<QRect> m_requested;     ///< the latest of ours, which the desktop reports back late
+    std::optional<Deadline> m_saving;  ///< there is a frame that is not saved yet
+    bool m_heldInPlace = false;        ///< it is to grow once the pointer has left
+};
+
+} // namespace quorvane

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include <controls/CommandMenu.h>
+#include <controls/CommandRow.h>
+#include <controls/WidgetRole.h>
+
+namespace quorvane {
+
+namespace {
+
+std::vector<MenuRow*> makeRows(const std::vector<Command>& commands) {
+    std::vector<MenuRow*> rows;
+    for (const auto& command : commands)
+        rows.push_back(new CommandRow(command.symbol, command.title, command.keys, nullptr));
+    return rows;
+}
+
+} // namespace
+
+CommandMenu::CommandMenu(const std::vector<Command>& commands, QWidget* parent)
+    : RowMenu(makeRows(commands), 0, parent) {
+    setWidgetRole(*this, QAccessible::PopupMenu);
+}
+
+} // namespace quorvane

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include <controls/CommandRow.h>
+#include <controls/SymbolPainter.h>
+
+#include <QPainter>
+#include <QStyle>
+
+#include <cmath>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int symbolGap = 8;
+constexpr int keysDistance = 32;
+constexpr SymbolStyle symbolStyle{};
+
+} // namespace
+
+CommandRow::CommandRow(
+    Symbol symbol, const QString& title, const QKeySequence& keys, QWidget* parent)
+    : MenuRow(title, parent),
+      m_symbol(symbol),
+      m_keys(keys.toString(QKeySequence::NativeText)) {
+    setAccessibleDescription(m_keys);
+}
+
+QSize CommandRow::sizeHint() const {
+    const int symbol = static_cast<int>(symbolStyle.size);
+    const int keys = m_keys.isEmpty() ? 0 : keysDistance + keysWidth();
+    return {2 * horizontalPadding + symbol + symbolGap + titleWidth() + keys, height};
+}
+
+void CommandRow::paintContent(QPainter& painter, const Theme& theme) {
+    const int symbol = static_cast<int>(symbolStyle.size);
+    const auto ink = hasFocus() || isDown() ? theme.text : theme.text2;
+    const QRect symbolPlace(horizontalPadding, 0, symbol, height);
+    paintSymbol(painter, m_symbol, symbolStyle, placed(symbolPlace), ink);
+    const int titleStart = horizontalPadding + symbol + symbolGap;
+    const auto rest = rect().adjusted(titleStart, 0, -horizontalPadding, 0);
+    paintTitle(painter, theme, rest);
+    painter.setPen(theme.text2);
+    painter.drawText(
+        placed(rest),
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignRight)) |
+            Qt::AlignVCenter | Qt::TextSingleLine,
+        m_keys);
+}
+
+int CommandRow::keysWidth() const {
+    return static_cast<int>(std::ceil(QFontMetricsF(titleFont()).horizontalAdvance(m_keys)));
+}
+
+} // namespace quorvane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
+#include <controls/DimmingVeil.h>
+#include <controls/Theme.h>
+
+#include <QEvent>
+#include <QPainter>
+
+namespace quorvane {
+
+DimmingVeil::DimmingVeil(QWidget* dimmed) : QWidget(dimmed) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    dimmed->installEventFilter(this);
+    hide();
+}
+
+void DimmingVeil::setOpacity(double opacity) {
+    m_opacity = opacity;
+    setGeometry(parentWidget()->rect());
+    setVisible(opacity < 1);
+    raise();
+    update();
+}
+
+bool DimmingVeil::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
+    else if (event->type() == QEvent::ChildAdded)
+        raise();
+    return QWidget::eventFilter(watched, event);
+}
+
+void DimmingVeil::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), withOpacity(Theme::of(palette()).win, 1 - m_opacity));
+}
+
+} // namespace quorvane

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <fakes/CallLog.h>
+#include <platform/SoftwareCentre.h>
+
+namespace quorvane {
+
+class FakeSoftwareCentre final : public SoftwareCentre {
+public:
+    explicit FakeSoftwareCentre(CallLog& log) : m_log(log) {}
+
+    [[nodiscard]] bool showPage(const QString& applicationId) override {
+        m_log.add("showPage " + applicationId.toStdString());
+        return isInstalled;
+    }
+
+    bool isInstalled = true;
+
+private:
+    CallLog& m_log;
+};
+
+} // namespace quorvane
