@@ -22,7 +22,6 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
       m_model(model),
       m_preset(new MacPopUpButton(effects, this)),
       m_layout(new MacSegmentedControl(this)),
-      m_customFormat(new TextField(this)),
       m_presetChoice(
           *m_preset,
           model.availableFormatPresets(),
@@ -38,7 +37,8 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
           {[&model] { return model.multiZoneLayout(); },
            [&model](MultiZoneLayout layout) {
                model.setMultiZoneLayout(layout);
-           }}) {
+           }}),
+      m_customFormat(new TextField(this)) {
     m_preset->setLabel(tr("Format"));
     m_layout->setLabel(tr("Layout"));
     m_layout->setFixedWidth(layoutWidth);

@@ -27,9 +27,9 @@ private:
     DateTimeModel& m_model;
     MacPopUpButton* m_preset;
     MacSegmentedControl* m_layout;
-    TextField* m_customFormat;
     Choice<DateFormatPreset> m_presetChoice;
     Choice<MultiZoneLayout> m_layoutChoice;
+    TextField* m_customFormat; ///< after the choices also for Tab
 };
 
 } // namespace quorvane

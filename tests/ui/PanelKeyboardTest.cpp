@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "PopoverFixture.h"
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PanelKeyboardTest : public PopoverFixture {
+protected:
+    /// The description where there is one, as chips that have the same text differ by it alone.
+    QString focusedName() {
+        auto* interface = QAccessible::queryAccessibleInterface(view.focusWidget());
+        const auto description = view.focusWidget()->accessibleDescription();
+        return description.isEmpty() ? interface->text(QAccessible::Name) : description;
+    }
+
+    PressableControl& chip(const QString& description) {
+        for (auto* control : view.findChildren<PressableControl*>()) {
+            if (control->accessibleDescription() == description)
+                return *control;
+        }
+        throw std::runtime_error(description.toStdString());
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        auto* popup = QApplication::activePopupWidget();
+        auto* receiver = popup != nullptr ? popup->focusWidget() : view.focusWidget();
+        QTest::keyClick(receiver != nullptr ? receiver : popup, key, modifiers);
+    }
+};
+
+TEST_F(PanelKeyboardTest, StartDateHasTheFocusWhenThePanelOpens) {
+    EXPECT_EQ(focusedName(), u"Start date"_s);
+    button(u"Insert"_s).setFocus();
+    view.hide();
+    view.show();
+    EXPECT_EQ(focusedName(), u"Start date"_s);
+}
+
+TEST_F(PanelKeyboardTest, WithoutTheDateTheStartTimeHasIt) {
+    view.hide();
+    model.setIncludeDate(false);
+    queue.run();
+    view.show();
+    EXPECT_EQ(focusedName(), u"Start time"_s);
+}
+
+TEST_F(PanelKeyboardTest, TabGoesFromTheHeaderToInsert) {
+    model.setIsRange(true);
+    model.setFormatPreset(DateFormatPreset::Custom);
+    model.setSelectedTimeZones(
+        {*zones.zone(u"America/New_York"_s), *zones.zone(u"Europe/London"_s)});
+    model.setFavoriteTimeZoneIdentifiers({u"America/New_York"_s, u"Asia/Tokyo"_s});
+    queue.run();
+    button(u"Insert"_s).setFocus();
+    QStringList order;
+    do {
+        press(Qt::Key_Tab);
+        order.append(focusedName());
+    } while (order.back() != u"Insert"_s && order.size() < 40);
+    EXPECT_EQ(
+        order.join(u'\n').toStdString(),
+        (QStringList{
+            u"Move to menu bar"_s,
+            u"More"_s,
+            u"Close"_s,
+            u"Date"_s,
+            u"Time"_s,
+            u"Start date"_s,
+            u"Start time"_s,
+            u"to"_s,
+            u"End date"_s,
+            u"End time"_s,
+            u"Add time zone"_s,
+            u"Remove"_s,
+            u"Add"_s,
+            u"Remove"_s,
+            u"Format"_s,
+            u"Inline"_s,
+            u"Custom format"_s,
+            u"Preview"_s,
+            u"Copy"_s,
+            u"Insert"_s})
+            .join(u'\n')
+            .toStdString());
+}
+
+TEST_F(PanelKeyboardTest, ControlReturnInsertsFromATextField) {
+    choose(u"Format"_s, u"Custom…"_s);
+    field(u"Custom format"_s).setFocus();
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(inserted, 1);
+}
+
+TEST_F(PanelKeyboardTest, ControlReturnInsertsFromAnOpenPopover) {
+    for (const auto& opener : {u"Start date"_s, u"Start time"_s}) {
+        chip(opener).click();
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        inserted = 0;
+        press(Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_EQ(inserted, 1) << opener.toStdString();
+        press(Qt::Key_Escape);
+    }
+    find<QAbstractButton>(QAccessible::ComboBox, u"Format"_s).click();
+    press(Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(inserted, 2);
+}
+
+TEST_F(PanelKeyboardTest, ControlReturnInsertsFromThePicker) {
+    button(u"Add time zone"_s).click();
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(inserted, 1);
+}
+
+TEST_F(PanelKeyboardTest, OtherKeysOfThePanelHoldInAnOpenPopoverToo) {
+    chip(u"Start time"_s).click();
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(preferences, 1);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(PanelKeyboardTest, KeysOfThePanelDoNotHoldInAnotherWindow) {
+    QLineEdit other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    QTest::keyClick(&other, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(&other, Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(inserted + preferences, 0);
+}
+
+TEST_F(PanelKeyboardTest, HeldControlReturnInsertsOnce) {
+    QKeyEvent repeat(
+        QEvent::KeyPress, Qt::Key_Return, Qt::ControlModifier, u"\r"_s, /*autorep=*/true);
+    QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::sendEvent(&view, &repeat);
+    EXPECT_EQ(inserted, 1);
+}
+
+TEST_F(PanelKeyboardTest, EscapeClosesTheInnermostThingAndThenThePanel) {
+    chip(u"Start time"_s).click();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(closed, 0);
+    EXPECT_EQ(focusedName(), u"Start time"_s);
+    button(u"Add time zone"_s).setFocus();
+    press(Qt::Key_Space);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(closed, 0);
+    EXPECT_TRUE(button(u"Add time zone"_s).hasFocus());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(PanelKeyboardTest, EscapeInTheCustomPatternClosesThePanel) {
+    choose(u"Format"_s, u"Custom…"_s);
+    field(u"Custom format"_s).setFocus();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(closed, 1);
+}
+
+} // namespace
+} // namespace quorvane

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "PopoverFixture.h"
+
+#include <controls/KeyCap.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PopoverHeaderTest : public PopoverFixture {
+protected:
+    QAbstractButton& more() { return find<QAbstractButton>(QAccessible::ButtonMenu, u"More"_s); }
+
+    QWidget* menuItem(const QString& title) {
+        return widgetByRole(*QApplication::activePopupWidget(), QAccessible::MenuItem, title);
+    }
+
+    QStringList caps() {
+        QStringList labels;
+        for (const auto* cap : view.findChildren<KeyCap*>())
+            labels.append(cap->text());
+        return labels;
+    }
+};
+
+TEST_F(PopoverHeaderTest, SwitchLeadsToTheOtherModeAndSaysWhere) {
+    model.setPresentationMode(PresentationMode::Popover);
+    queue.run();
+    button(u"Detach as window"_s).click();
+    queue.run();
+    EXPECT_EQ(model.presentationMode(), PresentationMode::Window);
+    EXPECT_EQ(button(u"Move to menu bar"_s).toolTip(), u"Move to menu bar"_s);
+    button(u"Move to menu bar"_s).click();
+    EXPECT_EQ(model.presentationMode(), PresentationMode::Popover);
+}
+
+TEST_F(PopoverHeaderTest, MenuOffersPreferencesUpdatesAndQuit) {
+    QTest::mouseClick(&more(), Qt::LeftButton);
+    QStringList titles;
+    for (const auto* row : QApplication::activePopupWidget()->findChildren<MenuRow*>())
+        titles.append(row->text());
+    EXPECT_EQ(titles, (QStringList{u"Preferences…"_s, u"Check for Updates…"_s, u"Quit Quorvane"_s}));
+    EXPECT_EQ(menuItem(u"Preferences…"_s)->accessibleDescription(), u"Ctrl+,"_s);
+    EXPECT_EQ(menuItem(u"Check for Updates…"_s)->accessibleDescription(), QString());
+    EXPECT_EQ(menuItem(u"Quit Quorvane"_s)->accessibleDescription(), u"Ctrl+Q"_s);
+    QTest::mouseClick(menuItem(u"Check for Updates…"_s), Qt::LeftButton);
+    EXPECT_EQ(updateChecks, 1);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(PopoverHeaderTest, MenuWorksByKeyboard) {
+    more().setFocus();
+    QTest::keyClick(&more(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(quits, 1);
+    QTest::keyClick(&more(), Qt::Key_Space);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(preferences, 1);
+    EXPECT_TRUE(more().hasFocus());
+}
+
+TEST_F(PopoverHeaderTest, MenuIsAMenuBelowItsButtonWithRightEdgesFlush) {
+    QTest::mouseClick(&more(), Qt::LeftButton);
+    const auto* popup = QApplication::activePopupWidget();
+    const QPoint corner = more().mapToGlobal(QPoint(more().width(), more().height()));
+    EXPECT_EQ(popup->geometry().right() + 1, corner.x());
+    EXPECT_EQ(popup->geometry().top(), corner.y() + 6);
+    const auto* accessible = QAccessible::queryAccessibleInterface(&more());
+    EXPECT_TRUE(accessible->state().expanded);
+    EXPECT_EQ(accessible->child(0)->child(0)->role(), QAccessible::PopupMenu);
+}
+
+TEST_F(PopoverHeaderTest, KeyCapsFollowTheShortcut) {
+    EXPECT_EQ(caps().size(), 4);
+    model.setHotKey({2, combomodifier::control});
+    queue.run();
+    EXPECT_EQ(caps().size(), 2);
+    EXPECT_EQ(caps().front(), u"⌃"_s);
+}
+
+TEST_F(PopoverHeaderTest, CloseAsksItsOwner) {
+    button(u"Close"_s).click();
+    EXPECT_EQ(closed, 1);
+}
+
+} // namespace
+} // namespace quorvane
