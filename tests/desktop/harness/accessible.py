@@ -5,6 +5,8 @@ from collections.abc import Callable, Iterator
 from enum import IntEnum
 from typing import Any
 
+from gi.repository import Gio, GLib
+
 from .message_bus import BusError, MessageBus
 from .waiting import PATIENCE, wait_until
 
@@ -22,8 +24,9 @@ class State(IntEnum):
 
     CHECKED = 4
     EDITABLE = 7
-    FOCUSED = 12
     ENABLED = 8
+    FOCUSABLE = 11
+    FOCUSED = 12
     SHOWING = 25
 
 
@@ -106,6 +109,10 @@ class Accessible:
             lambda found: found.has(State.EDITABLE) and found.role == "text", "an editable text"
         )
 
+    def showing(self) -> Iterator["Accessible"]:
+        """Everything below that shows."""
+        return (found for found in self._descendants() if found.has(State.SHOWING))
+
     def _await(self, is_wanted: Callable[["Accessible"], bool], what: str) -> "Accessible":
         return wait_until(lambda: self._first(is_wanted), what)
 
@@ -146,6 +153,10 @@ class Accessibility:
         """Ends the connection."""
         self._bus.close()
 
+    def listen_for_names(self) -> "NameChanges":
+        """Hears from now on what changes its name, as a screen reader does."""
+        return NameChanges(self._bus)
+
     def application(self, pid: int, seconds: float = PATIENCE) -> Accessible:
         """The tree of a process; waits until it is published."""
         return wait_until(lambda: self._find(pid), f"the tree of process {pid}", seconds)
@@ -158,3 +169,43 @@ class Accessibility:
             except BusError:
                 continue  # an application that has just ended
         return None
+
+
+class NameChanges:
+    """The names that objects took, in the order of their announcement."""
+
+    def __init__(self, bus: MessageBus) -> None:
+        self._names: list[str] = []
+        self._context = GLib.MainContext.default()
+        bus.call(
+            "org.a11y.atspi.Registry",
+            "/org/a11y/atspi/registry",
+            "org.a11y.atspi.Registry",
+            "RegisterEvent",
+            "(sas)",
+            "object:property-change:accessible-name",
+            [],
+        )
+        bus.connection.signal_subscribe(
+            None,
+            "org.a11y.atspi.Event.Object",
+            "PropertyChange",
+            None,
+            "accessible-name",
+            Gio.DBusSignalFlags.NONE,
+            self._hear,
+        )
+
+    def wait_for(self, name: str) -> None:
+        """Waits until something has taken the name."""
+
+        def is_heard() -> bool:
+            while self._context.iteration(False):
+                pass
+            return name in self._names
+
+        wait_until(is_heard, f'the announcement of "{name}"')
+
+    def _hear(self, *signal: Any) -> None:
+        parameters = signal[5].unpack()
+        self._names.append(str(parameters[3]))

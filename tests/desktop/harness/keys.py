@@ -29,12 +29,15 @@ class Key(IntEnum):
     K = 45
     SHIFT = 50
     V = 55
+    COMMA = 59
     ALT = 64
+    SPACE = 65
     HOME = 110
     UP = 111
     PAGE_UP = 112
     LEFT = 113
     RIGHT = 114
+    END = 115
     DOWN = 116
     SUPER = 133
 

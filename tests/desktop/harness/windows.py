@@ -104,6 +104,12 @@ class Windows:
                     return window
         return None
 
+    def frame(self, window: int) -> tuple[int, int, int, int]:
+        """Left, top, width and height on the screen, without what a window manager adds."""
+        geometry = self._window(window).get_geometry()
+        place = self._root.translate_coords(self._window(window), 0, 0)
+        return place.x, place.y, geometry.width, geometry.height
+
     def title(self, window: int) -> str:
         """A window's title; empty where it has none, or is gone."""
         value = self._property(self._window(window), "_NET_WM_NAME")
