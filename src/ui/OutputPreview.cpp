@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -61,6 +62,7 @@ OutputPreview::OutputPreview(MainQueue& queue, QWidget* parent)
     setSizePolicy(policy);
     viewport()->setAutoFillBackground(false);
     adoptColors();
+    adoptDirection();
 }
 
 void OutputPreview::setOutput(const QString& output) {
@@ -146,6 +148,8 @@ void OutputPreview::changeEvent(QEvent* event) {
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !m_adopting)
         adoptColors();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        adoptDirection();
 }
 
 void OutputPreview::paintEvent(QPaintEvent* event) {
@@ -171,6 +175,14 @@ void OutputPreview::adoptColors() {
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         own.setColor(group, QPalette::HighlightedText, surroundings.color(group, QPalette::Text));
     setPalette(own);
+}
+
+// Rows begin at the panel's edge; the order within them is the text's own.
+void OutputPreview::adoptDirection() {
+    auto option = document()->defaultTextOption();
+    option.setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    document()->setDefaultTextOption(option);
 }
 
 void OutputPreview::paintSelection() {

@@ -226,6 +226,14 @@ TEST_F(OutputPreviewTest, RightToLeftTextIsSelectedInItsOwnOrder) {
     EXPECT_EQ(copied(), hebrew.left(3));
 }
 
+TEST_F(OutputPreviewTest, RowsBeginAtTheMirroredPanelsEdgeAndKeepTheirOrder) {
+    show(u"2024"_s);
+    EXPECT_LT(at(0).x(), 20);
+    window.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_GT(at(4).x(), panelWidth - 20);
+    EXPECT_LT(at(0).x(), at(4).x());
+}
+
 TEST_F(OutputPreviewTest, LongOutputShowsItsBeginningAtOnceAndTheRestAfterAPause) {
     for (const auto& output : {QString(100'000, u'm'), u"2024\n"_s.repeated(20'000)}) {
         show(output);

@@ -44,6 +44,7 @@ protected:
 
 private:
     void adoptColors();
+    void adoptDirection();
     void paintSelection();
     [[nodiscard]] QPointF middleOfRow(QPointF position) const;
 
