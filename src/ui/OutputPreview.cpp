@@ -1,11 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
+#include <controls/OverlayScrollBar.h>
 #include <controls/Theme.h>
 #include <ui/OutputFont.h>
+#include <ui/OutputLayout.h>
+#include <ui/OutputParts.h>
 #include <ui/OutputPreview.h>
 
-#include <QAbstractTextDocumentLayout>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
+#include <QStyle>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -17,59 +25,210 @@ namespace {
 
 constexpr int padding = 10;
 constexpr int leastHeight = 38;
+constexpr int mostRows = 40;
 constexpr int cornerRadius = 8;
+constexpr double selectionOpacity = 0.24; // a text field's
+constexpr int tabWidth = 8;               // characters
+
+/// More than the rows that can show; laying this much out takes a fraction of a frame.
+constexpr qsizetype firstPart = 4000;
+constexpr qsizetype laterPart = 2000;
+/// Longer than between two keystrokes, so that typing never waits for what is out of sight.
+constexpr Seconds pauseBeforeRest{0.15};
 
 } // namespace
 
-OutputPreview::OutputPreview(QWidget* parent) : QPlainTextEdit(parent) {
+OutputPreview::OutputPreview(MainQueue& queue, QWidget* parent)
+    : QPlainTextEdit(parent),
+      m_queue(queue) {
+    auto* document = new QTextDocument(this);
+    m_layout = new OutputLayout(document);
+    document->setDocumentLayout(m_layout);
+    document->setDocumentMargin(padding);
+    document->setUndoRedoEnabled(false);
+    setDocument(document);
     setAccessibleName(tr("Preview"));
     setFont(outputFont(font()));
+    setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(u' '));
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    new OverlayScrollBar(this);
     setWordWrapMode(QTextOption::WrapAnywhere);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     viewport()->setAutoFillBackground(false);
-    document()->setDocumentMargin(padding);
+    adoptColors();
+    adoptDirection();
 }
 
 void OutputPreview::setOutput(const QString& output) {
-    if (output != toPlainText())
-        setPlainText(output);
+    if (output == m_output)
+        return;
+    m_rest.reset();
+    m_pause = {};
+    m_output = output;
+    m_shown = documentText(output);
+    m_shownLength = firstPartLength(m_shown, firstPart);
+    setPlainText(m_shown.left(m_shownLength));
+    if (m_shownLength < m_shown.size())
+        m_pause = m_queue.after(pauseBeforeRest, [this] {
+            m_rest.emplace(m_queue, [this] { return showNextPart(); });
+        });
     updateGeometry();
 }
 
 QSize OutputPreview::sizeHint() const {
-    return {QPlainTextEdit::sizeHint().width(), fittingHeight()};
+    return {QPlainTextEdit::sizeHint().width(), heightForWidth(width())};
 }
 
 QSize OutputPreview::minimumSizeHint() const {
-    return {0, fittingHeight()};
+    return {0, leastHeight};
+}
+
+bool OutputPreview::hasHeightForWidth() const {
+    return true;
+}
+
+int OutputPreview::heightForWidth(int width) const {
+    const int rows = std::min(m_layout->rowCount(width, mostRows), mostRows);
+    return std::max(rows * m_layout->rowHeight() + 2 * padding, leastHeight);
+}
+
+FocusOutline OutputPreview::focusOutline() const {
+    return {QRectF(rect()), cornerRadius};
+}
+
+bool OutputPreview::viewportEvent(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove: {
+        // Between the letters of two rows there is room that belongs to neither for the base class.
+        const auto& original = *static_cast<const QMouseEvent*>(event);
+        QMouseEvent inRow(
+            original.type(),
+            middleOfRow(original.position()),
+            original.scenePosition(),
+            original.globalPosition(),
+            original.button(),
+            original.buttons(),
+            original.modifiers(),
+            original.pointingDevice());
+        inRow.setTimestamp(original.timestamp());
+        const bool handled = QPlainTextEdit::viewportEvent(&inRow);
+        event->setAccepted(inRow.isAccepted());
+        return handled;
+    }
+    default:
+        return QPlainTextEdit::viewportEvent(event);
+    }
+}
+
+void OutputPreview::keyPressEvent(QKeyEvent* event) {
+    showRest();
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+void OutputPreview::contextMenuEvent(QContextMenuEvent* event) {
+    showRest();
+    QPlainTextEdit::contextMenuEvent(event);
 }
 
 void OutputPreview::resizeEvent(QResizeEvent* event) {
+    m_layout->setWidth(viewport()->width());
     QPlainTextEdit::resizeEvent(event);
-    // Another width wraps into another number of lines.
-    updateGeometry();
+}
+
+void OutputPreview::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !m_adopting)
+        adoptColors();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        adoptDirection();
 }
 
 void OutputPreview::paintEvent(QPaintEvent* event) {
-    {
-        QPainter painter(viewport());
-        fillRounded(painter, viewport()->rect(), cornerRadius, Theme::of(palette()).quiet);
-    }
+    paintSelection();
     QPlainTextEdit::paintEvent(event);
 }
 
-int OutputPreview::fittingHeight() const {
-    const auto* layout = document()->documentLayout();
-    // A plain text document counts its height in lines.
-    const double lines = layout->documentSize().height();
-    const double height = lines * fontMetrics().lineSpacing() + 2 * document()->documentMargin();
-    return std::max(static_cast<int>(std::ceil(height)), leastHeight);
+QMimeData* OutputPreview::createMimeDataFromSelection() const {
+    // The document's own text has spaces for no-break spaces, and line feeds for every separator.
+    const auto cursor = textCursor();
+    const int start = cursor.selectionStart();
+    auto* mime = new QMimeData;
+    mime->setText(m_output.mid(start, cursor.selectionEnd() - start));
+    return mime;
+}
+
+void OutputPreview::adoptColors() {
+    const QScopedValueRollback adopting(m_adopting, true);
+    const auto surroundings = parentWidget()->palette();
+    QPalette own;
+    // The selection is painted here, because the base class leaves stripes between the rows.
+    own.setColor(QPalette::Highlight, Qt::transparent);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        own.setColor(group, QPalette::HighlightedText, surroundings.color(group, QPalette::Text));
+    setPalette(own);
+}
+
+// Rows begin at the panel's edge; the order within them is the text's own.
+void OutputPreview::adoptDirection() {
+    auto option = document()->defaultTextOption();
+    option.setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    document()->setDefaultTextOption(option);
+}
+
+void OutputPreview::paintSelection() {
+    QPainter painter(viewport());
+    const auto theme = Theme::of(parentWidget()->palette());
+    fillRounded(painter, viewport()->rect(), cornerRadius, theme.quiet);
+    const auto cursor = textCursor();
+    if (!cursor.hasSelection())
+        return;
+    const auto color = withOpacity(theme.accentText, selectionOpacity);
+    painter.translate(contentOffset());
+    auto visible = QRectF(viewport()->rect()).translated(-contentOffset());
+    for (auto block = firstVisibleBlock(); block.isValid() && visible.bottom() > 0;
+         block = block.next()) {
+        const double height = blockBoundingRect(block).height();
+        painter.fillPath(
+            m_layout->area(block, cursor.selectionStart(), cursor.selectionEnd(), visible), color);
+        painter.translate(0, height);
+        visible.translate(0, -height);
+    }
+}
+
+QPointF OutputPreview::middleOfRow(QPointF position) const {
+    const double top = contentOffset().y();
+    const int height = m_layout->rowHeight();
+    const double row = std::floor((position.y() - top) / height);
+    return {position.x(), top + (row + 0.5) * height};
+}
+
+void OutputPreview::showRest() {
+    m_rest.reset();
+    m_pause = {};
+    while (showNextPart())
+        continue;
+}
+
+bool OutputPreview::showNextPart() {
+    const auto length = nextPartLength(m_shown, m_shownLength, laterPart);
+    if (length == 0)
+        return false;
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(m_shown.mid(m_shownLength, length));
+    m_shownLength += length;
+    updateGeometry();
+    return m_shownLength < m_shown.size();
 }
 
 } // namespace quorvane

@@ -35,7 +35,7 @@ PopoverView::PopoverView(DateTimeModel& model, Services services, Callbacks call
       m_timeZoneSection(
           new TimeZoneSection(model, {m_services.zones, m_services.clock, model.locale()}, this)),
       m_formatSection(new FormatSection(model, m_services.popoverEffects, this)),
-      m_previewSection(new PreviewSection(this)),
+      m_previewSection(new PreviewSection(m_services.mainQueue, this)),
       m_actionBar(new ActionBar(m_services.mainQueue, this)) {
     layOut();
     addShortcuts();

@@ -7,9 +7,9 @@
 
 namespace quorvane {
 
-PreviewSection::PreviewSection(QWidget* parent)
+PreviewSection::PreviewSection(MainQueue& queue, QWidget* parent)
     : Section(tr("Preview"), Symbol::EyeSquare, parent),
-      m_preview(new OutputPreview(this)) {
+      m_preview(new OutputPreview(queue, this)) {
     label().setBuddy(m_preview);
     body().addWidget(m_preview);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <foundation/MainQueue.h>
 #include <ui/Section.h>
 
 namespace quorvane {
@@ -12,7 +13,8 @@ class PreviewSection final : public Section {
     Q_OBJECT
 
 public:
-    explicit PreviewSection(QWidget* parent);
+    /// The queue must outlive the section.
+    PreviewSection(MainQueue& queue, QWidget* parent);
 
     void setOutput(const QString& output);
 

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPainterPath>
+#include <QPlainTextDocumentLayout>
+
+namespace quorvane {
+
+/// Lays plain text out in rows of one height, whatever fonts its characters fall back to. Only the
+/// paragraphs that somebody looks at are laid out.
+class OutputLayout final : public QPlainTextDocumentLayout {
+    Q_OBJECT
+
+public:
+    explicit OutputLayout(QTextDocument* document);
+
+    /// What rows and margins may take, in points. Another width discards the rows.
+    void setWidth(int width);
+
+    /// In points: half as much again as the font's size, or what the font needs if that is more.
+    [[nodiscard]] int rowHeight() const;
+
+    /// The rows that the text takes in `width` points, counted no further than about `limit`: what
+    /// lies beyond costs nothing.
+    [[nodiscard]] int rowCount(int width, int limit) const;
+
+    /// Where the characters of the document from `from` to before `to` stand in a paragraph, over
+    /// the full height of their rows, in the paragraph's coordinates; only in the rows that
+    /// `visible` touches.
+    [[nodiscard]] QPainterPath
+    area(const QTextBlock& block, int from, int to, const QRectF& visible) const;
+
+    [[nodiscard]] QSizeF documentSize() const override;
+    [[nodiscard]] QRectF blockBoundingRect(const QTextBlock& block) const override;
+
+protected:
+    void documentChanged(int from, int charsRemoved, int charsAdded) override;
+
+private:
+    int fill(QTextLayout& layout, int width, int limit) const;
+
+    int m_width = 0;
+};
+
+} // namespace quorvane
