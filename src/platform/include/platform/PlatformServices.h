@@ -6,6 +6,7 @@
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Pasteboard.h>
+#include <platform/UnknownAppearance.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
 
@@ -22,6 +23,9 @@ struct PlatformServices {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<WindowTraits> windowTraits;
+
+    /// No display server tells it; the one who chooses the backends knows where to ask.
+    std::unique_ptr<Appearance> appearance = std::make_unique<UnknownAppearance>();
 };
 
 } // namespace quorvane
