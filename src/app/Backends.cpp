@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <app/Backends.h>
+#include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
 #include <platform_x11/X11Services.h>
 
@@ -22,8 +23,11 @@ bool wantsX11(const QString& forced, const QString& qtPlatform) {
 PlatformServices
 makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue) {
     if (wantsX11(forced, qtPlatform)) {
-        if (auto services = makeX11Services(queue))
+        if (auto services = makeX11Services(queue)) {
+            services->appearance =
+                std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
             return *std::move(services);
+        }
     }
     qCInfo(
         lcBackend,

@@ -99,7 +99,7 @@ private:
     void present();
     void setupPanel();
     void showPanel();
-    void warmUpZones();
+    void prepareAfterFirstPaint();
     void orderOutPanel();
     void fitPanelHeight();
     void movePanelOntoScreen();
