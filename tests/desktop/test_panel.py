@@ -92,6 +92,8 @@ class PanelAlone(DesktopCase):
         )
         self.quorvane.action("toggle")
         self.quorvane.wait_active()
+        start = self.tree.find_described("push button", "Start date")
+        wait_until(lambda: start.has(State.FOCUSED), "the panel to have the focus")
         self.keyboard.tap(Key.CONTROL, Key.Q)
         self.assertEqual(self.quorvane.process.wait(10), 0)
 

@@ -103,7 +103,7 @@ private:
     void present();
     void setupPanel();
     void showPanel();
-    void warmUpZones();
+    void prepareAfterFirstPaint();
     void orderOutPanel();
     void activatePreviousApplication();
 
