@@ -6,6 +6,7 @@
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/NoSoftwareCentre.h>
+#include <platform/NoStatusBar.h>
 #include <platform/Pasteboard.h>
 #include <platform/UnknownAppearance.h>
 #include <platform/WindowTraits.h>
@@ -28,6 +29,7 @@ struct PlatformServices {
     // No display server tells these; the one who chooses the backends knows where to ask.
     std::unique_ptr<Appearance> appearance = std::make_unique<UnknownAppearance>();
     std::unique_ptr<SoftwareCentre> softwareCentre = std::make_unique<NoSoftwareCentre>();
+    std::unique_ptr<StatusBar> statusBar = std::make_unique<NoStatusBar>();
 };
 
 } // namespace quorvane
