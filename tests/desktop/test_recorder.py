@@ -54,6 +54,8 @@ class Recorder(DesktopCase):
         quorvane.wait_active()
         self.keyboard.tap(*SHORTCUT)
         quorvane.wait_hidden()
+        # Which window comes next is for the window manager to say; the user comes back to this one.
+        self.session.windows.activate(self.preferences(quorvane))
         self.wait_preferences_active(quorvane)
         self.keyboard.tap(Key.CONTROL, Key.K)
         quorvane.tree().find_described("panel", "Control, K")
@@ -71,9 +73,12 @@ class Recorder(DesktopCase):
 
     def wait_preferences_active(self, quorvane: Quorvane) -> None:
         windows = self.session.windows
+        window = self.preferences(quorvane)
+        windows.wait(lambda: windows.active() == window, "the preferences to be active")
 
-        def is_active() -> bool:
-            window = windows.of_process(quorvane.process.pid, TITLE)
-            return window is not None and windows.active() == window
-
-        windows.wait(is_active, "the preferences to be active")
+    def preferences(self, quorvane: Quorvane) -> int:
+        """The window, as soon as it shows."""
+        windows = self.session.windows
+        return windows.wait(
+            lambda: windows.of_process(quorvane.process.pid, TITLE), "the preferences"
+        )
