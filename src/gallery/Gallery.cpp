@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gallery/Gallery.h>
 #include <gallery/PopoversBoard.h>
+#include <gallery/PreferencesBoard.h>
 #include <gallery/StatesBoard.h>
 
 #include <QGridLayout>
@@ -19,6 +20,8 @@ Gallery::Gallery(QWidget* parent) : QScrollArea(parent) {
     grid->addWidget(new StatesBoard(ColorScheme::Dark), 0, 1);
     grid->addWidget(new PopoversBoard(ColorScheme::Light), 1, 0, Qt::AlignTop);
     grid->addWidget(new PopoversBoard(ColorScheme::Dark), 1, 1, Qt::AlignTop);
+    grid->addWidget(new PreferencesBoard(ColorScheme::Light), 2, 0, 1, 2, Qt::AlignLeft);
+    grid->addWidget(new PreferencesBoard(ColorScheme::Dark), 3, 0, 1, 2, Qt::AlignLeft);
     setWidget(boards);
 }
 

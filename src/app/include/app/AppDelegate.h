@@ -94,6 +94,7 @@ Q_SIGNALS:
 
 private:
     void startHotKeyMonitor(HotKeyCombo combo);
+    void applyHotKey(HotKeyCombo combo);
     void applyActivationPolicy(bool showInDock);
     void applyShowInDock(bool visible);
     void activeSpaceDidChange();
