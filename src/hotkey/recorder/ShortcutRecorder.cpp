@@ -119,7 +119,6 @@ void ShortcutRecorder::setRecording(bool isRecording) {
     m_isRecording = isRecording;
     m_previewMods = modifier::none;
     m_capture->setIsRecording(isRecording);
-    m_button->setSymbol(isRecording ? Symbol::XmarkCircleFill : Symbol::Keyboard);
     refresh();
 }
 
@@ -159,9 +158,9 @@ void ShortcutRecorder::refreshCaps() {
 }
 
 void ShortcutRecorder::refreshTexts() {
-    const auto action = m_isRecording ? tr("Cancel") : tr("Record new shortcut");
-    m_button->setToolTip(action);
-    m_button->setAccessibleName(action);
+    m_button->setFace(
+        m_isRecording ? Symbol::XmarkCircleFill : Symbol::Keyboard,
+        m_isRecording ? tr("Cancel") : tr("Record new shortcut"));
     const auto spoken = keyNames().join(u", "_s);
     const auto described = warning().isEmpty() ? spoken : spoken + u". "_s + warning();
     setAccessibleDescription(m_isRecording ? tr("Recording: %1").arg(described) : described);
