@@ -16,9 +16,9 @@ namespace {
 constexpr int sidePadding = 8;
 constexpr int lensSize = 16;
 constexpr int lensGap = 8;
-constexpr int builtInPadding = 2;
 constexpr int clearSize = 24;
 constexpr int clearInset = 4;
+constexpr int clearGap = 2;
 
 } // namespace
 
@@ -72,10 +72,10 @@ void SearchField::resizeEvent(QResizeEvent* event) {
 }
 
 void SearchField::adoptLayout() {
-    constexpr int lensSide = sidePadding + lensSize + lensGap - builtInPadding;
-    constexpr int clearSide = clearInset + clearSize;
+    constexpr int lensSide = sidePadding + lensSize + lensGap;
+    constexpr int clearSide = clearInset + clearSize + clearGap;
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    setTextMargins(mirrored ? clearSide : lensSide, 0, mirrored ? lensSide : clearSide, 0);
+    setPadding(mirrored ? clearSide : lensSide, mirrored ? lensSide : clearSide);
     const QRect clear(
         width() - clearInset - clearSize,
         (QWidget::height() - clearSize) / 2,
