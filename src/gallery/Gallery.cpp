@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <gallery/Gallery.h>
-#include <gallery/PopoversBoard.h>
 #include <gallery/StatesBoard.h>
 
 #include <QGridLayout>
@@ -17,8 +16,6 @@ Gallery::Gallery(QWidget* parent) : QScrollArea(parent) {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(new StatesBoard(ColorScheme::Light), 0, 0);
     grid->addWidget(new StatesBoard(ColorScheme::Dark), 0, 1);
-    grid->addWidget(new PopoversBoard(ColorScheme::Light), 1, 0, Qt::AlignTop);
-    grid->addWidget(new PopoversBoard(ColorScheme::Dark), 1, 1, Qt::AlignTop);
     setWidget(boards);
 }
 
