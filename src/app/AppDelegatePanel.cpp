@@ -58,11 +58,12 @@ void AppDelegate::setupPanel() {
         m_panel.get(),
         &Panel::painted,
         this,
-        &AppDelegate::warmUpZones,
+        &AppDelegate::prepareAfterFirstPaint,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-void AppDelegate::warmUpZones() {
+void AppDelegate::prepareAfterFirstPaint() {
+    m_environment.platform.appearance->read();
     m_zoneWarmUp = std::make_unique<ZoneWarmUp>(
         m_environment.mainQueue,
         m_environment.zones,

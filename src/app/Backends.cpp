@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <app/Backends.h>
+#include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
 #include <platform_x11/X11Services.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
@@ -27,6 +28,8 @@ makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue
         if (auto services = makeX11Services(queue)) {
             services->softwareCentre = std::make_unique<XdgSoftwareCentre>(
                 MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
+            services->appearance =
+                std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
             return *std::move(services);
         }
     }

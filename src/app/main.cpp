@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
+#include <app/AppearanceFollower.h>
 #include <app/Backends.h>
 #include <app/TerminationSignals.h>
-#include <controls/Theme.h>
 #include <foundation/DiskFileWriter.h>
 #include <foundation/JsonDefaultsStore.h>
 #include <foundation/QtMainQueue.h>
@@ -11,7 +11,6 @@
 #include <platform_dbus/DBusApplicationInstance.h>
 
 #include <QApplication>
-#include <QStyle>
 
 namespace {
 
@@ -23,9 +22,6 @@ void configure(QApplication& application) {
     application.setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
     application.setQuitOnLastWindowClosed(false);
-    // A palette that is the style's own comes from no desktop.
-    if (QApplication::palette() == QApplication::style()->standardPalette())
-        QApplication::setPalette(housePalette(ColorScheme::Light));
 }
 
 int run(QApplication& application, TerminationSignals& signals, ApplicationInstance& instance) {
@@ -40,6 +36,7 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
     WindowFrameStore windowFrames(folders.windowsFile(), files);
     auto platform = makePlatformServices(
         qEnvironmentVariable("QUORVANE_BACKEND"), QGuiApplication::platformName(), mainQueue);
+    const AppearanceFollower look(*platform.appearance, AppearanceFollower::paletteSource());
 
     AppDelegate delegate(
         {clock,

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gallery/Gallery.h>
+#include <gallery/PreferencesBoard.h>
 #include <gallery/StatesBoard.h>
 
 #include <QGridLayout>
@@ -16,6 +17,8 @@ Gallery::Gallery(QWidget* parent) : QScrollArea(parent) {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(new StatesBoard(ColorScheme::Light), 0, 0);
     grid->addWidget(new StatesBoard(ColorScheme::Dark), 0, 1);
+    grid->addWidget(new PreferencesBoard(ColorScheme::Light), 1, 0, 1, 2, Qt::AlignLeft);
+    grid->addWidget(new PreferencesBoard(ColorScheme::Dark), 2, 0, 1, 2, Qt::AlignLeft);
     setWidget(boards);
 }
 

@@ -74,6 +74,15 @@ std::optional<ModifierFlags> toModifierFlags(std::uint32_t modifiers) {
     return flags;
 }
 
+QStringList modifierGlyphs(std::uint32_t modifiers) {
+    QStringList glyphs;
+    for (const auto& row : modifierTable) {
+        if ((modifiers & row.modifier) != 0)
+            glyphs.append(row.glyph.toString());
+    }
+    return glyphs;
+}
+
 HotKeyCombo HotKeyCombo::load(const DefaultsStore& store) {
     const auto keyCode = store.integerForKey(keyCodeKey.toString());
     if (!keyCode)
@@ -102,11 +111,7 @@ HotKeyCombo::Decoded HotKeyCombo::decode(const QJsonObject& coded) {
 }
 
 QStringList HotKeyCombo::displayKeys(const KeyboardLayout& layout) const {
-    QStringList labels;
-    for (const auto& row : modifierTable) {
-        if ((modifiers & row.modifier) != 0)
-            labels.append(row.glyph.toString());
-    }
+    auto labels = modifierGlyphs(modifiers);
     labels.append(keyChar(layout));
     return labels;
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <controls/DimmingVeil.h>
-#include <controls/WidgetRole.h>
 #include <ui/PanelMetrics.h>
 #include <ui/Section.h>
 #include <ui/SectionLabel.h>
@@ -16,12 +15,11 @@ constexpr double unavailableOpacity = 0.4;
 } // namespace
 
 Section::Section(const QString& name, Symbol icon, QWidget* parent)
-    : QWidget(parent),
+    : RoleWidget(QAccessible::Grouping, parent),
       m_label(new SectionLabel(name, icon, this)),
       m_content(new QWidget(this)),
       m_body(new QVBoxLayout(m_content)),
       m_veil(new DimmingVeil(this)) {
-    setWidgetRole(*this, QAccessible::Grouping);
     setAccessibleName(name);
     m_body->setContentsMargins(panelmetrics::reach, 0, panelmetrics::reach, 0);
     m_body->setSpacing(panelmetrics::labelSpacing);

@@ -4,6 +4,7 @@
 #include <support/WidgetSearch.h>
 
 #include <QApplication>
+#include <QTest>
 #include <QWindow>
 #include <gmock/gmock.h>
 
@@ -44,6 +45,17 @@ TEST_F(AppDelegateTest, LaunchShowsThePanelAndThenArmsTheShortcut) {
             "watch",
             "enable"));
     EXPECT_EQ(AppDelegate::_sharedDelegate(), delegate.get());
+}
+
+TEST_F(AppDelegateTest, DesktopsAppearanceIsReadOnceAfterTheFirstPaint) {
+    launch();
+    EXPECT_EQ(appearance->reads(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return appearance->reads() > 0; }));
+    pressShortcut();
+    pressShortcut();
+    panel()->repaint();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(appearance->reads(), 1);
 }
 
 TEST_F(AppDelegateTest, StoredDockIconMakesTheProgramRegular) {

@@ -5,6 +5,7 @@
 #include <app/Panel.h>
 #include <fakes/CallLog.h>
 #include <fakes/FakeAccessibilityRight.h>
+#include <fakes/FakeAppearance.h>
 #include <fakes/FakeEventTaps.h>
 #include <fakes/FakeKeyPoster.h>
 #include <fakes/FakeKeyboardLayout.h>
@@ -94,6 +95,7 @@ protected:
     FakeEventTaps* taps = nullptr;
     FakePasteboard* pasteboard = nullptr;
     FakeWorkspace* workspace = nullptr;
+    FakeAppearance* appearance = nullptr;
     PlatformServices platform;
     std::unique_ptr<AppDelegate> delegate;
 
@@ -104,7 +106,9 @@ private:
         auto space = std::make_unique<FakeWorkspace>(log);
         taps = eventTaps.get();
         pasteboard = board.get();
+        auto desktop = std::make_unique<FakeAppearance>();
         workspace = space.get();
+        appearance = desktop.get();
         return {
             std::make_unique<FakeAccessibilityRight>(log),
             std::move(eventTaps),
@@ -113,6 +117,7 @@ private:
             std::move(space),
             std::make_unique<FakeKeyboardLayout>(),
             std::make_unique<FakeWindowTraits>(log),
+            std::move(desktop),
             std::make_unique<FakeSoftwareCentre>(log)};
     }
 

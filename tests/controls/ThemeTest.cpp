@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <ostream>
+#include <tuple>
 
 namespace quorvane {
 namespace {
@@ -45,6 +47,9 @@ const Token tokens[] = {
     {"accentPress", &Theme::accentPress, 0xff2542ac, 0xff3652ca},
     {"onAccent", &Theme::onAccent, 0xffffffff, 0xffffffff},
     {"accentText", &Theme::accentText, 0xff2f50c8, 0xffa6b7ff},
+    {"chosenEdge", &Theme::chosenEdge, faded(0x2f50c8, 0.25), faded(0xa6b7ff, 0.25)},
+    {"suggestedEdge", &Theme::suggestedEdge, faded(0x5c6068, 0.3), faded(0xaeb2bb, 0.3)},
+    {"popEdge", &Theme::popEdge, ink(0.13), white(0.12)},
     {"sep", &Theme::sep, ink(0.13), white(0.12)},
     {"line", &Theme::line, ink(0.09), white(0.08)},
     {"outline", &Theme::outline, 0xff85888f, 0xff7c8089},
@@ -168,6 +173,123 @@ TEST(Theme, AccentThatIsDarkEnoughIsKept) {
         Theme::of(Desktop{"", 0xfff6f5f4, 0xffffffff, 0xff2e3436, 0xff1c71d8}.palette());
     EXPECT_EQ(theme.accent.rgb(), 0xff1c71d8);
     EXPECT_EQ(theme.onAccent, QColor(Qt::white));
+}
+
+/// The house in high contrast, with the accents that are hardest to read.
+class ThemeOfHighContrast
+    : public testing::TestWithParam<std::tuple<ColorScheme, std::optional<QRgb>>> {
+protected:
+    ColorScheme scheme = std::get<0>(GetParam());
+    QPalette palette = housePalette(scheme, Contrast::High, accent());
+    Theme theme = Theme::of(palette);
+
+    static std::optional<QColor> accent() {
+        const auto rgb = std::get<1>(GetParam());
+        return rgb ? std::optional(QColor(*rgb)) : std::nullopt;
+    }
+
+    /// Of what is seen, in eight bits a channel.
+    static double ratio(const QColor& ink, const QColor& ground) {
+        return contrastRatio(QColor(ink.rgb()), QColor(ground.rgb()));
+    }
+
+    [[nodiscard]] std::array<QColor, 3> grounds() const {
+        return {theme.win, theme.base, theme.pop};
+    }
+};
+
+TEST_P(ThemeOfHighContrast, IsBlackOnWhiteOrWhiteOnBlack) {
+    const bool isDark = scheme == ColorScheme::Dark;
+    EXPECT_EQ(colorScheme(palette), scheme);
+    EXPECT_EQ(theme.text, QColor(isDark ? Qt::white : Qt::black));
+    for (const auto& ground : grounds())
+        EXPECT_EQ(ground, QColor(isDark ? Qt::black : Qt::white));
+}
+
+// WCAG 2.1, 1.4.6: 7:1.
+TEST_P(ThemeOfHighContrast, TextIsReadWellOnEveryGroundInEveryState) {
+    for (const auto& ground : grounds()) {
+        for (const auto& overlay : {theme.quiet, theme.hover, theme.press}) {
+            const auto seen = blended(overlay, ground);
+            EXPECT_GE(ratio(theme.text, seen), 7);
+            EXPECT_GE(ratio(theme.text2, seen), 7);
+            EXPECT_GE(ratio(theme.green, seen), 7);
+        }
+        EXPECT_GE(ratio(theme.danger, blended(theme.dangerHover, ground)), 7);
+        EXPECT_GE(ratio(theme.danger, blended(theme.dangerPress, ground)), 7);
+        EXPECT_GE(ratio(theme.accentText, ground), 7);
+        EXPECT_GE(ratio(theme.accentText, blended(withOpacity(theme.accentText, 0.15), ground)), 7);
+        // The strongest tint: a chosen zone that is pressed.
+        EXPECT_GE(ratio(theme.text, blended(withOpacity(theme.accentText, 0.26), ground)), 7);
+        EXPECT_GE(ratio(theme.off, ground), 4.5);
+    }
+    for (const auto& fill : {theme.accent, theme.accentHover, theme.accentPress})
+        EXPECT_GE(ratio(theme.onAccent, fill), 7);
+}
+
+TEST_P(ThemeOfHighContrast, EdgesAreAsStrongAsText) {
+    for (const auto& edge : {theme.sep, theme.line, theme.outline, theme.capEdge, theme.popEdge})
+        EXPECT_EQ(edge, theme.text);
+    EXPECT_EQ(theme.chosenEdge, theme.accentText);
+    EXPECT_EQ(theme.suggestedEdge, theme.text2);
+}
+
+// WCAG 2.1, 1.4.11: 3:1.
+TEST_P(ThemeOfHighContrast, SwitchIsSeenOnItsGroundAndItsKnobOnBothTracks) {
+    EXPECT_GE(ratio(theme.track, theme.win), 3);
+    EXPECT_GE(ratio(theme.knob, theme.track), 3);
+    EXPECT_GE(ratio(theme.accent, theme.win), 3);
+    EXPECT_GE(ratio(theme.knob, theme.accent), 3);
+}
+
+TEST_P(ThemeOfHighContrast, SelectedTextIsReadable) {
+    EXPECT_GE(
+        ratio(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 7);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ,
+    ThemeOfHighContrast,
+    testing::Combine(
+        testing::Values(ColorScheme::Light, ColorScheme::Dark),
+        testing::Values(
+            std::nullopt,
+            0xff000000,
+            0xffffffff,
+            0xff808080,
+            0xfff6d32d,
+            0xff00ff00,
+            0xff3584e4,
+            0xffff0000)));
+
+TEST(Theme, HousesAccentIsTheUsersWhereThereIsOne) {
+    for (const auto scheme : {ColorScheme::Light, ColorScheme::Dark}) {
+        const auto theme = Theme::of(housePalette(scheme, Contrast::Normal, QColor(0x1c71d8)));
+        EXPECT_EQ(theme.accent, QColor(0x1c71d8));
+        EXPECT_EQ(theme.win, Theme::house(scheme).win);
+        EXPECT_EQ(theme.text2, Theme::house(scheme).text2);
+        EXPECT_GE(contrastRatio(theme.accentText, theme.base), 4.5);
+    }
+}
+
+TEST(Theme, SelectedTextOfTheHouseIsReadableOnAnyAccent) {
+    for (const QRgb accent : {0xff3daee9, 0xfff6d32d, 0xffffffff, 0xff000000}) {
+        const auto palette = housePalette(ColorScheme::Light, Contrast::Normal, QColor(accent));
+        EXPECT_GE(
+            contrastRatio(
+                palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),
+            4.5);
+    }
+}
+
+TEST(Theme, DesktopsOwnBlackOnWhiteIsHighContrastAndAlmostBlackIsNot) {
+    const auto popEdge = [](QRgb win, QRgb base, QRgb text) {
+        return Theme::of(Desktop{"", win, base, text, 0xff3584e4}.palette()).popEdge;
+    };
+    EXPECT_EQ(popEdge(0xffffffff, 0xffffffff, 0xff000000), QColor(Qt::black));
+    EXPECT_EQ(popEdge(0xff000000, 0xff000000, 0xffffffff), QColor(Qt::white));
+    EXPECT_LT(popEdge(0xfff6f5f4, 0xffffffff, 0xff000000).alpha(), 0xff);
+    EXPECT_LT(popEdge(0xffffffff, 0xffffffff, 0xff1a1b1e).alpha(), 0xff);
 }
 
 TEST(Theme, SchemeIsThatOfTextAndGround) {

@@ -88,7 +88,7 @@ void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
     if (m_composited) {
         paintPopoverShadow(painter, surface(), cornerRadius, theme);
         fillRounded(painter, surface(), cornerRadius, theme.pop);
-        frameRounded(painter, surface(), cornerRadius, theme.sep, 1);
+        frameRounded(painter, surface(), cornerRadius, theme.popEdge, 1);
         return;
     }
     painter.fillRect(rect(), theme.pop);

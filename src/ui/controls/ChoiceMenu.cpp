@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChoiceMenu.h>
 #include <controls/ChoiceRow.h>
-#include <controls/WidgetRole.h>
 
 namespace quorvane {
 
@@ -17,8 +16,7 @@ std::vector<MenuRow*> makeRows(const QStringList& titles, std::optional<int> sel
 } // namespace
 
 ChoiceMenu::ChoiceMenu(const QStringList& titles, std::optional<int> selected, QWidget* parent)
-    : RowMenu(makeRows(titles, selected), selected.value_or(0), parent) {
-    setWidgetRole(*this, QAccessible::List);
+    : RowMenu(QAccessible::List, makeRows(titles, selected), selected.value_or(0), parent) {
 }
 
 } // namespace quorvane

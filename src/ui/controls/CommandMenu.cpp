@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/CommandMenu.h>
 #include <controls/CommandRow.h>
-#include <controls/WidgetRole.h>
 
 namespace quorvane {
 
@@ -17,8 +16,7 @@ std::vector<MenuRow*> makeRows(const std::vector<Command>& commands) {
 } // namespace
 
 CommandMenu::CommandMenu(const std::vector<Command>& commands, QWidget* parent)
-    : RowMenu(makeRows(commands), 0, parent) {
-    setWidgetRole(*this, QAccessible::PopupMenu);
+    : RowMenu(QAccessible::PopupMenu, makeRows(commands), 0, parent) {
 }
 
 } // namespace quorvane

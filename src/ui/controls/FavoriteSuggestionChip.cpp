@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChipSurface.h>
-#include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/FavoriteSuggestionChip.h>
 
@@ -11,7 +10,6 @@ namespace quorvane {
 namespace {
 
 constexpr double spacing = 5;
-constexpr double frameOpacity = 0.3;
 constexpr double frameWidth = 0.5;
 constexpr SymbolStyle markStyle{9, SymbolStyle::bold};
 
@@ -33,8 +31,7 @@ ContentRow FavoriteSuggestionChip::content(const Theme& theme) const {
 
 void FavoriteSuggestionChip::paintControl(QPainter& painter, const Theme& theme) {
     fillRounded(painter, rect(), cornerRadius(), overlayFor(look(), theme));
-    frameRounded(
-        painter, rect(), cornerRadius(), withOpacity(theme.text2, frameOpacity), frameWidth);
+    frameRounded(painter, rect(), cornerRadius(), theme.suggestedEdge, frameWidth);
     constexpr int padding = ChipSurface::horizontalPadding;
     content(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
 }

@@ -38,11 +38,20 @@ void IconButton::setFace(Symbol symbol, const QString& name) {
 }
 
 QSize IconButton::sizeHint() const {
-    return m_kind == Kind::Section ? QSize(24, 24) : QSize(28, 28);
+    switch (m_kind) {
+    case Kind::Section:
+        return {24, 24};
+    case Kind::Framed:
+        return {26, 26};
+    case Kind::Header:
+    case Kind::Close:
+        break;
+    }
+    return {28, 28};
 }
 
 double IconButton::cornerRadius() const {
-    return m_kind == Kind::Section ? 6 : 8;
+    return m_kind == Kind::Section || m_kind == Kind::Framed ? 6 : 8;
 }
 
 void IconButton::paintControl(QPainter& painter, const Theme& theme) {

@@ -16,8 +16,9 @@ constexpr int leastWidth = 180;
 
 } // namespace
 
-RowMenu::RowMenu(const std::vector<MenuRow*>& rows, int start, QWidget* parent)
-    : QWidget(parent),
+RowMenu::RowMenu(
+    QAccessible::Role role, const std::vector<MenuRow*>& rows, int start, QWidget* parent)
+    : RoleWidget(role, parent),
       m_rows(rows) {
     setMinimumWidth(leastWidth);
     auto* column = new QVBoxLayout(this);
@@ -35,7 +36,7 @@ RowMenu::RowMenu(const std::vector<MenuRow*>& rows, int start, QWidget* parent)
 
 bool RowMenu::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
+        return RoleWidget::eventFilter(watched, event);
     const auto row = std::ranges::find(m_rows, watched);
     if (row == m_rows.end())
         return false;

@@ -47,6 +47,11 @@ QSize SearchField::sizeHint() const {
     return {TextField::sizeHint().width(), height};
 }
 
+void SearchField::setTrailingRoom(int points) {
+    m_trailingRoom = points;
+    adoptLayout();
+}
+
 bool SearchField::event(QEvent* event) {
     const bool handled = TextField::event(event);
     if (event->type() == QEvent::LayoutDirectionChange)
@@ -73,14 +78,12 @@ void SearchField::resizeEvent(QResizeEvent* event) {
 
 void SearchField::adoptLayout() {
     constexpr int lensSide = sidePadding + lensSize + lensGap;
-    constexpr int clearSide = clearInset + clearSize + clearGap;
+    const int clearSide = clearInset + clearSize + m_trailingRoom;
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    setPadding(mirrored ? clearSide : lensSide, mirrored ? lensSide : clearSide);
+    setPadding(
+        mirrored ? clearSide + clearGap : lensSide, mirrored ? lensSide : clearSide + clearGap);
     const QRect clear(
-        width() - clearInset - clearSize,
-        (QWidget::height() - clearSize) / 2,
-        clearSize,
-        clearSize);
+        width() - clearSide, (QWidget::height() - clearSize) / 2, clearSize, clearSize);
     m_clear->setGeometry(QStyle::visualRect(layoutDirection(), rect(), clear));
 }
 

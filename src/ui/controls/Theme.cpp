@@ -8,8 +8,13 @@ namespace quorvane {
 
 namespace {
 
-constexpr double readable = 4.5; ///< WCAG 2.1, 1.4.3, level AA
+constexpr double readable = 4.5;     ///< WCAG 2.1, 1.4.3, level AA
+constexpr double wellReadable = 7.0; ///< WCAG 2.1, 1.4.6, level AAA
 constexpr double chosenTint = 0.15;
+constexpr double chosenEdgeOpacity = 0.25;
+constexpr double suggestedEdgeOpacity = 0.3;
+/// Between text and ground; black on white has 21, and nobody who did not mean it comes near.
+constexpr double highContrast = 20.0;
 
 QColor ink(double opacity) {
     return withOpacity(QColor(0x14, 0x16, 0x1c), opacity);
@@ -36,6 +41,9 @@ Theme lightTheme() {
         .accentPress = 0x2542ac,
         .onAccent = 0xffffff,
         .accentText = 0x2f50c8,
+        .chosenEdge = withOpacity(0x2f50c8, chosenEdgeOpacity),
+        .suggestedEdge = withOpacity(0x5c6068, suggestedEdgeOpacity),
+        .popEdge = ink(0.13),
         .sep = ink(0.13),
         .line = ink(0.09),
         .outline = 0x85888f,
@@ -70,6 +78,9 @@ Theme darkTheme() {
         .accentPress = 0x3652ca,
         .onAccent = 0xffffff,
         .accentText = 0xa6b7ff,
+        .chosenEdge = withOpacity(0xa6b7ff, chosenEdgeOpacity),
+        .suggestedEdge = withOpacity(0xaeb2bb, suggestedEdgeOpacity),
+        .popEdge = white(0.12),
         .sep = white(0.12),
         .line = white(0.08),
         .outline = 0x7c8089,
@@ -95,9 +106,9 @@ QColor active(const QPalette& palette, QPalette::ColorRole role) {
     return palette.color(QPalette::Active, role);
 }
 
-QColor readableOn(QColor color, const std::array<QColor, 3>& grounds) {
+QColor readableOn(QColor color, const std::array<QColor, 3>& grounds, double ratio = readable) {
     for (const auto& ground : grounds)
-        color = pushedToContrast(color, ground, readable);
+        color = pushedToContrast(color, ground, ratio);
     return color;
 }
 
@@ -109,16 +120,17 @@ void adoptGrounds(Theme& theme, const QPalette& palette) {
     theme.text = active(palette, QPalette::WindowText);
     const auto faded = blended(withOpacity(theme.text, 0.68), theme.win);
     theme.text2 = readableOn(faded, {theme.win, theme.base, theme.pop});
+    theme.suggestedEdge = withOpacity(theme.text2, suggestedEdgeOpacity);
     theme.off = blended(withOpacity(theme.text, 0.4), theme.win);
 }
 
 /// `color` with enough contrast on `ground` under a tint of itself.
-QColor inkOnItsOwnTint(QColor color, const QColor& ground) {
+QColor inkOnItsOwnTint(QColor color, const QColor& ground, double ratio = readable) {
     // The tint darkens or lightens with its ink: that takes some rounds to come to rest.
     for (QColor before; before != color;) {
         before = color;
         const auto tinted = blended(withOpacity(color, chosenTint), ground);
-        color = pushedToContrast(color, tinted, readable);
+        color = pushedToContrast(color, tinted, ratio);
     }
     return color;
 }
@@ -132,6 +144,72 @@ void adoptAccent(Theme& theme, const QColor& accent) {
     theme.accentHover = theme.accent.darker(108);
     theme.accentPress = theme.accent.darker(122);
     theme.accentText = inkOnItsOwnTint(accent, theme.base);
+    theme.chosenEdge = withOpacity(theme.accentText, chosenEdgeOpacity);
+}
+
+bool hasHighContrast(const QPalette& palette) {
+    const auto text = active(palette, QPalette::WindowText);
+    return contrastRatio(text, active(palette, QPalette::Window)) >= highContrast &&
+           contrastRatio(text, active(palette, QPalette::Base)) >= highContrast;
+}
+
+/// Inks that are read well on all grounds, in every state of a control.
+void strengthenInks(Theme& theme, const QColor& accent) {
+    const std::array grounds{
+        theme.win, blended(theme.press, theme.win), blended(theme.press, theme.base)};
+    theme.text2 = readableOn(theme.text2, grounds, wellReadable);
+    theme.off = readableOn(theme.off, grounds, readable);
+    theme.green = readableOn(theme.green, grounds, wellReadable);
+    theme.yellowEdge = readableOn(theme.yellowEdge, grounds, wellReadable);
+    theme.danger = inkOnItsOwnTint(theme.danger, theme.base, wellReadable);
+    theme.dangerHover = withOpacity(theme.danger, chosenTint / 2);
+    theme.dangerPress = withOpacity(theme.danger, chosenTint);
+    theme.accentText = inkOnItsOwnTint(accent, theme.base, wellReadable);
+    // What stands on a fill is the ground that shows through it, in light and in dark.
+    theme.onAccent = theme.base;
+    theme.accent = pushedToContrast(accent, theme.onAccent, wellReadable);
+    theme.accentHover = blended(withOpacity(theme.text, 0.2), theme.accent);
+    theme.accentPress = blended(withOpacity(theme.text, 0.4), theme.accent);
+    theme.track = theme.text2;
+    theme.knob = theme.onAccent;
+}
+
+/// Every edge as strong as text.
+void strengthenEdges(Theme& theme) {
+    for (auto edge : {&Theme::sep, &Theme::line, &Theme::outline, &Theme::capEdge, &Theme::popEdge})
+        theme.*edge = theme.text;
+    theme.chosenEdge = theme.accentText;
+    theme.suggestedEdge = theme.text2;
+    theme.capShadow = Qt::transparent;
+    theme.capHighlight = Qt::transparent;
+}
+
+Theme highContrastTheme(const QPalette& palette) {
+    Theme theme = Theme::house(colorScheme(palette));
+    theme.win = active(palette, QPalette::Window);
+    theme.base = active(palette, QPalette::Base);
+    theme.pop = theme.base;
+    theme.text = active(palette, QPalette::WindowText);
+    theme.hover = withOpacity(theme.text, 0.1);
+    theme.press = withOpacity(theme.text, 0.2);
+    strengthenInks(theme, active(palette, QPalette::Highlight));
+    strengthenEdges(theme);
+    return theme;
+}
+
+/// What decides a theme, and nothing else.
+QPalette seedPalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
+    const auto& house = Theme::house(scheme);
+    const bool isHigh = contrast == Contrast::High;
+    const bool isDark = scheme == ColorScheme::Dark;
+    const QColor strongest = isDark ? Qt::white : Qt::black;
+    const QColor faintest = isDark ? Qt::black : Qt::white;
+    QPalette palette;
+    palette.setColor(QPalette::Window, isHigh ? faintest : house.win);
+    palette.setColor(QPalette::Base, isHigh ? faintest : house.base);
+    palette.setColor(QPalette::WindowText, isHigh ? strongest : house.text);
+    palette.setColor(QPalette::Highlight, accent.value_or(house.accent));
+    return palette;
 }
 
 } // namespace
@@ -143,6 +221,8 @@ const Theme& Theme::house(ColorScheme scheme) {
 }
 
 Theme Theme::of(const QPalette& palette) {
+    if (hasHighContrast(palette))
+        return highContrastTheme(palette);
     Theme theme = house(colorScheme(palette));
     const bool sameGrounds = active(palette, QPalette::Window) == theme.win &&
                              active(palette, QPalette::Base) == theme.base &&
@@ -156,8 +236,8 @@ Theme Theme::of(const QPalette& palette) {
     return theme;
 }
 
-QPalette housePalette(ColorScheme scheme) {
-    const auto& theme = Theme::house(scheme);
+QPalette housePalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
+    const auto theme = Theme::of(seedPalette(scheme, contrast, accent));
     QPalette palette(theme.base, theme.win);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, theme.text);

@@ -11,7 +11,6 @@ namespace quorvane {
 namespace {
 
 constexpr double spacing = 5;
-constexpr double frameOpacity = 0.25;
 constexpr double frameWidth = 0.5;
 constexpr SymbolStyle markStyle{9, SymbolStyle::bold};
 
@@ -46,8 +45,7 @@ ContentRow TimeZoneChip::content(const Theme& theme) const {
 void TimeZoneChip::paintControl(QPainter& painter, const Theme& theme) {
     const auto fill = withOpacity(theme.accentText, fillOpacity(look()));
     fillRounded(painter, rect(), cornerRadius(), fill);
-    frameRounded(
-        painter, rect(), cornerRadius(), withOpacity(theme.accentText, frameOpacity), frameWidth);
+    frameRounded(painter, rect(), cornerRadius(), theme.chosenEdge, frameWidth);
     constexpr int padding = ChipSurface::horizontalPadding;
     content(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
 }

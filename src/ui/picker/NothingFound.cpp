@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "NothingFound.h"
-
-#include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <picker/NothingFound.h>
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -23,6 +22,8 @@ constexpr int sideMargin = 40;
 
 NothingFound::NothingFound(QWidget* parent) : QWidget(parent), m_text(new QLabel(this)) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+    parent->installEventFilter(this);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setAlignment(Qt::AlignHCenter);
     m_text->setWordWrap(true);
@@ -34,17 +35,31 @@ NothingFound::NothingFound(QWidget* parent) : QWidget(parent), m_text(new QLabel
     column->addStretch();
 }
 
-void NothingFound::setQuery(const QString& query) {
+bool NothingFound::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parent() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+void NothingFound::showFor(const QString& query) {
     constexpr int longest = 60;
     const auto shown = query.size() > longest ? query.first(longest) + u'…' : query;
-    m_text->setText(tr("No time zone matches “%1”").arg(shown));
+    showMessage(Symbol::Magnifyingglass, tr("No time zone matches “%1”").arg(shown));
+}
+
+void NothingFound::showMessage(Symbol symbol, const QString& text) {
+    m_symbol = symbol;
+    m_text->setText(text);
+    update();
+    setVisible(true);
+    raise();
 }
 
 void NothingFound::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF place(0, top, width(), lensSize);
     const SymbolStyle style{lensSize, lensStroke};
-    paintSymbol(painter, Symbol::Magnifyingglass, style, place, Theme::of(palette()).text2);
+    paintSymbol(painter, m_symbol, style, place, Theme::of(palette()).text2);
 }
 
 } // namespace quorvane

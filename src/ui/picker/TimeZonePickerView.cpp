@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "NothingFound.h"
-
 #include <controls/SearchField.h>
 #include <controls/TextButton.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <picker/NothingFound.h>
 #include <picker/TimeZonePickerView.h>
 #include <picker/ZoneList.h>
+#include <picker/ZoneListKeys.h>
 #include <timezones/FavoriteZones.h>
 #include <timezones/ZoneSelection.h>
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -70,14 +69,9 @@ TimeZonePickerView::TimeZonePickerView(
     setFocusProxy(m_field);
     m_list->setModel(m_model);
     layOut();
-    m_field->installEventFilter(this);
+    new ZoneListKeys(*m_field, *m_list);
     connect(m_field, &SearchField::textChanged, this, &TimeZonePickerView::search);
     connect(m_list, &ZoneList::chosen, this, &TimeZonePickerView::choose);
-    connect(m_list, &ZoneList::typed, this, [this](QKeyEvent* event) {
-        m_field->setFocus(Qt::OtherFocusReason);
-        m_field->end(false);
-        m_field->typeKey(event);
-    });
     search();
 }
 
@@ -90,29 +84,10 @@ void TimeZonePickerView::toggleTimeZone(const TimeZone& zone) {
     m_model->selectionChanged();
 }
 
-bool TimeZonePickerView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const auto* keyEvent = static_cast<QKeyEvent*>(event);
-    if (keyEvent->modifiers() & ~Qt::KeypadModifier)
-        return false;
-    if (m_list->moveByKey(keyEvent->key()))
-        return true;
-    if (keyEvent->key() != Qt::Key_Return && keyEvent->key() != Qt::Key_Enter)
-        return false;
-    choose(m_list->currentIndex());
-    return true;
-}
-
 void TimeZonePickerView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF line(0, m_list->y() - lineWidth, width(), lineWidth);
     painter.fillRect(line, Theme::of(palette()).line);
-}
-
-void TimeZonePickerView::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    m_nothing->setGeometry(m_list->rect());
 }
 
 void TimeZonePickerView::layOut() {
@@ -133,9 +108,10 @@ void TimeZonePickerView::layOut() {
 
 void TimeZonePickerView::search() {
     m_model->setSections(sections());
-    const bool nothing = m_model->rowCount() == 0;
-    m_nothing->setQuery(m_field->text().trimmed());
-    m_nothing->setVisible(nothing);
+    if (m_model->rowCount() == 0)
+        m_nothing->showFor(m_field->text().trimmed());
+    else
+        m_nothing->hide();
     m_list->goToFirst();
 }
 

@@ -6,6 +6,9 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace quorvane {
 
@@ -70,6 +73,19 @@ void ZoneList::goToFirst() {
     }
 }
 
+void ZoneList::goToTop() {
+    setCurrentIndex({});
+    scrollToTop();
+}
+
+void ZoneList::goBackTo(int scrolled, std::optional<int> row) {
+    // Rows that have just changed have no places, and the scroll bar no range, before that.
+    executeDelayedItemsLayout();
+    const int last = model()->rowCount() - 1;
+    setCurrentIndex(row ? model()->index(std::min(*row, last), 0) : QModelIndex());
+    verticalScrollBar()->setValue(scrolled);
+}
+
 void ZoneList::keyPressEvent(QKeyEvent* event) {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if ((isReturn || event->key() == Qt::Key_Space) && event->modifiers() == Qt::NoModifier)
@@ -80,6 +96,12 @@ void ZoneList::keyPressEvent(QKeyEvent* event) {
         event->ignore();
     else
         QListView::keyPressEvent(event);
+}
+
+void ZoneList::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
+        moveByKey(Qt::Key_Down);
 }
 
 void ZoneList::mousePressEvent(QMouseEvent* event) {

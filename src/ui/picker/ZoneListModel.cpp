@@ -70,7 +70,7 @@ Qt::ItemFlags ZoneListModel::flags(const QModelIndex& index) const {
 }
 
 QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {
-    const TimeZoneRow row(zone, m_clock.now(), m_locale);
+    const auto row = rowOf(zone);
     switch (role) {
     case Qt::DisplayRole:
         return row.city();

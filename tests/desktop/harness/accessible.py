@@ -175,6 +175,7 @@ class NameChanges:
     """The names that objects took, in the order of their announcement."""
 
     def __init__(self, bus: MessageBus) -> None:
+        self._bus = bus
         self._names: list[str] = []
         self._context = GLib.MainContext.default()
         bus.call(
@@ -183,7 +184,7 @@ class NameChanges:
             "org.a11y.atspi.Registry",
             "RegisterEvent",
             "(sas)",
-            "object:property-change:accessible-name",
+            "Object:PropertyChange:AccessibleName",
             [],
         )
         bus.connection.signal_subscribe(
@@ -206,6 +207,6 @@ class NameChanges:
 
         wait_until(is_heard, f'the announcement of "{name}"')
 
-    def _hear(self, *signal: Any) -> None:
-        parameters = signal[5].unpack()
-        self._names.append(str(parameters[3]))
+    def _hear(self, _connection: Any, sender: str, path: str, *_signal: Any) -> None:
+        # The signal says which object it is; its name is then asked for.
+        self._names.append(Accessible(self._bus, sender, path).name)

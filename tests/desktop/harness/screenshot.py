@@ -38,6 +38,11 @@ class Picture:
         """Whether there is more than a background."""
         return len(set(memoryview(self._pixels).cast("I"))) >= _FLAT
 
+    def color(self, x: int, y: int) -> int:
+        """The pixel at a place, as 0xRRGGBB."""
+        start = _BYTES_PER_PIXEL * (y * self._width + x)
+        return int.from_bytes(self._pixels[start : start + 3], "little")
+
     def write(self, file: Path) -> None:
         """Writes the picture as a PNG file (ISO/IEC 15948)."""
         header = struct.pack(">IIBBBBB", self._width, self._height, 8, 2, 0, 0, 0)

@@ -12,6 +12,7 @@ using Start = FreedesktopApplication::Start;
 
 class FreedesktopApplicationTest : public testing::Test {
 protected:
+    QObject object;
     QStringList requests;
 
     void listen(FreedesktopApplication& application) {
@@ -21,7 +22,7 @@ protected:
 };
 
 TEST_F(FreedesktopApplicationTest, RequestsReachTheirHandlers) {
-    FreedesktopApplication application(Start::ByUser, nullptr);
+    FreedesktopApplication application(Start::ByUser, &object);
     listen(application);
     application.Activate({});
     application.Open({u"file:///a"_s}, {});
@@ -31,13 +32,13 @@ TEST_F(FreedesktopApplicationTest, RequestsReachTheirHandlers) {
 }
 
 TEST_F(FreedesktopApplicationTest, RequestsWithoutHandlersAreLetBe) {
-    FreedesktopApplication application(Start::ByUser, nullptr);
+    FreedesktopApplication application(Start::ByUser, &object);
     application.Activate({});
     application.ActivateAction(u"toggle"_s, {}, {});
 }
 
 TEST_F(FreedesktopApplicationTest, StartForToggleShowsInsteadOfHiding) {
-    FreedesktopApplication application(Start::ByBus, nullptr);
+    FreedesktopApplication application(Start::ByBus, &object);
     listen(application);
     application.ActivateAction(u"toggle"_s, {}, {});
     application.ActivateAction(u"toggle"_s, {}, {});
@@ -45,7 +46,7 @@ TEST_F(FreedesktopApplicationTest, StartForToggleShowsInsteadOfHiding) {
 }
 
 TEST_F(FreedesktopApplicationTest, StartForAnythingElseLeavesTheNextToggleAlone) {
-    FreedesktopApplication application(Start::ByBus, nullptr);
+    FreedesktopApplication application(Start::ByBus, &object);
     listen(application);
     application.Activate({});
     application.ActivateAction(u"toggle"_s, {}, {});
@@ -53,7 +54,7 @@ TEST_F(FreedesktopApplicationTest, StartForAnythingElseLeavesTheNextToggleAlone)
 }
 
 TEST_F(FreedesktopApplicationTest, StartForAnotherActionCarriesItOut) {
-    FreedesktopApplication application(Start::ByBus, nullptr);
+    FreedesktopApplication application(Start::ByBus, &object);
     listen(application);
     application.ActivateAction(u"copy"_s, {}, {});
     EXPECT_EQ(requests, QStringList{u"copy"_s});

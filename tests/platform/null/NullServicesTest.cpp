@@ -24,6 +24,11 @@ TEST_F(NullServices, GrantNothing) {
     EXPECT_EQ(m_services.keyboardLayout->characters(0), std::nullopt);
 }
 
+TEST_F(NullServices, KnowNothingOfTheAppearance) {
+    m_services.appearance->read();
+    EXPECT_EQ(m_services.appearance->current(), DesktopAppearance{});
+}
+
 TEST_F(NullServices, RefuseATapForGood) {
     const auto result =
         m_services.eventTaps->createTap([](const KeyPress&) { return TapVerdict::Pass; });

@@ -94,6 +94,7 @@ Q_SIGNALS:
 
 private:
     void startHotKeyMonitor(HotKeyCombo combo);
+    void applyHotKey(HotKeyCombo combo);
     void applyActivationPolicy(bool showInDock);
     void applyShowInDock(bool visible);
     void activeSpaceDidChange();
@@ -103,7 +104,7 @@ private:
     void present();
     void setupPanel();
     void showPanel();
-    void warmUpZones();
+    void prepareAfterFirstPaint();
     void orderOutPanel();
     void activatePreviousApplication();
 

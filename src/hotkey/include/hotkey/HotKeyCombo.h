@@ -33,6 +33,9 @@ inline constexpr std::uint32_t control = 0x1000;
 /// match.
 [[nodiscard]] std::optional<ModifierFlags> toModifierFlags(std::uint32_t modifiers);
 
+/// What their key caps show: those of "⌃", "⌥", "⇧", "⌘" that are set, in this order.
+[[nodiscard]] QStringList modifierGlyphs(std::uint32_t modifiers);
+
 /// The global shortcut: a key by its position and a set of modifiers.
 struct HotKeyCombo {
     /// Control, Shift and Command with the key that carries D on an ANSI keyboard.

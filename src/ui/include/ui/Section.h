@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/RoleWidget.h>
 #include <controls/Symbol.h>
-
-#include <QWidget>
 
 class QVBoxLayout;
 
@@ -14,7 +13,7 @@ class SectionLabel;
 
 /// One part of the panel: a label and what stands below it. To assistive technology it is a group
 /// that has the label for a name.
-class Section : public QWidget {
+class Section : public RoleWidget {
     Q_OBJECT
 
 public:

@@ -15,6 +15,7 @@ public:
     enum class Kind {
         Header,  ///< 28 x 28
         Section, ///< 24 x 24
+        Framed,  ///< 26 x 26, at the end of a frame that is 32 high
         Close    ///< 28 x 28, red while the pointer is over it
     };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidget>
+#include <controls/RoleWidget.h>
 
 #include <optional>
 #include <vector>
@@ -12,12 +12,13 @@ class MenuRow;
 
 /// Rows to press one of, for a popover: arrows, Home and End move, Space and Return press, a letter
 /// goes to the next title that begins with it.
-class RowMenu : public QWidget {
+class RowMenu : public RoleWidget {
     Q_OBJECT
 
 public:
     /// The keyboard starts at the row `start`, where there is one.
-    RowMenu(const std::vector<MenuRow*>& rows, int start, QWidget* parent);
+    RowMenu(
+        QAccessible::Role role, const std::vector<MenuRow*>& rows, int start, QWidget* parent);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -20,6 +20,9 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// Keeps that many points free at the end, for what another widget shows there.
+    void setTrailingRoom(int points);
+
     /// Writes what the key writes, as if the field had been typed into.
     void typeKey(QKeyEvent* event) { keyPressEvent(event); }
 
@@ -33,6 +36,7 @@ private:
     void adoptLayout();
 
     IconButton* m_clear;
+    int m_trailingRoom = 0;
 };
 
 } // namespace quorvane

@@ -47,15 +47,12 @@ public:
     /// Adds the zone to the selection, or removes it; the last one stays.
     void toggleTimeZone(const TimeZone& zone);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     /// The user has finished.
     void done();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void layOut();

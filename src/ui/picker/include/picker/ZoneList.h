@@ -3,6 +3,8 @@
 
 #include <QListView>
 
+#include <optional>
+
 namespace quorvane {
 
 /// The list of a picker. Its current row is shown wherever the keyboard's focus is, because it is
@@ -23,6 +25,13 @@ public:
     /// Makes the first row that is no head the current one and shows it.
     void goToFirst();
 
+    /// From its top, with no row current.
+    void goToTop();
+
+    /// Back to where it was scrolled before its rows changed, with that row current: the last one
+    /// if there is no such row any more, none for none.
+    void goBackTo(int scrolled, std::optional<int> row);
+
 Q_SIGNALS:
     void chosen(const QModelIndex& index);
 
@@ -31,6 +40,8 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    /// By the keyboard, it comes to some row.
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

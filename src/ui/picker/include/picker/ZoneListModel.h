@@ -13,7 +13,7 @@
 namespace quorvane {
 
 /// Sections of zones as rows of a list. Rows that are heads cannot be chosen.
-class ZoneListModel final : public QAbstractListModel {
+class ZoneListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
@@ -44,13 +44,19 @@ public:
     void selectionChanged();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const final;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+protected:
+    /// What the row of a zone shows now.
+    [[nodiscard]] virtual QVariant zoneData(const TimeZone& zone, int role) const;
+
+    [[nodiscard]] TimeZoneRow rowOf(const TimeZone& zone) const {
+        return {zone, m_clock.now(), m_locale};
+    }
 
 private:
     using Item = std::variant<QString, TimeZone>;
-
-    [[nodiscard]] QVariant zoneData(const TimeZone& zone, int role) const;
 
     const Clock& m_clock;
     UserLocale m_locale;

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include <app/AppearanceFollower.h>
+#include <controls/Theme.h>
+
+#include <QApplication>
+
+namespace quorvane {
+
+namespace {
+
+ColorScheme schemeFor(const DesktopAppearance& appearance) {
+    return appearance.scheme == DesktopAppearance::Scheme::Dark ? ColorScheme::Dark
+                                                                : ColorScheme::Light;
+}
+
+QColor color(const DesktopAppearance::Accent& accent) {
+    return QColor::fromRgbF(
+        static_cast<float>(accent.red),
+        static_cast<float>(accent.green),
+        static_cast<float>(accent.blue));
+}
+
+QPalette paletteFor(const DesktopAppearance& appearance) {
+    return housePalette(
+        schemeFor(appearance),
+        appearance.wantsMoreContrast ? Contrast::High : Contrast::Normal,
+        appearance.accent ? std::optional(color(*appearance.accent)) : std::nullopt);
+}
+
+} // namespace
+
+AppearanceFollower::PaletteFrom AppearanceFollower::paletteSource() {
+    // A palette that is the style's own comes from no desktop.
+    return QApplication::palette() == QApplication::style()->standardPalette()
+               ? PaletteFrom::House
+               : PaletteFrom::Desktop;
+}
+
+AppearanceFollower::AppearanceFollower(Appearance& appearance, PaletteFrom source)
+    : m_appearance(appearance),
+      m_source(source),
+      m_style(new MotionStyle) {
+    QApplication::setStyle(m_style);
+    apply();
+    m_appearance.onChanged([this] { apply(); });
+}
+
+AppearanceFollower::~AppearanceFollower() {
+    m_appearance.onChanged({});
+}
+
+void AppearanceFollower::apply() {
+    const auto wanted = m_appearance.current();
+    if (m_style)
+        m_style->setMotion(
+            wanted.wantsLessMotion ? MotionStyle::Motion::None
+                                   : MotionStyle::Motion::AsTheStyleHasIt);
+    if (m_source == PaletteFrom::House)
+        QApplication::setPalette(paletteFor(wanted));
+}
+
+} // namespace quorvane

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include <controls/CheckBox.h>
+#include <controls/DevicePixels.h>
+#include <controls/IconButton.h>
+#include <controls/SearchField.h>
+#include <controls/TextStyle.h>
+#include <gallery/PreferencesBoard.h>
+#include <gallery/SampleDefaults.h>
+#include <gallery/SampleKeyboard.h>
+#include <gallery/Samples.h>
+#include <picker/ZoneList.h>
+#include <preferences/PreferencesView.h>
+#include <recorder/KeyCapture.h>
+
+#include <QCoreApplication>
+#include <QHoverEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int margin = 32;
+constexpr int noteHeight = 16;
+constexpr int noteGap = 12;
+constexpr int titleHeight = 36;
+constexpr QSize contentSize{400, 540};
+constexpr double windowRadius = 12;
+constexpr int closeInset = 4;
+constexpr int windows = 3;
+constexpr QSize boardSize{
+    margin + windows * (contentSize.width() + margin),
+    2 * margin + noteHeight + noteGap + titleHeight + contentSize.height()};
+
+/// Drops everything: a picture has no later turn, and no window of it keeps the focus.
+class NoQueue final : public MainQueue {
+public:
+    void async(Task /*task*/) override {}
+
+    [[nodiscard]] Deadline after(Seconds /*delay*/, Task /*task*/) override { return {}; }
+};
+
+void hold(PreferencesView& view, Qt::Key key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, static_cast<quint32>(key), 0, 0);
+    QCoreApplication::sendEvent(view.findChild<KeyCapture*>(), &press);
+}
+
+/// As if the pointer were over the row of that city.
+void hover(PreferencesView& view, const QString& city) {
+    auto* list = view.findChild<ZoneList*>();
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+        const auto index = list->model()->index(row, 0);
+        if (index.data().toString() != city)
+            continue;
+        const auto place = list->visualRect(index).center();
+        QHoverEvent over(QEvent::HoverMove, place, place, place);
+        QCoreApplication::sendEvent(list->viewport(), &over);
+        return;
+    }
+}
+
+} // namespace
+
+/// A user's settings and the view of them. The view goes first.
+struct PreferencesBoard::Sample {
+    SampleDefaults defaults;
+    NoQueue queue;
+    SampleKeyboard layout;
+    DateTimeModel model{
+        {sample::clock(), defaults, sample::currentZone(), sample::zones(), sample::locale()}};
+    std::unique_ptr<PreferencesView> view;
+};
+
+PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidget(parent) {
+    setPalette(housePalette(scheme));
+    setFixedSize(boardSize);
+    addWindow(u"Preferences"_s, Icons::MenuBar);
+
+    auto& recording = addWindow(u"Recording; starred only"_s, Icons::Nowhere);
+    recording.findChild<CheckBox*>()->click();
+    auto* button = recording.findChild<ShortcutRecorder*>()->findChild<IconButton*>();
+    button->click();
+    button->setAttribute(Qt::WA_UnderMouse);
+    hold(recording, Qt::Key_Control);
+    hold(recording, Qt::Key_Meta);
+
+    addWindow(u"Searching"_s, Icons::Everywhere).findChild<SearchField*>()->setText(u"la"_s);
+}
+
+PreferencesBoard::~PreferencesBoard() = default;
+
+QSize PreferencesBoard::sizeHint() const {
+    return boardSize;
+}
+
+void PreferencesBoard::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const auto theme = Theme::of(palette());
+    const bool isDark = colorScheme(palette()) == ColorScheme::Dark;
+    painter.fillRect(rect(), isDark ? QColor(0x0e0f11) : QColor(0xc6ccd8));
+    for (std::size_t index = 0; index < m_samples.size(); ++index) {
+        const auto frame = frameOf(index);
+        fillRounded(painter, frame, windowRadius, theme.win);
+        frameRounded(painter, frame, windowRadius, theme.sep, 1);
+        const auto title = QRect(frame.topLeft(), QSize(frame.width(), titleHeight));
+        painter.setFont(textFont(font(), TextStyle::Headline));
+        painter.setPen(theme.text);
+        painter.drawText(title, Qt::AlignCenter, u"Quorvane Preferences"_s);
+    }
+}
+
+void PreferencesBoard::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    hover(*m_samples.front()->view, u"Pago Pago"_s);
+    hover(*m_samples.back()->view, u"Nome"_s);
+}
+
+PreferencesView& PreferencesBoard::addWindow(const QString& note, Icons icons) {
+    const auto frame = frameOf(m_samples.size());
+    auto& sample = *m_samples.emplace_back(std::make_unique<Sample>());
+    sample.model.setShowInMenuBar(icons != Icons::Nowhere);
+    sample.model.setShowInDock(icons == Icons::Everywhere);
+    sample.view = std::make_unique<PreferencesView>(
+        sample.model,
+        PreferencesView::Services{
+            sample.layout,
+            sample::zones(),
+            sample.queue,
+            sample::clock(),
+            [] {
+                return ShortcutRecorder::Activity::Active;
+            }},
+        [](HotKeyCombo) {},
+        this);
+    sample.view->setGeometry(QRect(frame.topLeft() + QPoint(0, titleHeight), contentSize));
+    auto* close = new IconButton(IconButton::Kind::Close, Symbol::Xmark, u"Close"_s, this);
+    close->move(
+        frame.right() + 1 - closeInset - close->sizeHint().width(), frame.top() + closeInset);
+    auto* label = new QLabel(note, this);
+    label->setFont(fixedSizeFont(font(), 11, QFont::Medium));
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setGeometry(frame.left(), margin, frame.width(), noteHeight);
+    return *sample.view;
+}
+
+QRect PreferencesBoard::frameOf(std::size_t index) const {
+    const int left = margin + static_cast<int>(index) * (contentSize.width() + margin);
+    return {
+        left,
+        margin + noteHeight + noteGap,
+        contentSize.width(),
+        titleHeight + contentSize.height()};
+}
+
+} // namespace quorvane

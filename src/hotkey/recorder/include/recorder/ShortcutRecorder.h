@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/RoleWidget.h>
+#include <foundation/MainQueue.h>
+#include <hotkey/HotKeyCombo.h>
+
+#include <QStringList>
+
+#include <array>
+#include <functional>
+
+namespace quorvane {
+
+class IconButton;
+class KeyCap;
+class KeyCapture;
+
+/// Shows a shortcut as key caps, and records another one: its button starts and ends the recording,
+/// a key with a modifier becomes the new shortcut, Escape leaves the old one.
+class ShortcutRecorder final : public RoleWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int height = 32;
+
+    /// The shortcut is the caller's own. `set` is called as soon as one is recorded.
+    struct Binding {
+        std::function<HotKeyCombo()> get;
+        std::function<void(HotKeyCombo)> set;
+    };
+
+    /// Whether presses of the shortcut reach the program.
+    enum class Activity {
+        Active,
+        HeldElsewhere, ///< by another program
+        Unavailable    ///< this desktop lets no program have one
+    };
+
+    /// `layout` and `queue` must outlive the recorder.
+    ShortcutRecorder(
+        Binding combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent = nullptr);
+
+    [[nodiscard]] HotKeyCombo combo() const { return m_combo.get(); }
+
+    [[nodiscard]] bool isRecording() const { return m_isRecording; }
+
+    /// What is held at the moment, lock keys included; none while nothing is recorded.
+    [[nodiscard]] ModifierFlags previewMods() const { return m_previewMods; }
+
+    /// The labels of the key caps: of the shortcut, or of what is held while recording, and "…".
+    [[nodiscard]] QStringList keys() const;
+
+    /// Told by the caps' tooltips and the description where it is not Active.
+    void setActivity(Activity activity);
+
+    /// Shows binding and keyboard layout as they are now.
+    void refresh();
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void toggle();
+    void record(HotKeyCombo combo);
+    void setRecording(bool isRecording);
+
+    [[nodiscard]] QStringList keyNames() const;
+    [[nodiscard]] QString warning() const;
+    void refreshCaps();
+    void refreshTexts();
+
+    Binding m_combo;
+    const KeyboardLayout& m_keyboardLayout;
+    Activity m_activity = Activity::Active;
+    bool m_isRecording = false;
+    ModifierFlags m_previewMods;
+
+    KeyCapture* m_capture;
+    /// As many as there can be: a recording may end while its window is torn down, which is no
+    /// time to make widgets.
+    std::array<KeyCap*, 5> m_caps{};
+    IconButton* m_button;
+};
+
+} // namespace quorvane

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+
+namespace quorvane {
+
+/// How the user wants programs to look, as far as the desktop tells.
+struct DesktopAppearance {
+    enum class Scheme { Light, Dark };
+
+    /// In sRGB, each 0 to 1.
+    struct Accent {
+        double red;
+        double green;
+        double blue;
+
+        friend bool operator==(const Accent&, const Accent&) = default;
+    };
+
+    std::optional<Scheme> scheme{}; ///< none: the user has no preference
+    std::optional<Accent> accent{};
+    bool wantsMoreContrast = false;
+    bool wantsLessMotion = false;
+
+    friend bool operator==(const DesktopAppearance&, const DesktopAppearance&) = default;
+};
+
+/// The desktop's word on how programs look, now and whenever it changes.
+class Appearance {
+public:
+    virtual ~Appearance() = default;
+
+    /// What is known; before the first answer, nothing.
+    [[nodiscard]] virtual DesktopAppearance current() const = 0;
+
+    /// Asks the desktop, and from then on follows it. Returns at once; nobody has to wait with the
+    /// first picture for a desktop that is slow to answer.
+    virtual void read() = 0;
+
+    /// Called whenever current() has become another; replaces an earlier handler.
+    virtual void onChanged(std::function<void()> handler) = 0;
+};
+
+} // namespace quorvane

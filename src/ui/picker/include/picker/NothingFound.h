@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/SymbolPainter.h>
+
+#include <QWidget>
+
+class QLabel;
+
+namespace quorvane {
+
+/// Says in the place of an empty list why it is empty.
+class NothingFound final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Hidden, over all of its parent.
+    explicit NothingFound(QWidget* parent);
+
+    /// Shows that no zone matches the query.
+    void showFor(const QString& query);
+
+    void showMessage(Symbol symbol, const QString& text);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLabel* m_text;
+    Symbol m_symbol = Symbol::Magnifyingglass;
+};
+
+} // namespace quorvane

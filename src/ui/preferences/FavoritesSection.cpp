@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "FavoritesSection.h"
+
+#include "FavoriteListModel.h"
+#include "FavoriteRowDelegate.h"
+#include "PreferencesMetrics.h"
+#include "StarredFilter.h"
+#include "WrappedText.h"
+
+#include <controls/SearchField.h>
+#include <model/DateTimeModel.h>
+#include <picker/NothingFound.h>
+#include <picker/ZoneList.h>
+#include <picker/ZoneListKeys.h>
+
+#include <QGridLayout>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <optional>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int captionGap = 2;
+constexpr int listGap = 2; ///< the list begins with a padding of its own
+
+} // namespace
+
+FavoritesSection::FavoritesSection(
+    DateTimeModel& model, const ZoneDatabase& zones, const Clock& clock, QWidget* parent)
+    : PreferencesSection(tr("Favorite Time Zones"), parent),
+      m_model(model),
+      m_clock(clock),
+      m_search(TimeZoneCatalogue(zones, clock.now()), model.locale()),
+      m_field(new SearchField(tr("Search"), this)),
+      m_filter(new StarredFilter(this)),
+      m_rows(new FavoriteListModel(
+          clock,
+          model.locale(),
+          [this](const TimeZone& zone) {
+              return m_model.favoriteTimeZoneIdentifiers().contains(zone.identifier());
+          },
+          this)),
+      m_list(new ZoneList(this)),
+      m_nothing(new NothingFound(m_list)) {
+    m_field->setTrailingRoom(StarredFilter::room);
+    m_list->setItemDelegate(new FavoriteRowDelegate(m_list));
+    m_list->setModel(m_rows);
+    m_list->setAccessibleName(tr("Favorite Time Zones"));
+    new ZoneListKeys(*m_field, *m_list);
+    layOut();
+    connect(m_field, &SearchField::textChanged, this, &FavoritesSection::search);
+    connect(m_filter, &StarredFilter::switched, this, &FavoritesSection::search);
+    connect(m_list, &ZoneList::chosen, this, [this](const QModelIndex& index) {
+        if (const auto* zone = m_rows->zoneAt(index))
+            toggleFavorite(*zone);
+    });
+    search();
+}
+
+QString FavoritesSection::searchText() const {
+    return m_field->text();
+}
+
+bool FavoritesSection::showStarredOnly() const {
+    return m_filter->isOn();
+}
+
+std::vector<TimeZone> FavoritesSection::allTimeZones() const {
+    std::vector<TimeZone> zones;
+    for (const auto& entry : m_search.catalogue().entries())
+        zones.push_back(entry.zone);
+    return zones;
+}
+
+std::vector<TimeZone> FavoritesSection::filtered() const {
+    return showStarredOnly()
+               ? m_search.filteredStarred(
+                     searchText(), m_clock.now(), m_model.favoriteTimeZoneIdentifiers())
+               : m_search.filtered(searchText(), m_clock.now());
+}
+
+void FavoritesSection::toggleFavorite(const TimeZone& zone) {
+    auto identifiers = m_model.favoriteTimeZoneIdentifiers();
+    // One entry only: a list that was edited by hand may hold more.
+    if (!identifiers.removeOne(zone.identifier()))
+        identifiers.append(zone.identifier());
+    m_model.setFavoriteTimeZoneIdentifiers(identifiers);
+}
+
+void FavoritesSection::refresh() {
+    if (!showStarredOnly()) {
+        m_rows->selectionChanged();
+        return;
+    }
+    const auto current = m_list->currentIndex();
+    const auto* currentZone = m_rows->zoneAt(current);
+    std::optional<int> row;
+    if (currentZone != nullptr) {
+        const auto zones = filtered();
+        const auto found = std::ranges::find(zones, *currentZone);
+        // What is gone leaves its place to the row that follows it.
+        row = found != zones.end() ? static_cast<int>(found - zones.begin()) : current.row();
+    }
+    const int scrolled = m_list->verticalScrollBar()->value();
+    showFiltered();
+    m_list->goBackTo(scrolled, row);
+}
+
+void FavoritesSection::layOut() {
+    auto* search = new QGridLayout;
+    search->setContentsMargins(0, 0, 0, 0);
+    search->addWidget(m_field, 0, 0);
+    search->addWidget(m_filter, 0, 0, Qt::AlignRight | Qt::AlignVCenter);
+    m_filter->raise();
+    column().addSpacing(captionGap);
+    column().addWidget(new WrappedText(
+        tr("Favorites appear as one-click chips in the popover."),
+        TextStyle::Caption,
+        WrappedText::Ink::Secondary));
+    column().addSpacing(preferencesmetrics::rowSpacing);
+    column().addLayout(search);
+    column().addSpacing(listGap);
+    column().addWidget(m_list, 1);
+}
+
+void FavoritesSection::search() {
+    showFiltered();
+    m_list->goToTop();
+}
+
+void FavoritesSection::showFiltered() {
+    m_rows->setSections({{{}, filtered()}});
+    if (m_rows->rowCount() > 0)
+        m_nothing->hide();
+    else if (normalisedQuery(searchText()).isEmpty())
+        m_nothing->showMessage(Symbol::Star, tr("No favorite time zones"));
+    else
+        m_nothing->showFor(searchText().trimmed());
+}
+
+} // namespace quorvane

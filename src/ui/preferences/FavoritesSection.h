@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PreferencesSection.h"
+
+#include <foundation/Clock.h>
+#include <foundation/ZoneDatabase.h>
+#include <timezones/ZoneSearch.h>
+
+namespace quorvane {
+
+class DateTimeModel;
+class FavoriteListModel;
+class NothingFound;
+class SearchField;
+class StarredFilter;
+class ZoneList;
+
+/// The zones that are offered with one click: a searchable list of all, in which one stars them.
+class FavoritesSection final : public PreferencesSection {
+    Q_OBJECT
+
+public:
+    /// What is referred to must outlive the section.
+    FavoritesSection(
+        DateTimeModel& model, const ZoneDatabase& zones, const Clock& clock, QWidget* parent);
+
+    [[nodiscard]] SearchField& field() const { return *m_field; }
+
+    [[nodiscard]] QString searchText() const;
+    [[nodiscard]] bool showStarredOnly() const;
+    [[nodiscard]] std::vector<TimeZone> allTimeZones() const;
+    [[nodiscard]] std::vector<TimeZone> filtered() const;
+
+    void toggleFavorite(const TimeZone& zone);
+
+    /// Shows which zones are favourites now, with the list as it was scrolled.
+    void refresh();
+
+private:
+    void layOut();
+    void search();
+    void showFiltered();
+
+    DateTimeModel& m_model;
+    const Clock& m_clock;
+    ZoneSearch m_search;
+    SearchField* m_field;
+    StarredFilter* m_filter;
+    FavoriteListModel* m_rows;
+    ZoneList* m_list;
+    NothingFound* m_nothing;
+};
+
+} // namespace quorvane

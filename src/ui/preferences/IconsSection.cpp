@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "IconsSection.h"
+
+#include "PreferencesMetrics.h"
+#include "WrappedText.h"
+
+#include <model/DateTimeModel.h>
+
+#include <QVBoxLayout>
+
+namespace quorvane {
+
+namespace {
+
+/// Ends as far beyond its ink as the switches do, so that what follows keeps its distance from
+/// either.
+QWidget* makeNote(const QString& text, QWidget* parent) {
+    auto* note = new QWidget(parent);
+    auto* column = new QVBoxLayout(note);
+    column->setContentsMargins(
+        0, preferencesmetrics::captionSpacing - SwitchRow::reach, 0, IconsSection::reach);
+    column->addWidget(new WrappedText(text, TextStyle::Caption, WrappedText::Ink::Secondary));
+    return note;
+}
+
+} // namespace
+
+IconsSection::IconsSection(DateTimeModel& model, QWidget* parent)
+    : PreferencesSection(tr("Menu Bar & Dock"), parent),
+      m_model(model),
+      m_menuBar(new SwitchRow(tr("Show icon in menu bar"), this)),
+      m_dock(
+          new SwitchRow(tr("Show icon in Dock (poorly supported — use at own annoyance)"), this)),
+      m_note(makeNote(tr("Open Quorvane from Finder to access Preferences."), this)) {
+    column().addSpacing(preferencesmetrics::rowSpacing - SwitchRow::reach);
+    column().addWidget(m_menuBar);
+    column().addSpacing(preferencesmetrics::rowSpacing - 2 * SwitchRow::reach);
+    column().addWidget(m_dock);
+    column().addWidget(m_note);
+    connect(m_menuBar, &SwitchRow::switched, &m_model, &DateTimeModel::setShowInMenuBar);
+    connect(m_dock, &SwitchRow::switched, &m_model, &DateTimeModel::setShowInDock);
+    refresh();
+}
+
+void IconsSection::refresh() {
+    m_menuBar->setOn(m_model.showInMenuBar());
+    m_dock->setOn(m_model.showInDock());
+    m_note->setVisible(!m_model.showInMenuBar() && !m_model.showInDock());
+}
+
+} // namespace quorvane

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PreferencesSection.h"
+#include "SwitchRow.h"
+
+namespace quorvane {
+
+class DateTimeModel;
+
+/// Where the program's icon shows. It may show nowhere; a note then says how to come back.
+class IconsSection final : public PreferencesSection {
+    Q_OBJECT
+
+public:
+    /// How far the section reaches beyond its ink, at its lower end.
+    static constexpr int reach = SwitchRow::reach;
+
+    IconsSection(DateTimeModel& model, QWidget* parent);
+
+    void refresh();
+
+private:
+    DateTimeModel& m_model;
+    SwitchRow* m_menuBar;
+    SwitchRow* m_dock;
+    QWidget* m_note;
+};
+
+} // namespace quorvane

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// The measures of the preferences, in points.
+namespace quorvane::preferencesmetrics {
+
+inline constexpr int width = 400;
+inline constexpr int margin = 10;
+inline constexpr int dividerSpacing = 14; ///< on either side of a divider
+inline constexpr int rowSpacing = 8;
+inline constexpr int captionSpacing = 6;
+
+} // namespace quorvane::preferencesmetrics

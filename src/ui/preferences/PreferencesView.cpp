@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "Divider.h"
+#include "FavoritesSection.h"
+#include "IconsSection.h"
+#include "PreferencesMetrics.h"
+#include "ShortcutSection.h"
+
+#include <controls/SearchField.h>
+#include <preferences/PreferencesView.h>
+
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quorvane {
+
+PreferencesView::PreferencesView(
+    DateTimeModel& model, Services services, OnHotKeyChange onHotKeyChange, QWidget* parent)
+    : QWidget(parent),
+      m_model(model),
+      m_services(std::move(services)),
+      m_onHotKeyChange(std::move(onHotKeyChange)),
+      m_editingCombo(model.hotKey()),
+      m_refresh(m_services.mainQueue, [this] { refresh(); }),
+      m_shortcut(new ShortcutSection(
+          {[this] { return m_editingCombo; },
+           [this](HotKeyCombo combo) {
+               change(combo);
+           }},
+          m_services.keyboardLayout,
+          m_services.mainQueue,
+          this)),
+      m_icons(new IconsSection(model, this)),
+      m_favorites(new FavoritesSection(model, m_services.zones, m_services.clock, this)) {
+    setFixedWidth(preferencesmetrics::width);
+    layOut();
+    connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });
+    refresh();
+    // One opens the preferences to find a zone more often than for anything else, and only here is
+    // there something to type into; Tab leads on from it, and around to the top.
+    m_favorites->field().setFocus(Qt::OtherFocusReason);
+}
+
+PreferencesView::~PreferencesView() {
+    // Ends a recording that is under way, while what it reads from is still there.
+    hide();
+}
+
+QString PreferencesView::searchText() const {
+    return m_favorites->searchText();
+}
+
+bool PreferencesView::showStarredOnly() const {
+    return m_favorites->showStarredOnly();
+}
+
+std::vector<TimeZone> PreferencesView::allTimeZones() const {
+    return m_favorites->allTimeZones();
+}
+
+std::vector<TimeZone> PreferencesView::filtered() const {
+    return m_favorites->filtered();
+}
+
+void PreferencesView::toggleFavorite(const TimeZone& zone) {
+    m_favorites->toggleFavorite(zone);
+}
+
+void PreferencesView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    m_editingCombo = m_model.hotKey();
+    refresh();
+}
+
+void PreferencesView::layOut() {
+    using namespace preferencesmetrics;
+    // Switches reach beyond their ink, and so does their section below.
+    constexpr int afterSwitches = dividerSpacing - IconsSection::reach;
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, 0);
+    column->setSpacing(0);
+    column->addWidget(m_shortcut);
+    column->addSpacing(dividerSpacing);
+    column->addWidget(new Divider(this));
+    column->addSpacing(dividerSpacing);
+    column->addWidget(m_icons);
+    column->addSpacing(afterSwitches);
+    column->addWidget(new Divider(this));
+    column->addSpacing(dividerSpacing);
+    column->addWidget(m_favorites, 1);
+}
+
+void PreferencesView::change(HotKeyCombo combo) {
+    m_editingCombo = combo;
+    m_onHotKeyChange(combo);
+    m_refresh.schedule();
+}
+
+void PreferencesView::refresh() {
+    m_shortcut->recorder().setActivity(m_services.shortcutActivity());
+    m_icons->refresh();
+    m_favorites->refresh();
+}
+
+} // namespace quorvane

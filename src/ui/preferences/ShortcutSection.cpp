@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "ShortcutSection.h"
+
+#include "PreferencesMetrics.h"
+#include "WrappedText.h"
+
+#include <QHBoxLayout>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int labelGap = 12;
+
+} // namespace
+
+ShortcutSection::ShortcutSection(
+    ShortcutRecorder::Binding combo,
+    const KeyboardLayout& layout,
+    MainQueue& queue,
+    QWidget* parent)
+    : PreferencesSection(tr("Keyboard Shortcut"), parent),
+      m_recorder(new ShortcutRecorder(std::move(combo), layout, queue, this)) {
+    const auto name = tr("Invoke Quorvane");
+    m_recorder->setAccessibleName(name);
+    auto* label = new WrappedText(name, TextStyle::Body, WrappedText::Ink::Secondary, this);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(labelGap);
+    row->addWidget(label, 0, Qt::AlignVCenter);
+    row->addWidget(m_recorder, 1);
+    column().addSpacing(preferencesmetrics::rowSpacing);
+    column().addLayout(row);
+    column().addSpacing(preferencesmetrics::captionSpacing);
+    column().addWidget(new WrappedText(
+        tr("Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."),
+        TextStyle::Caption,
+        WrappedText::Ink::Secondary));
+}
+
+} // namespace quorvane

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <picker/TimeZoneRow.h>
+
+namespace quorvane {
+
+/// What the list of favourites shows of one zone at one instant.
+class FavoriteTZRow {
+public:
+    explicit FavoriteTZRow(TimeZoneRow row) : m_row(std::move(row)) {}
+
+    /// "New York" of "America/New_York".
+    [[nodiscard]] QString label() const { return m_row.city(); }
+
+    /// "UTC-5".
+    [[nodiscard]] QString offsetString() const { return m_row.offsetString(); }
+
+    /// None where the zone has none, or one that begins with "GMT": that says what the offset says.
+    [[nodiscard]] std::optional<QString> abbreviation() const;
+
+    /// Offset and abbreviation, as one reads them out.
+    [[nodiscard]] QString description() const;
+
+private:
+    TimeZoneRow m_row;
+};
+
+} // namespace quorvane

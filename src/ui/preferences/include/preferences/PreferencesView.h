@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <foundation/CoalescedRefresh.h>
+#include <foundation/MainQueue.h>
+#include <foundation/ZoneDatabase.h>
+#include <model/DateTimeModel.h>
+#include <platform/KeyboardLayout.h>
+#include <recorder/ShortcutRecorder.h>
+
+#include <QWidget>
+
+#include <functional>
+
+namespace quorvane {
+
+class FavoritesSection;
+class IconsSection;
+class ShortcutSection;
+
+/// The settings that the main interface does not show: the shortcut, where the icon shows, and the
+/// favourite zones. Changes take effect at once. As wide as its window is to be; the list takes
+/// whatever height there is.
+class PreferencesView final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// What the view works with; all must outlive it.
+    struct Services {
+        const KeyboardLayout& keyboardLayout;
+        const ZoneDatabase& zones;
+        MainQueue& mainQueue;
+        const Clock& clock;
+        /// Whether the shortcut reaches the program; asked when the view shows or has changed it.
+        std::function<ShortcutRecorder::Activity()> shortcutActivity;
+    };
+
+    /// Puts a newly recorded shortcut into effect.
+    using OnHotKeyChange = std::function<void(HotKeyCombo)>;
+
+    PreferencesView(
+        DateTimeModel& model,
+        Services services,
+        OnHotKeyChange onHotKeyChange,
+        QWidget* parent = nullptr);
+    ~PreferencesView() override;
+
+    [[nodiscard]] QString searchText() const;
+    [[nodiscard]] bool showStarredOnly() const;
+
+    /// What the recorder shows: the model's shortcut when the view opens, then what is recorded.
+    [[nodiscard]] HotKeyCombo editingCombo() const { return m_editingCombo; }
+
+    /// The whole catalogue, as it was ordered when the view was made.
+    [[nodiscard]] std::vector<TimeZone> allTimeZones() const;
+
+    /// What the list shows: the catalogue in its order, by filter and search text.
+    [[nodiscard]] std::vector<TimeZone> filtered() const;
+
+    /// Stars the zone as the last of the favourites, or removes it from them.
+    void toggleFavorite(const TimeZone& zone);
+
+    /// Shows everything anew on a later turn, for changes that the model does not announce: of the
+    /// keyboard layout, and of who holds the shortcut.
+    void refreshSoon() { m_refresh.schedule(); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void layOut();
+    void change(HotKeyCombo combo);
+    void refresh();
+
+    DateTimeModel& m_model;
+    Services m_services;
+    OnHotKeyChange m_onHotKeyChange;
+    HotKeyCombo m_editingCombo;
+    CoalescedRefresh m_refresh;
+
+    ShortcutSection* m_shortcut;
+    IconsSection* m_icons;
+    FavoritesSection* m_favorites;
+};
+
+} // namespace quorvane

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include <app/AppearanceFollower.h>
+#include <controls/Theme.h>
+#include <fakes/FakeAppearance.h>
+
+#include <QApplication>
+#include <QStyle>
+#include <QStyleFactory>
+#include <gtest/gtest.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using PaletteFrom = AppearanceFollower::PaletteFrom;
+using Scheme = DesktopAppearance::Scheme;
+
+class AppearanceFollowerTest : public testing::Test {
+protected:
+    FakeAppearance desktop;
+
+    ~AppearanceFollowerTest() override {
+        QApplication::setPalette(QPalette());
+        QApplication::setStyle(u"fusion"_s);
+    }
+
+    static QColor ground() { return QApplication::palette().color(QPalette::Window); }
+
+    static int animationDuration() {
+        return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration);
+    }
+};
+
+TEST_F(AppearanceFollowerTest, StylesOwnPaletteComesFromNoDesktop) {
+    EXPECT_EQ(AppearanceFollower::paletteSource(), PaletteFrom::House);
+    QApplication::setPalette(QPalette(Qt::darkGreen));
+    EXPECT_EQ(AppearanceFollower::paletteSource(), PaletteFrom::Desktop);
+}
+
+TEST_F(AppearanceFollowerTest, WithoutAPreferenceTheHouseIsLight) {
+    const AppearanceFollower follower(desktop, PaletteFrom::House);
+    EXPECT_EQ(ground(), QColor(0xf6f6f8));
+}
+
+TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastShowAtOnceAndGoAgain) {
+    const AppearanceFollower follower(desktop, PaletteFrom::House);
+    desktop.change({.scheme = Scheme::Dark});
+    EXPECT_EQ(ground(), QColor(0x1d1e21));
+    EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x4666ea));
+    desktop.change({.scheme = Scheme::Light, .accent = DesktopAppearance::Accent{0.6, 0, 0}});
+    EXPECT_EQ(ground(), QColor(0xf6f6f8));
+    EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x990000));
+    desktop.change({.wantsMoreContrast = true});
+    EXPECT_EQ(ground(), QColor(Qt::white));
+    EXPECT_EQ(Theme::of(QApplication::palette()).sep, QColor(Qt::black));
+    desktop.change({.scheme = Scheme::Dark, .wantsMoreContrast = true});
+    EXPECT_EQ(ground(), QColor(Qt::black));
+    desktop.change({});
+    EXPECT_EQ(QApplication::palette(), housePalette(ColorScheme::Light));
+}
+
+TEST_F(AppearanceFollowerTest, PaletteOfADesktopIsLeftToQt) {
+    const QPalette given(Qt::darkGreen);
+    QApplication::setPalette(given);
+    const AppearanceFollower follower(desktop, PaletteFrom::Desktop);
+    desktop.change({.scheme = Scheme::Dark, .wantsMoreContrast = true});
+    EXPECT_EQ(ground(), given.color(QPalette::Window));
+}
+
+TEST_F(AppearanceFollowerTest, MotionStopsAndComesBackWhileTheProgramRuns) {
+    QApplication::setStyle(u"fusion"_s);
+    const int usual = animationDuration();
+    ASSERT_GT(usual, 0);
+    const AppearanceFollower follower(desktop, PaletteFrom::Desktop);
+    EXPECT_EQ(animationDuration(), usual);
+    desktop.change({.wantsLessMotion = true});
+    EXPECT_EQ(animationDuration(), 0);
+    desktop.change({});
+    EXPECT_EQ(animationDuration(), usual);
+}
+
+TEST_F(AppearanceFollowerTest, AStyleThatTheDesktopExchangesIsLetGo) {
+    const AppearanceFollower follower(desktop, PaletteFrom::House);
+    QApplication::setStyle(u"windows"_s);
+    desktop.change({.scheme = Scheme::Dark, .wantsLessMotion = true});
+    EXPECT_EQ(ground(), QColor(0x1d1e21));
+}
+
+TEST_F(AppearanceFollowerTest, NothingIsFollowedAfterTheEnd) {
+    { const AppearanceFollower follower(desktop, PaletteFrom::House); }
+    desktop.change({.scheme = Scheme::Dark});
+    EXPECT_EQ(ground(), QColor(0xf6f6f8));
+}
+
+} // namespace
+} // namespace quorvane

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+// Messages arrive on the main loop.
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace quorvane {
+
+/// A message bus of the test's own, which starts no services.
+class PrivateBus {
+public:
+    PrivateBus();
+    ~PrivateBus();
+
+    PrivateBus(const PrivateBus&) = delete;
+    PrivateBus& operator=(const PrivateBus&) = delete;
+
+    /// A new connection, as another program would have it; closed at the end of the bus.
+    [[nodiscard]] QDBusConnection connection();
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_daemon;
+    QString m_address;
+    QStringList m_connections;
+};
+
+} // namespace quorvane

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include <controls/KeyCap.h>
+#include <controls/SearchField.h>
+#include <controls/Theme.h>
+#include <entry/CalendarPicker.h>
+#include <entry/TimePickerPopover.h>
+#include <fakes/CallLog.h>
+#include <fakes/FakeKeyboardLayout.h>
+#include <fakes/FakePasteboard.h>
+#include <fakes/FixedClock.h>
+#include <fakes/FixedCurrentZone.h>
+#include <fakes/MemoryDefaults.h>
+#include <picker/TimeZonePickerView.h>
+#include <ui/PopoverView.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <ostream>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// What every view needs, at 2024-03-09T22:05:00Z in New York.
+struct World {
+    VirtualMainQueue queue;
+    CallLog log{queue};
+    FakePasteboard pasteboard{log, queue};
+    FakeKeyboardLayout layout;
+    ZoneDatabase zones;
+    FixedClock clock{Instant{1710021900}};
+    FixedCurrentZone currentZone{*zones.zone(u"America/New_York"_s)};
+    MemoryDefaults defaults;
+    UserLocale locale = UserLocale::named(u"en_US"_s);
+    DateTimeModel model{{clock, defaults, currentZone, zones, locale}};
+    DateBinding date{
+        [this] { return clock.now(); },
+        [](Instant) {
+        }};
+    std::vector<TimeZone> selection;
+};
+
+/// Fields in many parents: a change of the application's palette reaches its widgets in no order.
+std::unique_ptr<QWidget> makeFields(World&) {
+    constexpr int count = 24;
+    auto window = std::make_unique<QWidget>();
+    auto* column = new QVBoxLayout(window.get());
+    for (int index = 0; index < count; ++index) {
+        auto* parent = new QWidget(window.get());
+        auto* row = new QHBoxLayout(parent);
+        auto* pattern = new TextField(parent);
+        pattern->setPlaceholderText(u"Pattern"_s);
+        auto* search = new SearchField(u"Search"_s, parent);
+        search->setText(u"york"_s);
+        row->addWidget(pattern);
+        row->addWidget(search);
+        row->addWidget(new KeyCap(u"⌘"_s, parent));
+        column->addWidget(parent);
+    }
+    return window;
+}
+
+struct View {
+    const char* name;
+    std::function<std::unique_ptr<QWidget>(World&)> make;
+};
+
+void PrintTo(const View& view, std::ostream* out) {
+    *out << view.name;
+}
+
+const View views[] = {
+    {"Panel",
+     [](World& world) {
+         return std::make_unique<PopoverView>(
+             world.model,
+             PopoverView::Services{
+                 world.pasteboard,
+                 world.layout,
+                 world.zones,
+                 world.queue,
+                 world.clock,
+                 world.currentZone,
+                 {}},
+             PopoverView::Callbacks{});
+     }},
+    {"Calendar",
+     [](World& world) {
+         return std::make_unique<CalendarPicker>(
+             world.date,
+             nullptr,
+             EntrySurroundings{world.clock, world.currentZone, world.locale, {}});
+     }},
+    {"Time",
+     [](World& world) {
+         return std::make_unique<TimePickerPopover>(world.date, world.currentZone);
+     }},
+    {"Zones",
+     [](World& world) {
+         return std::make_unique<TimeZonePickerView>(
+             TimeZonePickerView::Selection{
+                 [&world] { return world.selection; },
+                 [](const std::vector<TimeZone>&) {
+                 }},
+             QStringList{u"Asia/Tokyo"_s},
+             TimeZonePickerView::Surroundings{world.zones, world.clock, world.locale});
+     }},
+    {"Fields", makeFields},
+};
+
+class LivePalette : public testing::TestWithParam<View> {
+protected:
+    World world;
+
+    ~LivePalette() override { QApplication::setPalette(QPalette()); }
+
+    std::unique_ptr<QWidget> open() {
+        auto view = GetParam().make(world);
+        view->resize(504, 640);
+        view->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(view.get()));
+        return view;
+    }
+
+    /// Without the focus, which only one of two windows can have.
+    static QImage picture(QWidget& view) {
+        if (auto* focused = view.focusWidget())
+            focused->clearFocus();
+        QImage image(view.size(), QImage::Format_RGB32);
+        view.render(&image);
+        return image;
+    }
+
+    static std::vector<QPalette> fieldPalettes(QWidget& view) {
+        std::vector<QPalette> palettes;
+        for (const auto* field : view.findChildren<QLineEdit*>())
+            palettes.push_back(field->palette());
+        return palettes;
+    }
+};
+
+TEST_P(LivePalette, AViewThatLivedThroughTheChangeLooksLikeOneMadeAfterIt) {
+    QApplication::setPalette(housePalette(ColorScheme::Light));
+    const auto old = open();
+    const auto light = picture(*old);
+    const QPalette changes[] = {
+        housePalette(ColorScheme::Dark),
+        housePalette(ColorScheme::Dark, Contrast::Normal, QColor(0xe95420)),
+        housePalette(ColorScheme::Light, Contrast::High),
+        housePalette(ColorScheme::Dark, Contrast::High),
+        housePalette(ColorScheme::Light)};
+    for (const auto& palette : changes) {
+        QApplication::setPalette(palette);
+        const auto fresh = open();
+        EXPECT_EQ(picture(*old), picture(*fresh));
+        EXPECT_EQ(fieldPalettes(*old), fieldPalettes(*fresh));
+    }
+    EXPECT_EQ(picture(*old), light);
+}
+
+INSTANTIATE_TEST_SUITE_P(, LivePalette, testing::ValuesIn(views), [](const auto& test) {
+    return test.param.name;
+});
+
+} // namespace
+} // namespace quorvane

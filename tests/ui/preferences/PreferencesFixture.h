@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/FocusRing.h>
+#include <controls/Theme.h>
+#include <fakes/FakeKeyboardLayout.h>
+#include <fakes/FixedClock.h>
+#include <fakes/FixedCurrentZone.h>
+#include <fakes/MemoryDefaults.h>
+#include <fakes/VirtualMainQueue.h>
+#include <preferences/PreferencesView.h>
+#include <support/PhysicalKeyboard.h>
+#include <support/WidgetSearch.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quorvane {
+
+/// The preferences of a user in New York, at 2024-01-15T12:00:00Z, in their window.
+class PreferencesFixture : public testing::Test {
+protected:
+    VirtualMainQueue queue;
+    FakeKeyboardLayout layout;
+    ZoneDatabase zones;
+    FixedClock clock{Instant{1705320000}};
+    FixedCurrentZone currentZone{*zones.zone(QStringLiteral("America/New_York"))};
+    MemoryDefaults defaults;
+    ShortcutRecorder::Activity activity = ShortcutRecorder::Activity::Active;
+    std::vector<HotKeyCombo> changes;
+    std::unique_ptr<DateTimeModel> model;
+    std::unique_ptr<PreferencesView> view;
+    std::unique_ptr<PhysicalKeyboard> keyboard;
+
+    PreferencesFixture() {
+        layout.setKey(2, u"d");
+        layout.setKey(40, u"k");
+        defaults.setStringArray(
+            DateTimeModel::favoritesKey,
+            {QStringLiteral("Asia/Tokyo"),
+             QStringLiteral("Nowhere/Atlantis"),
+             QStringLiteral("Europe/Paris"),
+             QStringLiteral("America/New_York")});
+        model = std::make_unique<DateTimeModel>(DateTimeModel::Surroundings{
+            clock, defaults, currentZone, zones, UserLocale::named(QStringLiteral("en_US"))});
+        openView();
+    }
+
+    void openView() {
+        view = std::make_unique<PreferencesView>(
+            *model,
+            PreferencesView::Services{
+                layout,
+                zones,
+                queue,
+                clock,
+                [this] {
+                    return activity;
+                }},
+            [this](HotKeyCombo combo) {
+                changes.push_back(combo);
+                EXPECT_EQ(view->editingCombo(), combo);
+                model->setHotKey(combo);
+            });
+        auto font = view->font();
+        font.setPixelSize(13);
+        view->setFont(font);
+        view->setPalette(housePalette(ColorScheme::Light));
+        view->resize(400, 540);
+        new FocusRing(view.get());
+        keyboard = std::make_unique<PhysicalKeyboard>(*view);
+        view->show();
+        view->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    }
+
+    template <typename Widget>
+    Widget& find(QAccessible::Role role, const QString& name) {
+        auto* widget = qobject_cast<Widget*>(widgetByRole(*view, role, name));
+        EXPECT_NE(widget, nullptr) << name.toStdString();
+        return *widget;
+    }
+
+    QAbstractButton& box(const QString& name) {
+        return find<QAbstractButton>(QAccessible::CheckBox, name);
+    }
+
+    QAbstractButton& button(const QString& name) {
+        return find<QAbstractButton>(QAccessible::Button, name);
+    }
+
+    QLineEdit& field() {
+        return find<QLineEdit>(QAccessible::EditableText, QStringLiteral("Search"));
+    }
+
+    QListView& list() {
+        return find<QListView>(QAccessible::List, QStringLiteral("Favorite Time Zones"));
+    }
+
+    QAbstractButton& starredOnly() { return box(QStringLiteral("Show starred only")); }
+
+    QLabel* label(const QString& text) {
+        return qobject_cast<QLabel*>(widgetByRole(*view, QAccessible::StaticText, text));
+    }
+
+    bool shows(const QString& text) {
+        const auto* found = label(text);
+        return found != nullptr && found->isVisible();
+    }
+
+    int count() { return list().model()->rowCount(); }
+
+    QModelIndex row(int number) { return list().model()->index(number, 0); }
+
+    int rowOf(const QString& city) {
+        for (int number = 0; number < count(); ++number) {
+            if (row(number).data().toString() == city)
+                return number;
+        }
+        return -1;
+    }
+
+    QStringList cities() {
+        QStringList names;
+        for (int number = 0; number < count(); ++number)
+            names.append(row(number).data().toString());
+        return names;
+    }
+
+    bool isStarred(const QString& city) {
+        return row(rowOf(city)).data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
+    }
+
+    void pressRow(const QString& city) {
+        const auto index = row(rowOf(city));
+        list().scrollTo(index);
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(index).center());
+    }
+
+    const QStringList& favorites() { return model->favoriteTimeZoneIdentifiers(); }
+};
+
+} // namespace quorvane

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "PreferencesFixture.h"
+
+#include <QLayout>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PreferencesLayoutTest : public PreferencesFixture {
+protected:
+    void settle() {
+        view->ensurePolished();
+        view->layout()->activate();
+        for (auto* child : view->findChildren<QWidget*>()) {
+            if (child->layout() != nullptr)
+                child->layout()->activate();
+        }
+    }
+
+    void setBody(int pixels) {
+        auto font = view->font();
+        font.setPixelSize(pixels);
+        view->setFont(font);
+        settle();
+    }
+
+    QRect placeOf(const QWidget& widget) {
+        return {widget.mapTo(view.get(), QPoint()), widget.size()};
+    }
+
+    QRect placeOf(const QString& text) { return placeOf(*label(text)); }
+};
+
+TEST_F(PreferencesLayoutTest, HasTheMeasuresOfTheLook) {
+    settle();
+    EXPECT_EQ(view->width(), 400);
+    EXPECT_EQ(placeOf(u"Keyboard Shortcut"_s).topLeft(), QPoint(10, 10));
+    const auto recorder = placeOf(*view->findChild<ShortcutRecorder*>());
+    EXPECT_EQ(recorder.top(), 10 + 16 + 8);
+    EXPECT_EQ(recorder.height(), 32);
+    EXPECT_EQ(recorder.right(), 389);
+    const auto label = placeOf(u"Invoke Quorvane"_s);
+    EXPECT_EQ(label.left(), 10);
+    EXPECT_EQ(label.right() + 1 + 12, recorder.left());
+    EXPECT_NEAR(label.center().y(), recorder.center().y(), 1);
+    const auto caption = placeOf(u"Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."_s);
+    EXPECT_EQ(caption.top(), recorder.bottom() + 1 + 6);
+    EXPECT_EQ(caption.height(), 14);
+    EXPECT_EQ(placeOf(u"Menu Bar & Dock"_s).top(), caption.bottom() + 1 + 14 + 1 + 14);
+    EXPECT_EQ(placeOf(field()).height(), 32);
+    EXPECT_EQ(placeOf(field()).left(), 10);
+    EXPECT_EQ(placeOf(field()).right(), 389);
+    EXPECT_EQ(placeOf(list()).bottom(), view->rect().bottom());
+    EXPECT_EQ(placeOf(*list().viewport()).top(), placeOf(field()).bottom() + 1 + 6);
+    EXPECT_EQ(list().visualRect(row(0)).height(), 36);
+}
+
+TEST_F(PreferencesLayoutTest, SwitchesEndWithTheColumnLevelWithTheFirstLine) {
+    settle();
+    auto& dock = box(u"Show icon in Dock (poorly supported — use at own annoyance)"_s);
+    const auto text = placeOf(dock.accessibleName());
+    EXPECT_EQ(placeOf(dock).right(), 389);
+    EXPECT_EQ(text.height(), 32); // two lines
+    EXPECT_NEAR(placeOf(dock).center().y(), text.top() + 8, 1);
+}
+
+TEST_F(PreferencesLayoutTest, ListTakesTheHeightThatThereIs) {
+    settle();
+    const int before = list().height();
+    view->resize(400, 640);
+    settle();
+    EXPECT_EQ(list().height(), before + 100);
+    EXPECT_EQ(view->minimumWidth(), view->maximumWidth());
+    EXPECT_LE(view->minimumSizeHint().height(), 540);
+}
+
+TEST_F(PreferencesLayoutTest, NothingOverlapsInSmallAndLargeFonts) {
+    for (const int pixels : {9, 13, 16, 20}) {
+        setBody(pixels);
+        const std::vector<QWidget*> column{
+            label(u"Keyboard Shortcut"_s),
+            view->findChild<ShortcutRecorder*>(),
+            label(u"Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."_s),
+            label(u"Menu Bar & Dock"_s),
+            label(u"Show icon in menu bar"_s),
+            label(u"Show icon in Dock (poorly supported — use at own annoyance)"_s),
+            label(u"Favorite Time Zones"_s),
+            label(u"Favorites appear as one-click chips in the popover."_s),
+            &field(),
+            &list()};
+        for (std::size_t index = 1; index < column.size(); ++index)
+            EXPECT_GT(placeOf(*column[index]).top(), placeOf(*column[index - 1]).bottom())
+                << pixels << " at " << index;
+        for (const auto* text : view->findChildren<QLabel*>()) {
+            if (!text->isVisible() || !text->wordWrap())
+                continue;
+            EXPECT_GE(text->height(), text->heightForWidth(text->width()))
+                << pixels << " " << text->text().toStdString();
+        }
+        EXPECT_GE(list().height(), 100) << pixels;
+        EXPECT_GE(
+            list().visualRect(row(0)).height(),
+            QFontMetrics(view->font()).height() + QFontMetrics(view->font()).height() * 10 / 13);
+    }
+}
+
+TEST_F(PreferencesLayoutTest, MirrorsWhereTextRunsFromRightToLeft) {
+    view->setLayoutDirection(Qt::RightToLeft);
+    settle();
+    EXPECT_EQ(placeOf(box(u"Show icon in menu bar"_s)).left(), 10);
+    EXPECT_EQ(placeOf(u"Keyboard Shortcut"_s).right(), 389);
+    EXPECT_EQ(placeOf(*view->findChild<ShortcutRecorder*>()).left(), 10);
+    const auto starred = placeOf(starredOnly());
+    EXPECT_LT(starred.right(), placeOf(field()).center().x());
+    EXPECT_GT(starred.left(), placeOf(*starredOnly().parentWidget()).left());
+}
+
+} // namespace
+} // namespace quorvane

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "PreferencesFixture.h"
+
+#include <controls/KeyCap.h>
+
+#include <QShortcut>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace physicalkey;
+
+const auto menuBar = u"Show icon in menu bar"_s;
+const auto dock = u"Show icon in Dock (poorly supported — use at own annoyance)"_s;
+const auto wayBack = u"Open Quorvane from Finder to access Preferences."_s;
+
+class PreferencesViewTest : public PreferencesFixture {
+protected:
+    ShortcutRecorder& recorder() {
+        return find<ShortcutRecorder>(QAccessible::Grouping, u"Invoke Quorvane"_s);
+    }
+
+    void startRecording() {
+        QTest::mouseClick(&button(u"Record new shortcut"_s), Qt::LeftButton);
+        queue.run();
+        ASSERT_TRUE(recorder().isRecording());
+    }
+};
+
+TEST_F(PreferencesViewTest, SaysWhatItIsAbout) {
+    for (const auto& text :
+         {u"Keyboard Shortcut"_s,
+          u"Invoke Quorvane"_s,
+          u"Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."_s,
+          u"Menu Bar & Dock"_s,
+          menuBar,
+          dock,
+          u"Favorite Time Zones"_s,
+          u"Favorites appear as one-click chips in the popover."_s})
+        EXPECT_TRUE(shows(text)) << text.toStdString();
+    EXPECT_EQ(field().placeholderText(), u"Search"_s);
+}
+
+TEST_F(PreferencesViewTest, HeadingsNameTheirGroups) {
+    const auto groupOf = [](const QWidget& control) {
+        auto* interface = QAccessible::queryAccessibleInterface(control.parentWidget());
+        while (interface != nullptr && interface->role() != QAccessible::Grouping)
+            interface = interface->parent();
+        return interface != nullptr ? interface->text(QAccessible::Name) : QString();
+    };
+    EXPECT_EQ(groupOf(recorder()), u"Keyboard Shortcut"_s);
+    EXPECT_EQ(groupOf(box(menuBar)), u"Menu Bar & Dock"_s);
+    EXPECT_EQ(groupOf(list()), u"Favorite Time Zones"_s);
+}
+
+TEST_F(PreferencesViewTest, RecordedShortcutIsShownAndHandedOn) {
+    EXPECT_EQ(view->editingCombo(), HotKeyCombo());
+    startRecording();
+    keyboard->type(k, {alt, super});
+    queue.run();
+    const HotKeyCombo recorded{40, 0x900};
+    EXPECT_EQ(view->editingCombo(), recorded);
+    EXPECT_EQ(changes, std::vector{recorded});
+    EXPECT_EQ(model->hotKey(), recorded);
+    EXPECT_EQ(recorder().keys(), (QStringList{u"⌥"_s, u"⌘"_s, u"K"_s}));
+}
+
+TEST_F(PreferencesViewTest, SameShortcutIsHandedOnAgain) {
+    startRecording();
+    keyboard->type(d, {control, shift, super});
+    EXPECT_EQ(changes, std::vector{HotKeyCombo()});
+}
+
+TEST_F(PreferencesViewTest, OpensAgainWithTheModelsShortcut) {
+    view->hide();
+    model->setHotKey({40, 0x100});
+    view->show();
+    EXPECT_EQ(view->editingCombo(), (HotKeyCombo{40, 0x100}));
+    EXPECT_EQ(recorder().keys(), (QStringList{u"⌘"_s, u"K"_s}));
+}
+
+TEST_F(PreferencesViewTest, OpensAgainAsItWasLeft) {
+    QTest::keyClicks(&field(), u"york"_s);
+    starredOnly().click();
+    view->hide();
+    view->show();
+    EXPECT_EQ(view->searchText(), u"york"_s);
+    EXPECT_TRUE(view->showStarredOnly());
+    EXPECT_EQ(count(), 1);
+}
+
+TEST_F(PreferencesViewTest, HidingCancelsARecording) {
+    startRecording();
+    keyboard->press(control);
+    view->hide();
+    EXPECT_FALSE(recorder().isRecording());
+    EXPECT_TRUE(changes.empty());
+}
+
+TEST_F(PreferencesViewTest, GoingAwayWhileRecordingHarmsNobody) {
+    startRecording();
+    view.reset();
+    queue.run();
+    EXPECT_TRUE(changes.empty());
+}
+
+TEST_F(PreferencesViewTest, EscapeBelongsToTheRecordingThenToTheWindow) {
+    int closed = 0;
+    const auto* close = new QShortcut(QKeySequence::Cancel, view.get());
+    QObject::connect(close, &QShortcut::activated, [&] { ++closed; });
+    startRecording();
+    QTest::keyClick(view->windowHandle(), Qt::Key_Escape);
+    queue.run();
+    EXPECT_FALSE(recorder().isRecording());
+    EXPECT_EQ(closed, 0);
+    QTest::keyClicks(&field(), u"york"_s);
+    QTest::keyClick(view->windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(closed, 1);
+    EXPECT_EQ(view->searchText(), u"york"_s);
+}
+
+TEST_F(PreferencesViewTest, ShortcutThatIsHeldElsewhereIsToldWhenTheViewOpensOrChangesIt) {
+    activity = ShortcutRecorder::Activity::HeldElsewhere;
+    view->hide();
+    view->show();
+    EXPECT_TRUE(recorder().accessibleDescription().contains(u"Not active"_s));
+    activity = ShortcutRecorder::Activity::Active;
+    startRecording();
+    keyboard->type(k, {super});
+    queue.run();
+    EXPECT_EQ(recorder().accessibleDescription(), u"Super, K"_s);
+}
+
+TEST_F(PreferencesViewTest, LabelsFollowTheKeyboardLayoutOnALaterTurn) {
+    layout.setKey(2, u"e");
+    view->refreshSoon();
+    queue.run();
+    QStringList labels;
+    for (const auto* cap : recorder().findChildren<KeyCap*>()) {
+        if (cap->isVisible())
+            labels.append(cap->text());
+    }
+    EXPECT_EQ(labels, (QStringList{u"⌃"_s, u"⇧"_s, u"⌘"_s, u"E"_s}));
+}
+
+TEST_F(PreferencesViewTest, SwitchesWriteTheModelAtOnce) {
+    EXPECT_TRUE(box(menuBar).isChecked());
+    EXPECT_FALSE(box(dock).isChecked());
+    QTest::mouseClick(&box(dock), Qt::LeftButton);
+    EXPECT_TRUE(model->showInDock());
+    EXPECT_TRUE(defaults.boolForKey(DateTimeModel::showInDockKey));
+    QTest::keyClick(&box(menuBar), Qt::Key_Space);
+    EXPECT_FALSE(model->showInMenuBar());
+}
+
+TEST_F(PreferencesViewTest, LabelOfASwitchTakesThePressToo) {
+    QTest::mouseClick(label(dock), Qt::LeftButton);
+    EXPECT_TRUE(model->showInDock());
+    QTest::mousePress(label(dock), Qt::LeftButton);
+    QTest::mouseRelease(label(dock), Qt::LeftButton, {}, {0, -100});
+    EXPECT_TRUE(model->showInDock());
+}
+
+TEST_F(PreferencesViewTest, WayBackIsToldWhileBothIconsAreOff) {
+    EXPECT_FALSE(shows(wayBack));
+    box(menuBar).click();
+    queue.run();
+    EXPECT_TRUE(shows(wayBack));
+    box(dock).click();
+    queue.run();
+    EXPECT_FALSE(shows(wayBack));
+    box(dock).click();
+    box(menuBar).click();
+    queue.run();
+    EXPECT_FALSE(shows(wayBack));
+}
+
+TEST_F(PreferencesViewTest, SwitchesFollowTheModel) {
+    model->setShowInDock(true);
+    model->setShowInMenuBar(false);
+    EXPECT_FALSE(box(dock).isChecked());
+    queue.run();
+    EXPECT_TRUE(box(dock).isChecked());
+    EXPECT_FALSE(box(menuBar).isChecked());
+    EXPECT_TRUE(queue.isIdle());
+}
+
+TEST_F(PreferencesViewTest, OpensReadyToSearch) {
+    EXPECT_EQ(view->focusWidget(), &field());
+    QTest::keyClicks(view->focusWidget(), u"kathmandu"_s);
+    EXPECT_EQ(cities(), QStringList{u"Kathmandu"_s});
+}
+
+TEST_F(PreferencesViewTest, TabGoesFromTopToBottom) {
+    button(u"Record new shortcut"_s).setFocus(Qt::TabFocusReason);
+    const std::vector<QWidget*> order{
+        &box(menuBar),
+        &box(dock),
+        &field(),
+        &starredOnly(),
+        &list(),
+        &button(u"Record new shortcut"_s)};
+    for (const auto* next : order) {
+        QTest::keyClick(view->windowHandle(), Qt::Key_Tab);
+        EXPECT_EQ(view->focusWidget(), next) << next->accessibleName().toStdString();
+    }
+}
+
+} // namespace
+} // namespace quorvane
