@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlay.h"
 
+#include <controls/KeyCap.h>
 #include <controls/PopUpButton.h>
 #include <controls/SearchField.h>
 #include <controls/SegmentButton.h>
@@ -118,7 +119,7 @@ Space spaceAround(const QImage& with, const QImage& without) {
         for (int x = 0; x < with.width(); ++x) {
             // Half of an edge pixel's ink counts.
             const int change = std::abs(qGray(with.pixel(x, y)) - qGray(without.pixel(x, y)));
-            if (change > 100) {
+            if (change > 70) {
                 first = std::min(first, y);
                 last = std::max(last, y);
             }
@@ -148,6 +149,17 @@ TEST_P(TextRoom, SmallLettersStandInTheMiddleOfTheirControl) {
     auto& field = *play.view().findChild<TextField*>();
     field.setPlaceholderText({});
     expectCenteredText(field);
+}
+
+TEST_P(TextRoom, GlyphsStandInTheMiddleOfTheirKeyCap) {
+    for (const auto& glyph : {u"⌃"_s, u"⌥"_s, u"⇧"_s, u"⌘"_s, u"…"_s}) {
+        KeyCap cap(glyph);
+        cap.resize(cap.sizeHint());
+        const auto with = rendered(cap);
+        cap.setText({});
+        const auto [above, below] = spaceAround(with, rendered(cap));
+        EXPECT_NEAR(above, below, 1.5) << glyph.toStdString();
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
