@@ -6,6 +6,7 @@
 #include <controls/FocusRing.h>
 #include <controls/Theme.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -46,6 +47,14 @@ bool Panel::event(QEvent* event) {
             Q_EMIT fittingHeightChanged();
     }
     return handled;
+}
+
+void Panel::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    // A window that is hidden just when the desktop gives it the focus keeps it in Qt's eyes. Qt
+    // then takes no notice when the focus comes, and no widget in the window ever has it.
+    if (QGuiApplication::focusWindow() == windowHandle())
+        QApplication::setActiveWindow(this);
 }
 
 void Panel::moveEvent(QMoveEvent* event) {

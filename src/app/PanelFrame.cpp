@@ -31,13 +31,7 @@ PanelFrame::PanelFrame(Panel& panel, Surroundings surroundings)
       m_surroundings(surroundings) {
     connect(&panel, &Panel::fittingHeightChanged, this, &PanelFrame::fit);
     connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitOnceThePointerIsGone);
-    // What is hidden is looked after when it shows again.
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this] {
-        m_screenGone = m_surroundings.queue.after(Seconds(0), [this] {
-            if (m_panel.isVisible())
-                moveOntoScreen();
-        });
-    });
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelFrame::noteScreenGone);
 }
 
 void PanelFrame::restore() {
@@ -55,9 +49,8 @@ void PanelFrame::restore() {
 }
 
 void PanelFrame::moveOntoScreen() {
-    const auto frame = m_panel.geometry();
-    if (!panelplacement::touchesAny(frame, screens::availableAreas()))
-        request(panelplacement::centred(frame.size(), screens::mainScreen(m_surroundings.workspace).availableGeometry()));
+    if (!panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas()))
+        centre();
 }
 
 void PanelFrame::follow() {
@@ -92,6 +85,22 @@ void PanelFrame::fit() {
 void PanelFrame::fitOnceThePointerIsGone() {
     if (m_heldInPlace)
         fit();
+}
+
+void PanelFrame::noteScreenGone(QScreen* gone) {
+    // What is hidden is looked after when it shows again.
+    const bool isLost = m_panel.isVisible() &&
+                        !panelplacement::touchesAny(
+                            m_panel.geometry(), screens::availableAreas(gone));
+    if (!isLost)
+        return;
+    // A window manager may by then have pulled a corner of it onto another screen.
+    m_rescue = m_surroundings.queue.after(Seconds(0), [this] { centre(); });
+}
+
+void PanelFrame::centre() {
+    const auto area = screens::mainScreen(m_surroundings.workspace).availableGeometry();
+    request(panelplacement::centred(m_panel.size(), area));
 }
 
 void PanelFrame::noteChange() {

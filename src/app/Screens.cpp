@@ -7,10 +7,12 @@
 
 namespace quorvane::screens {
 
-std::vector<QRect> availableAreas() {
+std::vector<QRect> availableAreas(const QScreen* going) {
     std::vector<QRect> areas;
-    for (const auto* screen : QGuiApplication::screens())
-        areas.push_back(screen->availableGeometry());
+    for (const auto* screen : QGuiApplication::screens()) {
+        if (screen != going)
+            areas.push_back(screen->availableGeometry());
+    }
     return areas;
 }
 

@@ -12,6 +12,8 @@
 #include <deque>
 #include <optional>
 
+class QScreen;
+
 namespace quorvane {
 
 class Panel;
@@ -48,6 +50,8 @@ private:
     void fit();
     void fitOnceThePointerIsGone();
     void noteChange();
+    void noteScreenGone(QScreen* gone);
+    void centre();
     void save();
 
     Panel& m_panel;
@@ -55,7 +59,7 @@ private:
     std::optional<int> m_userHeight;   ///< less than that only the user gives it
     std::deque<QRect> m_requested;     ///< the latest of ours, which the desktop reports back late
     std::optional<Deadline> m_saving;  ///< there is a frame that is not saved yet
-    std::optional<Deadline> m_screenGone; ///< the panel may have to find another
+    std::optional<Deadline> m_rescue; ///< its screen is gone
     bool m_heldInPlace = false;        ///< it is to grow once the pointer has left
 };
 

@@ -12,8 +12,8 @@ class QScreen;
 /// The screens as windows of this program see them; never without one.
 namespace quorvane::screens {
 
-/// What docks and bars leave free of each screen.
-[[nodiscard]] std::vector<QRect> availableAreas();
+/// What docks and bars leave free of each screen, but for the one that is going away.
+[[nodiscard]] std::vector<QRect> availableAreas(const QScreen* going = nullptr);
 
 /// Where the user is: the screen of the focused window, else of the pointer.
 [[nodiscard]] const QScreen& mainScreen(const Workspace& workspace);
