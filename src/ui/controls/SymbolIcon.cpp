@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
+#include <controls/SymbolIcon.h>
+#include <controls/SymbolPainter.h>
+
+#include <QIconEngine>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace quorvane {
+
+namespace {
+
+/// Device pixels on either side of the ink: with fewer, 16 pixels of it cannot be read by the halo
+/// alone.
+constexpr double haloWidth = 0.75;
+
+/// The drawings' own grid.
+constexpr double grid = 16;
+
+/// The sizes that status bars ask for; a desktop that is sent pictures is sent these.
+constexpr std::array barSizes{16, 22, 24, 32, 48};
+
+class SymbolIconEngine final : public QIconEngine {
+public:
+    SymbolIconEngine(Symbol symbol, const SymbolInk& ink) : m_symbol(symbol), m_ink(ink) {}
+
+    [[nodiscard]] QIconEngine* clone() const override {
+        return new SymbolIconEngine(m_symbol, m_ink);
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+        const double size = std::min(rect.width(), rect.height());
+        const double pixels = size * painter->deviceTransform().m11();
+        const double haloed = SymbolStyle::regular + 2 * haloWidth * grid / pixels;
+        paintSymbol(*painter, m_symbol, {size, haloed}, rect, m_ink.halo);
+        paintSymbol(*painter, m_symbol, {size, SymbolStyle::regular}, rect, m_ink.ink);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return scaledPixmap(size, mode, state, 1);
+    }
+
+    /// `size` is in device pixels already.
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> sizes;
+        for (const int size : barSizes)
+            sizes.append({size, size});
+        return sizes;
+    }
+
+    bool isNull() override { return false; }
+
+private:
+    Symbol m_symbol;
+    SymbolInk m_ink;
+};
+
+} // namespace
+
+SymbolInk SymbolInk::of(const QPalette& palette) {
+    const auto ink = palette.color(QPalette::WindowText);
+    const bool isDark = contrastRatio(ink, Qt::white) > contrastRatio(ink, Qt::black);
+    return {ink, isDark ? Qt::white : Qt::black};
+}
+
+QIcon symbolIcon(Symbol symbol, const SymbolInk& ink) {
+    return QIcon(new SymbolIconEngine(symbol, ink));
+}
+
+} // namespace quorvane

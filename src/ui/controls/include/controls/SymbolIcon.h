@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <controls/Symbol.h>
+
+#include <QColor>
+#include <QIcon>
+#include <QPalette>
+
+namespace quorvane {
+
+/// What a symbol is drawn with where nobody tells the colour of the ground.
+struct SymbolInk {
+    QColor ink;
+    QColor halo; ///< thinner than a device pixel, around the ink; it alone shows on a ground like
+                 ///< the ink
+
+    /// In the palette's text colour, whose opposite is the halo: on a bar that follows the
+    /// desktop's light or dark, only the ink is seen; on one of the other tone, its outline.
+    [[nodiscard]] static SymbolInk of(const QPalette& palette);
+};
+
+/// The symbol as a square icon of any size, drawn anew for each size and device pixel ratio. It
+/// keeps its colours: who shows it asks for another one when the palette changes.
+[[nodiscard]] QIcon symbolIcon(Symbol symbol, const SymbolInk& ink);
+
+} // namespace quorvane
