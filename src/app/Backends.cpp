@@ -2,13 +2,12 @@
 #include <app/Backends.h>
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
+#include <platform_tray/TrayStatusBar.h>
 #include <platform_x11/X11Services.h>
+#include <platform_xdg/XdgSoftwareCentre.h>
 
 #include <QDesktopServices>
 #include <QLoggingCategory>
-
-#include <platform_tray/TrayStatusBar.h>
-#include <platform_xdg/XdgSoftwareCentre.h>
 
 namespace quorvane {
 

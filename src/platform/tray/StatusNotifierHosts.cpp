@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TrayLog.h"
 
+#include <platform_tray/StatusNotifierHosts.h>
+
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -8,7 +10,6 @@
 #include <QDBusVariant>
 
 #include <limits>
-#include <platform_tray/StatusNotifierHosts.h>
 #include <utility>
 
 namespace quorvane {

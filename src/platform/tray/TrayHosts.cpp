@@ -2,6 +2,7 @@
 #include "TrayLog.h"
 
 #include <platform_tray/TrayHosts.h>
+
 #include <utility>
 
 namespace quorvane {

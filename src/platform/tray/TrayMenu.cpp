@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <platform_tray/TrayMenu.h>
+
 #include <QMenu>
 
 #include <algorithm>
-#include <platform_tray/TrayMenu.h>
 
 namespace quorvane {
 

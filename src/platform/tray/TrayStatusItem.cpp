@@ -1,16 +1,31 @@
 // SPDX-License-Identifier: MIT
-#include "TrayLog.h"
+#include <platform_tray/TrayMenu.h>
+#include <platform_tray/TrayStatusItem.h>
 
 #include <QCursor>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
+#include <QWindow>
 
-#include <platform_tray/TrayMenu.h>
-#include <platform_tray/TrayStatusItem.h>
+#include <algorithm>
 #include <utility>
 
 namespace quorvane {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Whether a host has taken our window in; until then it is nowhere. Qt's own platform plugin knows
+/// the window by its name, too.
+bool isEmbedded() {
+    return std::ranges::any_of(QGuiApplication::allWindows(), [](const QWindow* window) {
+        return window->objectName() == "QSystemTrayIconSysWindow"_L1 && window->isExposed();
+    });
+}
+
+} // namespace
 
 TrayStatusItem::TrayStatusItem(const TrayHosts& hosts, StatusMenu menu)
     : m_hosts(hosts),
@@ -39,10 +54,9 @@ void TrayStatusItem::performClick() {
 }
 
 std::optional<QRect> TrayStatusItem::frame() const {
-    if (!m_icon || !hasButton())
+    if (!m_icon || !drawsMenuItself() || !isEmbedded())
         return std::nullopt;
-    const auto place = m_icon->geometry();
-    return place.isEmpty() ? std::nullopt : std::optional(place);
+    return m_icon->geometry();
 }
 
 void TrayStatusItem::hostsChanged() {

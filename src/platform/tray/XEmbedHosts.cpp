@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "TrayLog.h"
 
+#include <platform_tray/XEmbedHosts.h>
+
 #include <QGuiApplication>
 #include <xcb/xcb.h>
 #include <xcb/xfixes.h>
 
 #include <cstdlib>
 #include <memory>
-#include <platform_tray/XEmbedHosts.h>
 #include <string>
 #include <utility>
 

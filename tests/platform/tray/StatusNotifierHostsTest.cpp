@@ -3,11 +3,12 @@
 #include "support/PrivateBus.h"
 #include "support/WaitUntil.h"
 
+#include <platform_tray/StatusNotifierHosts.h>
+
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <platform_tray/StatusNotifierHosts.h>
 
 namespace quorvane {
 namespace {

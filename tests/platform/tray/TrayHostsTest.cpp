@@ -4,10 +4,11 @@
 #include "support/PrivateBus.h"
 #include "support/WaitUntil.h"
 
+#include <platform_tray/TrayHosts.h>
+
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <platform_tray/TrayHosts.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <platform_tray/TrayMenu.h>
+
 #include <QMenu>
 #include <gtest/gtest.h>
-
-#include <platform_tray/TrayMenu.h>
 
 namespace quorvane {
 namespace {

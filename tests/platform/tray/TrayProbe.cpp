@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <controls/SymbolIcon.h>
 #include <foundation/QtMainQueue.h>
+#include <platform_tray/TrayStatusBar.h>
 
 #include <QApplication>
 #include <QSocketNotifier>
 
 #include <cstdio>
 #include <iostream>
-#include <platform_tray/TrayStatusBar.h>
 #include <string>
 #include <unistd.h>
 

@@ -2,10 +2,10 @@
 #include "support/FakeXEmbedHost.h"
 #include "support/WaitUntil.h"
 
+#include <platform_tray/TrayStatusBar.h>
+
 #include <QPixmap>
 #include <gtest/gtest.h>
-
-#include <platform_tray/TrayStatusBar.h>
 
 namespace quorvane {
 namespace {

@@ -2,10 +2,11 @@
 #include "support/FakeXEmbedHost.h"
 #include "support/WaitUntil.h"
 
+#include <platform_tray/XEmbedHosts.h>
+
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <platform_tray/XEmbedHosts.h>
 
 namespace quorvane {
 namespace {

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "FakeWatcher.h"
 
+#include <platform_tray/StatusNotifierHosts.h>
+
 #include <QDBusVariant>
 #include <gtest/gtest.h>
 
-#include <platform_tray/StatusNotifierHosts.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform_tray/StatusNotifierHosts.h>
+#include <platform_tray/XEmbedHosts.h>
+
 #include <QObject>
 
 #include <optional>
-#include <platform_tray/StatusNotifierHosts.h>
-#include <platform_tray/XEmbedHosts.h>
 
 namespace quorvane {
 

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <platform/StatusBar.h>
+#include <platform_tray/TrayHosts.h>
 
 #include <QDBusConnection>
-
-#include <platform_tray/TrayHosts.h>
 
 namespace quorvane {
 

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <platform/StatusItem.h>
+#include <platform_tray/TrayHosts.h>
 
 #include <QObject>
 #include <QSystemTrayIcon>
 
 #include <memory>
-#include <platform_tray/TrayHosts.h>
 
 class QMenu;
 
