@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
+#include <app/MainMenu.h>
 #include <app/Panel.h>
 #include <app/PanelFrame.h>
+#include <app/PreferencesWindow.h>
+#include <app/StatusPopover.h>
+#include <preferences/PreferencesView.h>
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QEvent>
 #include <QLoggingCategory>
 #include <QWindow>
 
@@ -47,6 +53,7 @@ AppDelegate::AppDelegate(Environment environment)
            m_environment.currentZone,
            m_environment.zones,
            m_environment.locale}),
+      m_popoverAnchor(*m_environment.platform.workspace),
       m_inserter(
           {*m_environment.platform.accessibilityRight,
            *m_environment.platform.pasteboard,
@@ -61,30 +68,21 @@ AppDelegate::~AppDelegate() {
 
 void AppDelegate::applicationDidFinishLaunching() {
     _sharedDelegate() = this;
+    qGuiApp->installEventFilter(this);
     applyActivationPolicy(m_model.showInDock());
+    setupMainMenu();
+    makeStatusItem();
     present();
     startHotKeyMonitor(m_model.hotKey());
-    // The reaction runs after the change that caused it is complete.
-    connect(&m_model, &DateTimeModel::showInDockWillChange, this, [this](bool visible) {
-        m_environment.mainQueue.async([self = QPointer(this), visible] {
-            if (self)
-                self->applyShowInDock(visible);
-        });
-    });
-    m_environment.platform.workspace->onActiveSpaceChanged([this] { activeSpaceDidChange(); });
-    m_environment.platform.keyboardLayout->onChanged([this] {
-        if (m_contentView)
-            m_contentView->refreshSoon();
-    });
+    observeModel();
+    observeDesktop();
 }
 
-void AppDelegate::togglePresentation() {
-    if (isPanelVisible()) {
-        orderOutPanel();
-        return;
-    }
-    m_previousFrontmostApp = m_environment.platform.workspace->frontmostApplication();
-    present();
+bool AppDelegate::eventFilter(QObject* watched, QEvent* event) {
+    // Dark and light come and go with the desktop's.
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
+        applyIconImage();
+    return QObject::eventFilter(watched, event);
 }
 
 void AppDelegate::performAction(const QString& name) {
@@ -106,11 +104,6 @@ void AppDelegate::terminate() {
     m_environment.platform.pasteboard->handOver([] { QCoreApplication::quit(); });
 }
 
-PresentationMode AppDelegate::effectivePresentationMode() const {
-    // There is no status item yet, so a popover has nothing to hang from.
-    return PresentationMode::Window;
-}
-
 void AppDelegate::startHotKeyMonitor(HotKeyCombo combo) {
     m_hotKeyMonitor = HotKeyMonitor::create(
         combo,
@@ -124,22 +117,70 @@ void AppDelegate::startHotKeyMonitor(HotKeyCombo combo) {
     m_hotKeyMonitor->start();
 }
 
+/// A slot that runs the reaction on a later turn, when the change that caused it is complete.
+template <typename Value>
+auto AppDelegate::deferred(void (AppDelegate::*reaction)(Value)) {
+    return [this, reaction](Value value) {
+        m_environment.mainQueue.async([self = QPointer(this), reaction, value] {
+            if (self)
+                (self->*reaction)(value);
+        });
+    };
+}
+
+void AppDelegate::observeModel() {
+    const auto applyShowInMenuBarLater = deferred(&AppDelegate::applyShowInMenuBar);
+    connect(&m_model, &DateTimeModel::showInMenuBarWillChange, this, applyShowInMenuBarLater);
+    // The value that is there already counts as the first one.
+    applyShowInMenuBarLater(m_model.showInMenuBar());
+    connect(
+        &m_model,
+        &DateTimeModel::presentationModeWillChange,
+        this,
+        deferred(&AppDelegate::handlePresentationModeChange));
+    connect(
+        &m_model,
+        &DateTimeModel::showInDockWillChange,
+        this,
+        deferred(&AppDelegate::applyShowInDock));
+}
+
+void AppDelegate::observeDesktop() {
+    m_environment.platform.workspace->onActiveSpaceChanged([this] { activeSpaceDidChange(); });
+    m_environment.platform.keyboardLayout->onChanged([this] { refreshKeyLabels(); });
+}
+
 void AppDelegate::applyActivationPolicy(bool showInDock) {
     m_environment.platform.windowTraits->setActivationPolicy(
         showInDock ? ActivationPolicy::Regular : ActivationPolicy::Accessory);
 }
 
 void AppDelegate::applyShowInDock(bool visible) {
+    const bool hadPreferences = arePreferencesVisible();
+    const bool hadPanel = isPanelVisible();
     applyActivationPolicy(visible);
-    if (m_preferencesWindow && m_preferencesWindow->isVisible())
-        m_preferencesWindow->raise();
-    if (isPanelVisible())
-        m_environment.platform.windowTraits->orderFront(*m_panel->windowHandle());
+    if (visible)
+        activateApplication();
+    auto& traits = *m_environment.platform.windowTraits;
+    if (hadPreferences)
+        traits.orderFront(*m_preferencesWindow->windowHandle());
+    if (hadPanel)
+        traits.orderFront(*m_panel->windowHandle());
 }
 
-void AppDelegate::activeSpaceDidChange() {
-    if (isPanelVisible())
-        m_environment.platform.windowTraits->orderFront(*m_panel->windowHandle());
+void AppDelegate::activateApplication() {
+    auto& traits = *m_environment.platform.windowTraits;
+    if (arePreferencesVisible())
+        traits.activate(*m_preferencesWindow->windowHandle());
+    else if (isPanelVisible())
+        traits.activate(*m_panel->windowHandle());
+}
+
+void AppDelegate::refreshKeyLabels() {
+    if (m_contentView)
+        m_contentView->refreshSoon();
+    if (m_preferencesView)
+        m_preferencesView->refreshSoon();
 }
 
 } // namespace quorvane

@@ -16,7 +16,7 @@ constexpr Seconds pasteDelay{0.12};
 
 void AppDelegate::performInsert() {
     const auto text = m_model.formattedOutput();
-    orderOutPanel();
+    hideInterface();
     m_insertSteps.run(m_environment.mainQueue, activationDelay, [this, text] {
         activatePreviousApplication();
         m_insertSteps.run(

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
+#include <app/MainMenu.h>
 #include <app/Panel.h>
 #include <app/PanelFrame.h>
 
@@ -11,42 +12,12 @@ bool AppDelegate::isPanelVisible() const {
     return m_panel && m_panel->isVisible();
 }
 
-std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
-    const auto weakly = [self = QPointer(this)](void (AppDelegate::*call)()) {
-        return [self, call] {
-            if (self)
-                (self->*call)();
-        };
-    };
-    return std::make_unique<PopoverView>(
-        m_model,
-        PopoverView::Services{
-            *m_environment.platform.pasteboard,
-            *m_environment.platform.keyboardLayout,
-            m_environment.zones,
-            m_environment.mainQueue,
-            m_environment.clock,
-            m_environment.currentZone,
-            {[&traits = *m_environment.platform.windowTraits] {
-                return traits.isComposited();
-            }}},
-        PopoverView::Callbacks{
-            weakly(&AppDelegate::performInsert),
-            weakly(&AppDelegate::showPreferences),
-            weakly(&AppDelegate::checkForUpdates),
-            weakly(&AppDelegate::orderOutPanel),
-            weakly(&AppDelegate::terminate)});
-}
-
-void AppDelegate::present() {
-    showPanel();
-}
-
 void AppDelegate::setupPanel() {
     if (m_panel)
         return;
     m_contentView = makeContentView().release();
     m_panel = std::make_unique<Panel>(m_contentView);
+    m_mainMenu->attachTo(*m_panel);
     m_panelFrame = std::make_unique<PanelFrame>(
         *m_panel,
         PanelFrame::Surroundings{
@@ -60,15 +31,6 @@ void AppDelegate::setupPanel() {
         this,
         &AppDelegate::prepareAfterFirstPaint,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-}
-
-void AppDelegate::prepareAfterFirstPaint() {
-    m_environment.platform.appearance->read();
-    m_zoneWarmUp = std::make_unique<ZoneWarmUp>(
-        m_environment.mainQueue,
-        m_environment.zones,
-        m_environment.clock.now(),
-        m_environment.locale);
 }
 
 void AppDelegate::showPanel() {
@@ -87,6 +49,18 @@ void AppDelegate::showPanel() {
 void AppDelegate::orderOutPanel() {
     if (m_panel)
         m_panel->hide();
+}
+
+void AppDelegate::discardPanel() {
+    if (m_panelFrame)
+        m_panelFrame->saveNow();
+    m_panelFrame.reset();
+    m_panel.reset();
+}
+
+void AppDelegate::activeSpaceDidChange() {
+    if (isPanelVisible())
+        m_environment.platform.windowTraits->orderFront(*m_panel->windowHandle());
 }
 
 } // namespace quorvane

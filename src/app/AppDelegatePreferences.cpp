@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
-#include <app/Panel.h>
-#include <controls/FocusRing.h>
+#include <app/MainMenu.h>
+#include <app/PanelPlacement.h>
+#include <app/PreferencesWindow.h>
+#include <app/Screens.h>
 #include <preferences/PreferencesView.h>
 #include <ui/SparkleUpdater.h>
 
+#include <QScreen>
+
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-constexpr QSize preferencesSize{400, 540};
 
 ShortcutRecorder::Activity activityOf(const HotKeyMonitor* monitor) {
     using Activity = ShortcutRecorder::Activity;
@@ -23,31 +23,39 @@ ShortcutRecorder::Activity activityOf(const HotKeyMonitor* monitor) {
 } // namespace
 
 void AppDelegate::showPreferences() {
-    orderOutPanel();
-    if (!m_preferencesWindow) {
-        m_preferencesWindow = std::make_unique<PreferencesView>(
-            m_model,
-            PreferencesView::Services{
-                *m_environment.platform.keyboardLayout,
-                m_environment.zones,
-                m_environment.mainQueue,
-                m_environment.clock,
-                [this] {
-                    return activityOf(m_hotKeyMonitor.get());
-                }},
-            [self = QPointer(this), &defaults = m_environment.defaults](HotKeyCombo combo) {
-                combo.save(defaults);
-                if (self)
-                    self->applyHotKey(combo);
-            });
-        m_preferencesWindow->setWindowTitle(u"Quorvane Preferences"_s);
-        m_preferencesWindow->setAttribute(Qt::WA_QuitOnClose, false);
-        m_preferencesWindow->resize(preferencesSize);
-        new FocusRing(m_preferencesWindow.get());
-    }
+    hideInterface();
+    setupPreferences();
     m_preferencesWindow->show();
-    m_preferencesWindow->raise();
-    m_preferencesWindow->activateWindow();
+    activateApplication();
+}
+
+bool AppDelegate::arePreferencesVisible() const {
+    return m_preferencesWindow && m_preferencesWindow->isVisible();
+}
+
+void AppDelegate::setupPreferences() {
+    if (m_preferencesWindow)
+        return;
+    m_preferencesView = new PreferencesView(
+        m_model,
+        PreferencesView::Services{
+            *m_environment.platform.keyboardLayout,
+            m_environment.zones,
+            m_environment.mainQueue,
+            m_environment.clock,
+            [this] {
+                return activityOf(m_hotKeyMonitor.get());
+            }},
+        [self = QPointer(this), &defaults = m_environment.defaults](HotKeyCombo combo) {
+            combo.save(defaults);
+            if (self)
+                self->applyHotKey(combo);
+        });
+    m_preferencesWindow = std::make_unique<PreferencesWindow>(m_preferencesView);
+    m_mainMenu->attachTo(*m_preferencesWindow);
+    const auto& screen = screens::mainScreen(*m_environment.platform.workspace);
+    m_preferencesWindow->setGeometry(
+        panelplacement::centred(m_preferencesWindow->size(), screen.availableGeometry()));
 }
 
 void AppDelegate::checkForUpdates() {
@@ -61,6 +69,11 @@ void AppDelegate::applyHotKey(HotKeyCombo combo) {
     m_hotKeyMonitor->setCombo(combo);
     m_hotKeyMonitor->stop();
     m_hotKeyMonitor->start();
+}
+
+void AppDelegate::setupMainMenu() {
+    m_mainMenu = std::make_unique<MainMenu>(
+        MainMenu::Actions{[this] { checkForUpdates(); }, [this] { terminate(); }});
 }
 
 } // namespace quorvane

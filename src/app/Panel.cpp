@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <app/ContentHeight.h>
 #include <app/Panel.h>
 #include <app/PanelPlacement.h>
 #include <controls/DevicePixels.h>
@@ -34,11 +35,7 @@ Panel::Panel(QWidget* content)
 }
 
 int Panel::fittingHeight() const {
-    m_content->ensurePolished();
-    const int width = panelplacement::contentWidth;
-    const auto* layout = m_content->layout();
-    return layout != nullptr && layout->hasHeightForWidth() ? layout->heightForWidth(width)
-                                                            : m_content->sizeHint().height();
+    return quorvane::fittingHeight(*m_content, panelplacement::contentWidth);
 }
 
 bool Panel::event(QEvent* event) {

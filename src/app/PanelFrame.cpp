@@ -2,8 +2,8 @@
 #include <app/Panel.h>
 #include <app/PanelFrame.h>
 #include <app/PanelPlacement.h>
+#include <app/Screens.h>
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -24,28 +24,6 @@ constexpr Seconds saveDelay{0.5};
 // More changes of height than this do not pass before the desktop reports the first of them.
 constexpr std::size_t rememberedRequests = 8;
 
-std::vector<QRect> availableAreas() {
-    std::vector<QRect> areas;
-    for (const auto* screen : QGuiApplication::screens())
-        areas.push_back(screen->availableGeometry());
-    return areas;
-}
-
-/// Of the screen where the user is: that of the focused window, else of the pointer.
-QRect mainArea(const Workspace& workspace) {
-    const auto* screen = workspace.focusedScreen();
-    if (screen == nullptr)
-        screen = QGuiApplication::screenAt(QCursor::pos());
-    if (screen == nullptr)
-        screen = QGuiApplication::primaryScreen();
-    return screen->availableGeometry();
-}
-
-QRect areaAround(const QRect& frame, const Workspace& workspace) {
-    const auto* screen = QGuiApplication::screenAt(frame.center());
-    return screen != nullptr ? screen->availableGeometry() : mainArea(workspace);
-}
-
 } // namespace
 
 PanelFrame::PanelFrame(Panel& panel, Surroundings surroundings)
@@ -53,6 +31,13 @@ PanelFrame::PanelFrame(Panel& panel, Surroundings surroundings)
       m_surroundings(surroundings) {
     connect(&panel, &Panel::fittingHeightChanged, this, &PanelFrame::fit);
     connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitOnceThePointerIsGone);
+    // What is hidden is looked after when it shows again.
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this] {
+        m_screenGone = m_surroundings.queue.after(Seconds(0), [this] {
+            if (m_panel.isVisible())
+                moveOntoScreen();
+        });
+    });
 }
 
 void PanelFrame::restore() {
@@ -62,7 +47,7 @@ void PanelFrame::restore() {
         request(*stored);
         return;
     }
-    const auto area = mainArea(m_surroundings.workspace);
+    const auto area = screens::mainScreen(m_surroundings.workspace).availableGeometry();
     const QSize size(
         panelplacement::contentWidth,
         std::min(panelplacement::contentHeight(m_panel.fittingHeight()), area.height()));
@@ -71,8 +56,8 @@ void PanelFrame::restore() {
 
 void PanelFrame::moveOntoScreen() {
     const auto frame = m_panel.geometry();
-    if (!panelplacement::touchesAny(frame, availableAreas()))
-        request(panelplacement::centred(frame.size(), mainArea(m_surroundings.workspace)));
+    if (!panelplacement::touchesAny(frame, screens::availableAreas()))
+        request(panelplacement::centred(frame.size(), screens::mainScreen(m_surroundings.workspace).availableGeometry()));
 }
 
 void PanelFrame::follow() {
@@ -94,7 +79,8 @@ void PanelFrame::request(const QRect& frame) {
 
 void PanelFrame::fit() {
     const auto frame = m_panel.geometry();
-    const auto area = areaAround(frame, m_surroundings.workspace);
+    const auto area = 
+        screens::screenAround(frame.center(), m_surroundings.workspace).availableGeometry();
     const int height = std::max(
         panelplacement::contentHeight(m_panel.fittingHeight()), m_userHeight.value_or(0));
     const auto fitting = panelplacement::resized(frame, height, area);

@@ -6,6 +6,7 @@
 #include <entry/NumberField.h>
 
 #include <QFocusEvent>
+#include <QInputMethodEvent>
 #include <QPainter>
 #include <QValidator>
 
@@ -20,6 +21,7 @@ constexpr QSize fieldSize(52, 48);
 constexpr double cornerRadius = 8;
 constexpr int digitPixels = 28;
 constexpr double selectionOpacity = 0.24;
+constexpr int caretRoom = 1; ///< which QLineEdit keeps behind the text that it centres
 constexpr qsizetype longestText = 10'000;
 
 /// Refuses a paste that would take seconds to lay out, and refuses it whole: the start of a text is
@@ -43,6 +45,8 @@ NumberField::NumberField(const QString& placeholder, QWidget* parent) : QLineEdi
     setValidator(new LengthValidator(this));
     setPlaceholderText(placeholder);
     setFont(fixedSizeFont(font(), digitPixels, QFont::Light));
+    setTextMargins(caretRoom, 0, 0, 0);
+    connect(this, &NumberField::selectionChanged, this, &NumberField::hideCaretInSelection);
     followPalette();
 }
 
@@ -74,6 +78,14 @@ void NumberField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         followPalette();
+}
+
+void NumberField::hideCaretInSelection() {
+    // What is selected is replaced as a whole: a caret behind it would say that one types there.
+    // This is how an input method asks for no caret, or for one again; it changes nothing else.
+    const int width = hasSelectedText() ? 0 : 1;
+    QInputMethodEvent event({}, {{QInputMethodEvent::Cursor, 0, width, {}}});
+    QLineEdit::inputMethodEvent(&event);
 }
 
 void NumberField::followPalette() {

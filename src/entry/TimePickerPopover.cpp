@@ -25,7 +25,6 @@ constexpr int periodWidth = 80;
 constexpr int periodLeading = 4;
 constexpr int colonWidth = 6;
 constexpr int colonPixels = 26;
-constexpr int colonRise = 4; ///< from the row's middle to the middle of the digits
 
 } // namespace
 
@@ -40,7 +39,8 @@ TimePickerPopover::TimePickerPopover(
     // A clock reads from left to right in every script.
     setLayoutDirection(Qt::LeftToRight);
     m_period->setAccessibleName(tr("AM or PM"));
-    m_period->setFixedWidth(periodWidth);
+    m_period->setMinimumWidth(periodWidth);
+    showPeriod(false);
     connect(m_period, &SegmentedChip::chosen, this, [this](int index) { setPM(index == 1); });
     layOut();
     addShortcuts();
@@ -69,10 +69,11 @@ void TimePickerPopover::hideEvent(QHideEvent* event) {
 
 void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setFont(fixedSizeFont(font(), colonPixels, QFont::Thin));
+    const auto colonFont = fixedSizeFont(font(), colonPixels, QFont::ExtraLight);
+    painter.setFont(colonFont);
     painter.setPen(Theme::of(palette()).text2);
-    const QRect gap(m_hour->geometry().topRight(), m_minute->geometry().bottomLeft());
-    painter.drawText(gap.translated(0, -colonRise), Qt::AlignCenter, u":"_s);
+    const QRectF gap(m_hour->geometry().topRight(), m_minute->geometry().bottomLeft());
+    painter.drawText(gap.center() - inkOf(u":"_s, colonFont).center(), u":"_s);
 }
 
 NumberField* TimePickerPopover::numberField(const QString& name, const QString& placeholder) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
-
 #include <controls/CheckBox.h>
 #include <controls/DevicePixels.h>
 #include <controls/IconButton.h>
 #include <controls/SearchField.h>
 #include <controls/TextStyle.h>
 #include <gallery/PreferencesBoard.h>
+#include <gallery/SampleDefaults.h>
+#include <gallery/SampleKeyboard.h>
+#include <gallery/Samples.h>
 #include <picker/ZoneList.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>
@@ -43,43 +44,6 @@ public:
     [[nodiscard]] Deadline after(Seconds /*delay*/, Task /*task*/) override { return {}; }
 };
 
-class NoDefaults final : public DefaultsStore {
-public:
-    [[nodiscard]] bool hasValue(const QString& /*key*/) const override { return false; }
-
-    [[nodiscard]] bool boolForKey(const QString& /*key*/) const override { return false; }
-
-    [[nodiscard]] std::optional<qint64> integerForKey(const QString& /*key*/) const override {
-        return std::nullopt;
-    }
-
-    [[nodiscard]] std::optional<QString> stringForKey(const QString& /*key*/) const override {
-        return std::nullopt;
-    }
-
-    [[nodiscard]] std::optional<QStringList>
-    stringArrayForKey(const QString& /*key*/) const override {
-        return std::nullopt;
-    }
-
-    void setBool(const QString& /*key*/, bool /*value*/) override {}
-
-    void setInteger(const QString& /*key*/, qint64 /*value*/) override {}
-
-    void setString(const QString& /*key*/, const QString& /*value*/) override {}
-
-    void setStringArray(const QString& /*key*/, const QStringList& /*value*/) override {}
-};
-
-class AnsiLayout final : public KeyboardLayout {
-public:
-    [[nodiscard]] std::optional<std::u16string> characters(std::uint16_t keyCode) const override {
-        return keyCode == HotKeyCombo::defaultKeyCode ? u"d" : u"";
-    }
-
-    void onChanged(std::function<void()> /*handler*/) override {}
-};
-
 void hold(PreferencesView& view, Qt::Key key) {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, static_cast<quint32>(key), 0, 0);
     QCoreApplication::sendEvent(view.findChild<KeyCapture*>(), &press);
@@ -103,15 +67,11 @@ void hover(PreferencesView& view, const QString& city) {
 
 /// A user's settings and the view of them. The view goes first.
 struct PreferencesBoard::Sample {
-    NoDefaults defaults;
+    SampleDefaults defaults;
     NoQueue queue;
-    AnsiLayout layout;
+    SampleKeyboard layout;
     DateTimeModel model{
-        {sample::clock(),
-         defaults,
-         sample::entrySurroundings().currentZone,
-         sample::zones(),
-         sample::locale()}};
+        {sample::clock(), defaults, sample::currentZone(), sample::zones(), sample::locale()}};
     std::unique_ptr<PreferencesView> view;
 };
 

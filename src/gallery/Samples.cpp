@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
+#include <gallery/Samples.h>
 
 namespace quorvane::sample {
 
@@ -31,13 +31,36 @@ const Clock& clock() {
     return stopped;
 }
 
+const CurrentZone& currentZone() {
+    static const NewYork newYork;
+    return newYork;
+}
+
 UserLocale locale() {
     return UserLocale::named(u"en_US"_s);
 }
 
 EntrySurroundings entrySurroundings() {
-    static const NewYork newYork;
-    return {clock(), newYork, locale(), {}};
+    return {clock(), currentZone(), locale(), {}};
+}
+
+void selectZones(DateTimeModel& model, const QStringList& identifiers) {
+    std::vector<TimeZone> selected;
+    for (const auto& identifier : identifiers) {
+        if (const auto zone = zones().zone(identifier))
+            selected.push_back(*zone);
+    }
+    model.setSelectedTimeZones(std::move(selected));
+}
+
+void composeRange(DateTimeModel& model, Instant end) {
+    model.setIsRange(true);
+    model.setEndDate(end);
+    selectZones(
+        model,
+        {u"America/New_York"_s, u"America/Los_Angeles"_s, u"Europe/London"_s, u"Asia/Tokyo"_s});
+    model.setFormatPreset(DateFormatPreset::MediumForm);
+    model.setMultiZoneLayout(MultiZoneLayout::Lines);
 }
 
 } // namespace quorvane::sample

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
-
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
 #include <controls/DevicePixels.h>
@@ -17,6 +15,7 @@
 #include <controls/ToggleSwitch.h>
 #include <entry/DateField.h>
 #include <foundation/ZoneDatabase.h>
+#include <gallery/Samples.h>
 #include <gallery/StatesBoard.h>
 
 #include <QLabel>

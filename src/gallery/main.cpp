@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include <foundation/QtMainQueue.h>
 #include <gallery/Gallery.h>
+#include <gallery/PanelScene.h>
 
 #include <QApplication>
+#include <QScreen>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     quorvane::Gallery gallery;
     gallery.resize(gallery.widget()->size().boundedTo({1760, 900}));
     gallery.show();
+    // The panel itself, to be tried in the desktop's own colours, with whatever it opens.
+    quorvane::QtMainQueue queue;
+    quorvane::PanelScene panel(queue);
+    panel.show(gallery.screen()->availableGeometry().topLeft());
     return QApplication::exec();
 }

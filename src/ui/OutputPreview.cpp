@@ -82,7 +82,8 @@ void OutputPreview::setOutput(const QString& output) {
 }
 
 QSize OutputPreview::sizeHint() const {
-    return {QPlainTextEdit::sizeHint().width(), heightForWidth(width())};
+    // The height goes by the width that a layout gives, which may not be the present one.
+    return {QPlainTextEdit::sizeHint().width(), leastHeight};
 }
 
 QSize OutputPreview::minimumSizeHint() const {

@@ -114,7 +114,6 @@ void PopoverView::addShortcuts() {
     add(Qt::CTRL | Qt::Key_Return, insert);
     add(Qt::CTRL | Qt::Key_Enter, insert);
     add(preferencesKeys, [this] { m_callbacks.onShowPreferences(); });
-    add(quitKeys, [this] { m_callbacks.onQuit(); });
 }
 
 void PopoverView::connectControls() {

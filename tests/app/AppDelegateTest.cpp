@@ -20,15 +20,7 @@ using Call = CallLog::Call;
 const RunningApplication editor{42, u"editor"_s};
 const std::string pasteKeys = "post 9 with 1048576"; // V with Command, 1 << 20, alone
 
-class AppDelegateTest : public DelegateFixture {
-protected:
-    std::vector<std::string> calls() const {
-        std::vector<std::string> names;
-        for (const auto& call : log.calls())
-            names.push_back(call.what);
-        return names;
-    }
-};
+class AppDelegateTest : public DelegateFixture {};
 
 TEST_F(AppDelegateTest, LaunchShowsThePanelAndThenArmsTheShortcut) {
     launch();
@@ -38,6 +30,9 @@ TEST_F(AppDelegateTest, LaunchShowsThePanelAndThenArmsTheShortcut) {
         calls(),
         ElementsAre(
             "policy accessory",
+            "makeStatusItem",
+            "setImage Quorvane",
+            "setVisible",
             "preparePanel",
             "presentPanel",
             "isTrusted",
@@ -222,29 +217,30 @@ TEST_F(AppDelegateTest, PreferencesTakeThePlaceOfThePanelAndAreKept) {
     launch();
     delegate->performAction(u"preferences"_s);
     EXPECT_FALSE(panel()->isVisible());
-    auto* preferences = window(u"Quorvane Preferences"_s);
-    ASSERT_NE(preferences, nullptr);
-    EXPECT_TRUE(preferences->isVisible());
-    preferences->close();
+    auto* window = preferences();
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(window->isVisible());
+    window->close();
     delegate->showPreferences();
-    EXPECT_EQ(window(u"Quorvane Preferences"_s), preferences);
-    EXPECT_TRUE(preferences->isVisible());
+    EXPECT_EQ(preferences(), window);
+    EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(AppDelegateTest, DockSwitchIsFollowedOnTheNextTurn) {
     launch();
+    queue.run();
     log.clear();
     delegate->model().setShowInDock(true);
     EXPECT_TRUE(calls().empty());
     queue.run();
-    EXPECT_THAT(calls(), ElementsAre("policy regular", "orderFront"));
+    EXPECT_THAT(calls(), ElementsAre("policy regular", "activate panel", "orderFront panel"));
 }
 
 TEST_F(AppDelegateTest, VisiblePanelFollowsToAnotherVirtualDesktop) {
     launch();
     log.clear();
     workspace->changeSpace();
-    EXPECT_THAT(calls(), ElementsAre("orderFront"));
+    EXPECT_THAT(calls(), ElementsAre("orderFront panel"));
     pressShortcut();
     log.clear();
     workspace->changeSpace();

@@ -11,6 +11,7 @@
 #include <fakes/FakeKeyboardLayout.h>
 #include <fakes/FakePasteboard.h>
 #include <fakes/FakeSoftwareCentre.h>
+#include <fakes/FakeStatusBar.h>
 #include <fakes/FakeWindowTraits.h>
 #include <fakes/FakeWorkspace.h>
 #include <fakes/FixedClock.h>
@@ -74,17 +75,37 @@ protected:
         return std::chrono::duration_cast<std::chrono::milliseconds>(queue.now());
     }
 
+    /// What was asked of the desktop, in order.
+    [[nodiscard]] std::vector<std::string> calls() const {
+        std::vector<std::string> names;
+        for (const auto& call : log.calls())
+            names.push_back(call.what);
+        return names;
+    }
+
     [[nodiscard]] WindowFrameStore& frames() { return *m_frames; }
 
-    [[nodiscard]] static QWidget* window(const QString& title) {
+    [[nodiscard]] static QWidget* window(const QString& title, Qt::WindowType type) {
         for (auto* widget : QApplication::topLevelWidgets()) {
-            if (widget->windowTitle() == title)
+            if (widget->windowTitle() == title && widget->windowType() == type)
                 return widget;
         }
         return nullptr;
     }
 
-    [[nodiscard]] static QWidget* panel() { return window(QStringLiteral("Quorvane")); }
+    [[nodiscard]] static QWidget* panel() { return window(QStringLiteral("Quorvane"), Qt::Tool); }
+
+    [[nodiscard]] static QWidget* popover() {
+        return window(QStringLiteral("Quorvane"), Qt::Popup);
+    }
+
+    [[nodiscard]] static QWidget* preferences() {
+        return window(QStringLiteral("Quorvane Preferences"), Qt::Window);
+    }
+
+    [[nodiscard]] static bool isShown(const QWidget* window) {
+        return window != nullptr && window->isVisible();
+    }
 
     VirtualMainQueue queue;
     CallLog log{queue};
@@ -95,6 +116,7 @@ protected:
     FakeEventTaps* taps = nullptr;
     FakePasteboard* pasteboard = nullptr;
     FakeWorkspace* workspace = nullptr;
+    FakeStatusBar* statusBar = nullptr;
     FakeAppearance* appearance = nullptr;
     PlatformServices platform;
     std::unique_ptr<AppDelegate> delegate;
@@ -107,8 +129,10 @@ private:
         taps = eventTaps.get();
         pasteboard = board.get();
         auto desktop = std::make_unique<FakeAppearance>();
+        auto bar = std::make_unique<FakeStatusBar>(log);
         workspace = space.get();
         appearance = desktop.get();
+        statusBar = bar.get();
         return {
             std::make_unique<FakeAccessibilityRight>(log),
             std::move(eventTaps),
@@ -118,7 +142,8 @@ private:
             std::make_unique<FakeKeyboardLayout>(),
             std::make_unique<FakeWindowTraits>(log),
             std::move(desktop),
-            std::make_unique<FakeSoftwareCentre>(log)};
+            std::make_unique<FakeSoftwareCentre>(log),
+            std::move(bar)};
     }
 
     QTemporaryDir m_folder;

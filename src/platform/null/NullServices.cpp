@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <platform_null/NullServices.h>
 
+#include <QWindow>
+
 #include <utility>
 
 namespace quorvane {
@@ -79,6 +81,11 @@ public:
     void presentPanel(QWindow&) override {}
 
     void orderFront(QWindow&) override {}
+
+    void activate(QWindow& window) override {
+        window.raise();
+        window.requestActivate();
+    }
 
     [[nodiscard]] bool isComposited() const override { return false; }
 };

@@ -113,6 +113,15 @@ void X11WindowTraits::orderFront(QWindow& window) {
     qtx11::waitForServer();
 }
 
+void X11WindowTraits::activate(QWindow& window) {
+    window.raise();
+    if (qtx11::connection() == nullptr)
+        return;
+    // Ours must not overtake the request that maps the window.
+    qtx11::waitForServer();
+    m_windows.requestFocus(idOf(window));
+}
+
 X11WindowStates::Change X11WindowTraits::taskbarChange() const {
     using Change = X11WindowStates::Change;
     return m_policy == ActivationPolicy::Accessory ? Change::Add : Change::Remove;

@@ -60,8 +60,7 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
         return;
     }
-    const auto ink = QFontMetricsF(font, this).tightBoundingRect(text());
-    painter.drawText(QRectF(rect()).center() - ink.center(), text());
+    painter.drawText(QRectF(rect()).center() - inkOf(text(), font).center(), text());
 }
 
 } // namespace quorvane

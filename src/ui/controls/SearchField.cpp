@@ -16,9 +16,9 @@ namespace {
 constexpr int sidePadding = 8;
 constexpr int lensSize = 16;
 constexpr int lensGap = 8;
-constexpr int builtInPadding = 2;
 constexpr int clearSize = 24;
 constexpr int clearInset = 4;
+constexpr int clearGap = 2;
 
 } // namespace
 
@@ -77,10 +77,11 @@ void SearchField::resizeEvent(QResizeEvent* event) {
 }
 
 void SearchField::adoptLayout() {
-    constexpr int lensSide = sidePadding + lensSize + lensGap - builtInPadding;
+    constexpr int lensSide = sidePadding + lensSize + lensGap;
     const int clearSide = clearInset + clearSize + m_trailingRoom;
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    setTextMargins(mirrored ? clearSide : lensSide, 0, mirrored ? lensSide : clearSide, 0);
+    setPadding(
+        mirrored ? clearSide + clearGap : lensSide, mirrored ? lensSide : clearSide + clearGap);
     const QRect clear(
         width() - clearSide, (QWidget::height() - clearSize) / 2, clearSize, clearSize);
     m_clear->setGeometry(QStyle::visualRect(layoutDirection(), rect(), clear));

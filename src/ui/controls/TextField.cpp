@@ -8,6 +8,9 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+#include <cmath>
+
 namespace quorvane {
 
 namespace {
@@ -21,9 +24,9 @@ constexpr int builtInPadding = 2;
 
 TextField::TextField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
-    constexpr int padding = ChipSurface::horizontalPadding - builtInPadding;
-    setTextMargins(padding, 0, padding, 0);
+    setPadding(ChipSurface::horizontalPadding, ChipSurface::horizontalPadding);
     adoptColors();
+    alignText();
 }
 
 QSize TextField::sizeHint() const {
@@ -53,6 +56,42 @@ void TextField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !m_adopting)
         adoptColors();
+    else if (event->type() == QEvent::FontChange)
+        centerText();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        alignText();
+}
+
+void TextField::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    centerText();
+}
+
+void TextField::setPadding(int left, int right) {
+    auto margins = textMargins();
+    margins.setLeft(left - builtInPadding);
+    margins.setRight(right - builtInPadding);
+    setTextMargins(margins);
+}
+
+void TextField::alignText() {
+    // By itself QLineEdit goes by the script of what it holds: the text would leave its column with
+    // the first letter that one types.
+    const auto edge = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    setAlignment(edge | Qt::AlignAbsolute | Qt::AlignVCenter);
+}
+
+void TextField::centerText() {
+    // Small letters stand in the middle, as in the other controls; QLineEdit itself centres what
+    // the font keeps free for its highest and lowest glyphs, far from even in many a fixed font.
+    const auto metrics = fontMetrics();
+    const double baseline = std::ceil((QWidget::height() + QFontMetricsF(font()).xHeight()) / 2);
+    const int top = static_cast<int>(baseline) - metrics.ascent();
+    const int lowering = 2 * top - (QWidget::height() - metrics.height() + 1);
+    auto margins = textMargins();
+    margins.setTop(std::max(lowering, 0));
+    margins.setBottom(std::max(-lowering, 0));
+    setTextMargins(margins);
 }
 
 void TextField::paintSurface(QPainter& painter) {

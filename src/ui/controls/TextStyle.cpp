@@ -2,6 +2,7 @@
 #include <controls/TextStyle.h>
 
 #include <QFontInfo>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -43,6 +44,12 @@ QFont fixedSizeFont(QFont body, int pixels, QFont::Weight weight) {
     body.setPixelSize(pixels);
     body.setWeight(weight);
     return body;
+}
+
+QRectF inkOf(const QString& text, const QFont& font) {
+    QPainterPath outline;
+    outline.addText(0, 0, font, text);
+    return outline.boundingRect();
 }
 
 } // namespace quorvane

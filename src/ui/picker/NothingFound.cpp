@@ -14,7 +14,8 @@ namespace {
 
 constexpr int top = 96;
 constexpr int lensSize = 24;
-constexpr int textGap = 12;
+constexpr double lensStroke = 1.25; ///< large, it would look heavier than the text below
+constexpr int textGap = 8;
 constexpr int sideMargin = 40;
 
 } // namespace
@@ -27,7 +28,7 @@ NothingFound::NothingFound(QWidget* parent) : QWidget(parent), m_text(new QLabel
     m_text->setAlignment(Qt::AlignHCenter);
     m_text->setWordWrap(true);
     m_text->setForegroundRole(QPalette::PlaceholderText);
-    m_text->setFont(textFont(font(), TextStyle::Callout));
+    m_text->setFont(textFont(font(), TextStyle::Body));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(sideMargin, top + lensSize + textGap, sideMargin, 0);
     column->addWidget(m_text);
@@ -57,7 +58,7 @@ void NothingFound::showMessage(Symbol symbol, const QString& text) {
 void NothingFound::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF place(0, top, width(), lensSize);
-    const SymbolStyle style{lensSize, SymbolStyle::regular};
+    const SymbolStyle style{lensSize, lensStroke};
     paintSymbol(painter, m_symbol, style, place, Theme::of(palette()).text2);
 }
 

@@ -8,8 +8,10 @@
 #include <picker/ZoneListModel.h>
 #include <picker/ZoneRowDelegate.h>
 
+#include <QFontInfo>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quorvane {
@@ -18,17 +20,26 @@ namespace {
 
 constexpr int rowHeight = 32;
 constexpr int headHeight = 28;
+constexpr int headDrop = 4;   ///< a head's text stands nearer to what it heads
+constexpr int sectionGap = 4; ///< above every head but the first
 constexpr int markStart = 16;
 constexpr int markWidth = 16;
 constexpr int textStart = 40;
 constexpr int endPadding = 16;
 constexpr int offsetWidth = 72;
 constexpr int abbreviationWidth = 64;
+constexpr int columnGap = 4;
+constexpr int calloutPixels = 12; ///< the size of text that the columns are made for
 constexpr int regionGap = 8;
 constexpr int fillInset = 8;
 constexpr double fillRadius = 6;
 constexpr double currentTint = 0.12;
 constexpr SymbolStyle markStyle{14, SymbolStyle::semibold};
+
+/// A column's width for text of another size: never less.
+int grown(int width, const QFont& font) {
+    return width * std::max(QFontInfo(font).pixelSize(), calloutPixels) / calloutPixels;
+}
 
 /// Paints one row; positions are from the leading edge.
 class RowPainter {
@@ -43,9 +54,9 @@ public:
         const auto font = textFont(m_option.font, TextStyle::Callout, QFont::DemiBold);
         m_painter.setFont(font);
         m_painter.setPen(m_theme.text2);
-        const auto place = placed(textStart, m_option.rect.width() - textStart - endPadding);
-        m_painter.drawText(
-            place.adjusted(0, 4, 0, 0), leading(Qt::AlignLeft), text(Qt::DisplayRole));
+        auto place = placed(textStart, m_option.rect.width() - textStart - endPadding);
+        place.setTop(place.bottom() + 1 - headHeight + headDrop);
+        m_painter.drawText(place, leading(Qt::AlignLeft), text(Qt::DisplayRole));
     }
 
     void paintRow() {
@@ -78,8 +89,14 @@ private:
     void paintTexts(const QFont& cityFont) {
         const int width = m_option.rect.width();
         const auto callout = textFont(m_option.font, TextStyle::Callout);
-        const int offsetStart = width - endPadding - offsetWidth;
-        const int abbreviationStart = offsetStart - abbreviationWidth;
+        const QFontMetricsF metrics(callout);
+        const int offsetEnd = width - endPadding;
+        const int offsetStart = offsetEnd - grown(offsetWidth, callout);
+        const int abbreviationStart = offsetStart - grown(abbreviationWidth, callout);
+        const auto offset = text(ZoneListModel::OffsetRole);
+        // A long abbreviation reaches into what the offset leaves of its column.
+        const int abbreviationEnd =
+            offsetEnd - columnGap - static_cast<int>(std::ceil(metrics.horizontalAdvance(offset)));
         const int room = abbreviationStart - textStart;
         const auto city = text(Qt::DisplayRole);
         const int cityWidth =
@@ -98,15 +115,9 @@ private:
             callout,
             m_theme.text2,
             abbreviationStart,
-            abbreviationWidth,
+            abbreviationEnd - abbreviationStart,
             Qt::AlignLeft);
-        write(
-            text(ZoneListModel::OffsetRole),
-            callout,
-            m_theme.text,
-            offsetStart,
-            offsetWidth,
-            Qt::AlignRight);
+        write(offset, callout, m_theme.text, offsetStart, offsetEnd - offsetStart, Qt::AlignRight);
     }
 
     /// All texts of a row stand on the baseline of its city.
@@ -165,7 +176,9 @@ void ZoneRowDelegate::paint(
 
 QSize ZoneRowDelegate::sizeHint(
     const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const {
-    return {0, index.data(ZoneListModel::IsHeadRole).toBool() ? headHeight : rowHeight};
+    if (!index.data(ZoneListModel::IsHeadRole).toBool())
+        return {0, rowHeight};
+    return {0, index.row() == 0 ? headHeight : sectionGap + headHeight};
 }
 
 } // namespace quorvane

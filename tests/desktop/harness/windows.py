@@ -142,6 +142,28 @@ class Windows:
         atoms = self._cardinals(self._window(window), "_NET_WM_STATE")
         return {self._display.get_atom_name(atom) for atom in atoms}
 
+    def move(self, window: int, x: int, y: int) -> None:
+        """Moves a window as a user's own tool does."""
+        self._window(window).configure(x=x, y=y)
+        self._display.sync()
+
+    def resize(self, window: int, width: int, height: int) -> None:
+        """Gives a window another size."""
+        self._window(window).configure(width=width, height=height)
+        self._display.sync()
+
+    def show_desktop(self, number: int) -> None:
+        """Brings another virtual desktop to the front, and waits until it is there."""
+        self._send_to_manager(self._root, "_NET_CURRENT_DESKTOP", [number, X.CurrentTime, 0, 0, 0])
+        self.wait(
+            lambda: self._cardinals(self._root, "_NET_CURRENT_DESKTOP") == [number],
+            f"desktop {number}",
+        )
+
+    def is_on_all_desktops(self, window: int) -> bool:
+        """Whether a window shows on every virtual desktop."""
+        return self._cardinals(self._window(window), "_NET_WM_DESKTOP") == [0xFFFFFFFF]
+
     def focus(self, window: int) -> None:
         """Gives a window the keyboard as a session without a window manager does."""
         self._window(window).set_input_focus(X.RevertToPointerRoot, X.CurrentTime)

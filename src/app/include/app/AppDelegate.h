@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <app/PopoverAnchor.h>
 #include <delivery/TextInserter.h>
 #include <foundation/Clock.h>
 #include <foundation/CurrentZone.h>
@@ -22,12 +23,14 @@
 #include <memory>
 #include <optional>
 
-class QWidget;
-
 namespace quorvane {
 
+class MainMenu;
 class Panel;
 class PanelFrame;
+class PreferencesView;
+class PreferencesWindow;
+class StatusPopover;
 
 /// The shell of the program: owns the one model and everything that shows it, and carries each
 /// request from the shortcut to the text in the other application.
@@ -88,33 +91,76 @@ public:
     /// The mode actually used: a popover needs a status item to hang from.
     [[nodiscard]] PresentationMode effectivePresentationMode() const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// The end begins; the process lives until the pasteboard is in good hands.
     void willTerminate();
 
 private:
-    void startHotKeyMonitor(HotKeyCombo combo);
-    void applyHotKey(HotKeyCombo combo);
+    // Start-up
     void applyActivationPolicy(bool showInDock);
-    void applyShowInDock(bool visible);
-    void activeSpaceDidChange();
+    void startHotKeyMonitor(HotKeyCombo combo);
+    void observeModel();
+    void observeDesktop();
+    template <typename Value>
+    [[nodiscard]] auto deferred(void (AppDelegate::*reaction)(Value));
 
+    // The icon in the menu bar
+    void makeStatusItem();
+    void statusBarButtonClicked(StatusItem::Click click);
+    void showContextMenu();
+    [[nodiscard]] StatusMenu contextMenu();
+    void applyShowInMenuBar(bool visible);
+    void applyIconImage();
+
+    // Presentation
     [[nodiscard]] bool isPanelVisible() const;
-    [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
+    [[nodiscard]] bool isPopoverShown() const;
     void present();
+    void hideInterface();
+    void handlePresentationModeChange(PresentationMode mode);
+    void rememberFrontmostApp();
+    [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
+    void prepareAfterFirstPaint();
+
+    // The panel
     void setupPanel();
     void showPanel();
-    void prepareAfterFirstPaint();
     void orderOutPanel();
+    void discardPanel();
+    void activeSpaceDidChange();
+
+    // The popover
+    void setupPopover();
+    void showPopover();
+    void closePopover();
+    void holdOffReopening();
+
+    // Menus, preferences, the Dock
+    void setupMainMenu();
+    void setupPreferences();
+    [[nodiscard]] bool arePreferencesVisible() const;
+    void applyHotKey(HotKeyCombo combo);
+    void applyShowInDock(bool visible);
+    void activateApplication();
+    void refreshKeyLabels();
+
     void activatePreviousApplication();
 
     Environment m_environment;
     DateTimeModel m_model;
+    std::unique_ptr<MainMenu> m_mainMenu;
+    std::unique_ptr<StatusItem> m_statusItem;
+    PopoverAnchor m_popoverAnchor;
     std::unique_ptr<Panel> m_panel;
-    std::unique_ptr<PanelFrame> m_panelFrame;
-    QPointer<PopoverView> m_contentView; ///< the panel's
+    std::unique_ptr<PanelFrame> m_panelFrame; ///< there as long as the panel is
+    std::unique_ptr<StatusPopover> m_popover;
+    std::optional<Deadline> m_reopeningHeldOff; ///< a press on the icon has just closed the popover
+    QPointer<PopoverView> m_contentView;        ///< of panel or popover
     std::shared_ptr<HotKeyMonitor> m_hotKeyMonitor;
-    std::unique_ptr<QWidget> m_preferencesWindow;
+    QPointer<PreferencesView> m_preferencesView;
+    std::unique_ptr<PreferencesWindow> m_preferencesWindow;
     std::optional<RunningApplication> m_previousFrontmostApp;
     std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< under way since the first paint
     TextInserter m_inserter;

@@ -55,6 +55,7 @@ private:
     std::optional<int> m_userHeight;   ///< less than that only the user gives it
     std::deque<QRect> m_requested;     ///< the latest of ours, which the desktop reports back late
     std::optional<Deadline> m_saving;  ///< there is a frame that is not saved yet
+    std::optional<Deadline> m_screenGone; ///< the panel may have to find another
     bool m_heldInPlace = false;        ///< it is to grow once the pointer has left
 };
 

@@ -21,6 +21,7 @@ protected:
 
 private:
     void followPalette();
+    void hideCaretInSelection();
 
     bool m_focusedByPress = false;
 };

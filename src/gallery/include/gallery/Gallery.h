@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// One window with all boards, light and dark side by side.
+/// One window with every control in every state, light and dark side by side.
 class Gallery final : public QScrollArea {
     Q_OBJECT
 

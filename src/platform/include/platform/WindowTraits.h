@@ -25,6 +25,9 @@ public:
     /// In front of the others, without the focus.
     virtual void orderFront(QWindow& window) = 0;
 
+    /// In front of the others and with the keyboard focus, as the user's own wish.
+    virtual void activate(QWindow& window) = 0;
+
     /// Whether windows are composited, so that a translucent one shows what is below it.
     [[nodiscard]] virtual bool isComposited() const = 0;
 };

@@ -4,6 +4,8 @@
 #include <fakes/CallLog.h>
 #include <platform/WindowTraits.h>
 
+#include <QWindow>
+
 namespace quorvane {
 
 class FakeWindowTraits final : public WindowTraits {
@@ -18,13 +20,20 @@ public:
 
     void presentPanel(QWindow&) override { m_log.add("presentPanel"); }
 
-    void orderFront(QWindow&) override { m_log.add("orderFront"); }
+    void orderFront(QWindow& window) override { m_log.add(named("orderFront", window)); }
+
+    void activate(QWindow& window) override { m_log.add(named("activate", window)); }
 
     [[nodiscard]] bool isComposited() const override { return composited; }
 
     bool composited = false;
 
 private:
+    static std::string named(const std::string& call, const QWindow& window) {
+        const bool isPanel = window.title() == QStringLiteral("Quorvane");
+        return call + (isPanel ? " panel" : " preferences");
+    }
+
     CallLog& m_log;
 };
 

@@ -18,6 +18,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+    /// The room from the field's sides to the text, in points.
+    void setPadding(int left, int right);
 
     /// What stands behind the text.
     virtual void paintSurface(QPainter& painter);
@@ -27,6 +31,8 @@ protected:
 
 private:
     void adoptColors();
+    void alignText();
+    void centerText();
 
     bool m_adopting = false;
 };

@@ -32,7 +32,7 @@ struct Theme {
 
     QColor chosenEdge;    ///< of a chosen zone
     QColor suggestedEdge; ///< of a suggested one
-    QColor popEdge;       ///< of a popover with a shadow; transparent where the shadow will do
+    QColor popEdge;       ///< of a popover with a shadow
 
     QColor sep;     ///< frames
     QColor line;    ///< dividers inside a surface

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include <app/MainMenu.h>
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+MainMenu::MainMenu(const Actions& actions)
+    : m_application(std::make_unique<QMenu>(u"Quorvane"_s)),
+      m_edit(std::make_unique<QMenu>(tr("Edit"))),
+      m_quit(nullptr) {
+    m_application->addAction(tr("Check for Updates…"), this, actions.checkForUpdates);
+    m_application->addSeparator();
+    m_quit = m_application->addAction(tr("Quit Quorvane"), this, actions.quit);
+    m_quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    // What a window has opened is a window of its own, where these keys hold as well.
+    m_quit->setShortcutContext(Qt::ApplicationShortcut);
+    addEdit(tr("Undo"), Qt::CTRL | Qt::Key_Z, "undo");
+    addEdit(tr("Redo"), Qt::CTRL | Qt::SHIFT | Qt::Key_Z, "redo");
+    m_edit->addSeparator();
+    addEdit(tr("Cut"), Qt::CTRL | Qt::Key_X, "cut");
+    addEdit(tr("Copy"), Qt::CTRL | Qt::Key_C, "copy");
+    addEdit(tr("Paste"), Qt::CTRL | Qt::Key_V, "paste");
+    addEdit(tr("Select All"), Qt::CTRL | Qt::Key_A, "selectAll");
+}
+
+MainMenu::~MainMenu() = default;
+
+void MainMenu::attachTo(QWidget& window) {
+    window.addAction(m_quit);
+    auto* bar = new QMenuBar(&window);
+    for (auto* menu : menus())
+        bar->addMenu(menu);
+    // A bar that no desktop takes would show in the window.
+    if (!bar->isNativeMenuBar())
+        delete bar;
+}
+
+std::vector<QMenu*> MainMenu::menus() const {
+    return {m_application.get(), m_edit.get()};
+}
+
+void MainMenu::addEdit(const QString& title, const QKeySequence& keys, const char* method) {
+    auto* action = m_edit->addAction(title, this, [method] {
+        // Whatever has the focus answers, or nothing does: a chip knows no such method.
+        auto* focused = QApplication::focusWidget();
+        if (focused != nullptr && focused->metaObject()->indexOfMethod(
+                                      QByteArray(method).append("()").constData()) >= 0)
+            QMetaObject::invokeMethod(focused, method);
+    });
+    // The field with the focus has these keys itself; here they are for show.
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetShortcut);
+}
+
+} // namespace quorvane

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include <app/PopoverAnchor.h>
+#include <app/Screens.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <algorithm>
+#include <ranges>
+
+namespace quorvane {
+
+namespace {
+
+// One for each screen is enough; there is no telling which ones are still needed.
+constexpr std::size_t rememberedClicks = 8;
+
+QRect pointRect(QPoint point) {
+    return {point, QSize(1, 1)};
+}
+
+} // namespace
+
+void PopoverAnchor::noteClick(QPoint pointer) {
+    m_clicks.push_back(pointer);
+    if (m_clicks.size() > rememberedClicks)
+        m_clicks.erase(m_clicks.begin());
+    m_isClicked = true;
+}
+
+void PopoverAnchor::clickHandled() {
+    m_isClicked = false;
+}
+
+PopoverAnchor::Place PopoverAnchor::place(const std::optional<QRect>& iconFrame) const {
+    if (iconFrame)
+        return {
+            *iconFrame,
+            screens::screenAround(iconFrame->center(), m_workspace).availableGeometry()};
+    if (m_isClicked)
+        return {
+            pointRect(m_clicks.back()),
+            screens::screenAround(m_clicks.back(), m_workspace).availableGeometry()};
+    const auto& screen = screens::mainScreen(m_workspace);
+    const auto available = screen.availableGeometry();
+    const auto inCorner =
+        corner(screen.geometry(), available, QGuiApplication::layoutDirection());
+    return {pointRect(lastClickOn(screen).value_or(inCorner)), available};
+}
+
+QPoint PopoverAnchor::corner(
+    const QRect& screen, const QRect& available, Qt::LayoutDirection direction) {
+    const bool hasLowerBar = screen.bottom() - available.bottom() > available.top() - screen.top();
+    const int y = hasLowerBar ? available.bottom() : available.top();
+    return {direction == Qt::RightToLeft ? available.left() : available.right(), y};
+}
+
+std::optional<QPoint> PopoverAnchor::lastClickOn(const QScreen& screen) const {
+    const auto latestFirst = std::views::reverse(m_clicks);
+    const auto found = std::ranges::find_if(
+        latestFirst, [&](QPoint click) { return screen.geometry().contains(click); });
+    return found != latestFirst.end() ? std::optional(*found) : std::nullopt;
+}
+
+} // namespace quorvane

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include <app/PreferencesWindow.h>
+#include <controls/FocusRing.h>
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize contentSize{400, 540};
+
+} // namespace
+
+PreferencesWindow::PreferencesWindow(QWidget* content) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowTitle(u"Quorvane Preferences"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    setFixedWidth(contentSize.width());
+    resize(contentSize);
+    new FocusRing(this);
+}
+
+void PreferencesWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel))
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace quorvane

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include <app/ContentHeight.h>
+#include <app/PanelPlacement.h>
+#include <app/StatusPopover.h>
+#include <controls/DevicePixels.h>
+#include <controls/FocusRing.h>
+#include <controls/PopoverPlacement.h>
+#include <controls/PopoverShadow.h>
+#include <controls/Theme.h>
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double cornerRadius = 12;
+constexpr int screenMargin = 8;
+
+} // namespace
+
+StatusPopover::StatusPopover(QWidget* content, Ground ground)
+    : QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
+      m_content(content),
+      m_ground(ground) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_TranslucentBackground, m_ground == Ground::Composited);
+    setWindowTitle(u"Quorvane"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(m_ground == Ground::Composited ? popoverShadowReach : QMargins());
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->addWidget(content);
+    new FocusRing(this);
+}
+
+int StatusPopover::contentHeight() const {
+    return panelplacement::contentHeight(
+        fittingHeight(*m_content, panelplacement::contentWidth));
+}
+
+void StatusPopover::showAt(const PopoverAnchor::Place& place) {
+    m_place = place;
+    fit();
+    show();
+    raise();
+    activateWindow();
+}
+
+bool StatusPopover::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        fit();
+    return handled;
+}
+
+void StatusPopover::mousePressEvent(QMouseEvent* event) {
+    if (surface().contains(event->position().toPoint()))
+        return;
+    Q_EMIT dismissed();
+    close();
+}
+
+void StatusPopover::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const auto theme = Theme::of(palette());
+    if (m_ground == Ground::Composited) {
+        paintPopoverShadow(painter, surface(), cornerRadius, theme);
+        fillRounded(painter, surface(), cornerRadius, theme.win);
+        frameRounded(painter, surface(), cornerRadius, theme.sep, 1);
+    } else {
+        painter.fillRect(rect(), theme.win);
+        frameRounded(painter, rect(), 0, theme.sep, 1);
+    }
+    Q_EMIT painted();
+}
+
+QRect StatusPopover::surface() const {
+    return m_ground == Ground::Composited ? rect().marginsRemoved(popoverShadowReach) : rect();
+}
+
+void StatusPopover::fit() {
+    const int room = m_place.available.height() - 2 * screenMargin;
+    const QSize size(panelplacement::contentWidth, std::min(contentHeight(), room));
+    // Centred at the anchor, as far as the screen's edge lets it be.
+    QRect anchor(QPoint(), QSize(size.width(), m_place.anchor.height()));
+    anchor.moveCenter(m_place.anchor.center());
+    const auto placed =
+        popoverPlacement(anchor, size, m_place.available, PopoverAlignment::LeftEdges);
+    setGeometry(
+        m_ground == Ground::Composited ? placed.marginsAdded(popoverShadowReach) : placed);
+}
+
+} // namespace quorvane

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include <controls/FocusRing.h>
+#include <gallery/PanelScene.h>
+#include <platform_null/NullServices.h>
+
+#include <QLayout>
+
+namespace quorvane {
+
+namespace {
+
+constexpr int panelWidth = 504;
+
+DateTimeModel& prepared(DateTimeModel& model, const PanelScene::Preparation& prepare) {
+    if (prepare)
+        prepare(model);
+    return model;
+}
+
+PopoverView::Callbacks noCallbacks() {
+    const auto nothing = [] {
+    };
+    return {nothing, nothing, nothing, nothing, nothing};
+}
+
+} // namespace
+
+PanelScene::PanelScene(MainQueue& queue, const Preparation& prepare, const UserLocale& locale)
+    : m_services(makeNullServices(queue)),
+      m_model({sample::clock(), m_defaults, sample::currentZone(), sample::zones(), locale}),
+      m_view(
+          prepared(m_model, prepare),
+          {*m_services.pasteboard,
+           m_keyboard,
+           sample::zones(),
+           queue,
+           sample::clock(),
+           sample::currentZone(),
+           {[] {
+               return true;
+           }}},
+          noCallbacks()) {
+    new FocusRing(&m_view);
+}
+
+void PanelScene::show(QPoint corner) {
+    m_view.ensurePolished();
+    m_view.setGeometry({corner, QSize(panelWidth, m_view.layout()->heightForWidth(panelWidth))});
+    m_view.show();
+}
+
+} // namespace quorvane

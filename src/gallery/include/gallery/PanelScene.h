@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gallery/SampleDefaults.h>
+#include <gallery/SampleKeyboard.h>
+#include <gallery/Samples.h>
+#include <platform/PlatformServices.h>
+#include <ui/PopoverView.h>
+
+namespace quorvane {
+
+/// The real panel at the sample moment, a window by itself, in the application's colours, font and
+/// direction. Its services do nothing.
+class PanelScene {
+public:
+    using Preparation = std::function<void(DateTimeModel&)>;
+
+    /// What `prepare` makes of the model is what the panel opens with.
+    explicit PanelScene(
+        MainQueue& queue,
+        const Preparation& prepare = {},
+        const UserLocale& locale = sample::locale());
+
+    [[nodiscard]] PopoverView& view() { return m_view; }
+
+    /// Shows the panel with its upper left corner there, as high as its content asks for.
+    void show(QPoint corner);
+
+private:
+    SampleDefaults m_defaults;
+    SampleKeyboard m_keyboard;
+    PlatformServices m_services;
+    DateTimeModel m_model;
+    PopoverView m_view;
+};
+
+} // namespace quorvane

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "DelegateFixture.h"
+
+#include <QApplication>
+#include <gmock/gmock.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+class StatusItemTest : public DelegateFixture {
+protected:
+    static QStringList titles(const StatusMenu& menu) {
+        QStringList titles;
+        for (const auto& entry : menu)
+            titles.append(entry.isSeparator() ? u"-"_s : entry.title);
+        return titles;
+    }
+
+    const QStringList menuTitles{
+        u"Preferences…"_s, u"Check for Updates…"_s, u"-"_s, u"Quit Quorvane"_s};
+};
+
+TEST_F(StatusItemTest, RightClickOpensTheMenuAndTheNextLeftClickTogglesAgain) {
+    launch();
+    queue.run();
+    log.clear();
+    statusBar->click(StatusItem::Click::Right);
+    EXPECT_EQ(titles(statusBar->attachedMenu()), menuTitles);
+    EXPECT_THAT(calls(), ElementsAre("click", "attachMenu", "performClick"));
+    // While it is attached a click opens it again.
+    statusBar->click(StatusItem::Click::Left);
+    EXPECT_TRUE(isShown(panel()));
+    queue.run();
+    EXPECT_EQ(calls().back(), "detachMenu");
+    statusBar->click(StatusItem::Click::Left);
+    EXPECT_FALSE(isShown(panel()));
+}
+
+TEST_F(StatusItemTest, MenuThatADesktopShowsByItselfIsTheSame) {
+    launch();
+    EXPECT_EQ(titles(statusBar->publishedMenu), menuTitles);
+    EXPECT_EQ(statusBar->publishedMenu[0].keys, QKeySequence(u"Ctrl+,"_s));
+    EXPECT_EQ(statusBar->publishedMenu[1].keys, QKeySequence());
+    EXPECT_EQ(statusBar->publishedMenu[3].keys, QKeySequence(u"Ctrl+Q"_s));
+}
+
+TEST_F(StatusItemTest, MenuLeadsToPreferencesUpdatesAndTheEnd) {
+    launch();
+    log.clear();
+    statusBar->publishedMenu[0].run();
+    EXPECT_TRUE(isShown(preferences()));
+    statusBar->publishedMenu[1].run();
+    EXPECT_EQ(calls().back(), "showPage org.quorvane.Quorvane");
+    statusBar->publishedMenu[3].run();
+    EXPECT_EQ(calls().back(), "handOver");
+}
+
+TEST_F(StatusItemTest, MenuThatOutlivesTheDelegateDoesNothing) {
+    launch();
+    // The bar goes with the delegate's platform; the menu is what a desktop might still hold.
+    const auto menu = statusBar->publishedMenu;
+    delegate.reset();
+    log.clear();
+    for (const auto& entry : menu) {
+        if (entry.run)
+            entry.run();
+    }
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(StatusItemTest, StoredSwitchIsAppliedOnTheTurnAfterTheLaunch) {
+    defaults.setBool(u"showInMenuBar"_s, false);
+    makeDelegate();
+    launch();
+    EXPECT_TRUE(statusBar->isItemVisible());
+    queue.run();
+    EXPECT_FALSE(statusBar->isItemVisible());
+    delegate->model().setShowInMenuBar(true);
+    queue.run();
+    EXPECT_TRUE(statusBar->isItemVisible());
+}
+
+TEST_F(StatusItemTest, ItemThatCouldNotBeMadeIsMadeOnDemand) {
+    statusBar->makesItems = false;
+    launch();
+    queue.run();
+    statusBar->makesItems = true;
+    delegate->model().setShowInMenuBar(true);
+    queue.run();
+    EXPECT_TRUE(statusBar->isItemVisible());
+}
+
+TEST_F(StatusItemTest, PictureFollowsThePalette) {
+    launch();
+    log.clear();
+    QPalette dark;
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(dark);
+    EXPECT_THAT(calls(), testing::Contains("setImage Quorvane"));
+    QApplication::setPalette(QPalette());
+}
+
+} // namespace
+} // namespace quorvane

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LongerTexts.h"
+
+#include <controls/Theme.h>
+#include <foundation/UserLocale.h>
+
+#include <QString>
+
+#include <cctype>
+#include <memory>
+#include <ostream>
+#include <vector>
+
+namespace quorvane {
+
+/// What a desktop and its user decide about the look of everything.
+struct BoardSetting {
+    QString name; ///< what the pictures' names end with
+    ColorScheme scheme = ColorScheme::Light;
+    Contrast contrast = Contrast::Normal;
+    double scale = 2; ///< device pixels for a point
+    int bodyPixels = 13;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+    QString localeName = QStringLiteral("en_US");
+    enum class Texts { Ours, Longer } texts = Texts::Ours;
+
+    [[nodiscard]] UserLocale locale() const { return UserLocale::named(localeName); }
+
+    /// As the name of a test, which takes letters, digits and underlines alone.
+    friend void PrintTo(const BoardSetting& setting, std::ostream* stream) {
+        for (const auto letter : setting.name.toStdString())
+            *stream << (std::isalnum(static_cast<unsigned char>(letter)) ? letter : '_');
+    }
+};
+
+/// All that the pictures are made for.
+[[nodiscard]] std::vector<BoardSetting> boardSettings();
+
+/// Makes the application follow a setting for as long as it lives.
+class AppliedSetting {
+public:
+    explicit AppliedSetting(const BoardSetting& setting);
+    ~AppliedSetting();
+    Q_DISABLE_COPY_MOVE(AppliedSetting)
+
+private:
+    std::unique_ptr<LongerTexts> m_texts;
+};
+
+} // namespace quorvane

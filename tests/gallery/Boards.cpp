@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "Boards.h"
+
+#include "PanelPlay.h"
+
+#include <QApplication>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int panelColumns = 2;
+constexpr int popoverColumns = 3;
+
+void composePattern(DateTimeModel& model) {
+    sample::selectZones(model, {u"America/New_York"_s, u"Europe/London"_s});
+    model.setFormatPreset(DateFormatPreset::Custom);
+    model.setCustomFormatString(u"EEE d MMM, HH:mm zzz"_s);
+    model.setPresentationMode(PresentationMode::Popover);
+}
+
+void composeTwoZones(DateTimeModel& model) {
+    sample::selectZones(model, {u"America/New_York"_s, u"Europe/London"_s});
+}
+
+void selectNothing(DateTimeModel& model) {
+    sample::selectZones(model, {});
+}
+
+void composeOneDay(DateTimeModel& model) {
+    sample::composeRange(model, sample::later);
+}
+
+void composeDays(DateTimeModel& model) {
+    sample::composeRange(model, sample::daysLater);
+}
+
+void addPickers(BoardPicture& board, const BoardSetting& setting) {
+    {
+        PanelPlay play(setting, composeOneDay);
+        play.openPicker();
+        play.hoverZone(4);
+        board.add(u"Zone picker"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting, composeOneDay);
+        play.openPicker();
+        play.search(u"la"_s);
+        play.hoverZone(7);
+        board.add(u"Zone picker, searching"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting, composeOneDay);
+        play.openPicker();
+        play.search(u"atlantis"_s);
+        board.add(u"Zone picker, nothing found"_s, play.picture());
+    }
+}
+
+void addMenus(BoardPicture& board, const BoardSetting& setting) {
+    {
+        PanelPlay play(setting, composeTwoZones);
+        play.openPresets();
+        play.hoverRow(3);
+        board.add(u"Presets"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting);
+        play.openMore();
+        play.hoverRow(0);
+        board.add(u"More menu"_s, play.picture());
+    }
+}
+
+} // namespace
+
+QImage panelBoard(const BoardSetting& setting) {
+    BoardPicture board(QApplication::palette(), panelColumns);
+    board.add(u"First open"_s, PanelPlay(setting).picture());
+    board.add(u"Range, four zones, Lines"_s, PanelPlay(setting, composeOneDay).picture());
+    {
+        PanelPlay play(setting, composePattern);
+        play.enterPattern();
+        play.copy();
+        board.add(u"Custom pattern, copied"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting, selectNothing);
+        play.hoverPlus();
+        board.add(u"No zone selected: dimmed below"_s, play.picture());
+    }
+    return board.image(setting.scale);
+}
+
+QImage popoversBoard(const BoardSetting& setting) {
+    BoardPicture board(QApplication::palette(), popoverColumns);
+    {
+        PanelPlay play(setting);
+        play.openStartTime();
+        board.add(u"Time popover"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting, composeDays);
+        play.openEndDate();
+        play.hoverDay(26);
+        board.add(u"Calendar of the end date; days before the start refused"_s, play.picture());
+    }
+    addPickers(board, setting);
+    addMenus(board, setting);
+    {
+        PanelPlay play(setting, composeOneDay);
+        play.openStartTime();
+        play.enterMinute();
+        board.add(u"Time popover, minute focused"_s, play.picture());
+    }
+    return board.image(setting.scale);
+}
+
+} // namespace quorvane

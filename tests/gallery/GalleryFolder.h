@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDir>
+#include <QString>
+
+namespace quorvane {
+
+/// The file of a picture in the folder that the build gives, or in the current one.
+[[nodiscard]] inline QString galleryFile(const QString& name) {
+    const auto folder = qEnvironmentVariable("QUORVANE_GALLERY_FOLDER", QStringLiteral("gallery"));
+    QDir().mkpath(folder);
+    return QStringLiteral("%1/%2.png").arg(folder, name);
+}
+
+} // namespace quorvane

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "BoardSettings.h"
+
+#include <fakes/VirtualMainQueue.h>
+#include <gallery/PanelScene.h>
+#include <gallery/ScenePicture.h>
+
+namespace quorvane {
+
+class PressableControl;
+
+/// A panel on the screen, and hands that bring it to a state with pointer and keys.
+class PanelPlay {
+public:
+    explicit PanelPlay(const BoardSetting& setting, const PanelScene::Preparation& prepare = {});
+
+    void openStartTime();
+    void enterMinute();
+    void openEndDate();
+    void hoverDay(int day);
+    void openPicker();
+    void search(const QString& query);
+    void hoverZone(int row);
+    void openPresets();
+    void openMore();
+    void hoverRow(int row);
+    void hoverPlus();
+    void enterPattern();
+    void copy();
+
+    [[nodiscard]] PopoverView& view() { return m_scene.view(); }
+
+    /// What the control that was pressed has opened; null before.
+    [[nodiscard]] QWidget* surface() const;
+
+    [[nodiscard]] ScenePicture picture();
+
+private:
+    void open(PressableControl& control);
+
+    double m_scale;
+    VirtualMainQueue m_queue;
+    PanelScene m_scene;
+    PressableControl* m_opener = nullptr;
+};
+
+} // namespace quorvane
