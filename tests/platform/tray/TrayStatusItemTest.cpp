@@ -56,6 +56,14 @@ TEST_F(TrayStatusItemTest, TellsWhenAHostHasComeAndGone) {
     EXPECT_EQ(item->frame(), std::nullopt);
 }
 
+TEST_F(TrayStatusItemTest, HasNoPlaceBeforeTheHostHasTakenItIn) {
+    const FakeXEmbedHost host;
+    item->setImage(image(), u"Quorvane"_s);
+    item->setVisible(true);
+    EXPECT_TRUE(waitUntil([&] { return item->hasButton(); }));
+    EXPECT_EQ(item->frame(), std::nullopt);
+}
+
 TEST_F(TrayStatusItemTest, AClickOfOursIsALeftOneWhileNoMenuIsAttached) {
     const FakeXEmbedHost host;
     EXPECT_TRUE(waitUntil([&] { return item->hasButton(); }));
