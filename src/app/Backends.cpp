@@ -2,6 +2,7 @@
 #include <app/Backends.h>
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
+#include <platform_tray/TrayStatusBar.h>
 #include <platform_x11/X11Services.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
 
@@ -30,6 +31,7 @@ makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue
                 MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
             services->appearance =
                 std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
+            services->statusBar = std::make_unique<TrayStatusBar>(QDBusConnection::sessionBus());
             return *std::move(services);
         }
     }

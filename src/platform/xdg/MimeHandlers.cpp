@@ -45,8 +45,8 @@ MimeHandlers::MimeHandlers(const Environment& environment) {
     for (const auto& folder : config.split(u':', Qt::SkipEmptyParts))
         m_files.append(folder + u"/mimeapps.list"_s);
     for (const auto& folder : data.split(u':', Qt::SkipEmptyParts))
-        m_files += {
-            folder + u"/applications/mimeapps.list"_s, folder + u"/applications/mimeinfo.cache"_s};
+        m_files +=
+            {folder + u"/applications/mimeapps.list"_s, folder + u"/applications/mimeinfo.cache"_s};
 }
 
 bool MimeHandlers::handles(const QString& mimeType) const {

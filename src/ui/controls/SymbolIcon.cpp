@@ -12,11 +12,10 @@ namespace quorvane {
 
 namespace {
 
-/// Device pixels on either side of the ink.
-constexpr double haloWidth = 0.5;
-
-/// The drawings' own grid.
-constexpr double grid = 16;
+/// On either side of the ink, on the drawings' own grid of 16 by 16. A share of the size, not of
+/// the device's pixels: some desktops take the largest picture and scale it down. With less, the
+/// smallest icon cannot be read by its halo alone.
+constexpr double haloWidth = 0.75;
 
 /// The sizes that status bars ask for; a desktop that is sent pictures is sent these.
 constexpr std::array barSizes{16, 22, 24, 32, 48};
@@ -31,8 +30,7 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
         const double size = std::min(rect.width(), rect.height());
-        const double pixels = size * painter->deviceTransform().m11();
-        const double haloed = SymbolStyle::regular + 2 * haloWidth * grid / pixels;
+        constexpr double haloed = SymbolStyle::regular + 2 * haloWidth;
         paintSymbol(*painter, m_symbol, {size, haloed}, rect, m_ink.halo);
         paintSymbol(*painter, m_symbol, {size, SymbolStyle::regular}, rect, m_ink.ink);
     }
@@ -42,8 +40,7 @@ public:
     }
 
     /// `size` is in device pixels already.
-    QPixmap
-    scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override {
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override {
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);

@@ -8,6 +8,7 @@ from Xlib.ext import xtest
 from .accessible import Accessible
 
 _LEFT = 1
+_RIGHT = 3
 
 
 class Mouse:
@@ -25,9 +26,13 @@ class Mouse:
         left, top, width, height = target.extents
         self.click_at(left + width // 2, top + height // 2)
 
-    def click_at(self, x: int, y: int) -> None:
+    def click_at(self, x: int, y: int, button: int = _LEFT) -> None:
         """The same at a place on the screen."""
         xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
-        xtest.fake_input(self._display, X.ButtonPress, _LEFT)
-        xtest.fake_input(self._display, X.ButtonRelease, _LEFT)
+        xtest.fake_input(self._display, X.ButtonPress, button)
+        xtest.fake_input(self._display, X.ButtonRelease, button)
         self._display.sync()
+
+    def right_click_at(self, x: int, y: int) -> None:
+        """The same with the right button."""
+        self.click_at(x, y, _RIGHT)

@@ -45,9 +45,7 @@ class Session:
             self._make_environment()
             self.display = self._start_server()
             self.environment["DISPLAY"] = self.display
-            self.environment["DBUS_SESSION_BUS_ADDRESS"] = session_bus.start(
-                self._processes, self.environment, self.directory("bus")
-            )
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.start_bus("bus")
             self.windows = Windows(self.display)
             undo.callback(self.windows.close)
             self.accessibility = Accessibility(self.environment["DBUS_SESSION_BUS_ADDRESS"])
@@ -85,6 +83,10 @@ class Session:
     def run(self, command: Sequence[str]) -> None:
         """Runs a short command in the session to its end; it has to succeed."""
         subprocess.run(command, env=self.environment, check=True, timeout=30)
+
+    def start_bus(self, name: str) -> str:
+        """Starts a bus that is empty but for its services, and returns its address."""
+        return session_bus.start(self._processes, self.environment, self.directory(name))
 
     def logs(self) -> str:
         """What the programs of the session wrote so far."""

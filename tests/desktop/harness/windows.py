@@ -15,6 +15,8 @@ from .waiting import PATIENCE, Deadline, Timeout, wait_until
 
 Result = TypeVar("Result")
 
+_THINNEST_MENU = 16  # points; window managers have thinner windows of their own
+
 
 class Windows:
     """Observes one display: every wait ends with the event that fulfils it."""
@@ -88,6 +90,19 @@ class Windows:
             return self._cardinals(self._root, "_NET_CLIENT_LIST")
         children = (child.id for child in self._root.query_tree().children)
         return [window for window in children if self._is_viewable(window)]
+
+    def menu(self) -> int | None:
+        """The menu that is open, of whichever program: not all say so by the window's type."""
+        for child in reversed(self._root.query_tree().children):
+            try:
+                attributes = child.get_attributes()
+                is_readable = min(self.frame(child.id)[2:]) > _THINNEST_MENU
+            except XError:
+                continue  # it went while it was looked at
+            is_unmanaged = attributes.override_redirect and attributes.map_state == X.IsViewable
+            if is_unmanaged and is_readable and self.wm_class(child.id):
+                return child.id
+        return None
 
     def active(self) -> int | None:
         """The window that has the user's attention."""

@@ -12,10 +12,10 @@ namespace quorvane {
 /// What a symbol is drawn with where nobody tells the colour of the ground.
 struct SymbolInk {
     QColor ink;
-    QColor halo; ///< half a device pixel around the ink; it alone shows on a ground like the ink
+    QColor halo; ///< thinly around the ink; it alone shows on a ground like it
 
-    /// In the palette's text colour, whose opposite is the halo: on a bar that follows the desktop's
-    /// light or dark, only the ink is seen; on one of the other tone, its outline.
+    /// In the palette's text colour, whose opposite is the halo: on a bar that follows the
+    /// desktop's light or dark, only the ink is seen; on one of the other tone, its outline.
     [[nodiscard]] static SymbolInk of(const QPalette& palette);
 };
 

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractNativeEventFilter>
+#include <QObject>
+
+#include <cstdint>
+#include <optional>
+
+namespace quorvane {
+
+/// Whether somebody on the X server takes in icons, which then embed themselves: the owner of a
+/// selection (freedesktop.org's System Tray Protocol Specification). Watched on Qt's connection, on
+/// which the icons are shown too. Never, where Qt draws on something else than X11.
+class XEmbedHosts final : public QObject, public QAbstractNativeEventFilter {
+    Q_OBJECT
+
+public:
+    XEmbedHosts();
+    ~XEmbedHosts() override;
+
+    /// Whether there is an X server that could have a host.
+    [[nodiscard]] bool isPossible() const { return m_selection.has_value(); }
+
+    [[nodiscard]] bool isThere() const { return m_isThere; }
+
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+Q_SIGNALS:
+    /// On a turn of the main loop of its own, not in the midst of Qt's events.
+    void changed();
+
+private:
+    struct Selection {
+        std::uint32_t atom;
+        std::uint8_t notice; ///< the number of the event that tells of a new owner, or of none
+    };
+
+    void follow();
+
+    std::optional<Selection> m_selection;
+    bool m_isThere = false;
+};
+
+} // namespace quorvane

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include <controls/Contrast.h>
+#include <controls/SymbolIcon.h>
+#include <controls/SymbolPainter.h>
+#include <controls/Theme.h>
+
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr std::array barSizes{16, 22, 24, 32, 48};
+constexpr std::array schemes{ColorScheme::Light, ColorScheme::Dark};
+
+QIcon icon(ColorScheme scheme) {
+    return symbolIcon(Symbol::CalendarBadgeClock, SymbolInk::of(housePalette(scheme)));
+}
+
+QImage shown(const QIcon& icon, int size, const QColor& bar) {
+    QImage image(size, size, QImage::Format_RGB32);
+    image.fill(bar);
+    QPainter painter(&image);
+    icon.paint(&painter, image.rect());
+    return image;
+}
+
+/// The share of the pixels that one can tell from the bar (WCAG 2.1, 1.4.11).
+double visibleShare(const QImage& image, const QColor& bar) {
+    int visible = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            visible += contrastRatio(image.pixelColor(x, y), bar) >= 3 ? 1 : 0;
+    return static_cast<double>(visible) / (image.width() * image.height());
+}
+
+TEST(SymbolIcon, IsReadOnBarsOfEitherToneWhateverTheDesktopsIs) {
+    for (const auto scheme : schemes) {
+        for (const auto bar : {u"#ffffff", u"#f6f6f8", u"#1d1e21", u"#000000"}) {
+            for (const int size : barSizes) {
+                const QColor ground{QString::fromUtf16(bar)};
+                EXPECT_GT(visibleShare(shown(icon(scheme), size, ground), ground), 0.1)
+                    << ground.name().toStdString() << ' ' << size;
+            }
+        }
+    }
+}
+
+TEST(SymbolIcon, OnABarOfTheDesktopsToneOnlyTheInkIsSeen) {
+    for (const auto scheme : schemes) {
+        const auto ink = SymbolInk::of(housePalette(scheme));
+        for (const int size : barSizes) {
+            QImage plain(size, size, QImage::Format_RGB32);
+            plain.fill(ink.halo);
+            QPainter painter(&plain);
+            paintSymbol(
+                painter,
+                Symbol::CalendarBadgeClock,
+                {static_cast<double>(size)},
+                plain.rect(),
+                ink.ink);
+            painter.end();
+            EXPECT_EQ(shown(icon(scheme), size, ink.halo), plain) << size;
+        }
+    }
+}
+
+TEST(SymbolIcon, InkIsThePalettesTextAndTheHaloItsOpposite) {
+    const auto light = SymbolInk::of(housePalette(ColorScheme::Light));
+    EXPECT_EQ(light.ink, Theme::house(ColorScheme::Light).text);
+    EXPECT_EQ(light.halo, QColor(Qt::white));
+    const auto dark = SymbolInk::of(housePalette(ColorScheme::Dark));
+    EXPECT_EQ(dark.ink, Theme::house(ColorScheme::Dark).text);
+    EXPECT_EQ(dark.halo, QColor(Qt::black));
+}
+
+TEST(SymbolIcon, IsDrawnForTheDevicesPixels) {
+    const auto tray = icon(ColorScheme::Light);
+    for (const int size : barSizes) {
+        const auto twice = tray.pixmap(QSize(size, size), 2.0);
+        EXPECT_EQ(twice.size(), QSize(2 * size, 2 * size));
+        const auto once = tray.pixmap(QSize(2 * size, 2 * size), 1.0);
+        EXPECT_EQ(twice.toImage().convertToFormat(once.toImage().format()), once.toImage());
+    }
+}
+
+TEST(SymbolIcon, OffersTheSizesThatBarsAskFor) {
+    EXPECT_EQ(
+        icon(ColorScheme::Dark).availableSizes(),
+        (QList<QSize>{{16, 16}, {22, 22}, {24, 24}, {32, 32}, {48, 48}}));
+    EXPECT_FALSE(icon(ColorScheme::Dark).isNull());
+}
+
+/// For people: each size on each bar, ink of the bar's tone above, of the other one below.
+TEST(SymbolIcon, Board) {
+    const std::array bars{u"#ffffff"_s, u"#f6f6f8"_s, u"#8a8f98"_s, u"#3b6ea5"_s, u"#1d1e21"_s};
+    constexpr QSize cell(220, 64);
+    constexpr int gap = 12;
+    QImage board(
+        cell.width() * static_cast<int>(bars.size()), 2 * cell.height(), QImage::Format_RGB32);
+    QPainter painter(&board);
+    for (std::size_t column = 0; column < bars.size(); ++column) {
+        for (int row = 0; row < 2; ++row) {
+            const QRect place(
+                QPoint(static_cast<int>(column) * cell.width(), row * cell.height()), cell);
+            painter.fillRect(place, QColor(bars[column]));
+            int x = place.x() + gap;
+            for (const int size : barSizes) {
+                icon(schemes[static_cast<std::size_t>(row)])
+                    .paint(&painter, QRect(x, place.center().y() - size / 2, size, size));
+                x += size + gap;
+            }
+        }
+    }
+    painter.end();
+    const auto folder = qEnvironmentVariable("QUORVANE_GALLERY_FOLDER", u"gallery"_s);
+    QDir().mkpath(folder);
+    EXPECT_TRUE(board.save(folder + u"/tray.png"_s));
+}
+
+} // namespace
+} // namespace quorvane

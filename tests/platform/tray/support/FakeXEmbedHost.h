@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform_x11/QtX11.h>
+#include <platform_x11/X11Connection.h>
+#include <platform_x11/X11HiddenWindow.h>
+
+#include <memory>
+#include <optional>
+
+namespace quorvane {
+
+/// Another program that owns the selection of XEmbed hosts, for as long as this object lives. It
+/// takes no icon in.
+class FakeXEmbedHost {
+public:
+    FakeXEmbedHost() {
+        const auto selection = m_connection->atom("_NET_SYSTEM_TRAY_S0");
+        xcb_set_selection_owner(m_connection->xcb(), m_window->id(), selection, XCB_CURRENT_TIME);
+        m_connection->waitForServer();
+    }
+
+    /// A watch that ended before does not hear of it, one that begins afterwards knows of it.
+    ~FakeXEmbedHost() {
+        qtx11::waitForServer();
+        m_window.reset();
+        m_connection->waitForServer();
+    }
+
+    FakeXEmbedHost(const FakeXEmbedHost&) = delete;
+    FakeXEmbedHost& operator=(const FakeXEmbedHost&) = delete;
+
+private:
+    std::shared_ptr<X11Connection> m_connection = X11Connection::open();
+    std::optional<X11HiddenWindow> m_window{m_connection};
+};
+
+} // namespace quorvane
