@@ -8,8 +8,8 @@
 #include <preferences/PreferencesView.h>
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QWindow>
 
@@ -101,7 +101,10 @@ void AppDelegate::terminate() {
         m_panelFrame->saveNow();
     m_insertSteps.cancelAll();
     m_inserter.finish();
-    m_environment.platform.pasteboard->handOver([] { QCoreApplication::quit(); });
+    m_environment.platform.pasteboard->handOver([] {
+        // Not quit(), which asks each window first.
+        QCoreApplication::exit();
+    });
 }
 
 void AppDelegate::startHotKeyMonitor(HotKeyCombo combo) {

@@ -45,8 +45,8 @@ void AppDelegate::closePopover() {
 }
 
 void AppDelegate::holdOffReopening() {
-    m_reopeningHeldOff = m_environment.mainQueue.after(
-        reopeningHoldOff, [this] { m_reopeningHeldOff.reset(); });
+    m_reopeningHeldOff =
+        m_environment.mainQueue.after(reopeningHoldOff, [this] { m_reopeningHeldOff.reset(); });
 }
 
 } // namespace quorvane

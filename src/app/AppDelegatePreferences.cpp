@@ -72,8 +72,11 @@ void AppDelegate::applyHotKey(HotKeyCombo combo) {
 }
 
 void AppDelegate::setupMainMenu() {
-    m_mainMenu = std::make_unique<MainMenu>(
-        MainMenu::Actions{[this] { checkForUpdates(); }, [this] { terminate(); }});
+    m_mainMenu = std::make_unique<MainMenu>(MainMenu::Actions{
+        [this] { checkForUpdates(); },
+        [this] {
+            terminate();
+        }});
 }
 
 } // namespace quorvane

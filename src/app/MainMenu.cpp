@@ -48,8 +48,8 @@ void MainMenu::addEdit(const QString& title, const QKeySequence& keys, const cha
     auto* action = m_edit->addAction(title, this, [method] {
         // Whatever has the focus answers, or nothing does: a chip knows no such method.
         auto* focused = QApplication::focusWidget();
-        if (focused != nullptr && focused->metaObject()->indexOfMethod(
-                                      QByteArray(method).append("()").constData()) >= 0)
+        if (focused != nullptr &&
+            focused->metaObject()->indexOfMethod(QByteArray(method).append("()").constData()) >= 0)
             QMetaObject::invokeMethod(focused, method);
     });
     // The field with the focus has these keys itself; here they are for show.

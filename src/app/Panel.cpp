@@ -7,7 +7,6 @@
 #include <controls/Theme.h>
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -75,12 +74,6 @@ void Panel::mousePressEvent(QMouseEvent* event) {
 void Panel::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
     Q_EMIT pointerLeft();
-}
-
-// A window manager's close hides the panel as its own button does; it is kept for the next time.
-void Panel::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    hide();
 }
 
 void Panel::paintEvent(QPaintEvent*) {

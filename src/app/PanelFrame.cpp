@@ -54,8 +54,7 @@ void PanelFrame::moveOntoScreen() {
 }
 
 void PanelFrame::follow() {
-    connect(
-        &m_panel, &Panel::frameChanged, this, &PanelFrame::noteChange, Qt::UniqueConnection);
+    connect(&m_panel, &Panel::frameChanged, this, &PanelFrame::noteChange, Qt::UniqueConnection);
 }
 
 void PanelFrame::saveNow() {
@@ -72,10 +71,10 @@ void PanelFrame::request(const QRect& frame) {
 
 void PanelFrame::fit() {
     const auto frame = m_panel.geometry();
-    const auto area = 
+    const auto area =
         screens::screenAround(frame.center(), m_surroundings.workspace).availableGeometry();
-    const int height = std::max(
-        panelplacement::contentHeight(m_panel.fittingHeight()), m_userHeight.value_or(0));
+    const int height =
+        std::max(panelplacement::contentHeight(m_panel.fittingHeight()), m_userHeight.value_or(0));
     const auto fitting = panelplacement::resized(frame, height, area);
     // What the pointer is on stays under it: the part that does not fit scrolls for so long.
     m_heldInPlace = fitting.top() != frame.top() && m_panel.underMouse();
@@ -89,9 +88,9 @@ void PanelFrame::fitOnceThePointerIsGone() {
 
 void PanelFrame::noteScreenGone(QScreen* gone) {
     // What is hidden is looked after when it shows again.
-    const bool isLost = m_panel.isVisible() &&
-                        !panelplacement::touchesAny(
-                            m_panel.geometry(), screens::availableAreas(gone));
+    const bool isLost =
+        m_panel.isVisible() &&
+        !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas(gone));
     if (!isLost)
         return;
     // A window manager may by then have pulled a corner of it onto another screen.

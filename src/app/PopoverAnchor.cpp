@@ -43,13 +43,12 @@ PopoverAnchor::Place PopoverAnchor::place(const std::optional<QRect>& iconFrame)
             screens::screenAround(m_clicks.back(), m_workspace).availableGeometry()};
     const auto& screen = screens::mainScreen(m_workspace);
     const auto available = screen.availableGeometry();
-    const auto inCorner =
-        corner(screen.geometry(), available, QGuiApplication::layoutDirection());
+    const auto inCorner = corner(screen.geometry(), available, QGuiApplication::layoutDirection());
     return {pointRect(lastClickOn(screen).value_or(inCorner)), available};
 }
 
-QPoint PopoverAnchor::corner(
-    const QRect& screen, const QRect& available, Qt::LayoutDirection direction) {
+QPoint
+PopoverAnchor::corner(const QRect& screen, const QRect& available, Qt::LayoutDirection direction) {
     const bool hasLowerBar = screen.bottom() - available.bottom() > available.top() - screen.top();
     const int y = hasLowerBar ? available.bottom() : available.top();
     return {direction == Qt::RightToLeft ? available.left() : available.right(), y};

@@ -40,8 +40,7 @@ StatusPopover::StatusPopover(QWidget* content, Ground ground)
 }
 
 int StatusPopover::contentHeight() const {
-    return panelplacement::contentHeight(
-        fittingHeight(*m_content, panelplacement::contentWidth));
+    return panelplacement::contentHeight(fittingHeight(*m_content, panelplacement::contentWidth));
 }
 
 void StatusPopover::showAt(const PopoverAnchor::Place& place) {
@@ -92,8 +91,7 @@ void StatusPopover::fit() {
     anchor.moveCenter(m_place.anchor.center());
     const auto placed =
         popoverPlacement(anchor, size, m_place.available, PopoverAlignment::LeftEdges);
-    setGeometry(
-        m_ground == Ground::Composited ? placed.marginsAdded(popoverShadowReach) : placed);
+    setGeometry(m_ground == Ground::Composited ? placed.marginsAdded(popoverShadowReach) : placed);
 }
 
 } // namespace quorvane

@@ -75,9 +75,24 @@ PopoverHeader* PopoverView::makeHeader() {
     return new PopoverHeader(
         {[this] { togglePresentationMode(); },
          [this] { m_callbacks.onClose(); },
-         {{tr("Preferences…"), Symbol::Gear, preferencesKeys, [this] { m_callbacks.onShowPreferences(); }},
-          {tr("Check for Updates…"), Symbol::ArrowDownCircle, {}, [this] { m_callbacks.onCheckForUpdates(); }},
-          {tr("Quit Quorvane"), Symbol::Power, quitKeys, [this] { m_callbacks.onQuit(); }}}},
+         {{tr("Preferences…"),
+           Symbol::Gear,
+           preferencesKeys,
+           [this] {
+               m_callbacks.onShowPreferences();
+           }},
+          {tr("Check for Updates…"),
+           Symbol::ArrowDownCircle,
+           {},
+           [this] {
+               m_callbacks.onCheckForUpdates();
+           }},
+          {tr("Quit Quorvane"),
+           Symbol::Power,
+           quitKeys,
+           [this] {
+               m_callbacks.onQuit();
+           }}}},
         m_services.popoverEffects,
         this);
 }

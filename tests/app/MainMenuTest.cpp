@@ -45,8 +45,7 @@ protected:
 
 TEST_F(MainMenuTest, HasItsEntriesInOrder) {
     EXPECT_EQ(
-        entries(0),
-        (QStringList{u"Check for Updates…|"_s, u"-"_s, u"Quit Quorvane|Ctrl+Q"_s}));
+        entries(0), (QStringList{u"Check for Updates…|"_s, u"-"_s, u"Quit Quorvane|Ctrl+Q"_s}));
     EXPECT_EQ(mainMenu.menus()[1]->title(), u"Edit"_s);
     EXPECT_EQ(
         entries(1),

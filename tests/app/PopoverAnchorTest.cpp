@@ -51,8 +51,7 @@ TEST_F(PopoverAnchorTest, WithoutAnythingKnownItIsTheCornerOfTheBar) {
     EXPECT_EQ(corner(aboveBar), aboveBar.bottomRight());
     const auto besideBar = screen.adjusted(28, 0, 0, 0);
     EXPECT_EQ(corner(besideBar), besideBar.topRight());
-    EXPECT_EQ(
-        PopoverAnchor::corner(screen, aboveBar, Qt::RightToLeft), aboveBar.bottomLeft());
+    EXPECT_EQ(PopoverAnchor::corner(screen, aboveBar, Qt::RightToLeft), aboveBar.bottomLeft());
 }
 
 } // namespace

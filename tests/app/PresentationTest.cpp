@@ -24,8 +24,7 @@ class PresentationTest : public DelegateFixture {
 protected:
     /// Launched in that mode, shown, and everything that start-up put off done.
     void launchAs(PresentationMode mode) {
-        defaults.setString(
-            DateTimeModel::presentationModeKey.toString(), rawValue(mode));
+        defaults.setString(DateTimeModel::presentationModeKey.toString(), rawValue(mode));
         makeDelegate();
         statusBar->hasButton = bar.hasButton;
         statusBar->frame = bar.frame;
@@ -49,9 +48,7 @@ protected:
         queue.run();
     }
 
-    static void pressOutside() {
-        QTest::mouseClick(popover(), Qt::LeftButton, {}, {-20, -20});
-    }
+    static void pressOutside() { QTest::mouseClick(popover(), Qt::LeftButton, {}, {-20, -20}); }
 };
 
 TEST_F(PresentationTest, LaunchShowsTheInterfaceInItsMode) {
@@ -242,7 +239,8 @@ TEST_F(PresentationTest, HidingTheIconLeavesThePanelAlone) {
 
 TEST_F(PresentationTest, LaunchWithAHiddenIconInPopoverModeEndsWithNothingVisible) {
     defaults.setBool(u"showInMenuBar"_s, false);
-    defaults.setString(DateTimeModel::presentationModeKey.toString(), rawValue(PresentationMode::Popover));
+    defaults.setString(
+        DateTimeModel::presentationModeKey.toString(), rawValue(PresentationMode::Popover));
     makeDelegate();
     launch();
     EXPECT_TRUE(isShown(popover()));

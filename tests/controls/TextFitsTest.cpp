@@ -3,10 +3,10 @@
 
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
+#include <controls/ChoiceRow.h>
 #include <controls/FavoriteSuggestionChip.h>
 #include <controls/KeyCap.h>
 #include <controls/MenuChip.h>
-#include <controls/ChoiceRow.h>
 #include <controls/SegmentButton.h>
 #include <controls/SegmentedChip.h>
 #include <controls/TextButton.h>

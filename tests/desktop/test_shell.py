@@ -21,11 +21,12 @@ class PlaceCase(DesktopCase):
     def move(self, quorvane: Quorvane, x: int, y: int) -> None:
         window = quorvane.wait_active()
         self.session.windows.move(window, x, y)
-        wait_until(lambda: self.frame(quorvane)[:2] == (x, y), f"the panel at {x}, {y}")
+        wait_until(lambda: self.saved_place() == (x, y), f"the panel at {x}, {y}")
 
-    def saved(self) -> dict[str, object]:
+    def saved_place(self) -> tuple[int, int] | None:
         file = self.session.directory("state") / "quorvane" / "windows.json"
-        return json.loads(file.read_text()) if file.exists() else {}
+        frame = json.loads(file.read_text()).get("PanelV2") if file.exists() else None
+        return (frame["x"], frame["y"]) if frame else None
 
 
 class PanelsPlace(PlaceCase):
@@ -44,7 +45,6 @@ class PanelsPlace(PlaceCase):
     def test_a_killed_program_has_saved_its_place(self) -> None:
         quorvane = Quorvane(self.session)
         self.move(quorvane, 70, 50)
-        wait_until(lambda: "PanelV2" in self.saved(), "the place to be saved")
         quorvane.process.kill()
         quorvane.process.wait()
         quorvane = Quorvane(self.session)
@@ -128,8 +128,10 @@ class Desktops(DesktopCase):
         windows.show_desktop(1)
         self.assertEqual(quorvane.panel(), panel)
         self.assertTrue(windows.is_on_all_desktops(panel))
-        quorvane.hide()
+        quorvane.action("toggle")
+        quorvane.wait_hidden()
         self.summon(quorvane)
+        self.assertTrue(windows.is_on_all_desktops(panel))
 
     def test_the_dock_switch_moves_both_windows_in_and_out_of_the_taskbar(self) -> None:
         quorvane = Quorvane(self.session)

@@ -31,7 +31,8 @@ protected:
     FixedClock clock{Instant{1710021900}};
     FixedCurrentZone currentZone{*zones.zone(QStringLiteral("America/New_York"))};
     MemoryDefaults defaults;
-    DateTimeModel model{{clock, defaults, currentZone, zones, UserLocale::named(QStringLiteral("en_US"))}};
+    DateTimeModel model{
+        {clock, defaults, currentZone, zones, UserLocale::named(QStringLiteral("en_US"))}};
     int inserted = 0;
     int closed = 0;
     int preferences = 0;

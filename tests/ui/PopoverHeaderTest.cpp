@@ -40,7 +40,8 @@ TEST_F(PopoverHeaderTest, MenuOffersPreferencesUpdatesAndQuit) {
     QStringList titles;
     for (const auto* row : QApplication::activePopupWidget()->findChildren<MenuRow*>())
         titles.append(row->text());
-    EXPECT_EQ(titles, (QStringList{u"Preferences…"_s, u"Check for Updates…"_s, u"Quit Quorvane"_s}));
+    EXPECT_EQ(
+        titles, (QStringList{u"Preferences…"_s, u"Check for Updates…"_s, u"Quit Quorvane"_s}));
     EXPECT_EQ(menuItem(u"Preferences…"_s)->accessibleDescription(), u"Ctrl+,"_s);
     EXPECT_EQ(menuItem(u"Check for Updates…"_s)->accessibleDescription(), QString());
     EXPECT_EQ(menuItem(u"Quit Quorvane"_s)->accessibleDescription(), u"Ctrl+Q"_s);

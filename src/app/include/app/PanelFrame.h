@@ -56,11 +56,11 @@ private:
 
     Panel& m_panel;
     Surroundings m_surroundings;
-    std::optional<int> m_userHeight;   ///< less than that only the user gives it
-    std::deque<QRect> m_requested;     ///< the latest of ours, which the desktop reports back late
-    std::optional<Deadline> m_saving;  ///< there is a frame that is not saved yet
+    std::optional<int> m_userHeight;  ///< less than that only the user gives it
+    std::deque<QRect> m_requested;    ///< the latest of ours, which the desktop reports back late
+    std::optional<Deadline> m_saving; ///< there is a frame that is not saved yet
     std::optional<Deadline> m_rescue; ///< its screen is gone
-    bool m_heldInPlace = false;        ///< it is to grow once the pointer has left
+    bool m_heldInPlace = false;       ///< it is to grow once the pointer has left
 };
 
 } // namespace quorvane

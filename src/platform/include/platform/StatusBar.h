@@ -12,8 +12,8 @@ class StatusBar {
 public:
     virtual ~StatusBar() = default;
 
-    /// A new item, hidden. `menu` is what a desktop that shows the item's menu by itself shows; null
-    /// on a desktop without any such bar.
+    /// A new item, hidden. `menu` is what a desktop that shows the item's menu by itself shows;
+    /// null on a desktop without any such bar.
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem(const StatusMenu& menu) = 0;
 };
 

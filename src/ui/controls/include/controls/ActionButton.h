@@ -20,6 +20,7 @@ public:
 
 protected:
     [[nodiscard]] double cornerRadius() const override;
+
     /// What stands in the middle of the button.
     struct Face {
         Symbol symbol;

@@ -6,8 +6,8 @@
 
 namespace quorvane {
 
-/// A button that shows a symbol only. Its name, which is its tooltip as well, says what it does. One
-/// that has something open looks pressed.
+/// A button that shows a symbol only. Its name, which is its tooltip as well, says what it does.
+/// One that has something open looks pressed.
 class IconButton : public PressableControl {
     Q_OBJECT
 

@@ -17,8 +17,7 @@ class RowMenu : public RoleWidget {
 
 public:
     /// The keyboard starts at the row `start`, where there is one.
-    RowMenu(
-        QAccessible::Role role, const std::vector<MenuRow*>& rows, int start, QWidget* parent);
+    RowMenu(QAccessible::Role role, const std::vector<MenuRow*>& rows, int start, QWidget* parent);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
