@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <app/AppDelegate.h>
 #include <app/AppearanceFollower.h>
+#include <app/ApplicationAccessible.h>
 #include <app/Backends.h>
 #include <app/TerminationSignals.h>
 #include <foundation/DiskFileWriter.h>
@@ -59,6 +60,7 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
 
 int main(int argc, char** argv) {
     TerminationSignals signals;
+    ApplicationAccessible::install();
     QApplication application(argc, argv);
     configure(application);
     DBusApplicationInstance instance;
