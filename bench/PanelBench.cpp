@@ -55,6 +55,7 @@ public:
             {[] {},
              [] {},
              [] {},
+             [] {},
              [] {
              }}));
         QObject::connect(m_panel.get(), &Panel::fittingHeightChanged, m_panel.get(), [this] {

@@ -12,6 +12,7 @@
 #include <platform_dbus/DBusApplicationInstance.h>
 
 #include <QApplication>
+#include <QIcon>
 
 namespace {
 
@@ -22,6 +23,8 @@ void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
     application.setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
+    // Windows show it; Qt's reader of SVG images is a plugin of the library that we link anyway.
+    application.setWindowIcon(QIcon(u":/icons/org.quorvane.Quorvane.svg"_s));
     application.setQuitOnLastWindowClosed(false);
 }
 
