@@ -65,7 +65,9 @@ void PopoverView::keyPressEvent(QKeyEvent* event) {
 
 void PopoverView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    m_dateSection->focusStart();
+    // The picker covers everything else, and is still open if it was when the panel hid.
+    if (!m_timeZoneSection->isPicking())
+        m_dateSection->focusStart();
 }
 
 EntrySurroundings PopoverView::entrySurroundings() const {
