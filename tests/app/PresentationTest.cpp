@@ -171,6 +171,15 @@ TEST_F(PresentationTest, PreferencesHideEither) {
     }
 }
 
+TEST_F(PresentationTest, UpdateCheckTakesThePopoverAwayAndLeavesThePanel) {
+    launchAs(PresentationMode::Popover);
+    delegate->checkForUpdates();
+    EXPECT_FALSE(isShown(popover()));
+    launchAs(PresentationMode::Window);
+    delegate->checkForUpdates();
+    EXPECT_TRUE(isShown(panel()));
+}
+
 TEST_F(PresentationTest, ModeChangeWhileShownShowsTheOther) {
     launchAs(PresentationMode::Window);
     log.clear();
