@@ -180,6 +180,16 @@ TEST_F(PresentationTest, UpdateCheckTakesThePopoverAwayAndLeavesThePanel) {
     EXPECT_TRUE(isShown(panel()));
 }
 
+TEST_F(PresentationTest, PreferencesCannotBeMinimisedOutOfSight) {
+    launchAs(PresentationMode::Window);
+    delegate->showPreferences();
+    const auto flags = preferences()->windowFlags();
+    EXPECT_TRUE(flags.testFlag(Qt::WindowTitleHint));
+    EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
+}
+
 TEST_F(PresentationTest, ModeChangeWhileShownShowsTheOther) {
     launchAs(PresentationMode::Window);
     log.clear();
