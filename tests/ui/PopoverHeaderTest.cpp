@@ -85,6 +85,14 @@ TEST_F(PopoverHeaderTest, MenuIsAMenuBelowItsButtonWithRightEdgesFlush) {
     EXPECT_EQ(accessible->child(0)->child(0)->role(), QAccessible::PopupMenu);
 }
 
+TEST_F(PopoverHeaderTest, PressOfAnAssistiveToolWhileTheMenuIsOpenClosesIt) {
+    more().click();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    more().click();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(more().hasFocus());
+}
+
 TEST_F(PopoverHeaderTest, KeyCapsFollowTheShortcut) {
     EXPECT_EQ(caps().size(), 4);
     model.setHotKey({2, combomodifier::control});
