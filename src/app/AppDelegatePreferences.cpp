@@ -59,6 +59,8 @@ void AppDelegate::setupPreferences() {
 }
 
 void AppDelegate::checkForUpdates() {
+    // It has the keyboard grabbed, which what comes now needs.
+    closePopover();
     SparkleUpdater::shared().controller().checkForUpdates(*m_environment.platform.softwareCentre);
 }
 

@@ -15,7 +15,12 @@ constexpr QSize contentSize{400, 540};
 
 } // namespace
 
-PreferencesWindow::PreferencesWindow(QWidget* content) {
+PreferencesWindow::PreferencesWindow(QWidget* content)
+    // Without a button to minimise it: no taskbar shows the windows of an accessory.
+    : QWidget(
+          nullptr,
+          Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+              Qt::WindowCloseButtonHint) {
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(u"Quorvane Preferences"_s);
     auto* layout = new QVBoxLayout(this);

@@ -13,7 +13,6 @@
 #include <QPainter>
 #include <QStyle>
 
-#include <array>
 #include <utility>
 
 namespace quorvane {
@@ -29,20 +28,6 @@ constexpr int capsGap = 12;
 constexpr int capSpacing = 4;
 constexpr int buttonSpacing = 4;
 constexpr int buttonReach = 8; ///< the last button's ink ends with the column
-
-/// What a screen reader says for a modifier's glyph; any other label says itself.
-QString spokenName(const QString& label) {
-    static const std::array<std::pair<QString, QString>, 4> names{
-        {{u"⌃"_s, PopoverHeader::tr("Control")},
-         {u"⌥"_s, PopoverHeader::tr("Alt")},
-         {u"⇧"_s, PopoverHeader::tr("Shift")},
-         {u"⌘"_s, PopoverHeader::tr("Super")}}};
-    for (const auto& [glyph, name] : names) {
-        if (glyph == label)
-            return name;
-    }
-    return label;
-}
 
 } // namespace
 
@@ -81,17 +66,20 @@ void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
     row->addSpacing(panelmetrics::sideMargin - buttonReach);
 }
 
-void PopoverHeader::setKeys(const QStringList& labels) {
-    if (std::exchange(m_keys, labels) == labels)
+void PopoverHeader::setKeys(const QStringList& labels, const QStringList& names) {
+    const bool areTheSame = m_keys == labels && m_keyNames == names;
+    if (areTheSame)
         return;
+    m_keys = labels;
+    m_keyNames = names;
     while (auto* item = m_caps->takeAt(0)) {
         delete item->widget();
         delete item;
     }
-    for (const auto& label : labels) {
-        auto* cap = new KeyCap(label, this);
-        cap->setAccessibleName(spokenName(label));
-        cap->setToolTip(spokenName(label));
+    for (qsizetype index = 0; index < labels.size(); ++index) {
+        auto* cap = new KeyCap(labels[index], this);
+        cap->setAccessibleName(names[index]);
+        cap->setToolTip(names[index]);
         m_caps->addWidget(cap);
     }
 }

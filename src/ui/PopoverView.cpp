@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <delivery/CopyText.h>
+#include <recorder/KeyNames.h>
 #include <ui/ActionBar.h>
 #include <ui/CopyButton.h>
 #include <ui/DateSection.h>
@@ -64,7 +65,9 @@ void PopoverView::keyPressEvent(QKeyEvent* event) {
 
 void PopoverView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    m_dateSection->focusStart();
+    // The picker covers everything else, and is still open if it was when the panel hid.
+    if (!m_timeZoneSection->isPicking())
+        m_dateSection->focusStart();
 }
 
 EntrySurroundings PopoverView::entrySurroundings() const {
@@ -140,7 +143,10 @@ void PopoverView::connectControls() {
 }
 
 void PopoverView::refresh() {
-    m_header->setKeys(m_model.hotKey().displayKeys(m_services.keyboardLayout));
+    const auto hotKey = m_model.hotKey();
+    m_header->setKeys(
+        hotKey.displayKeys(m_services.keyboardLayout),
+        spokenKeys(hotKey, m_services.keyboardLayout));
     m_header->setPresentationMode(m_model.presentationMode());
     m_dateSection->refresh();
     m_timeZoneSection->refresh();

@@ -71,8 +71,12 @@ void TimeZoneSection::layOutChips() {
 void TimeZoneSection::moveFocusFrom(const std::vector<ZoneChip*>& before) {
     const auto focused = std::ranges::find_if(before, [](auto* chip) { return chip->hasFocus(); });
     const bool isGone = focused != before.end() && std::ranges::count(m_chips, *focused) == 0;
-    if (!isGone || m_chips.empty())
+    if (!isGone)
         return;
+    if (m_chips.empty()) {
+        m_add->setFocus(Qt::OtherFocusReason);
+        return;
+    }
     const auto place = std::min(focused - before.begin(), std::ssize(m_chips) - 1);
     m_chips[static_cast<std::size_t>(place)]->setFocus(Qt::OtherFocusReason);
 }
@@ -90,6 +94,10 @@ void TimeZoneSection::showTimeZonePicker() {
     m_picker = new Sheet(window(), picker);
     connect(picker, &TimeZonePickerView::done, m_picker, &Sheet::close);
     m_picker->open();
+}
+
+bool TimeZoneSection::isPicking() const {
+    return m_picker && !m_picker->isHidden();
 }
 
 std::vector<TimeZoneSection::Slot> TimeZoneSection::slotsOfModel() const {

@@ -171,6 +171,25 @@ TEST_F(PresentationTest, PreferencesHideEither) {
     }
 }
 
+TEST_F(PresentationTest, UpdateCheckTakesThePopoverAwayAndLeavesThePanel) {
+    launchAs(PresentationMode::Popover);
+    delegate->checkForUpdates();
+    EXPECT_FALSE(isShown(popover()));
+    launchAs(PresentationMode::Window);
+    delegate->checkForUpdates();
+    EXPECT_TRUE(isShown(panel()));
+}
+
+TEST_F(PresentationTest, PreferencesCannotBeMinimisedOutOfSight) {
+    launchAs(PresentationMode::Window);
+    delegate->showPreferences();
+    const auto flags = preferences()->windowFlags();
+    EXPECT_TRUE(flags.testFlag(Qt::WindowTitleHint));
+    EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
+}
+
 TEST_F(PresentationTest, ModeChangeWhileShownShowsTheOther) {
     launchAs(PresentationMode::Window);
     log.clear();

@@ -50,6 +50,14 @@ protected:
 using Controls = testing::Types<MenuChip, MacPopUpButton>;
 TYPED_TEST_SUITE(PopUpChoiceTest, Controls);
 
+TYPED_TEST(PopUpChoiceTest, PressOfAnAssistiveToolWhileItIsOpenClosesIt) {
+    this->button().click();
+    ASSERT_TRUE(this->popUp.isOpen());
+    this->button().click();
+    EXPECT_FALSE(this->popUp.isOpen());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TYPED_TEST(PopUpChoiceTest, OpensByClickAndByKey) {
     const std::function<void()> ways[] = {
         [this] { QTest::mouseClick(&this->button(), Qt::LeftButton); },

@@ -46,6 +46,28 @@ TEST_F(PanelKeyboardTest, WithoutTheDateTheStartTimeHasIt) {
     EXPECT_EQ(focusedName(), u"Start time"_s);
 }
 
+TEST_F(PanelKeyboardTest, OpenPickerHasTheFocusWhenThePanelComesBack) {
+    QTest::mouseClick(&button(u"Add time zone"_s), Qt::LeftButton);
+    ASSERT_EQ(focusedName(), u"Search"_s);
+    view.hide();
+    view.show();
+    EXPECT_EQ(focusedName(), u"Search"_s);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(closed, 0);
+    view.hide();
+    view.show();
+    EXPECT_EQ(focusedName(), u"Start date"_s);
+}
+
+TEST_F(PanelKeyboardTest, RemovingTheLastZoneLeadsToTheWayBack) {
+    model.setFavoriteTimeZoneIdentifiers({});
+    queue.run();
+    button(u"EST"_s).setFocus();
+    press(Qt::Key_Space);
+    queue.run();
+    EXPECT_EQ(focusedName(), u"Add time zone"_s);
+}
+
 TEST_F(PanelKeyboardTest, TabGoesFromTheHeaderToInsert) {
     model.setIsRange(true);
     model.setFormatPreset(DateFormatPreset::Custom);

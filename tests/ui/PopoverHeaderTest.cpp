@@ -8,6 +8,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr std::uint32_t f5 = 96;
+constexpr std::uint32_t f6 = 97;
+
 class PopoverHeaderTest : public PopoverFixture {
 protected:
     QAbstractButton& more() { return find<QAbstractButton>(QAccessible::ButtonMenu, u"More"_s); }
@@ -21,6 +24,13 @@ protected:
         for (const auto* cap : view.findChildren<KeyCap*>())
             labels.append(cap->text());
         return labels;
+    }
+
+    QStringList capNames() {
+        QStringList names;
+        for (const auto* cap : view.findChildren<KeyCap*>())
+            names.append(cap->accessibleName());
+        return names;
     }
 };
 
@@ -75,12 +85,30 @@ TEST_F(PopoverHeaderTest, MenuIsAMenuBelowItsButtonWithRightEdgesFlush) {
     EXPECT_EQ(accessible->child(0)->child(0)->role(), QAccessible::PopupMenu);
 }
 
+TEST_F(PopoverHeaderTest, PressOfAnAssistiveToolWhileTheMenuIsOpenClosesIt) {
+    more().click();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    more().click();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(more().hasFocus());
+}
+
 TEST_F(PopoverHeaderTest, KeyCapsFollowTheShortcut) {
     EXPECT_EQ(caps().size(), 4);
     model.setHotKey({2, combomodifier::control});
     queue.run();
     EXPECT_EQ(caps().size(), 2);
     EXPECT_EQ(caps().front(), u"⌃"_s);
+}
+
+TEST_F(PopoverHeaderTest, KeyCapsAreNamedAlsoWhereTheirLabelsSayNothing) {
+    model.setHotKey({f5, combomodifier::control});
+    queue.run();
+    EXPECT_EQ(caps(), (QStringList{u"⌃"_s, u"?"_s}));
+    EXPECT_EQ(capNames(), (QStringList{u"Control"_s, u"F5"_s}));
+    model.setHotKey({f6, combomodifier::control});
+    queue.run();
+    EXPECT_EQ(capNames(), (QStringList{u"Control"_s, u"F6"_s}));
 }
 
 TEST_F(PopoverHeaderTest, CloseAsksItsOwner) {

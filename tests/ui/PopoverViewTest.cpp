@@ -142,7 +142,17 @@ TEST_F(PopoverViewTest, CopyPutsTheOutputAndConfirmsItForAWhile) {
     EXPECT_EQ(copy.text(), u"Copied"_s);
     queue.advance(1ms);
     EXPECT_EQ(copy.text(), u"Copy"_s);
-    EXPECT_TRUE(view.isVisible());
+    EXPECT_EQ(closed, 0);
+}
+
+TEST_F(PopoverViewTest, CopyOfSeveralLinesIsOneText) {
+    model.setSelectedTimeZones(
+        {*zones.zone(u"America/New_York"_s), *zones.zone(u"Europe/London"_s)});
+    model.setMultiZoneLayout(MultiZoneLayout::Lines);
+    button(u"Copy"_s).click();
+    EXPECT_EQ(
+        pasteboard.contents(),
+        plainText(u"March 9, 2024 at 5:05 PM EST\nMarch 9, 2024 at 10:05 PM GMT"_s));
 }
 
 TEST_F(PopoverViewTest, CopyTwiceIsConfirmedUntilTheFirstOneEnds) {

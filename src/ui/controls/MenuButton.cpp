@@ -17,7 +17,7 @@ MenuButton::MenuButton(
     : IconButton(Kind::Header, symbol, name, parent),
       m_commands(std::move(commands)),
       m_effects(std::move(effects)) {
-    connect(this, &MenuButton::clicked, this, &MenuButton::open);
+    connect(this, &MenuButton::clicked, this, &MenuButton::toggle);
 }
 
 void MenuButton::keyPressEvent(QKeyEvent* event) {
@@ -25,6 +25,13 @@ void MenuButton::keyPressEvent(QKeyEvent* event) {
         open();
     else
         IconButton::keyPressEvent(event);
+}
+
+void MenuButton::toggle() {
+    if (m_popover)
+        m_popover->close();
+    else
+        open();
 }
 
 void MenuButton::open() {

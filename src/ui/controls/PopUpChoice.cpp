@@ -19,7 +19,7 @@ PopUpChoice::PopUpChoice(PopoverEffects effects, QWidget* parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_button);
     m_button->installEventFilter(this);
-    connect(m_button, &PopUpButton::clicked, this, &PopUpChoice::open);
+    connect(m_button, &PopUpButton::clicked, this, &PopUpChoice::toggle);
 }
 
 void PopUpChoice::setChoices(const QStringList& titles, std::optional<int> selected) {
@@ -34,6 +34,13 @@ void PopUpChoice::setChoices(const QStringList& titles, std::optional<int> selec
 
 void PopUpChoice::setLabel(const QString& label) {
     m_button->setAccessibleName(label);
+}
+
+void PopUpChoice::toggle() {
+    if (m_popover)
+        m_popover->close();
+    else
+        open();
 }
 
 void PopUpChoice::open() {

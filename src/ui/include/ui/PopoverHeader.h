@@ -5,6 +5,7 @@
 #include <controls/PopoverEffects.h>
 #include <model/PresentationMode.h>
 
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -29,8 +30,8 @@ public:
 
     PopoverHeader(Actions actions, const PopoverEffects& effects, QWidget* parent);
 
-    /// One cap for each label, in order.
-    void setKeys(const QStringList& labels);
+    /// One cap for each label, in order; its name, of as many, is for those who do not see it.
+    void setKeys(const QStringList& labels, const QStringList& names);
 
     /// The mode that the switch leads away from.
     void setPresentationMode(PresentationMode mode);
@@ -44,6 +45,7 @@ private:
     QHBoxLayout* m_caps;
     IconButton* m_presentation;
     QStringList m_keys;
+    QStringList m_keyNames;
 };
 
 } // namespace quorvane

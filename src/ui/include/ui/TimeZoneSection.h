@@ -34,6 +34,9 @@ public:
     /// Opens the picker over the window.
     void showTimeZonePicker();
 
+    /// Whether the picker is open, also while the window itself is hidden.
+    [[nodiscard]] bool isPicking() const;
+
 private:
     /// What a chip shows.
     struct Slot {
@@ -44,7 +47,8 @@ private:
     [[nodiscard]] std::vector<Slot> slotsOfModel() const;
     [[nodiscard]] bool isSelected(const TimeZone& zone) const;
     void layOutChips();
-    /// The focus stays at the place of a chip that has gone.
+    /// The focus stays at the place of a chip that has gone; after the last one it is where one
+    /// adds a zone.
     void moveFocusFrom(const std::vector<ZoneChip*>& before);
     [[nodiscard]] ZoneChip* takeOrMakeChip(const Slot& slot);
     [[nodiscard]] QString shortName(const TimeZone& zone) const;

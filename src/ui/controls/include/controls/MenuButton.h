@@ -36,6 +36,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void toggle();
     void open();
     void run(int index);
     void announceExpansion();

@@ -35,6 +35,7 @@ protected:
     [[nodiscard]] PopUpButton& button() { return *m_button; }
 
 private:
+    void toggle();
     void choose(int index);
     [[nodiscard]] bool handleKey(int key, Qt::KeyboardModifiers modifiers);
 
