@@ -180,8 +180,10 @@ void AppDelegate::activateApplication() {
 }
 
 void AppDelegate::refreshKeyLabels() {
-    if (m_contentView)
-        m_contentView->refreshSoon();
+    for (auto* interface : std::initializer_list<QWidget*>{m_panel.get(), m_popover.get()}) {
+        if (interface != nullptr)
+            interface->findChild<PopoverView*>()->refreshSoon();
+    }
     if (m_preferencesView)
         m_preferencesView->refreshSoon();
 }

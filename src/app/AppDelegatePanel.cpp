@@ -15,8 +15,7 @@ bool AppDelegate::isPanelVisible() const {
 void AppDelegate::setupPanel() {
     if (m_panel)
         return;
-    m_contentView = makeContentView().release();
-    m_panel = std::make_unique<Panel>(m_contentView);
+    m_panel = std::make_unique<Panel>(makeContentView().release());
     m_mainMenu->attachTo(*m_panel);
     m_panelFrame = std::make_unique<PanelFrame>(
         *m_panel,

@@ -19,11 +19,10 @@ bool AppDelegate::isPopoverShown() const {
 void AppDelegate::setupPopover() {
     if (m_popover)
         return;
-    m_contentView = makeContentView().release();
     using Ground = StatusPopover::Ground;
     const bool composited = m_environment.platform.windowTraits->isComposited();
     m_popover = std::make_unique<StatusPopover>(
-        m_contentView, composited ? Ground::Composited : Ground::Plain);
+        makeContentView().release(), composited ? Ground::Composited : Ground::Plain);
     m_mainMenu->attachTo(*m_popover);
     connect(m_popover.get(), &StatusPopover::dismissed, this, &AppDelegate::holdOffReopening);
     connect(

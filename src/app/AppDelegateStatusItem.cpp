@@ -5,6 +5,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace quorvane {
 
 using namespace Qt::StringLiterals;

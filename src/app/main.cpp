@@ -51,11 +51,13 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
          UserLocale::fromEnvironment(environment),
          mainQueue,
          platform});
-    instance.onReopen([&] { delegate.surfaceMainUIForReopen(); });
-    instance.onAction([&](const QString& name) { delegate.performAction(name); });
+    mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
+    // Through the queue as well: what the bus brings before the launch has to come after it.
+    instance.onReopen([&] { mainQueue.async([&] { delegate.surfaceMainUIForReopen(); }); });
+    instance.onAction(
+        [&](const QString& name) { mainQueue.async([&, name] { delegate.performAction(name); }); });
     QObject::connect(&delegate, &AppDelegate::willTerminate, [&] { instance.release(); });
     signals.onSignal([&] { delegate.terminate(); });
-    mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
     return application.exec();
 }
 

@@ -269,6 +269,9 @@ TEST_F(PresentationTest, LaunchWithAHiddenIconInPopoverModeEndsWithNothingVisibl
     EXPECT_FALSE(statusBar->isItemVisible());
     pressShortcut();
     EXPECT_TRUE(isShown(popover()));
+    pressShortcut();
+    delegate->surfaceMainUIForReopen();
+    EXPECT_TRUE(isShown(popover()));
 }
 
 TEST_F(PresentationTest, BothIconsOffTheSecondStartShowsTheInterface) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverFixture.h"
 
+#include <controls/Theme.h>
+
 #include <algorithm>
 
 namespace quorvane {
@@ -56,6 +58,15 @@ TEST_F(PopoverViewTest, ChipsAddAndRemoveZonesAndTheLayoutIsChosen) {
     button(u"EST"_s).click();
     queue.run();
     EXPECT_EQ(preview(), u"March 9, 2024 at 10:05 PM GMT"_s);
+}
+
+TEST_F(PopoverViewTest, LayoutIsNoChoiceWithoutATime) {
+    button(u"GMT"_s).click();
+    queue.run();
+    EXPECT_TRUE(find<QWidget>(QAccessible::RadioButton, u"Lines"_s).isVisible());
+    box(u"Time"_s).click();
+    queue.run();
+    EXPECT_FALSE(find<QWidget>(QAccessible::RadioButton, u"Lines"_s).isVisible());
 }
 
 TEST_F(PopoverViewTest, FocusStaysAtTheChipsPlaceWhenItIsPressed) {
@@ -195,6 +206,29 @@ TEST_F(PopoverViewTest, WithoutAZoneForTheTimeNothingCanBeDelivered) {
     model.setSelectedTimeZones({*zones.zone(u"UTC"_s)});
     queue.run();
     EXPECT_TRUE(button(u"Insert"_s).isEnabled());
+}
+
+TEST_F(PopoverViewTest, WhatCannotBeUsedIsDimmedAsOne) {
+    const auto ground = Theme::of(view.palette()).win;
+    const auto inkOf = [&](QWidget& widget) {
+        // The darkest pixel is the ink of text or symbol, however it is smoothed.
+        const auto image = widget.grab().toImage();
+        int darkest = 255;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                darkest = std::min(darkest, qGray(image.pixel(x, y)));
+        }
+        return darkest;
+    };
+    auto& format = find<QWidget>(QAccessible::Grouping, u"Format"_s);
+    auto& copy = *button(u"Copy"_s).parentWidget();
+    const int formatInk = inkOf(format);
+    const int copyInk = inkOf(copy);
+    model.setSelectedTimeZones({});
+    queue.run();
+    const int white = qGray(ground.rgb());
+    EXPECT_NEAR(inkOf(format), white + (formatInk - white) * 0.4, 3);
+    EXPECT_NEAR(inkOf(copy), white + (copyInk - white) * 0.5, 3);
 }
 
 } // namespace

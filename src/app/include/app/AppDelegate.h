@@ -157,7 +157,6 @@ private:
     std::unique_ptr<PanelFrame> m_panelFrame; ///< there as long as the panel is
     std::unique_ptr<StatusPopover> m_popover;
     std::optional<Deadline> m_reopeningHeldOff; ///< a press on the icon has just closed the popover
-    QPointer<PopoverView> m_contentView;        ///< of panel or popover
     std::shared_ptr<HotKeyMonitor> m_hotKeyMonitor;
     QPointer<PreferencesView> m_preferencesView;
     std::unique_ptr<PreferencesWindow> m_preferencesWindow;
