@@ -35,6 +35,12 @@ class TrayCase(DesktopCase):
         windows = self.session.windows
         windows.wait(lambda: windows.menu() is None, "the end of the popover")
 
+    def close_by_escape(self, quorvane: Quorvane) -> None:
+        """Closes the popover by its key, once it answers and so has the keyboard."""
+        quorvane.tree().find_role("push button", "Close")
+        self.keyboard.tap(Key.ESCAPE)
+        self.wait_no_popover()
+
     def click_icon(self) -> None:
         """The user's left click."""
         self.tray.wait_icon()
@@ -88,10 +94,9 @@ class Items(TrayCase):
 
     def test_the_popover_opens_at_the_start_and_by_a_click_on_the_icon(self) -> None:
         self.tray.start()
-        self.with_settings(presentationMode="Popover")
+        quorvane = self.with_settings(presentationMode="Popover")
         self.wait_popover()
-        self.keyboard.tap(Key.ESCAPE)
-        self.wait_no_popover()
+        self.close_by_escape(quorvane)
         self.click_icon()
         self.assert_hangs_from_icon(self.wait_popover())
 
@@ -131,8 +136,7 @@ class Embedded(TrayCase):
         self.tray.start()
         quorvane = self.with_settings(presentationMode="Popover")
         self.wait_popover()
-        self.keyboard.tap(Key.ESCAPE)
-        self.wait_no_popover()
+        self.close_by_escape(quorvane)
         self.tray.wait_icon()
         self.mouse.right_click_at(*self.tray.place())
         left, top, _, height = self.wait_popover()
