@@ -6,7 +6,6 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <ranges>
 
 namespace quorvane {
 
@@ -55,10 +54,10 @@ PopoverAnchor::corner(const QRect& screen, const QRect& available, Qt::LayoutDir
 }
 
 std::optional<QPoint> PopoverAnchor::lastClickOn(const QScreen& screen) const {
-    const auto latestFirst = std::views::reverse(m_clicks);
-    const auto found = std::ranges::find_if(
-        latestFirst, [&](QPoint click) { return screen.geometry().contains(click); });
-    return found != latestFirst.end() ? std::optional(*found) : std::nullopt;
+    const auto latest = std::find_if(m_clicks.rbegin(), m_clicks.rend(), [&](QPoint click) {
+        return screen.geometry().contains(click);
+    });
+    return latest != m_clicks.rend() ? std::optional(*latest) : std::nullopt;
 }
 
 } // namespace quorvane

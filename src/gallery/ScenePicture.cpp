@@ -20,7 +20,7 @@ QImage rendered(QWidget& widget, double scale, QWidget::RenderFlags flags) {
 }
 
 /// The window manager's part: rounded corners and the line around them.
-QImage framed(QImage content, const Theme& theme) {
+QImage framed(const QImage& content, const Theme& theme) {
     QImage image(content.size(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(content.devicePixelRatio());
     image.fill(Qt::transparent);

@@ -20,19 +20,19 @@ struct Token {
 };
 
 constexpr QRgb ink(double opacity) {
-    return qRgba(0x14, 0x16, 0x1c, static_cast<int>(opacity * 255 + 0.5));
+    return qRgba(0x14, 0x16, 0x1c, qRound(opacity * 255));
 }
 
 constexpr QRgb white(double opacity) {
-    return qRgba(255, 255, 255, static_cast<int>(opacity * 255 + 0.5));
+    return qRgba(255, 255, 255, qRound(opacity * 255));
 }
 
 constexpr QRgb black(double opacity) {
-    return qRgba(0, 0, 0, static_cast<int>(opacity * 255 + 0.5));
+    return qRgba(0, 0, 0, qRound(opacity * 255));
 }
 
 constexpr QRgb faded(QRgb color, double opacity) {
-    return qRgba(qRed(color), qGreen(color), qBlue(color), static_cast<int>(opacity * 255 + 0.5));
+    return qRgba(qRed(color), qGreen(color), qBlue(color), qRound(opacity * 255));
 }
 
 const Token tokens[] = {

@@ -185,11 +185,11 @@ TEST_F(OutputPreviewTest, RowsAreEquallyHigh) {
 TEST_F(OutputPreviewTest, LongLineWrapsAnywhereAndNeverScrollsSideways) {
     const double advance = QFontMetricsF(preview->font()).horizontalAdvance(u'm');
     const int perRow = static_cast<int>((panelWidth - 20) / advance);
-    show(QString(3 * perRow, u'm'));
+    show(QString(qsizetype{3} * perRow, u'm'));
     EXPECT_EQ(preview->height(), 3 * rowHeight + 20);
     EXPECT_EQ(at(0).y() + rowHeight, at(perRow + 1).y());
     EXPECT_EQ(preview->horizontalScrollBar()->maximum(), 0);
-    show(QString(3 * perRow + 1, u'm'));
+    show(QString(qsizetype{3} * perRow + 1, u'm'));
     EXPECT_EQ(preview->height(), 4 * rowHeight + 20);
 }
 

@@ -8,6 +8,7 @@ namespace {
 
 std::vector<MenuRow*> makeRows(const QStringList& titles, std::optional<int> selected) {
     std::vector<MenuRow*> rows;
+    rows.reserve(static_cast<std::size_t>(titles.size()));
     for (int index = 0; index < titles.size(); ++index)
         rows.push_back(new ChoiceRow(titles[index], index == selected, nullptr));
     return rows;

@@ -8,6 +8,7 @@ namespace {
 
 std::vector<MenuRow*> makeRows(const std::vector<Command>& commands) {
     std::vector<MenuRow*> rows;
+    rows.reserve(commands.size());
     for (const auto& command : commands)
         rows.push_back(new CommandRow(command.symbol, command.title, command.keys, nullptr));
     return rows;

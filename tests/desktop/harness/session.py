@@ -21,7 +21,7 @@ _WINDOW_MANAGERS = {
     "xfwm4": ["xfwm4", "--compositor=off"],
 }
 
-_INHERITED = ("PATH", "QT_LOGGING_RULES", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+_INHERITED = ("PATH", "QT_LOGGING_RULES", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
 
 
 class Session:
