@@ -39,7 +39,7 @@ TEST_F(NullServices, RefuseATapForGood) {
 TEST_F(NullServices, SaveAnEmptyPasteboardOnALaterTurn) {
     std::optional<PasteboardContents> saved;
     m_services.pasteboard->setString(QStringLiteral("text"), TextStay::Lasting);
-    m_services.pasteboard->save([&saved](PasteboardContents contents) { saved = contents; });
+    m_services.pasteboard->save([&saved](const PasteboardContents& contents) { saved = contents; });
     EXPECT_EQ(saved, std::nullopt);
     m_queue.run();
     EXPECT_EQ(saved, PasteboardContents{});
