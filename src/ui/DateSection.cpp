@@ -50,7 +50,6 @@ DateSection::DateSection(
           {tr("End date"), tr("End time")})) {
     layOut();
     connectBoxes();
-    refresh();
 }
 
 void DateSection::refresh() {
@@ -62,7 +61,8 @@ void DateSection::refresh() {
     m_includeDate->setEnabled(guard.dateEnabled);
     m_includeTime->setEnabled(guard.timeEnabled);
     refresh(m_start);
-    refresh(m_end);
+    if (m_model.isRange())
+        refresh(m_end);
     m_end.row->setVisible(m_model.isRange());
 }
 
@@ -133,8 +133,11 @@ void DateSection::connectBoxes() {
 }
 
 void DateSection::refresh(const DateTimePair& pair) {
-    pair.date->refresh();
-    pair.time->refresh();
+    // What does not show is refreshed when it does: ICU takes its time over a chip's text.
+    if (m_model.includeDate())
+        pair.date->refresh();
+    if (m_model.includeTime())
+        pair.time->refresh();
     pair.date->setVisible(m_model.includeDate());
     pair.time->setVisible(m_model.includeTime());
 }

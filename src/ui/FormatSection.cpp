@@ -24,7 +24,7 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
       m_layout(new MacSegmentedControl(this)),
       m_presetChoice(
           *m_preset,
-          model.availableFormatPresets(),
+          {},
           [](const DateFormatPreset& preset) { return rawValue(preset); },
           {[&model] { return model.formatPreset(); },
            [&model](DateFormatPreset preset) {
@@ -48,7 +48,6 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
     connect(
         m_customFormat, &QLineEdit::textEdited, &m_model, &DateTimeModel::setCustomFormatString);
     layOut();
-    refresh();
 }
 
 void FormatSection::refresh() {

@@ -39,7 +39,6 @@ TimeZoneSection::TimeZoneSection(
     label().addTrailing(m_add, SectionLabel::End::BeyondColumn);
     body().addLayout(m_flow);
     connect(m_add, &IconButton::clicked, this, &TimeZoneSection::showTimeZonePicker);
-    refresh();
 }
 
 void TimeZoneSection::refresh() {
