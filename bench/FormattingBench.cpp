@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/CurrentZone.h>
-#include <foundation/DateText.h>
-#include <foundation/ZoneDatabase.h>
 #include <model/ComposedOutput.h>
 #include <model/FormatSingle.h>
 
 #include <benchmark/benchmark.h>
 
+#include <time/CurrentZone.h>
+#include <time/DateText.h>
+#include <time/ZoneDatabase.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,14 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <app/Panel.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/FakePasteboard.h>
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <fakes/MemoryDefaults.h>
-#include <foundation/QtMainQueue.h>
-#include <ui/OutputPreview.h>
-#include <ui/PopoverView.h>
 
 #include <QApplication>
 #include <QEventLoop>
@@ -19,7 +10,16 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <loop/QtMainQueue.h>
 #include <memory>
+#include <panel/OutputPreview.h>
+#include <panel/PopoverView.h>
+#include <testing/CallLog.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <controls/SearchField.h>
 #include <controls/Sheet.h>
-#include <foundation/Clock.h>
 #include <picker/TimeZonePickerView.h>
 
 #include <QImage>
 #include <benchmark/benchmark.h>
+
+#include <time/Clock.h>
 
 namespace quorvane {
 namespace {

@@ -13,11 +13,11 @@ if(QUORVANE_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${QUORVANE_CCACHE})
 endif()
 
-add_library(quorvane_settings INTERFACE)
-target_compile_options(quorvane_settings INTERFACE
+add_library(quorvane_options INTERFACE)
+target_compile_options(quorvane_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wformat=2 -Werror)
-target_compile_definitions(quorvane_settings INTERFACE
+target_compile_definitions(quorvane_options INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400
     U_SHOW_CPLUSPLUS_API=1 U_USING_ICU_NAMESPACE=0)

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
-#include <app/MainMenu.h>
+#include "AppDelegate.h"
+
+#include "MainMenu.h"
+#include "PanelFrame.h"
+#include "PreferencesWindow.h"
+#include "StatusPopover.h"
+
 #include <app/Panel.h>
-#include <app/PanelFrame.h>
-#include <app/PreferencesWindow.h>
-#include <app/StatusPopover.h>
 #include <preferences/PreferencesView.h>
 
 #include <QCoreApplication>

@@ -1,27 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <app/PopoverAnchor.h>
+#include "PopoverAnchor.h"
+
 #include <delivery/TextInserter.h>
-#include <foundation/Clock.h>
-#include <foundation/CurrentZone.h>
-#include <foundation/DeadlineSet.h>
-#include <foundation/DefaultsStore.h>
-#include <foundation/MainQueue.h>
-#include <foundation/UserLocale.h>
-#include <foundation/WindowFrameStore.h>
-#include <foundation/ZoneDatabase.h>
 #include <hotkey/HotKeyMonitor.h>
 #include <model/DateTimeModel.h>
 #include <platform/PlatformServices.h>
 #include <timezones/ZoneWarmUp.h>
-#include <ui/PopoverView.h>
 
 #include <QObject>
 #include <QPointer>
 
+#include <loop/DeadlineSet.h>
+#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
+#include <panel/PopoverView.h>
+#include <settings/DefaultsStore.h>
+#include <settings/WindowFrameStore.h>
+#include <time/Clock.h>
+#include <time/CurrentZone.h>
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

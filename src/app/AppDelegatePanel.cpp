@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
-#include <app/MainMenu.h>
+#include "AppDelegate.h"
+#include "MainMenu.h"
+#include "PanelFrame.h"
+
 #include <app/Panel.h>
-#include <app/PanelFrame.h>
 
 #include <QWindow>
 

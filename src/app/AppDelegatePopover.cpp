@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
-#include <app/MainMenu.h>
-#include <app/StatusPopover.h>
+#include "AppDelegate.h"
+#include "MainMenu.h"
+#include "StatusPopover.h"
 
 namespace quorvane {
 

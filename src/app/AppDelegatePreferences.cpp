@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
-#include <app/MainMenu.h>
-#include <app/PanelPlacement.h>
-#include <app/PreferencesWindow.h>
-#include <app/Screens.h>
+#include "AppDelegate.h"
+#include "MainMenu.h"
+#include "PanelPlacement.h"
+#include "PreferencesWindow.h"
+#include "Screens.h"
+
 #include <preferences/PreferencesView.h>
-#include <ui/SparkleUpdater.h>
 
 #include <QScreen>
+
+#include <panel/SparkleUpdater.h>
 
 namespace quorvane {
 

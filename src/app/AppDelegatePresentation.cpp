@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
+#include "AppDelegate.h"
+#include "StatusPopover.h"
+
 #include <app/Panel.h>
-#include <app/StatusPopover.h>
 
 namespace quorvane {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
+#include "AppDelegate.h"
+
 #include <controls/SymbolIcon.h>
 
 #include <QCursor>

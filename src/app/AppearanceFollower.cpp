@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppearanceFollower.h>
+#include "AppearanceFollower.h"
+
 #include <controls/Theme.h>
 
 #include <QApplication>

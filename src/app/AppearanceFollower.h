@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <app/MotionStyle.h>
+#include "MotionStyle.h"
+
 #include <platform/Appearance.h>
 
 #include <QPointer>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/ApplicationAccessible.h>
+#include "ApplicationAccessible.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <app/Backends.h>
+#include "Backends.h"
+
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
 #include <platform_tray/TrayStatusBar.h>

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
 #include <platform/PlatformServices.h>
 
 #include <QString>
+
+#include <loop/MainQueue.h>
 
 namespace quorvane {
 

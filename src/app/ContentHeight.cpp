@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/ContentHeight.h>
+#include "ContentHeight.h"
 
 #include <QLayout>
 #include <QWidget>

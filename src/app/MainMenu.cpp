@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/MainMenu.h>
+#include "MainMenu.h"
 
 #include <QApplication>
 #include <QMenu>

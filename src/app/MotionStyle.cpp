@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/MotionStyle.h>
+#include "MotionStyle.h"
 
 namespace quorvane {
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <app/ContentHeight.h>
+#include "ContentHeight.h"
+#include "PanelPlacement.h"
+
 #include <app/Panel.h>
-#include <app/PanelPlacement.h>
 #include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
 #include <controls/Theme.h>

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "PanelFrame.h"
+
+#include "PanelPlacement.h"
+#include "Screens.h"
+
 #include <app/Panel.h>
-#include <app/PanelFrame.h>
-#include <app/PanelPlacement.h>
-#include <app/Screens.h>
 
 #include <QGuiApplication>
 #include <QScreen>

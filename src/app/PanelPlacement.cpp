@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/PanelPlacement.h>
+#include "PanelPlacement.h"
 
 #include <algorithm>
 

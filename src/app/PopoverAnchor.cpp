@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <app/PopoverAnchor.h>
-#include <app/Screens.h>
+#include "PopoverAnchor.h"
+
+#include "Screens.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <app/PreferencesWindow.h>
+#include "PreferencesWindow.h"
+
 #include <controls/FocusRing.h>
 
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/Screens.h>
+#include "Screens.h"
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <app/ContentHeight.h>
-#include <app/PanelPlacement.h>
-#include <app/StatusPopover.h>
+#include "StatusPopover.h"
+
+#include "ContentHeight.h"
+#include "PanelPlacement.h"
+
 #include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
 #include <controls/PopoverPlacement.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <app/PopoverAnchor.h>
+#include "PopoverAnchor.h"
 
 #include <QWidget>
 

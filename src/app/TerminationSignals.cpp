@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <app/TerminationSignals.h>
+#include "TerminationSignals.h"
 
 #include <QSocketNotifier>
 

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppDelegate.h>
-#include <app/AppearanceFollower.h>
-#include <app/ApplicationAccessible.h>
-#include <app/Backends.h>
-#include <app/TerminationSignals.h>
-#include <foundation/DiskFileWriter.h>
-#include <foundation/JsonDefaultsStore.h>
-#include <foundation/QtMainQueue.h>
-#include <foundation/SystemCurrentZone.h>
-#include <foundation/UserFolders.h>
+#include "AppDelegate.h"
+#include "AppearanceFollower.h"
+#include "ApplicationAccessible.h"
+#include "Backends.h"
+#include "TerminationSignals.h"
+
 #include <platform_dbus/DBusApplicationInstance.h>
 
 #include <QApplication>
 #include <QIcon>
+
+#include <loop/QtMainQueue.h>
+#include <settings/DiskFileWriter.h>
+#include <settings/JsonDefaultsStore.h>
+#include <settings/UserFolders.h>
+#include <time/SystemCurrentZone.h>
 
 namespace {
 

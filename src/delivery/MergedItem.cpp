@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <delivery/MergedItem.h>
+#include "MergedItem.h"
 
 #include <algorithm>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <delivery/MergedItem.h>
+#include "MergedItem.h"
+
 #include <delivery/TextInserter.h>
 #include <platform/KeyCodes.h>
 

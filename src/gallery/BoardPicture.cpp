@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "BoardPicture.h"
+
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
-#include <gallery/BoardPicture.h>
 
 #include <QApplication>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gallery/ScenePicture.h>
+#include "ScenePicture.h"
 
 #include <QPalette>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <gallery/Gallery.h>
-#include <gallery/PreferencesBoard.h>
-#include <gallery/StatesBoard.h>
+#include "Gallery.h"
+
+#include "PreferencesBoard.h"
+#include "StatesBoard.h"
 
 #include <QGridLayout>
 

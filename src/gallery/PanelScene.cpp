@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "PanelScene.h"
+
 #include <controls/FocusRing.h>
-#include <gallery/PanelScene.h>
 #include <platform_null/NullServices.h>
 
 #include <QLayout>

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gallery/SampleDefaults.h>
-#include <gallery/SampleKeyboard.h>
-#include <gallery/Samples.h>
+#include "SampleDefaults.h"
+#include "SampleKeyboard.h"
+#include "Samples.h"
+
 #include <platform/PlatformServices.h>
-#include <ui/PopoverView.h>
+
+#include <panel/PopoverView.h>
 
 namespace quorvane {
 

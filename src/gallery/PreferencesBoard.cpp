@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "PreferencesBoard.h"
+
+#include "SampleDefaults.h"
+#include "SampleKeyboard.h"
+#include "Samples.h"
+
 #include <controls/CheckBox.h>
 #include <controls/DevicePixels.h>
 #include <controls/IconButton.h>
 #include <controls/SearchField.h>
 #include <controls/TextStyle.h>
-#include <gallery/PreferencesBoard.h>
-#include <gallery/SampleDefaults.h>
-#include <gallery/SampleKeyboard.h>
-#include <gallery/Samples.h>
 #include <picker/ZoneList.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gallery/SampleDefaults.h>
+#include "SampleDefaults.h"
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/DefaultsStore.h>
-
 #include <QVariantHash>
+
+#include <settings/DefaultsStore.h>
 
 namespace quorvane {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gallery/SampleKeyboard.h>
+#include "SampleKeyboard.h"
+
 #include <platform/KeyCodes.h>
 
 namespace quorvane {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gallery/Samples.h>
+#include "Samples.h"
 
 namespace quorvane::sample {
 

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <entry/EntrySurroundings.h>
-#include <foundation/ZoneDatabase.h>
 #include <model/DateTimeModel.h>
+
+#include <time/ZoneDatabase.h>
 
 /// What the boards show: one moment of one user in New York, always the same.
 namespace quorvane::sample {

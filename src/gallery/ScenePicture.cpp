@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "ScenePicture.h"
+
 #include <controls/DevicePixels.h>
 #include <controls/Theme.h>
-#include <gallery/ScenePicture.h>
 
 #include <QPainter>
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "StatesBoard.h"
+
+#include "Samples.h"
+
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
 #include <controls/DevicePixels.h>
-#include <controls/FavoriteSuggestionChip.h>
 #include <controls/FocusRing.h>
 #include <controls/FocusShaped.h>
 #include <controls/IconButton.h>
@@ -11,17 +14,16 @@
 #include <controls/MacSegmentedControl.h>
 #include <controls/PressableControl.h>
 #include <controls/TextStyle.h>
-#include <controls/TimeZoneChip.h>
 #include <controls/ToggleSwitch.h>
 #include <entry/DateField.h>
-#include <foundation/ZoneDatabase.h>
-#include <gallery/Samples.h>
-#include <gallery/StatesBoard.h>
 
 #include <QLabel>
 #include <QPainter>
 
 #include <array>
+#include <panel/FavoriteSuggestionChip.h>
+#include <panel/TimeZoneChip.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

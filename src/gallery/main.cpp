@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/QtMainQueue.h>
-#include <gallery/Gallery.h>
-#include <gallery/PanelScene.h>
+#include "Gallery.h"
+#include "PanelScene.h"
 
 #include <QApplication>
 #include <QScreen>
+
+#include <loop/QtMainQueue.h>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

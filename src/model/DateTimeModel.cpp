@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "DefaultFavorites.h"
+#include "PresetList.h"
+#include "ZoneSlots.h"
+
 #include <model/ComposedOutput.h>
 #include <model/DateTimeModel.h>
-#include <model/DefaultFavorites.h>
 #include <model/FormatSingle.h>
-#include <model/PresetList.h>
-#include <model/ZoneSlots.h>
 
 #include <utility>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/DefaultFavorites.h>
+#include "DefaultFavorites.h"
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/ZoneDatabase.h>
-
 #include <QStringList>
+
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DateText.h>
-#include <foundation/ZoneNames.h>
 #include <model/FormatSingle.h>
 
 #include <cmath>
 #include <cstdlib>
+#include <time/DateText.h>
+#include <time/ZoneNames.h>
 
 namespace quorvane {
 

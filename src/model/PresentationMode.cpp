@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "RawTexts.h"
+
 #include <model/PresentationMode.h>
-#include <model/RawTexts.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/PresetList.h>
+#include "PresetList.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/ZoneSlots.h>
+#include "ZoneSlots.h"
 
 #include <unordered_set>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/FakeEventTaps.h>
+#include <testing/FakeEventTaps.h>
 
 namespace quorvane {
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/FakePasteboard.h>
-
+#include <testing/FakePasteboard.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/VirtualMainQueue.h>
-
 #include <cmath>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 

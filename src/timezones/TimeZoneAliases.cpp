@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <timezones/TimeZoneAliases.h>
+#include "TimeZoneAliases.h"
 
 namespace quorvane {
 

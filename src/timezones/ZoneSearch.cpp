@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/IcuTimeZone.h>
-#include <foundation/ZoneNames.h>
-#include <timezones/TimeZoneAliases.h>
+#include "TimeZoneAliases.h"
+
 #include <timezones/ZoneSearch.h>
 
 #include <cmath>
+#include <time/IcuTimeZone.h>
+#include <time/ZoneNames.h>
 #include <unordered_set>
 
 namespace quorvane {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/ZoneNames.h>
 #include <timezones/ZoneWarmUp.h>
 
 #include <QStringList>
+
+#include <time/ZoneNames.h>
 
 namespace quorvane {
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <app/AppearanceFollower.h>
+#include "AppearanceFollower.h"
+
 #include <controls/Theme.h>
-#include <fakes/FakeAppearance.h>
 
 #include <QApplication>
 #include <QStyle>
 #include <QStyleFactory>
 #include <gtest/gtest.h>
+
+#include <testing/FakeAppearance.h>
 
 namespace quorvane {
 namespace {

@@ -1,29 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <app/AppDelegate.h>
+#include "AppDelegate.h"
+
 #include <app/Panel.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeAccessibilityRight.h>
-#include <fakes/FakeAppearance.h>
-#include <fakes/FakeEventTaps.h>
-#include <fakes/FakeKeyPoster.h>
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/FakePasteboard.h>
-#include <fakes/FakeSoftwareCentre.h>
-#include <fakes/FakeStatusBar.h>
-#include <fakes/FakeWindowTraits.h>
-#include <fakes/FakeWorkspace.h>
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <fakes/MemoryDefaults.h>
-#include <foundation/DiskFileWriter.h>
 
 #include <QApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <settings/DiskFileWriter.h>
+#include <testing/CallLog.h>
+#include <testing/FakeAccessibilityRight.h>
+#include <testing/FakeAppearance.h>
+#include <testing/FakeEventTaps.h>
+#include <testing/FakeKeyPoster.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FakeSoftwareCentre.h>
+#include <testing/FakeStatusBar.h>
+#include <testing/FakeWindowTraits.h>
+#include <testing/FakeWorkspace.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 

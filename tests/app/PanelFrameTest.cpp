@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "PanelFrame.h"
+
 #include <app/Panel.h>
-#include <app/PanelFrame.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeWorkspace.h>
-#include <foundation/DiskFileWriter.h>
 
 #include <QApplication>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+
+#include <settings/DiskFileWriter.h>
+#include <testing/CallLog.h>
+#include <testing/FakeWorkspace.h>
 
 namespace quorvane {
 namespace {

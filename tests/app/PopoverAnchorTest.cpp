@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <app/PopoverAnchor.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeWorkspace.h>
+#include "PopoverAnchor.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <gtest/gtest.h>
+
+#include <testing/CallLog.h>
+#include <testing/FakeWorkspace.h>
 
 namespace quorvane {
 namespace {

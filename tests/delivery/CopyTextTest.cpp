@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <delivery/CopyText.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakePasteboard.h>
-#include <fakes/VirtualMainQueue.h>
 
 #include <gtest/gtest.h>
+
+#include <testing/CallLog.h>
+#include <testing/FakePasteboard.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <delivery/MergedItem.h>
-#include <fakes/FakePasteboard.h>
+#include "MergedItem.h"
 
 #include <gtest/gtest.h>
+
+#include <testing/FakePasteboard.h>
 
 namespace quorvane {
 namespace {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <delivery/TextInserter.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeAccessibilityRight.h>
-#include <fakes/FakeKeyPoster.h>
-#include <fakes/FakePasteboard.h>
-#include <fakes/VirtualMainQueue.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <testing/CallLog.h>
+#include <testing/FakeAccessibilityRight.h>
+#include <testing/FakeKeyPoster.h>
+#include <testing/FakePasteboard.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "BoardPicture.h"
 #include "BoardSettings.h"
-
-#include <gallery/BoardPicture.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gallery/Gallery.h>
+#include "Gallery.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlay.h"
+#include "PopUpButton.h"
+#include "Section.h"
 
 #include <controls/ActionButton.h>
-#include <controls/PopUpButton.h>
 #include <controls/SegmentedRow.h>
 #include <controls/TextField.h>
-#include <controls/ZoneChip.h>
 #include <entry/FieldChip.h>
-#include <ui/OutputPreview.h>
-#include <ui/Section.h>
 
 #include <QApplication>
 #include <QStyle>
@@ -16,6 +14,8 @@
 
 #include <algorithm>
 #include <map>
+#include <panel/OutputPreview.h>
+#include <panel/ZoneChip.h>
 
 namespace quorvane {
 namespace {

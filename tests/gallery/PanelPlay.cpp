@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlay.h"
 
+#include "FormatSection.h"
+#include "MenuRow.h"
+#include "NumberField.h"
+#include "PopUpButton.h"
+#include "TimeZoneSection.h"
+
 #include <controls/IconButton.h>
 #include <controls/MenuButton.h>
-#include <controls/MenuRow.h>
-#include <controls/PopUpButton.h>
 #include <controls/SearchField.h>
 #include <entry/CalendarDay.h>
 #include <entry/DateField.h>
-#include <entry/NumberField.h>
 #include <entry/TimeField.h>
 #include <picker/ZoneList.h>
-#include <ui/FormatSection.h>
-#include <ui/TimeZoneSection.h>
 
 #include <QCursor>
 #include <QTest>

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "BoardSettings.h"
+#include "PanelScene.h"
+#include "ScenePicture.h"
 
-#include <fakes/VirtualMainQueue.h>
-#include <gallery/PanelScene.h>
-#include <gallery/ScenePicture.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "PreferencesBoard.h"
+
 #include "BoardSettings.h"
 #include "GalleryFolder.h"
-
-#include <gallery/PreferencesBoard.h>
 
 #include <QImage>
 #include <QPainter>

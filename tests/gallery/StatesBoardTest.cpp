@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "StatesBoard.h"
+
 #include "BoardSettings.h"
 #include "GalleryFolder.h"
-
-#include <gallery/StatesBoard.h>
 
 #include <QImage>
 #include <QTest>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlay.h"
+#include "PopUpButton.h"
+#include "SegmentButton.h"
 
 #include <controls/KeyCap.h>
-#include <controls/PopUpButton.h>
 #include <controls/SearchField.h>
-#include <controls/SegmentButton.h>
-#include <controls/ZoneChip.h>
 #include <entry/FieldChip.h>
 
 #include <QApplication>
@@ -17,6 +16,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <panel/ZoneChip.h>
 
 namespace quorvane {
 namespace {

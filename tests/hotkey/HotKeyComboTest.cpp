@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/MemoryDefaults.h>
 #include <hotkey/HotKeyCombo.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 namespace {

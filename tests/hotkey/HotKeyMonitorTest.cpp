@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/CallLog.h>
-#include <fakes/FakeAccessibilityRight.h>
-#include <fakes/FakeEventTaps.h>
-#include <fakes/VirtualMainQueue.h>
 #include <hotkey/HotKeyMonitor.h>
 
 #include <gtest/gtest.h>
+
+#include <testing/CallLog.h>
+#include <testing/FakeAccessibilityRight.h>
+#include <testing/FakeEventTaps.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Samples.h"
 
-#include <fakes/FixedCurrentZone.h>
 #include <model/ComposedOutput.h>
 
 #include <QStringList>
 #include <gtest/gtest.h>
 
 #include <string>
+#include <testing/FixedCurrentZone.h>
 
 namespace quorvane {
 namespace {

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Samples.h"
 
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <fakes/MemoryDefaults.h>
-#include <foundation/DiskFileWriter.h>
-#include <foundation/JsonDefaultsStore.h>
 #include <model/DateTimeModel.h>
 
 #include <QFile>
@@ -15,7 +10,12 @@
 
 #include <functional>
 #include <memory>
+#include <settings/DiskFileWriter.h>
+#include <settings/JsonDefaultsStore.h>
 #include <string>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
+#include "DefaultFavorites.h"
 
-#include <model/DefaultFavorites.h>
+#include "Samples.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
+#include "PresetList.h"
 
-#include <model/PresetList.h>
+#include "Samples.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

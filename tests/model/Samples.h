@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/UserLocale.h>
-#include <foundation/ZoneDatabase.h>
 #include <model/FormatSingle.h>
 
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane::samples {

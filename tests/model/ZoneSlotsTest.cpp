@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
+#include "ZoneSlots.h"
 
-#include <model/ZoneSlots.h>
+#include "Samples.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/ZoneDatabase.h>
-#include <timezones/TimeZoneAliases.h>
+#include "TimeZoneAliases.h"
 
 #include <gmock/gmock.h>
+
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Zones.h"
 
-#include <fakes/VirtualMainQueue.h>
 #include <timezones/ZoneWarmUp.h>
 
 #include <gtest/gtest.h>
+
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

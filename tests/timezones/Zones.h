@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/UserLocale.h>
-#include <foundation/ZoneDatabase.h>
-
 #include <initializer_list>
 #include <string>
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

@@ -2,8 +2,9 @@
 #include "PresetNames.h"
 #include "VectorKinds.h"
 
-#include <fakes/FixedCurrentZone.h>
 #include <model/ComposedOutput.h>
+
+#include <testing/FixedCurrentZone.h>
 
 namespace quorvane {
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "NumberText.h"
+#include "TimeEntry.h"
 #include "VectorKinds.h"
-
-#include <entry/NumberText.h>
-#include <entry/TimeEntry.h>
 
 namespace quorvane {
 

@@ -2,8 +2,9 @@
 #include "PresetNames.h"
 #include "VectorKinds.h"
 
-#include <foundation/DateText.h>
 #include <model/FormatSingle.h>
+
+#include <time/DateText.h>
 
 namespace quorvane {
 

@@ -2,12 +2,13 @@
 #include "StoppedProcess.h"
 #include "VectorKinds.h"
 
-#include <fakes/FakeKeyboardLayout.h>
-#include <foundation/DiskFileWriter.h>
-#include <foundation/JsonDefaultsStore.h>
 #include <hotkey/HotKeyCombo.h>
 
 #include <QTemporaryFile>
+
+#include <settings/DiskFileWriter.h>
+#include <settings/JsonDefaultsStore.h>
+#include <testing/FakeKeyboardLayout.h>
 
 namespace quorvane {
 

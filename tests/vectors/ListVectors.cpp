@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "DefaultFavorites.h"
+#include "PresetList.h"
 #include "PresetNames.h"
 #include "VectorKinds.h"
+#include "ZoneSlots.h"
 
-#include <model/DefaultFavorites.h>
 #include <model/IncludeGuard.h>
-#include <model/PresetList.h>
-#include <model/ZoneSlots.h>
 
 namespace quorvane {
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/UserLocale.h>
-#include <foundation/ZoneDatabase.h>
-
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 #include <stdexcept>
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "TimeZoneAliases.h"
 #include "VectorKinds.h"
 
-#include <foundation/ZoneNames.h>
-#include <timezones/TimeZoneAliases.h>
 #include <timezones/ZoneSearch.h>
 #include <timezones/ZoneSelection.h>
 #include <timezones/ZoneTexts.h>
@@ -10,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <time/ZoneNames.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/CoalescedRefresh.h>
+#include <loop/CoalescedRefresh.h>
 
 namespace quorvane {
 

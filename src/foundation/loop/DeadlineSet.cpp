@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DeadlineSet.h>
+#include <loop/DeadlineSet.h>
 
 namespace quorvane {
 

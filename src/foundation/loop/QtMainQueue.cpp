@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/QtMainQueue.h>
-
 #include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
 #include <chrono>
+#include <loop/QtMainQueue.h>
 
 namespace quorvane {
 

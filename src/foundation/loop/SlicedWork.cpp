@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/SlicedWork.h>
+#include <loop/SlicedWork.h>
 
 namespace quorvane {
 

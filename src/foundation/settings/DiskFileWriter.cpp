@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DiskFileWriter.h>
-
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 #include <fcntl.h>
+#include <settings/DiskFileWriter.h>
 #include <stdio.h>
 #include <sys/stat.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/Environment.h>
-
 #include <QtGlobal>
+
+#include <settings/Environment.h>
 
 namespace quorvane {
 

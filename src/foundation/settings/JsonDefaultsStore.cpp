@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "JsonCoercion.h"
 
-#include <foundation/JsonDefaultsStore.h>
-
 #include <QJsonArray>
+
+#include <settings/JsonDefaultsStore.h>
 
 namespace quorvane {
 

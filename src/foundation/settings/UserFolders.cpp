@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/UserFolders.h>
-
 #include <QDir>
+
+#include <settings/UserFolders.h>
 
 namespace quorvane {
 

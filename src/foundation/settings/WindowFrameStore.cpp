@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/WindowFrameStore.h>
-
 #include <QJsonObject>
 
 #include <cmath>
+#include <settings/WindowFrameStore.h>
 
 namespace quorvane {
 

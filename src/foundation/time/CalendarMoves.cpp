@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LocaleCalendar.h"
 
-#include <foundation/CalendarMoves.h>
+#include <time/CalendarMoves.h>
 
 namespace quorvane {
 

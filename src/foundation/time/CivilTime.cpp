@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/CivilTime.h>
-
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <time/CivilTime.h>
 
 namespace quorvane {
 

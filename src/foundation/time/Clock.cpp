@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/Clock.h>
-
 #include <chrono>
+#include <time/Clock.h>
 
 namespace quorvane {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "DatabaseTimeZone.h"
 
-#include <foundation/IcuText.h>
-#include <foundation/IcuTimeZone.h>
+#include "IcuText.h"
 
 #include <unicode/gregocal.h>
 
 #include <algorithm>
 #include <chrono>
+#include <time/IcuTimeZone.h>
 
 namespace quorvane {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-
 #include <unicode/timezone.h>
 
 #include <limits>
 #include <memory>
+#include <time/TimeZone.h>
 
 namespace quorvane {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DateText.h>
-#include <foundation/IcuText.h>
-#include <foundation/IcuTimeZone.h>
+#include "IcuText.h"
 
 #include <unicode/datefmt.h>
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
 #include <memory>
+#include <time/DateText.h>
+#include <time/IcuTimeZone.h>
 
 namespace quorvane {
 

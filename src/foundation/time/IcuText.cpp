@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/IcuText.h>
+#include "IcuText.h"
 
 namespace quorvane {
 

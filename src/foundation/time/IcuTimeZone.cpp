@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "DatabaseTimeZone.h"
-
-#include <foundation/IcuText.h>
-#include <foundation/IcuTimeZone.h>
+#include "IcuText.h"
 
 #include <cmath>
+#include <time/IcuTimeZone.h>
 
 namespace quorvane {
 

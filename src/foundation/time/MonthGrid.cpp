@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "IcuText.h"
 #include "LocaleCalendar.h"
-
-#include <foundation/CalendarMoves.h>
-#include <foundation/IcuText.h>
-#include <foundation/MonthGrid.h>
 
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
 #include <algorithm>
+#include <time/CalendarMoves.h>
+#include <time/MonthGrid.h>
 #include <utility>
 
 namespace quorvane {

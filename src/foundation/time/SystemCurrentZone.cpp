@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/SystemCurrentZone.h>
-
 #include <QFile>
 
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <time/SystemCurrentZone.h>
 
 namespace quorvane {
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/TimeZone.h>
-
 #include <QDateTime>
 
 #include <algorithm>
 #include <cmath>
+#include <time/TimeZone.h>
 
 namespace quorvane {
 

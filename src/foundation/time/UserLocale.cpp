@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/UserLocale.h>
-
 #include <QStringList>
 #include <unicode/resbund.h>
 
 #include <algorithm>
 #include <array>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

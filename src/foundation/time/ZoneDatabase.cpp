@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/ZoneDatabase.h>
-
 #include <QFile>
 
 #include <algorithm>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

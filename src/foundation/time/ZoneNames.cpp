@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/IcuText.h>
-#include <foundation/IcuTimeZone.h>
-#include <foundation/ZoneNames.h>
+#include "IcuText.h"
+
+#include <time/IcuTimeZone.h>
+#include <time/ZoneNames.h>
 
 namespace quorvane {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "FreedesktopApplication.h"
+
 #include <platform_dbus/DBusApplicationInstance.h>
-#include <platform_dbus/FreedesktopApplication.h>
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "TrayStatusItem.h"
+
 #include <platform_tray/TrayStatusBar.h>
-#include <platform_tray/TrayStatusItem.h>
 
 namespace quorvane {
 

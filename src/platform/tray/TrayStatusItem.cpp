@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <platform_tray/TrayMenu.h>
-#include <platform_tray/TrayStatusItem.h>
+#include "TrayStatusItem.h"
+
+#include "TrayMenu.h"
 
 #include <QCursor>
 #include <QGuiApplication>

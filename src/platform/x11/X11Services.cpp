@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11AccessibilityRight.h>
-#include <platform_x11/X11EventTapService.h>
-#include <platform_x11/X11KeyPoster.h>
-#include <platform_x11/X11KeyboardLayout.h>
-#include <platform_x11/X11Pasteboard.h>
 #include <platform_x11/X11Services.h>
-#include <platform_x11/X11WindowTraits.h>
-#include <platform_x11/X11Workspace.h>
+
+#include <x11_clipboard/X11Pasteboard.h>
+#include <x11_keyboard/X11AccessibilityRight.h>
+#include <x11_keyboard/X11EventTapService.h>
+#include <x11_keyboard/X11KeyPoster.h>
+#include <x11_keyboard/X11KeyboardLayout.h>
+#include <x11_windows/X11WindowTraits.h>
+#include <x11_windows/X11Workspace.h>
 
 namespace quorvane {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <controls/ChoiceMenu.h>
-#include <controls/ChoiceRow.h>
+#include "ChoiceMenu.h"
+
+#include "ChoiceRow.h"
 
 namespace quorvane {
 

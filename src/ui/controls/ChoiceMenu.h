@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/RowMenu.h>
+#include "RowMenu.h"
 
 #include <QStringList>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <controls/ChoiceRow.h>
+#include "ChoiceRow.h"
+
 #include <controls/SymbolPainter.h>
 
 namespace quorvane {

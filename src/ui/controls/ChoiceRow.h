@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/MenuRow.h>
+#include "MenuRow.h"
 
 namespace quorvane {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <controls/CommandMenu.h>
-#include <controls/CommandRow.h>
+#include "CommandMenu.h"
+
+#include "CommandRow.h"
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "RowMenu.h"
+
 #include <controls/Command.h>
-#include <controls/RowMenu.h>
 
 namespace quorvane {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <controls/CommandRow.h>
+#include "CommandRow.h"
+
 #include <controls/SymbolPainter.h>
 
 #include <QPainter>

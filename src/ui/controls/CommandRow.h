@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/MenuRow.h>
+#include "MenuRow.h"
+
 #include <controls/Symbol.h>
 
 #include <QKeySequence>

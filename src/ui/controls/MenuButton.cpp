@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <controls/CommandMenu.h>
+#include "CommandMenu.h"
+
 #include <controls/MenuButton.h>
 
 #include <QKeyEvent>

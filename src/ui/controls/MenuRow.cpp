@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "MenuRow.h"
+
 #include <controls/DevicePixels.h>
-#include <controls/MenuRow.h>
 #include <controls/TextStyle.h>
 
 #include <QPainter>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "PopUpButton.h"
+
 #include <controls/ChipSurface.h>
-#include <controls/PopUpButton.h>
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "ChoiceMenu.h"
+#include "PopUpButton.h"
+
 #include <controls/ChipSurface.h>
-#include <controls/ChoiceMenu.h>
-#include <controls/PopUpButton.h>
 #include <controls/PopUpChoice.h>
 
 #include <QHBoxLayout>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <controls/MenuRow.h>
-#include <controls/RowMenu.h>
+#include "RowMenu.h"
+
+#include "MenuRow.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "SegmentButton.h"
+
 #include <controls/ChipSurface.h>
 #include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
-#include <controls/SegmentButton.h>
 #include <controls/TextStyle.h>
 
 #include <QPainter>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "SegmentButton.h"
+
 #include <controls/ChipSurface.h>
-#include <controls/SegmentButton.h>
 #include <controls/SegmentedRow.h>
 
 #include <QKeyEvent>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "CalendarArrow.h"
+
 #include <controls/DevicePixels.h>
 #include <controls/SymbolPainter.h>
-#include <entry/CalendarArrow.h>
 
 namespace quorvane {
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "CalendarArrow.h"
 #include "CalendarKeys.h"
 
 #include <controls/TextStyle.h>
-#include <entry/CalendarArrow.h>
 #include <entry/CalendarPicker.h>
-#include <foundation/CalendarMoves.h>
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <time/CalendarMoves.h>
 #include <utility>
 
 namespace quorvane {

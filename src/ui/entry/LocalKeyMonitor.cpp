@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "LocalKeyMonitor.h"
+
 #include "EntryKeyCodes.h"
 
-#include <entry/LocalKeyMonitor.h>
 #include <platform/KeyCodes.h>
 
 #include <QCoreApplication>

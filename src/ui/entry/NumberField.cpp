@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "NumberField.h"
+
 #include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
-#include <entry/NumberField.h>
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <entry/NumberText.h>
+#include "NumberText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <entry/NumberText.h>
-#include <entry/TimeEntry.h>
-#include <foundation/CivilTime.h>
+#include "TimeEntry.h"
+
+#include "NumberText.h"
+
+#include <time/CivilTime.h>
 
 namespace quorvane {
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-
 #include <QString>
 
 #include <optional>
+#include <time/TimeZone.h>
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <entry/TimeField.h>
-#include <entry/TimePickerPopover.h>
-#include <foundation/DateText.h>
+#include "TimePickerPopover.h"
 
+#include <entry/TimeField.h>
+
+#include <time/DateText.h>
 #include <utility>
 
 namespace quorvane {

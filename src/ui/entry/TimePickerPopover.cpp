@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "TimePickerPopover.h"
+
 #include "EntryKeyCodes.h"
 
 #include <controls/SegmentedChip.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
-#include <entry/TimePickerPopover.h>
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LocalKeyMonitor.h"
+#include "NumberField.h"
+#include "TimeEntry.h"
+
 #include <entry/DateBinding.h>
-#include <entry/LocalKeyMonitor.h>
-#include <entry/NumberField.h>
-#include <entry/TimeEntry.h>
-#include <foundation/CurrentZone.h>
 
 #include <QWidget>
 
 #include <memory>
 #include <optional>
+#include <time/CurrentZone.h>
 
 namespace quorvane {
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "ActionBar.h"
+
+#include "CopyButton.h"
+#include "PanelMetrics.h"
+
 #include <controls/DimmingVeil.h>
 #include <controls/Theme.h>
-#include <ui/ActionBar.h>
-#include <ui/CopyButton.h>
-#include <ui/PanelMetrics.h>
 
 #include <QHBoxLayout>
 #include <QPainter>

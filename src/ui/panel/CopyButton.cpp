@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "CopyButton.h"
+
 #include <controls/Theme.h>
-#include <ui/CopyButton.h>
 
 #include <QPainter>
 #include <QStyle>

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <controls/ActionButton.h>
-#include <foundation/DeadlineSet.h>
-#include <foundation/MainQueue.h>
 
 #include <QVariantAnimation>
+
+#include <loop/DeadlineSet.h>
+#include <loop/MainQueue.h>
 
 namespace quorvane {
 

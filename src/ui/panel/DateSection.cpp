@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "DateSection.h"
+
+#include "PanelMetrics.h"
+#include "SectionLabel.h"
+
 #include <controls/CheckBox.h>
 #include <model/IncludeGuard.h>
 #include <timezones/ZoneTexts.h>
-#include <ui/DateSection.h>
-#include <ui/PanelMetrics.h>
-#include <ui/SectionLabel.h>
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Section.h"
+
 #include <entry/DateBinding.h>
 #include <entry/DateField.h>
 #include <entry/EntrySurroundings.h>
 #include <entry/TimeField.h>
 #include <model/DateTimeModel.h>
-#include <ui/Section.h>
 
 namespace quorvane {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChipSurface.h>
 #include <controls/DevicePixels.h>
-#include <controls/FavoriteSuggestionChip.h>
 
 #include <QPainter>
+
+#include <panel/FavoriteSuggestionChip.h>
 
 namespace quorvane {
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "FormatSection.h"
+
+#include "OutputFont.h"
+
 #include <controls/MacPopUpButton.h>
 #include <controls/MacSegmentedControl.h>
 #include <controls/TextField.h>
-#include <ui/FormatSection.h>
-#include <ui/OutputFont.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Section.h"
+
 #include <controls/Choice.h>
 #include <controls/PopoverEffects.h>
 #include <model/DateTimeModel.h>
-#include <ui/Section.h>
 
 namespace quorvane {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "OutputFont.h"
+
 #include <controls/TextStyle.h>
-#include <ui/OutputFont.h>
 
 #include <QFontDatabase>
 

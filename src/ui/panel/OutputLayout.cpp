@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ui/OutputLayout.h>
+#include "OutputLayout.h"
 
 #include <QFontInfo>
 #include <QFontMetrics>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ui/OutputParts.h>
+#include "OutputParts.h"
 
 namespace quorvane {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "OutputFont.h"
+#include "OutputLayout.h"
+#include "OutputParts.h"
+
 #include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/OverlayScrollBar.h>
 #include <controls/Theme.h>
-#include <ui/OutputFont.h>
-#include <ui/OutputLayout.h>
-#include <ui/OutputParts.h>
-#include <ui/OutputPreview.h>
 
 #include <QMimeData>
 #include <QMouseEvent>
@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <panel/OutputPreview.h>
 
 namespace quorvane {
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "PopoverHeader.h"
+
+#include "PanelMetrics.h"
+
 #include <controls/IconButton.h>
 #include <controls/KeyCap.h>
 #include <controls/MenuButton.h>
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
-#include <ui/PanelMetrics.h>
-#include <ui/PopoverHeader.h>
 
 #include <QHBoxLayout>
 #include <QLabel>

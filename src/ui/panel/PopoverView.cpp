@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
+#include "ActionBar.h"
+#include "CopyButton.h"
+#include "DateSection.h"
+#include "FormatSection.h"
+#include "PopoverHeader.h"
+#include "PreviewSection.h"
+#include "SectionColumn.h"
+#include "TimeZoneSection.h"
+
 #include <delivery/CopyText.h>
 #include <recorder/KeyNames.h>
-#include <ui/ActionBar.h>
-#include <ui/CopyButton.h>
-#include <ui/DateSection.h>
-#include <ui/FormatSection.h>
-#include <ui/PopoverHeader.h>
-#include <ui/PopoverView.h>
-#include <ui/PreviewSection.h>
-#include <ui/SectionColumn.h>
-#include <ui/TimeZoneSection.h>
 
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <panel/PopoverView.h>
 #include <utility>
 
 namespace quorvane {

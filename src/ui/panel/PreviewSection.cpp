@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <ui/OutputPreview.h>
-#include <ui/PreviewSection.h>
-#include <ui/SectionLabel.h>
+#include "PreviewSection.h"
+
+#include "SectionLabel.h"
 
 #include <QVBoxLayout>
+
+#include <panel/OutputPreview.h>
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-#include <ui/Section.h>
+#include "Section.h"
+
+#include <loop/MainQueue.h>
 
 namespace quorvane {
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "Section.h"
+
+#include "PanelMetrics.h"
+#include "SectionLabel.h"
+
 #include <controls/DimmingVeil.h>
-#include <ui/PanelMetrics.h>
-#include <ui/Section.h>
-#include <ui/SectionLabel.h>
 
 #include <QVBoxLayout>
 

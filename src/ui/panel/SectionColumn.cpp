@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "SectionColumn.h"
+
+#include "PanelMetrics.h"
+
 #include <controls/OverlayScrollBar.h>
-#include <ui/PanelMetrics.h>
-#include <ui/SectionColumn.h>
 
 #include <QEvent>
 #include <QVBoxLayout>

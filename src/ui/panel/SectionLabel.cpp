@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "SectionLabel.h"
+
+#include "PanelMetrics.h"
+
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
-#include <ui/PanelMetrics.h>
-#include <ui/SectionLabel.h>
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ui/SparkleUpdater.h>
+#include <panel/SparkleUpdater.h>
 
 namespace quorvane {
 

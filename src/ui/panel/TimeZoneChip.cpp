@@ -2,9 +2,10 @@
 #include <controls/ChipSurface.h>
 #include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
-#include <controls/TimeZoneChip.h>
 
 #include <QPainter>
+
+#include <panel/TimeZoneChip.h>
 
 namespace quorvane {
 

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include <controls/FavoriteSuggestionChip.h>
+#include "TimeZoneSection.h"
+
+#include "PanelMetrics.h"
+#include "SectionLabel.h"
+
 #include <controls/IconButton.h>
 #include <controls/Sheet.h>
-#include <controls/TimeZoneChip.h>
 #include <timezones/ZoneTexts.h>
-#include <ui/PanelMetrics.h>
-#include <ui/SectionLabel.h>
-#include <ui/TimeZoneSection.h>
 
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <panel/FavoriteSuggestionChip.h>
+#include <panel/TimeZoneChip.h>
 
 namespace quorvane {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Section.h"
+
 #include <controls/FlowLayout.h>
 #include <model/DateTimeModel.h>
 #include <picker/TimeZonePickerView.h>
-#include <ui/Section.h>
 
 #include <QPointer>
 

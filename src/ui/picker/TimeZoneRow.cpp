@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/ZoneNames.h>
 #include <picker/TimeZoneRow.h>
 #include <timezones/ZoneTexts.h>
+
+#include <time/ZoneNames.h>
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "ZoneRowDelegate.h"
+
 #include <controls/OverlayScrollBar.h>
 #include <picker/ZoneList.h>
 #include <picker/ZoneListModel.h>
-#include <picker/ZoneRowDelegate.h>
 
 #include <QAccessible>
 #include <QKeyEvent>

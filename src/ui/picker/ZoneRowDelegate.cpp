@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "ZoneRowDelegate.h"
+
 #include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/SymbolPainter.h>
@@ -6,7 +8,6 @@
 #include <controls/Theme.h>
 #include <picker/ZoneList.h>
 #include <picker/ZoneListModel.h>
-#include <picker/ZoneRowDelegate.h>
 
 #include <QFontInfo>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FavoriteListModel.h"
 
-#include <preferences/FavoriteTZRow.h>
+#include "FavoriteTZRow.h"
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <preferences/FavoriteTZRow.h>
+#include "FavoriteTZRow.h"
 
 namespace quorvane {
 

@@ -3,9 +3,10 @@
 
 #include "PreferencesSection.h"
 
-#include <foundation/Clock.h>
-#include <foundation/ZoneDatabase.h>
 #include <timezones/ZoneSearch.h>
+
+#include <time/Clock.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

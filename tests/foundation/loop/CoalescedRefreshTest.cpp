@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/VirtualMainQueue.h>
-#include <foundation/CoalescedRefresh.h>
-
 #include <gtest/gtest.h>
 
+#include <loop/CoalescedRefresh.h>
 #include <optional>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/VirtualMainQueue.h>
-#include <foundation/DeadlineSet.h>
-
 #include <gtest/gtest.h>
 
+#include <loop/DeadlineSet.h>
 #include <memory>
+#include <testing/VirtualMainQueue.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/QtMainQueue.h>
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
+#include <loop/QtMainQueue.h>
 #include <memory>
 #include <optional>
 #include <string>

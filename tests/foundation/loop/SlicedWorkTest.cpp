@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/VirtualMainQueue.h>
-#include <foundation/SlicedWork.h>
-
 #include <gmock/gmock.h>
 
+#include <loop/SlicedWork.h>
 #include <optional>
+#include <testing/VirtualMainQueue.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/DiskFileWriter.h>
-
 #include <memory>
 #include <set>
+#include <settings/DiskFileWriter.h>
 
 namespace quorvane {
 

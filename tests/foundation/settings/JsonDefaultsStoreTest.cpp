@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DiskFileWriter.h>
-#include <foundation/JsonDefaultsStore.h>
-
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <settings/DiskFileWriter.h>
+#include <settings/JsonDefaultsStore.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FaultyFileWriter.h"
 
-#include <foundation/JsonFile.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <settings/JsonFile.h>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>

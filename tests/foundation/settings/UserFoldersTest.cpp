@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/UserFolders.h>
-
 #include <gtest/gtest.h>
 
 #include <map>
+#include <settings/UserFolders.h>
 #include <string>
 
 namespace quorvane {

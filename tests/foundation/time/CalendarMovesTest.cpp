@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/CalendarMoves.h>
-
 #include <gtest/gtest.h>
+
+#include <time/CalendarMoves.h>
 
 namespace quorvane {
 namespace {

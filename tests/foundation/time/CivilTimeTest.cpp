@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/CivilTime.h>
-#include <foundation/ZoneDatabase.h>
-
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <time/CivilTime.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

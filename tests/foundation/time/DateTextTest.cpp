@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DateText.h>
-#include <foundation/ZoneDatabase.h>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
+#include <time/DateText.h>
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ZoneOracle.h"
 
-#include <foundation/IcuTimeZone.h>
-#include <foundation/ZoneDatabase.h>
-
 #include <gtest/gtest.h>
 #include <unicode/gregocal.h>
+
+#include <time/IcuTimeZone.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

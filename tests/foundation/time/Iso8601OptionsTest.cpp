@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/Iso8601Options.h>
-
 #include <gtest/gtest.h>
+
+#include <time/Iso8601Options.h>
 
 namespace quorvane {
 namespace {

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/MonthGrid.h>
-
 #include <QProcess>
 #include <QStringList>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <time/MonthGrid.h>
 
 namespace quorvane {
 namespace {

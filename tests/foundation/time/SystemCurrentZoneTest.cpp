@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/SystemCurrentZone.h>
-
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <time/SystemCurrentZone.h>
 
 namespace quorvane {
 namespace {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/UserLocale.h>
-
 #include <gtest/gtest.h>
 
 #include <map>
 #include <string>
+#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ZoneOracle.h"
 
-#include <foundation/ZoneDatabase.h>
-
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -10,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <set>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

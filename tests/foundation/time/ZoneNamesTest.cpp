@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/DateText.h>
-#include <foundation/IcuTimeZone.h>
-#include <foundation/ZoneDatabase.h>
-#include <foundation/ZoneNames.h>
-
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <time/DateText.h>
+#include <time/IcuTimeZone.h>
+#include <time/ZoneDatabase.h>
+#include <time/ZoneNames.h>
 
 namespace quorvane {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_dbus/FreedesktopApplication.h>
+#include "FreedesktopApplication.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/VirtualMainQueue.h>
 #include <platform/KeyCodes.h>
 #include <platform_null/NullServices.h>
 
 #include <gtest/gtest.h>
+
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 

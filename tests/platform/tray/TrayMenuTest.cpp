@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_tray/TrayMenu.h>
+#include "TrayMenu.h"
 
 #include <QMenu>
 #include <gtest/gtest.h>

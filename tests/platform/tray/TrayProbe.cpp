@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <controls/SymbolIcon.h>
-#include <foundation/QtMainQueue.h>
 #include <platform_tray/TrayStatusBar.h>
 
 #include <QApplication>
@@ -8,6 +7,7 @@
 
 #include <cstdio>
 #include <iostream>
+#include <loop/QtMainQueue.h>
 #include <string>
 #include <unistd.h>
 

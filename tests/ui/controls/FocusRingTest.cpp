@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
-
 #include <controls/FocusRing.h>
 #include <controls/TextButton.h>
+#include <support/ControlWindow.h>
 
 #include <gtest/gtest.h>
 

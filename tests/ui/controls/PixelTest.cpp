@@ -1,50 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
+#include "MenuChip.h"
 
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
 #include <controls/Contrast.h>
 #include <controls/DevicePixels.h>
-#include <controls/FavoriteSuggestionChip.h>
-#include <controls/MenuChip.h>
 #include <controls/SegmentedChip.h>
-#include <controls/TimeZoneChip.h>
-#include <foundation/ZoneDatabase.h>
+#include <support/Pixels.h>
 
 #include <QPainter>
 #include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// By scheme and device pixels a point.
-class Pixels : public testing::TestWithParam<std::tuple<ColorScheme, double>> {
-protected:
-    ColorScheme scheme = std::get<0>(GetParam());
-    double scale = std::get<1>(GetParam());
-    const Theme& theme = Theme::house(scheme);
-    ControlWindow window{scheme};
-
-    /// What a 1 point frame takes: whole device pixels.
-    [[nodiscard]] int frame() const { return static_cast<int>(std::round(scale)); }
-
-    static void expectColor(QRgb pixel, const QColor& color, const char* what) {
-        const QRgb expected = color.rgb();
-        EXPECT_NEAR(qRed(pixel), qRed(expected), 2) << what;
-        EXPECT_NEAR(qGreen(pixel), qGreen(expected), 2) << what;
-        EXPECT_NEAR(qBlue(pixel), qBlue(expected), 2) << what;
-    }
-
-    QImage render(QWidget& control, QSize size) {
-        window.layout()->addWidget(&control);
-        control.setFixedSize(size);
-        return picture(control, scale);
-    }
-};
 
 TEST_P(Pixels, ChipIsThirtyHighAndItsFrameOnePoint) {
     MenuChip chip{PopoverEffects{}};
@@ -65,25 +35,6 @@ TEST_P(Pixels, ChipIsThirtyHighAndItsFrameOnePoint) {
     }
     expectColor(image.pixel(frame(), half), theme.base, "fill beside the frame");
     expectColor(image.pixel(0, 0), theme.win, "corner");
-}
-
-TEST_P(Pixels, HalfPointLineIsOneDevicePixel) {
-    FavoriteSuggestionChip chip(ZoneDatabase::utc(), u"PST"_s, [] {});
-    const auto image = render(chip, {120, 30});
-    const int middle = image.width() / 2;
-    const auto line = blended(withOpacity(theme.text2, 0.3), theme.win);
-    expectColor(image.pixel(middle, 0), line, "line");
-    expectColor(image.pixel(middle, 1), theme.win, "no fill");
-    expectColor(image.pixel(middle, image.height() - 1), line, "lower line");
-}
-
-TEST_P(Pixels, ChosenZoneIsTinted) {
-    TimeZoneChip chip(ZoneDatabase::utc(), u"PST"_s, [] {});
-    const auto image = render(chip, {120, 30});
-    const auto tint = blended(withOpacity(theme.accentText, 0.12), theme.win);
-    const auto line = blended(withOpacity(theme.accentText, 0.25), tint);
-    expectColor(image.pixel(image.width() / 2, 0), line, "line");
-    expectColor(image.pixel(image.width() / 2, 2), tint, "tint");
 }
 
 TEST_P(Pixels, ProminentButtonIsTheAccent) {

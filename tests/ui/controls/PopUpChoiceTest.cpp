@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
+#include "ChoiceMenu.h"
+#include "MenuChip.h"
+#include "MenuRow.h"
+#include "PopUpButton.h"
 
 #include <controls/Choice.h>
-#include <controls/ChoiceMenu.h>
 #include <controls/MacPopUpButton.h>
-#include <controls/MenuChip.h>
-#include <controls/MenuRow.h>
-#include <controls/PopUpButton.h>
+#include <support/ControlWindow.h>
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
-
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
 #include <controls/IconButton.h>
 #include <controls/TextButton.h>
 #include <controls/ToggleSwitch.h>
+#include <support/ControlWindow.h>
 
 #include <QAccessibleActionInterface>
 #include <QSignalSpy>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
+#include "SegmentButton.h"
 
 #include <controls/Choice.h>
 #include <controls/MacSegmentedControl.h>
-#include <controls/SegmentButton.h>
 #include <controls/SegmentedChip.h>
+#include <support/ControlWindow.h>
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
-
 #include <controls/SearchField.h>
 #include <controls/Sheet.h>
 #include <controls/TextButton.h>
+#include <support/ControlWindow.h>
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>

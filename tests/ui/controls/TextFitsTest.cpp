@@ -1,53 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
+#include "ChoiceRow.h"
+#include "MenuChip.h"
+#include "SegmentButton.h"
 
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
-#include <controls/ChoiceRow.h>
-#include <controls/FavoriteSuggestionChip.h>
 #include <controls/KeyCap.h>
-#include <controls/MenuChip.h>
-#include <controls/SegmentButton.h>
 #include <controls/SegmentedChip.h>
 #include <controls/TextButton.h>
-#include <controls/TextStyle.h>
-#include <controls/TimeZoneChip.h>
-#include <foundation/ZoneDatabase.h>
+#include <support/TextFits.h>
 
 #include <gtest/gtest.h>
-
-#include <tuple>
 
 namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// By size of the body's font in pixels.
-class TextFits : public testing::TestWithParam<int> {
-protected:
-    ControlWindow window;
-    QString label = u"Wednesday, Preferences…"_s;
-
-    TextFits() {
-        auto font = window.font();
-        font.setPixelSize(GetParam());
-        window.setFont(font);
-    }
-
-    /// What the look gives the label, beside which `ornament` points are taken by other things.
-    void expectRoom(const QWidget& control, const QFont& font, double ornament) {
-        const QFontMetricsF metrics(font);
-        const auto size = control.sizeHint();
-        EXPECT_GE(size.width() - ornament, metrics.horizontalAdvance(label));
-        EXPECT_GE(size.height(), metrics.height());
-        EXPECT_LE(size.width() - ornament, metrics.horizontalAdvance(label) + 16);
-    }
-
-    [[nodiscard]] QFont font(TextStyle style, QFont::Weight weight = QFont::Normal) const {
-        return textFont(window.font(), style, weight);
-    }
-};
 
 TEST_P(TextFits, InButtons) {
     auto& insert =
@@ -62,13 +30,6 @@ TEST_P(TextFits, InButtons) {
 
 TEST_P(TextFits, InABox) {
     expectRoom(window.add(new CheckBox(label)), font(TextStyle::Body), 16 + 8);
-}
-
-TEST_P(TextFits, InChips) {
-    const auto zone = ZoneDatabase::utc();
-    const auto medium = font(TextStyle::Callout, QFont::Medium);
-    expectRoom(window.add(new TimeZoneChip(zone, label, [] {})), medium, 9 + 5 + 2 * 10);
-    expectRoom(window.add(new FavoriteSuggestionChip(zone, label, [] {})), medium, 9 + 5 + 2 * 10);
 }
 
 TEST_P(TextFits, InListsToChooseFrom) {

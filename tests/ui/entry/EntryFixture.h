@@ -3,9 +3,6 @@
 
 #include <entry/DateBinding.h>
 #include <entry/EntrySurroundings.h>
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <foundation/ZoneDatabase.h>
 #include <support/WidgetSearch.h>
 
 #include <QAbstractButton>
@@ -16,6 +13,9 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

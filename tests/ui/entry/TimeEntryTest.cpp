@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <entry/TimeEntry.h>
-#include <foundation/ZoneDatabase.h>
+#include "TimeEntry.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "TimePickerPopover.h"
+
 #include "EntryFixture.h"
 
 #include <entry/TimeField.h>
-#include <entry/TimePickerPopover.h>
 
 namespace quorvane {
 namespace {

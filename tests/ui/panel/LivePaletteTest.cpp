@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "TimePickerPopover.h"
+
 #include <controls/KeyCap.h>
 #include <controls/SearchField.h>
 #include <controls/Theme.h>
 #include <entry/CalendarPicker.h>
-#include <entry/TimePickerPopover.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/FakePasteboard.h>
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <fakes/MemoryDefaults.h>
 #include <picker/TimeZonePickerView.h>
-#include <ui/PopoverView.h>
 
 #include <QApplication>
 #include <QImage>
@@ -23,6 +17,13 @@
 #include <functional>
 #include <memory>
 #include <ostream>
+#include <panel/PopoverView.h>
+#include <testing/CallLog.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 namespace {

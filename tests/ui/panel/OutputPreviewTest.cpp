@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <controls/Theme.h>
-#include <fakes/VirtualMainQueue.h>
-#include <ui/OutputPreview.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -15,6 +13,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <panel/OutputPreview.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

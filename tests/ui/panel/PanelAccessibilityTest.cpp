@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverFixture.h"
-
-#include <ui/Section.h>
+#include "Section.h"
 
 namespace quorvane {
 namespace {

@@ -1,15 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/MenuRow.h>
-#include <fakes/CallLog.h>
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/FakePasteboard.h>
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <fakes/MemoryDefaults.h>
+#include "MenuRow.h"
+
 #include <support/WidgetSearch.h>
-#include <ui/PopoverView.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -17,6 +11,14 @@
 #include <QPlainTextEdit>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include <panel/PopoverView.h>
+#include <testing/CallLog.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/CallLog.h>
-#include <fakes/FakeSoftwareCentre.h>
-#include <ui/SparkleUpdater.h>
-
 #include <QApplication>
 #include <QMessageBox>
 #include <gtest/gtest.h>
+
+#include <panel/SparkleUpdater.h>
+#include <testing/CallLog.h>
+#include <testing/FakeSoftwareCentre.h>
 
 namespace quorvane {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "ControlWindow.h"
-
-#include <controls/FavoriteSuggestionChip.h>
-#include <controls/TimeZoneChip.h>
-#include <foundation/ZoneDatabase.h>
+#include <support/ControlWindow.h>
 
 #include <gtest/gtest.h>
+
+#include <panel/FavoriteSuggestionChip.h>
+#include <panel/TimeZoneChip.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/Sheet.h>
 #include <controls/Theme.h>
-#include <fakes/FixedClock.h>
-#include <foundation/ZoneDatabase.h>
 #include <picker/TimeZonePickerView.h>
 #include <support/WidgetSearch.h>
 
@@ -16,6 +14,8 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <testing/FixedClock.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <foundation/ZoneDatabase.h>
-#include <preferences/FavoriteTZRow.h>
+#include "FavoriteTZRow.h"
 
 #include <gtest/gtest.h>
+
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -3,11 +3,6 @@
 
 #include <controls/FocusRing.h>
 #include <controls/Theme.h>
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/FixedClock.h>
-#include <fakes/FixedCurrentZone.h>
-#include <fakes/MemoryDefaults.h>
-#include <fakes/VirtualMainQueue.h>
 #include <preferences/PreferencesView.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
@@ -21,6 +16,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <fakes/VirtualMainQueue.h>
 #include <recorder/KeyCapture.h>
 #include <support/PhysicalKeyboard.h>
 
@@ -8,6 +7,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -3,8 +3,6 @@
 #include <controls/KeyCap.h>
 #include <controls/PressableControl.h>
 #include <controls/Theme.h>
-#include <fakes/FakeKeyboardLayout.h>
-#include <fakes/VirtualMainQueue.h>
 #include <recorder/KeyCapture.h>
 #include <recorder/ShortcutRecorder.h>
 #include <support/PhysicalKeyboard.h>
@@ -15,6 +13,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

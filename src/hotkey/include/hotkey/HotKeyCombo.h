@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/DefaultsStore.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/ModifierFlags.h>
 
@@ -11,6 +10,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <settings/DefaultsStore.h>
 #include <variant>
 
 namespace quorvane {

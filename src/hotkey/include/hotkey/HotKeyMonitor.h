@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
 #include <hotkey/HotKeyCombo.h>
 #include <platform/AccessibilityRight.h>
 #include <platform/EventTap.h>
 
 #include <functional>
+#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CurrentZone.h>
 #include <model/FormatSingle.h>
 #include <model/MultiZoneLayout.h>
 
 #include <QString>
 
 #include <optional>
+#include <time/CurrentZone.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Clock.h>
-#include <foundation/CurrentZone.h>
-#include <foundation/DefaultsStore.h>
-#include <foundation/UserLocale.h>
-#include <foundation/ZoneDatabase.h>
 #include <hotkey/HotKeyCombo.h>
 #include <model/DateFormatPreset.h>
 #include <model/MultiZoneLayout.h>
@@ -15,6 +10,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <settings/DefaultsStore.h>
+#include <time/Clock.h>
+#include <time/CurrentZone.h>
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

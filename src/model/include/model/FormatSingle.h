@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Instant.h>
-#include <foundation/TimeZone.h>
-#include <foundation/UserLocale.h>
 #include <model/DateFormatPreset.h>
 
 #include <QString>
+
+#include <time/Instant.h>
+#include <time/TimeZone.h>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11ClipboardHandOver.h>
-
 #include <utility>
+#include <x11_clipboard/X11ClipboardHandOver.h>
 
 namespace quorvane {
 

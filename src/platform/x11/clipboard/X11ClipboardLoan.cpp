@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/QtX11.h>
-#include <platform_x11/X11ClipboardLoan.h>
-#include <platform_x11/X11Events.h>
-#include <platform_x11/X11LentData.h>
-#include <platform_x11/X11QtClipboard.h>
+#include "X11LentData.h"
+#include "X11QtClipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QWindow>
 
 #include <utility>
+#include <x11_clipboard/X11ClipboardLoan.h>
+#include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11LentData.h>
+#include "X11LentData.h"
 
 #include <algorithm>
 #include <array>

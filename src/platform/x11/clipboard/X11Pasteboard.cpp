@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "X11PlainText.h"
+#include "X11QtClipboard.h"
+
 #include <platform/PasteTarget.h>
-#include <platform_x11/QtX11.h>
-#include <platform_x11/X11Pasteboard.h>
-#include <platform_x11/X11PlainText.h>
-#include <platform_x11/X11QtClipboard.h>
 
 #include <utility>
+#include <x11_clipboard/X11Pasteboard.h>
+#include <x11_server/QtX11.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11PlainText.h>
+#include "X11PlainText.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11PlainText.h>
-#include <platform_x11/X11QtClipboard.h>
+#include "X11QtClipboard.h"
+
+#include "X11PlainText.h"
 
 #include <QGuiApplication>
 #include <QMimeData>

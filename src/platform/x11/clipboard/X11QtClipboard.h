@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "X11LentData.h"
+
 #include <platform/PasteboardContents.h>
-#include <platform_x11/X11LentData.h>
 
 #include <QClipboard>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11SelectionContent.h>
-
 #include <utility>
+#include <x11_clipboard/X11SelectionContent.h>
 
 namespace quorvane {
 

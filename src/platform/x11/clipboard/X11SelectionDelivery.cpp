@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11Events.h>
-#include <platform_x11/X11SelectionDelivery.h>
-
 #include <QLoggingCategory>
 
 #include <algorithm>
 #include <limits>
 #include <utility>
+#include <x11_clipboard/X11SelectionDelivery.h>
+#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

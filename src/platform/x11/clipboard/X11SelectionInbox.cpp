@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11Events.h>
-#include <platform_x11/X11SelectionInbox.h>
-
 #include <utility>
+#include <x11_clipboard/X11SelectionInbox.h>
+#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

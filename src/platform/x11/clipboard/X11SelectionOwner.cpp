@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11Events.h>
-#include <platform_x11/X11SelectionOwner.h>
-
 #include <QLoggingCategory>
 
 #include <cstring>
 #include <utility>
 #include <vector>
+#include <x11_clipboard/X11SelectionOwner.h>
+#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

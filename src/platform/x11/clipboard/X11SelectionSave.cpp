@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11SelectionSave.h>
-#include <platform_x11/X11SelectionTargets.h>
+#include "X11SelectionTargets.h"
 
 #include <QLoggingCategory>
 
 #include <utility>
+#include <x11_clipboard/X11SelectionSave.h>
 
 namespace quorvane {
 

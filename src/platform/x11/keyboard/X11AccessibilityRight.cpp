@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11AccessibilityRight.h>
-#include <platform_x11/X11TestExtension.h>
+#include "X11TestExtension.h"
 
 #include <utility>
+#include <x11_keyboard/X11AccessibilityRight.h>
 
 namespace quorvane {
 

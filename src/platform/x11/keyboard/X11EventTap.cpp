@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11EventTap.h>
-#include <platform_x11/X11Keycodes.h>
+#include "X11EventTap.h"
+
+#include "X11Keycodes.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>

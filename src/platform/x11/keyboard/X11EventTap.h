@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CoalescedRefresh.h>
+#include "X11KeyGrab.h"
+#include "X11ModifierMap.h"
+
 #include <platform/EventTap.h>
-#include <platform_x11/X11Connection.h>
-#include <platform_x11/X11KeyGrab.h>
-#include <platform_x11/X11ModifierMap.h>
-#include <platform_x11/X11PostedKeys.h>
 
 #include <QAbstractNativeEventFilter>
 
+#include <loop/CoalescedRefresh.h>
 #include <memory>
 #include <optional>
+#include <x11_keyboard/X11PostedKeys.h>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11EventTap.h>
-#include <platform_x11/X11EventTapService.h>
+#include "X11EventTap.h"
 
 #include <utility>
+#include <x11_keyboard/X11EventTapService.h>
 
 namespace quorvane {
 

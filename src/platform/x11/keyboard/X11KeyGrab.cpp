@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11KeyGrab.h>
+#include "X11KeyGrab.h"
 
 #include <utility>
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "X11Keycodes.h"
+#include "X11TestExtension.h"
+
 #include <platform/PasteTarget.h>
-#include <platform_x11/X11KeyPoster.h>
-#include <platform_x11/X11Keycodes.h>
-#include <platform_x11/X11ServerGrab.h>
-#include <platform_x11/X11TestExtension.h>
 
 #include <QLoggingCategory>
 #include <xcb/xtest.h>
@@ -12,6 +11,8 @@
 #include <array>
 #include <climits>
 #include <utility>
+#include <x11_keyboard/X11KeyPoster.h>
+#include <x11_server/X11ServerGrab.h>
 
 namespace quorvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11KeyboardLayout.h>
-#include <platform_x11/X11Keycodes.h>
+#include "X11Keycodes.h"
 
 #include <utility>
+#include <x11_keyboard/X11KeyboardLayout.h>
 
 namespace quorvane {
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "XkbProtocol.h"
 
-#include <platform_x11/X11Keymap.h>
-
 #include <QByteArray>
 #include <QLoggingCategory>
 #include <QString>
@@ -11,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <utility>
+#include <x11_keyboard/X11Keymap.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11ModifierMap.h>
+#include "X11ModifierMap.h"
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11TestExtension.h>
+#include "X11TestExtension.h"
 
 #include <xcb/xtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/QtX11.h>
-#include <platform_x11/XcbReply.h>
-
 #include <QGuiApplication>
 #include <QScreen>
+
+#include <x11_server/QtX11.h>
+#include <x11_server/XcbReply.h>
 
 namespace quorvane::qtx11 {
 

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11Connection.h>
-
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -8,6 +6,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

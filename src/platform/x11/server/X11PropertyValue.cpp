@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11PropertyValue.h>
-
 #include <cstring>
 #include <limits>
+#include <x11_server/X11PropertyValue.h>
 
 namespace quorvane {
 

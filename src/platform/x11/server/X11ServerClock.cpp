@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11ServerClock.h>
-
 #include <xcb/sync.h>
 
 #include <string_view>
 #include <utility>
+#include <x11_server/X11ServerClock.h>
 
 namespace quorvane {
 

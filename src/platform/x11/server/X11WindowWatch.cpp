@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11WindowWatch.h>
-
 #include <utility>
+#include <x11_server/X11WindowWatch.h>
 
 namespace quorvane {
 

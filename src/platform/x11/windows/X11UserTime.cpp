@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/QtX11.h>
-#include <platform_x11/X11UserTime.h>
-
 #include <QCoreApplication>
 #include <QInputEvent>
 
 #include <utility>
+#include <x11_server/QtX11.h>
+#include <x11_windows/X11UserTime.h>
 
 namespace quorvane {
 

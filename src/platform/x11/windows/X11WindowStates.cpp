@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11WindowStates.h>
-
 #include <algorithm>
+#include <x11_windows/X11WindowStates.h>
 
 namespace quorvane {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/QtX11.h>
-#include <platform_x11/X11WindowTraits.h>
-#include <platform_x11/XcbReply.h>
-
 #include <QGuiApplication>
 #include <QWindow>
 
 #include <utility>
+#include <x11_server/QtX11.h>
+#include <x11_server/XcbReply.h>
+#include <x11_windows/X11WindowTraits.h>
 
 namespace quorvane {
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11Windows.h>
-
 #include <algorithm>
 #include <span>
 #include <utility>
+#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

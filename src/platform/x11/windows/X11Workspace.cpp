@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/QtX11.h>
-#include <platform_x11/X11Workspace.h>
-
 #include <QLoggingCategory>
 
 #include <utility>
+#include <x11_server/QtX11.h>
+#include <x11_windows/X11Workspace.h>
 
 namespace quorvane {
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fakes/VirtualMainQueue.h>
-
 #include <chrono>
 #include <ostream>
 #include <string>
+#include <testing/VirtualMainQueue.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fakes/CallLog.h>
 #include <platform/KeyPoster.h>
 
 #include <string>
+#include <testing/CallLog.h>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fakes/CallLog.h>
 #include <platform/Pasteboard.h>
 
 #include <memory>
+#include <testing/CallLog.h>
 
 namespace quorvane {
 

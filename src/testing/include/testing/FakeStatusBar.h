@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fakes/CallLog.h>
 #include <platform/StatusBar.h>
 
+#include <testing/CallLog.h>
 #include <utility>
 
 namespace quorvane {

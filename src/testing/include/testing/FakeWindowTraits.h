@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fakes/CallLog.h>
 #include <platform/WindowTraits.h>
 
 #include <QWindow>
+
+#include <testing/CallLog.h>
 
 namespace quorvane {
 

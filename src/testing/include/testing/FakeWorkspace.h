@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <fakes/CallLog.h>
 #include <platform/Workspace.h>
+
+#include <testing/CallLog.h>
 
 namespace quorvane {
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CurrentZone.h>
-
+#include <time/CurrentZone.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/DefaultsStore.h>
-
 #include <map>
+#include <settings/DefaultsStore.h>
 #include <variant>
 #include <vector>
 

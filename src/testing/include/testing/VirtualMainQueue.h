@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-
 #include <chrono>
 #include <cstdint>
+#include <loop/MainQueue.h>
 #include <map>
 #include <memory>
 #include <utility>

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/ZoneDatabase.h>
-
 #include <QString>
 
+#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

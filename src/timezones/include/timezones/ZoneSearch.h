@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/UserLocale.h>
 #include <timezones/TimeZoneCatalogue.h>
 
 #include <QString>
@@ -10,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-
+#include <time/TimeZone.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/SlicedWork.h>
-#include <foundation/UserLocale.h>
-#include <foundation/ZoneDatabase.h>
+#include <loop/SlicedWork.h>
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -5,13 +5,12 @@
 #include "support/ForeignWindow.h"
 #include "support/WaitUntil.h"
 
-#include <foundation/QtMainQueue.h>
-#include <platform_x11/X11Pasteboard.h>
-
 #include <gtest/gtest.h>
 
+#include <loop/QtMainQueue.h>
 #include <memory>
 #include <optional>
+#include <x11_clipboard/X11Pasteboard.h>
 
 namespace quorvane {
 

@@ -3,8 +3,6 @@
 #include "support/ForeignWindow.h"
 #include "support/Keyboard.h"
 
-#include <platform_x11/QtX11.h>
-
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -13,6 +11,7 @@
 #include <QWindow>
 
 #include <linux/input-event-codes.h>
+#include <x11_server/QtX11.h>
 
 namespace quorvane {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <platform_x11/X11SelectionTargets.h>
+#include "X11SelectionTargets.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "X11EventTap.h"
 #include "support/TapTest.h"
-
-#include <platform_x11/X11EventTap.h>
 
 #include <QLineEdit>
 #include <QMenu>

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "X11EventTap.h"
+
 #include "support/PrivateDisplay.h"
 #include "support/TapTest.h"
 
-#include <platform_x11/X11EventTap.h>
-#include <platform_x11/X11KeyPoster.h>
+#include <x11_keyboard/X11KeyPoster.h>
 
 namespace quorvane {
 

@@ -4,9 +4,9 @@
 #include "support/X11Test.h"
 
 #include <platform/KeyCodes.h>
-#include <platform_x11/X11KeyPoster.h>
 
 #include <linux/input-event-codes.h>
+#include <x11_keyboard/X11KeyPoster.h>
 
 namespace quorvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "support/X11Test.h"
+#include "X11ModifierMap.h"
 
-#include <platform_x11/X11ModifierMap.h>
+#include "support/X11Test.h"
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 

@@ -2,7 +2,7 @@
 #include "support/PrivateDisplay.h"
 #include "support/X11Test.h"
 
-#include <platform_x11/X11Connection.h>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

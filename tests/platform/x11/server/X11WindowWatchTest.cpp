@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/ForeignWindow.h"
 
-#include <platform_x11/X11WindowWatch.h>
-
 #include <gtest/gtest.h>
+
+#include <x11_server/X11WindowWatch.h>
 
 namespace quorvane {
 namespace {

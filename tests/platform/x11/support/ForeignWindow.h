@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/XcbReply.h>
-
 #include <QByteArray>
 #include <xcb/xcb.h>
 
 #include <cstdint>
 #include <memory>
 #include <vector>
+#include <x11_server/XcbReply.h>
 
 namespace quorvane {
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/Keyboard.h"
 
-#include <platform_x11/XcbReply.h>
-
 #include <QProcess>
 #include <xcb/xcb.h>
 #include <xcb/xinput.h>
@@ -10,6 +8,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <x11_server/XcbReply.h>
 
 #define explicit explicit_
 #include <xcb/xkb.h>

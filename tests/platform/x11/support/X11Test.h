@@ -4,12 +4,11 @@
 #include "support/Keyboard.h"
 #include "support/WaitUntil.h"
 
-#include <foundation/QtMainQueue.h>
-#include <platform_x11/X11Connection.h>
-
 #include <gtest/gtest.h>
 
+#include <loop/QtMainQueue.h>
 #include <memory>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -3,12 +3,11 @@
 #include "support/WindowManager.h"
 #include "support/X11Test.h"
 
-#include <platform_x11/X11WindowTraits.h>
-
 #include <QWidget>
 #include <QWindow>
 
 #include <algorithm>
+#include <x11_windows/X11WindowTraits.h>
 
 namespace quorvane {
 

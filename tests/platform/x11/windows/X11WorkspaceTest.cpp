@@ -3,11 +3,10 @@
 #include "support/WindowManager.h"
 #include "support/X11Test.h"
 
-#include <platform_x11/X11Workspace.h>
-
 #include <QWidget>
 
 #include <linux/input-event-codes.h>
+#include <x11_windows/X11Workspace.h>
 
 namespace quorvane {
 

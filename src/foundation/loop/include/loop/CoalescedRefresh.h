@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-
+#include <loop/MainQueue.h>
 #include <memory>
 
 namespace quorvane {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-
 #include <cstdint>
+#include <loop/MainQueue.h>
 #include <map>
 
 namespace quorvane {

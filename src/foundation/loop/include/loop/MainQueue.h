@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Deadline.h>
-#include <foundation/Instant.h>
-
 #include <functional>
+#include <loop/Deadline.h>
+#include <loop/Seconds.h>
 
 namespace quorvane {
 

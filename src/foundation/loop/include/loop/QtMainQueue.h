@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-
 #include <QObject>
+
+#include <loop/MainQueue.h>
 
 namespace quorvane {
 

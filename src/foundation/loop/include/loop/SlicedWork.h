@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-
 #include <chrono>
 #include <functional>
+#include <loop/MainQueue.h>
 #include <memory>
 
 namespace quorvane {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/FileWriter.h>
+#include <settings/FileWriter.h>
 
 namespace quorvane {
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/FileReplacement.h>
-
 #include <QString>
 
 #include <memory>
+#include <settings/FileReplacement.h>
 
 namespace quorvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/DefaultsStore.h>
-#include <foundation/JsonFile.h>
+#include <settings/DefaultsStore.h>
+#include <settings/JsonFile.h>
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Environment.h>
-
 #include <QString>
+
+#include <settings/Environment.h>
 
 namespace quorvane {
 

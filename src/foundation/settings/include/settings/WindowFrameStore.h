@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/JsonFile.h>
-
 #include <QRect>
 #include <QString>
 
 #include <optional>
+#include <settings/JsonFile.h>
 
 namespace quorvane {
 

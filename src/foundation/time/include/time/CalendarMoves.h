@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CivilTime.h>
-#include <foundation/UserLocale.h>
+#include <time/CivilTime.h>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-
 #include <chrono>
+#include <time/TimeZone.h>
 
 namespace quorvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Instant.h>
+#include <time/Instant.h>
 
 namespace quorvane {
 

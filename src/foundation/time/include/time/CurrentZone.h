@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
+#include <time/TimeZone.h>
 
 namespace quorvane {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Iso8601Options.h>
-#include <foundation/TimeZone.h>
-#include <foundation/UserLocale.h>
-
 #include <QString>
+
+#include <time/Iso8601Options.h>
+#include <time/TimeZone.h>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

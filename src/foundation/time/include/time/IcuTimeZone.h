@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-
 #include <unicode/timezone.h>
 
 #include <memory>
+#include <time/TimeZone.h>
 
 namespace quorvane {
 

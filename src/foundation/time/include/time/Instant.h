@@ -2,12 +2,9 @@
 #pragma once
 
 // Brings <compare> along, which must not be named here: Qt 6.4's moc fails on <concepts> in it.
-#include <chrono>
+#include <loop/Seconds.h>
 
 namespace quorvane {
-
-/// A span of time in seconds, with a fraction.
-using Seconds = std::chrono::duration<double>;
 
 /// A point in time: UTC seconds since 1970-01-01T00:00:00Z, fractional or negative, leap seconds
 /// not counted.

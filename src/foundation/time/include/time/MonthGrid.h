@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CivilTime.h>
-#include <foundation/UserLocale.h>
-
 #include <QString>
 
 #include <array>
+#include <time/CivilTime.h>
+#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CurrentZone.h>
-#include <foundation/Environment.h>
-#include <foundation/ZoneDatabase.h>
-
 #include <filesystem>
+#include <settings/Environment.h>
+#include <time/CurrentZone.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

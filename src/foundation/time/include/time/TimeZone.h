@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Instant.h>
-
 #include <QString>
 #include <QTimeZone>
+
+#include <time/Instant.h>
 
 namespace quorvane {
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+#include <time/TimeZone.h>
 #include <unordered_map>
 #include <vector>
 

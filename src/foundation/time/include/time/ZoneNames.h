@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-#include <foundation/UserLocale.h>
-
 #include <QString>
 #include <unicode/tzfmt.h>
 
 #include <memory>
 #include <optional>
+#include <time/TimeZone.h>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
 #include <platform/PlatformServices.h>
 
+#include <loop/MainQueue.h>
 #include <optional>
 
 namespace quorvane {

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <controls/PressableControl.h>
-#include <foundation/MonthGrid.h>
+
+#include <time/MonthGrid.h>
 
 namespace quorvane {
 

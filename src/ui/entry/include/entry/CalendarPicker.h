@@ -4,12 +4,12 @@
 #include <entry/CalendarGrid.h>
 #include <entry/DateBinding.h>
 #include <entry/EntrySurroundings.h>
-#include <foundation/CivilTime.h>
 
 #include <QWidget>
 
 #include <functional>
 #include <optional>
+#include <time/CivilTime.h>
 
 class QLabel;
 

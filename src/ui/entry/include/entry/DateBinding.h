@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Instant.h>
-
 #include <functional>
+#include <time/Instant.h>
 
 namespace quorvane {
 

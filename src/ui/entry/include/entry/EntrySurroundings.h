@@ -2,9 +2,10 @@
 #pragma once
 
 #include <controls/PopoverEffects.h>
-#include <foundation/Clock.h>
-#include <foundation/CurrentZone.h>
-#include <foundation/UserLocale.h>
+
+#include <time/Clock.h>
+#include <time/CurrentZone.h>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/ZoneChip.h>
+#include <panel/ZoneChip.h>
 
 namespace quorvane {
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <controls/FocusShaped.h>
-#include <foundation/Deadline.h>
-#include <foundation/SlicedWork.h>
 
 #include <QPlainTextEdit>
 
+#include <loop/Deadline.h>
+#include <loop/SlicedWork.h>
 #include <optional>
 
 namespace quorvane {

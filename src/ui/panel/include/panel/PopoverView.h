@@ -2,9 +2,6 @@
 #pragma once
 
 #include <entry/EntrySurroundings.h>
-#include <foundation/CoalescedRefresh.h>
-#include <foundation/MainQueue.h>
-#include <foundation/ZoneDatabase.h>
 #include <model/DateTimeModel.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Pasteboard.h>
@@ -12,6 +9,9 @@
 #include <QWidget>
 
 #include <functional>
+#include <loop/CoalescedRefresh.h>
+#include <loop/MainQueue.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <ui/UpdaterController.h>
+#include <panel/UpdaterController.h>
 
 namespace quorvane {
 

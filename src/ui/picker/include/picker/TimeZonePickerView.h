@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Clock.h>
 #include <picker/ZoneListModel.h>
 #include <timezones/ZoneSearch.h>
 
 #include <QWidget>
 
 #include <functional>
+#include <time/Clock.h>
 
 namespace quorvane {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/TimeZone.h>
-#include <foundation/UserLocale.h>
-
 #include <QString>
 
 #include <optional>
+#include <time/TimeZone.h>
+#include <time/UserLocale.h>
 
 namespace quorvane {
 

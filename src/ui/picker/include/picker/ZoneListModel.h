@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/Clock.h>
 #include <picker/TimeZoneRow.h>
 
 #include <QAbstractListModel>
 
 #include <functional>
+#include <time/Clock.h>
 #include <variant>
 #include <vector>
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CoalescedRefresh.h>
-#include <foundation/MainQueue.h>
-#include <foundation/ZoneDatabase.h>
 #include <model/DateTimeModel.h>
 #include <platform/KeyboardLayout.h>
 #include <recorder/ShortcutRecorder.h>
@@ -11,6 +8,9 @@
 #include <QWidget>
 
 #include <functional>
+#include <loop/CoalescedRefresh.h>
+#include <loop/MainQueue.h>
+#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

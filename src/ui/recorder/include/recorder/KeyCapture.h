@@ -2,12 +2,12 @@
 #pragma once
 
 #include <controls/RoleWidget.h>
-#include <foundation/MainQueue.h>
 #include <hotkey/HotKeyCombo.h>
 
 #include <QPointer>
 
 #include <functional>
+#include <loop/MainQueue.h>
 #include <memory>
 
 class QKeyEvent;

@@ -2,13 +2,13 @@
 #pragma once
 
 #include <controls/RoleWidget.h>
-#include <foundation/MainQueue.h>
 #include <hotkey/HotKeyCombo.h>
 
 #include <QStringList>
 
 #include <array>
 #include <functional>
+#include <loop/MainQueue.h>
 
 namespace quorvane {
 

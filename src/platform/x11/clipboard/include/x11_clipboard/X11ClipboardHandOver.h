@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-#include <platform_x11/X11SelectionConversion.h>
-
 #include <functional>
+#include <loop/MainQueue.h>
 #include <vector>
+#include <x11_clipboard/X11SelectionConversion.h>
 
 namespace quorvane {
 

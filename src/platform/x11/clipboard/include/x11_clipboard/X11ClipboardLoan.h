@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-#include <platform_x11/X11SelectionOwner.h>
-
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 
+#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
+#include <x11_clipboard/X11SelectionOwner.h>
 
 class QWindow;
 

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
 #include <platform/Pasteboard.h>
-#include <platform_x11/X11ClipboardHandOver.h>
-#include <platform_x11/X11ClipboardLoan.h>
-#include <platform_x11/X11PasteboardSave.h>
-#include <platform_x11/X11SelectionInbox.h>
-#include <platform_x11/X11SelectionOwner.h>
-#include <platform_x11/X11ServerClock.h>
-#include <platform_x11/X11Windows.h>
 
 #include <QClipboard>
 
 #include <functional>
 #include <list>
+#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
+#include <x11_clipboard/X11ClipboardHandOver.h>
+#include <x11_clipboard/X11ClipboardLoan.h>
+#include <x11_clipboard/X11PasteboardSave.h>
+#include <x11_clipboard/X11SelectionInbox.h>
+#include <x11_clipboard/X11SelectionOwner.h>
+#include <x11_server/X11ServerClock.h>
+#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11PropertyValue.h>
-#include <platform_x11/X11SelectionInbox.h>
-
 #include <functional>
 #include <optional>
+#include <x11_clipboard/X11SelectionInbox.h>
+#include <x11_server/X11PropertyValue.h>
 
 namespace quorvane {
 

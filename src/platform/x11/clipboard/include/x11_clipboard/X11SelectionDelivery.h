@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
-#include <platform_x11/X11PropertyValue.h>
-#include <platform_x11/X11WindowWatch.h>
-
+#include <loop/MainQueue.h>
 #include <map>
 #include <memory>
+#include <x11_server/X11PropertyValue.h>
+#include <x11_server/X11WindowWatch.h>
 
 namespace quorvane {
 

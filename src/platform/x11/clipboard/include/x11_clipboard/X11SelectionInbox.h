@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
-#include <platform_x11/X11HiddenWindow.h>
-
 #include <memory>
 #include <set>
 #include <vector>
+#include <x11_server/X11Connection.h>
+#include <x11_server/X11HiddenWindow.h>
 
 namespace quorvane {
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
 #include <platform/PasteboardContents.h>
-#include <platform_x11/X11HiddenWindow.h>
-#include <platform_x11/X11SelectionContent.h>
-#include <platform_x11/X11SelectionDelivery.h>
-#include <platform_x11/X11ServerClock.h>
 
 #include <functional>
+#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
+#include <x11_clipboard/X11SelectionContent.h>
+#include <x11_clipboard/X11SelectionDelivery.h>
+#include <x11_server/X11HiddenWindow.h>
+#include <x11_server/X11ServerClock.h>
 
 namespace quorvane {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/MainQueue.h>
 #include <platform/EventTap.h>
-#include <platform_x11/X11Connection.h>
-#include <platform_x11/X11PostedKeys.h>
 
+#include <loop/MainQueue.h>
 #include <memory>
+#include <x11_keyboard/X11PostedKeys.h>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

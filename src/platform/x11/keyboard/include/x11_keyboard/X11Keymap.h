@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <foundation/CoalescedRefresh.h>
-#include <platform_x11/X11Connection.h>
-
 #include <xkbcommon/xkbcommon.h>
 
 #include <cstdint>
 #include <functional>
+#include <loop/CoalescedRefresh.h>
 #include <memory>
 #include <optional>
 #include <string>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/XcbReply.h>
-
 #include <QObject>
 #include <QString>
 #include <xcb/xcb.h>
@@ -12,6 +10,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <x11_server/XcbReply.h>
 
 class QSocketNotifier;
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
-
 #include <QByteArray>
 
 #include <cstdint>
 #include <optional>
 #include <vector>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
-
 #include <cstdint>
 #include <memory>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

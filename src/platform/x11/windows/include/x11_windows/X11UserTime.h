@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
-
 #include <QObject>
 
 #include <memory>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

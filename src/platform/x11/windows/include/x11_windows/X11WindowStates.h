@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
-#include <platform_x11/X11Windows.h>
-
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <utility>
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

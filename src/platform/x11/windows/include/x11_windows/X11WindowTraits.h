@@ -2,13 +2,13 @@
 #pragma once
 
 #include <platform/WindowTraits.h>
-#include <platform_x11/X11Connection.h>
-#include <platform_x11/X11WindowStates.h>
-#include <platform_x11/X11Windows.h>
 
 #include <QObject>
 
 #include <memory>
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11WindowStates.h>
+#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform_x11/X11Connection.h>
-
 #include <QPoint>
 #include <QStringList>
 
@@ -12,6 +10,7 @@
 #include <optional>
 #include <utility>
 #include <vector>
+#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include <support/Pixels.h>
+
+#include <panel/FavoriteSuggestionChip.h>
+#include <panel/TimeZoneChip.h>
+#include <time/ZoneDatabase.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST_P(Pixels, HalfPointLineIsOneDevicePixel) {
+    FavoriteSuggestionChip chip(ZoneDatabase::utc(), u"PST"_s, [] {});
+    const auto image = render(chip, {120, 30});
+    const int middle = image.width() / 2;
+    const auto line = blended(withOpacity(theme.text2, 0.3), theme.win);
+    expectColor(image.pixel(middle, 0), line, "line");
+    expectColor(image.pixel(middle, 1), theme.win, "no fill");
+    expectColor(image.pixel(middle, image.height() - 1), line, "lower line");
+}
+
+TEST_P(Pixels, ChosenZoneIsTinted) {
+    TimeZoneChip chip(ZoneDatabase::utc(), u"PST"_s, [] {});
+    const auto image = render(chip, {120, 30});
+    const auto tint = blended(withOpacity(theme.accentText, 0.12), theme.win);
+    const auto line = blended(withOpacity(theme.accentText, 0.25), tint);
+    expectColor(image.pixel(image.width() / 2, 0), line, "line");
+    expectColor(image.pixel(image.width() / 2, 2), tint, "tint");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SchemesAndScales,
+    Pixels,
+    testing::Combine(
+        testing::Values(ColorScheme::Light, ColorScheme::Dark), testing::Values(1.0, 1.25, 2.0)));
+
+} // namespace
+} // namespace quorvane
