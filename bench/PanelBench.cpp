@@ -142,14 +142,14 @@ void typePattern(benchmark::State& state) {
          u"Asia/Singapore"_s,
          u"Australia/Sydney"_s,
          u"Asia/Kolkata"_s});
-    house.model().setFormatPreset(DateFormatPreset::Custom);
-    house.model().setCustomFormatString(u"EEEE d MMMM yyyy HH:mm zzz"_s);
-    house.model().setMultiZoneLayout(MultiZoneLayout::Lines);
-    house.open();
-    auto& pattern = patternOf(house.panel());
+    builtIn.model().setFormatPreset(DateFormatPreset::Custom);
+    builtIn.model().setCustomFormatString(u"EEEE d MMMM yyyy HH:mm zzz"_s);
+    builtIn.model().setMultiZoneLayout(MultiZoneLayout::Lines);
+    builtIn.open();
+    auto& pattern = patternOf(builtIn.panel());
     pattern.setFocus();
     settle();
-    PaintWatch watch(*previewOf(house.panel()).viewport());
+    PaintWatch watch(*previewOf(builtIn.panel()).viewport());
     std::vector<double> samples;
     bool isLonger = false;
     for ([[maybe_unused]] const auto round : state) {
@@ -173,8 +173,8 @@ void openPanel(benchmark::State& state) {
     for ([[maybe_unused]] const auto round : state) {
         PanelHouse house({u"America/New_York"_s});
         const auto start = SteadyClock::now();
-        house.open();
-        PaintWatch watch(*previewOf(house.panel()).viewport());
+        builtIn.open();
+        PaintWatch watch(*previewOf(builtIn.panel()).viewport());
         const double sample = watch.untilPainted(start);
         state.SetIterationTime(sample / 1000);
         samples.push_back(sample);
@@ -203,9 +203,9 @@ LongOutput longOutput(std::int64_t kind) {
 void showLongOutput(benchmark::State& state) {
     const auto output = longOutput(state.range(0));
     PanelHouse house({u"America/New_York"_s});
-    house.open();
+    builtIn.open();
     settle();
-    auto& preview = previewOf(house.panel());
+    auto& preview = previewOf(builtIn.panel());
     PaintWatch watch(*preview.viewport());
     std::vector<double> samples;
     for ([[maybe_unused]] const auto round : state) {

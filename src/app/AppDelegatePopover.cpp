@@ -19,10 +19,10 @@ bool AppDelegate::isPopoverShown() const {
 void AppDelegate::setupPopover() {
     if (m_popover)
         return;
-    using Ground = StatusPopover::Ground;
+    using Background = StatusPopover::Background;
     const bool composited = m_environment.platform.windowTraits->isComposited();
     m_popover = std::make_unique<StatusPopover>(
-        makeContentView().release(), composited ? Ground::Composited : Ground::Plain);
+        makeContentView().release(), composited ? Background::Composited : Background::Plain);
     m_mainMenu->attachTo(*m_popover);
     connect(m_popover.get(), &StatusPopover::dismissed, this, &AppDelegate::holdOffReopening);
     connect(

@@ -27,7 +27,7 @@ void AppDelegate::makeStatusItem() {
 void AppDelegate::applyIconImage() {
     if (m_statusItem)
         m_statusItem->setImage(
-            symbolIcon(Symbol::CalendarBadgeClock, SymbolInk::of(QGuiApplication::palette())),
+            symbolIcon(Symbol::CalendarBadgeClock, SymbolColors::of(QGuiApplication::palette())),
             u"Quorvane"_s);
 }
 

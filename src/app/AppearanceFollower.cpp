@@ -22,7 +22,7 @@ QColor color(const DesktopAppearance::Accent& accent) {
 }
 
 QPalette paletteFor(const DesktopAppearance& appearance) {
-    return housePalette(
+    return builtInPalette(
         schemeFor(appearance),
         appearance.wantsMoreContrast ? Contrast::High : Contrast::Normal,
         appearance.accent ? std::optional(color(*appearance.accent)) : std::nullopt);
@@ -33,7 +33,7 @@ QPalette paletteFor(const DesktopAppearance& appearance) {
 AppearanceFollower::PaletteFrom AppearanceFollower::paletteSource() {
     // A palette that is the style's own comes from no desktop.
     return QApplication::palette() == QApplication::style()->standardPalette()
-               ? PaletteFrom::House
+               ? PaletteFrom::BuiltIn
                : PaletteFrom::Desktop;
 }
 
@@ -56,7 +56,7 @@ void AppearanceFollower::apply() {
         m_style->setMotion(
             wanted.wantsLessMotion ? MotionStyle::Motion::None
                                    : MotionStyle::Motion::AsTheStyleHasIt);
-    if (m_source == PaletteFrom::House)
+    if (m_source == PaletteFrom::BuiltIn)
         QApplication::setPalette(paletteFor(wanted));
 }
 

@@ -15,7 +15,7 @@ namespace quorvane {
 /// the application shows anything.
 class AppearanceFollower {
 public:
-    enum class PaletteFrom { House, Desktop };
+    enum class PaletteFrom { BuiltIn, Desktop };
 
     /// Where the palette that the application has now comes from.
     [[nodiscard]] static PaletteFrom paletteSource();

@@ -79,7 +79,7 @@ void Panel::leaveEvent(QEvent* event) {
 
 void Panel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    frameRounded(painter, rect(), 0, Theme::of(palette()).sep, 1);
+    frameRounded(painter, rect(), 0, Theme::of(palette()).border, 1);
     Q_EMIT painted();
 }
 

@@ -27,15 +27,16 @@ constexpr int screenMargin = 8;
 
 } // namespace
 
-StatusPopover::StatusPopover(QWidget* content, Ground ground)
+StatusPopover::StatusPopover(QWidget* content, Background background)
     : QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
       m_content(content),
-      m_ground(ground) {
+      m_background(background) {
     setAttribute(Qt::WA_QuitOnClose, false);
-    setAttribute(Qt::WA_TranslucentBackground, m_ground == Ground::Composited);
+    setAttribute(Qt::WA_TranslucentBackground, m_background == Background::Composited);
     setWindowTitle(u"Quorvane"_s);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(m_ground == Ground::Composited ? popoverShadowReach : QMargins());
+    layout->setContentsMargins(
+        m_background == Background::Composited ? popoverShadowMargins : QMargins());
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
     new FocusRing(this);
@@ -70,19 +71,20 @@ void StatusPopover::mousePressEvent(QMouseEvent* event) {
 void StatusPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
-    if (m_ground == Ground::Composited) {
+    if (m_background == Background::Composited) {
         paintPopoverShadow(painter, surface(), cornerRadius, theme);
-        fillRounded(painter, surface(), cornerRadius, theme.win);
-        frameRounded(painter, surface(), cornerRadius, theme.sep, 1);
+        fillRounded(painter, surface(), cornerRadius, theme.windowBackground);
+        frameRounded(painter, surface(), cornerRadius, theme.border, 1);
     } else {
-        painter.fillRect(rect(), theme.win);
-        frameRounded(painter, rect(), 0, theme.sep, 1);
+        painter.fillRect(rect(), theme.windowBackground);
+        frameRounded(painter, rect(), 0, theme.border, 1);
     }
     Q_EMIT painted();
 }
 
 QRect StatusPopover::surface() const {
-    return m_ground == Ground::Composited ? rect().marginsRemoved(popoverShadowReach) : rect();
+    return m_background == Background::Composited ? rect().marginsRemoved(popoverShadowMargins)
+                                                  : rect();
 }
 
 void StatusPopover::fit() {
@@ -93,7 +95,9 @@ void StatusPopover::fit() {
     anchor.moveCenter(m_place.anchor.center());
     const auto placed =
         popoverPlacement(anchor, size, m_place.available, PopoverAlignment::LeftEdges);
-    setGeometry(m_ground == Ground::Composited ? placed.marginsAdded(popoverShadowReach) : placed);
+    setGeometry(
+        m_background == Background::Composited ? placed.marginsAdded(popoverShadowMargins)
+                                               : placed);
 }
 
 } // namespace quorvane

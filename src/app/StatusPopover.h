@@ -13,10 +13,10 @@ class StatusPopover final : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Ground { Composited, Plain };
+    enum class Background { Composited, Plain };
 
     /// Takes over the content, whose layout decides the height.
-    StatusPopover(QWidget* content, Ground ground);
+    StatusPopover(QWidget* content, Background background);
 
     /// At least the least height of a panel, in points.
     [[nodiscard]] int contentHeight() const;
@@ -41,7 +41,7 @@ private:
     void fit();
 
     QWidget* m_content;
-    Ground m_ground;
+    Background m_background;
     PopoverAnchor::Place m_place;
 };
 

@@ -65,7 +65,7 @@ QImage BoardPicture::image(double scale) const {
 
 void BoardPicture::paintCaption(QPainter& painter, const Cell& cell) const {
     painter.setFont(fixedSizeFont(QApplication::font(), captionPixels, QFont::Medium));
-    painter.setPen(Theme::of(m_palette).text2);
+    painter.setPen(Theme::of(m_palette).secondaryText);
     const QRect place(cell.corner, QSize(cell.scene.size().width(), captionHeight));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, cell.caption);
 }

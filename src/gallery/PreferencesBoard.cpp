@@ -78,7 +78,7 @@ struct PreferencesBoard::Sample {
 };
 
 PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidget(parent) {
-    setPalette(housePalette(scheme));
+    setPalette(builtInPalette(scheme));
     setFixedSize(boardSize);
     addWindow(u"Preferences"_s, Icons::MenuBar);
 
@@ -106,8 +106,8 @@ void PreferencesBoard::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), isDark ? QColor(0x0e0f11) : QColor(0xc6ccd8));
     for (std::size_t index = 0; index < m_samples.size(); ++index) {
         const auto frame = frameOf(index);
-        fillRounded(painter, frame, windowRadius, theme.win);
-        frameRounded(painter, frame, windowRadius, theme.sep, 1);
+        fillRounded(painter, frame, windowRadius, theme.windowBackground);
+        frameRounded(painter, frame, windowRadius, theme.border, 1);
         const auto title = QRect(frame.topLeft(), QSize(frame.width(), titleHeight));
         painter.setFont(textFont(font(), TextStyle::Headline));
         painter.setPen(theme.text);

@@ -31,7 +31,7 @@ QImage framed(const QImage& content, const Theme& theme) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.drawImage(QPointF(), content);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    frameRounded(painter, whole, windowRadius, theme.sep, 1);
+    frameRounded(painter, whole, windowRadius, theme.border, 1);
     return image;
 }
 

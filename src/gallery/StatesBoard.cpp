@@ -75,7 +75,7 @@ StatesBoard::StatesBoard(ColorScheme scheme, QWidget* parent)
            [](Instant) {
            }}),
       m_surroundings(sample::entrySurroundings()) {
-    setPalette(housePalette(scheme));
+    setPalette(builtInPalette(scheme));
     setFixedSize(boardSize);
     const std::array heads{u"rest"_s, u"hover"_s, u"press"_s, u"focus"_s};
     for (int index = 0; index < static_cast<int>(heads.size()); ++index) {
@@ -100,7 +100,7 @@ void StatesBoard::paintEvent(QPaintEvent* /*event*/) {
     const auto theme = Theme::of(palette());
     const bool isDark = colorScheme(palette()) == ColorScheme::Dark;
     painter.fillRect(rect(), isDark ? QColor(0x0e0f11) : QColor(0xc6ccd8));
-    fillRounded(painter, card, cardRadius, theme.win);
+    fillRounded(painter, card, cardRadius, theme.windowBackground);
 }
 
 void StatesBoard::addChips() {

@@ -34,18 +34,18 @@ protected:
 };
 
 TEST_F(AppearanceFollowerTest, StylesOwnPaletteComesFromNoDesktop) {
-    EXPECT_EQ(AppearanceFollower::paletteSource(), PaletteFrom::House);
+    EXPECT_EQ(AppearanceFollower::paletteSource(), PaletteFrom::BuiltIn);
     QApplication::setPalette(QPalette(Qt::darkGreen));
     EXPECT_EQ(AppearanceFollower::paletteSource(), PaletteFrom::Desktop);
 }
 
 TEST_F(AppearanceFollowerTest, WithoutAPreferenceTheHouseIsLight) {
-    const AppearanceFollower follower(desktop, PaletteFrom::House);
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
     EXPECT_EQ(ground(), QColor(0xf6f6f8));
 }
 
 TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastShowAtOnceAndGoAgain) {
-    const AppearanceFollower follower(desktop, PaletteFrom::House);
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
     desktop.change({.scheme = Scheme::Dark});
     EXPECT_EQ(ground(), QColor(0x1d1e21));
     EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x4666ea));
@@ -54,11 +54,11 @@ TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastShowAtOnceAndGoAgain) {
     EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x990000));
     desktop.change({.wantsMoreContrast = true});
     EXPECT_EQ(ground(), QColor(Qt::white));
-    EXPECT_EQ(Theme::of(QApplication::palette()).sep, QColor(Qt::black));
+    EXPECT_EQ(Theme::of(QApplication::palette()).border, QColor(Qt::black));
     desktop.change({.scheme = Scheme::Dark, .wantsMoreContrast = true});
     EXPECT_EQ(ground(), QColor(Qt::black));
     desktop.change({});
-    EXPECT_EQ(QApplication::palette(), housePalette(ColorScheme::Light));
+    EXPECT_EQ(QApplication::palette(), builtInPalette(ColorScheme::Light));
 }
 
 TEST_F(AppearanceFollowerTest, PaletteOfADesktopIsLeftToQt) {
@@ -82,14 +82,14 @@ TEST_F(AppearanceFollowerTest, MotionStopsAndComesBackWhileTheProgramRuns) {
 }
 
 TEST_F(AppearanceFollowerTest, AStyleThatTheDesktopExchangesIsLetGo) {
-    const AppearanceFollower follower(desktop, PaletteFrom::House);
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
     QApplication::setStyle(u"windows"_s);
     desktop.change({.scheme = Scheme::Dark, .wantsLessMotion = true});
     EXPECT_EQ(ground(), QColor(0x1d1e21));
 }
 
 TEST_F(AppearanceFollowerTest, NothingIsFollowedAfterTheEnd) {
-    { const AppearanceFollower follower(desktop, PaletteFrom::House); }
+    { const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn); }
     desktop.change({.scheme = Scheme::Dark});
     EXPECT_EQ(ground(), QColor(0xf6f6f8));
 }

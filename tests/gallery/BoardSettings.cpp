@@ -22,7 +22,7 @@ QFont bodyFont(const BoardSetting& setting) {
 }
 
 void apply(const BoardSetting& setting) {
-    QApplication::setPalette(housePalette(setting.scheme, setting.contrast));
+    QApplication::setPalette(builtInPalette(setting.scheme, setting.contrast));
     QApplication::setFont(bodyFont(setting));
     QApplication::setLayoutDirection(setting.direction);
 }

@@ -3,13 +3,13 @@
 
 namespace quorvane {
 
-QColor accentFill(PressableControl::Look look, const Theme& theme) {
-    switch (look) {
-    case PressableControl::Look::Hover:
+QColor accentFill(PressableControl::VisualState state, const Theme& theme) {
+    switch (state) {
+    case PressableControl::VisualState::Hover:
         return theme.accentHover;
-    case PressableControl::Look::Pressed:
-        return theme.accentPress;
-    case PressableControl::Look::Rest:
+    case PressableControl::VisualState::Pressed:
+        return theme.accentPressed;
+    case PressableControl::VisualState::Normal:
         break;
     }
     return theme.accent;

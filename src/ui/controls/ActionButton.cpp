@@ -50,14 +50,14 @@ void ActionButton::paintFace(QPainter& painter, const Theme& theme) {
         painter,
         {m_symbol,
          text(),
-         prominent ? theme.onAccent : theme.text2,
+         prominent ? theme.onAccent : theme.secondaryText,
          prominent ? theme.onAccent : theme.text});
 }
 
 void ActionButton::paint(QPainter& painter, const Face& face) const {
     ContentRow row(spacing);
-    row.addSymbol(face.symbol, {}, face.symbolInk);
-    row.addText(face.label, labelFont(), face.labelInk);
+    row.addSymbol(face.symbol, {}, face.symbolColor);
+    row.addText(face.label, labelFont(), face.labelColor);
     QRectF place(0, 0, row.width(), height());
     place.moveCenter(QRectF(rect()).center());
     row.paint(painter, place, layoutDirection());
@@ -70,9 +70,9 @@ QFont ActionButton::labelFont() const {
 
 void ActionButton::paintSurface(QPainter& painter, const Theme& theme) const {
     if (m_prominence == Prominence::Prominent)
-        fillRounded(painter, rect(), cornerRadius(), accentFill(look(), theme));
+        fillRounded(painter, rect(), cornerRadius(), accentFill(visualState(), theme));
     else
-        ChipSurface::paint(painter, rect(), theme, look());
+        ChipSurface::paint(painter, rect(), theme, visualState());
 }
 
 } // namespace quorvane

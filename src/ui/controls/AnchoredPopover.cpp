@@ -31,7 +31,7 @@ AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const Popove
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_TranslucentBackground, m_composited);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(m_composited ? popoverShadowReach : QMargins());
+    layout->setContentsMargins(m_composited ? popoverShadowMargins : QMargins());
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(content);
     setFocusProxy(content->focusProxy() != nullptr ? content->focusProxy() : content);
@@ -87,12 +87,12 @@ void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
     const auto theme = Theme::of(palette());
     if (m_composited) {
         paintPopoverShadow(painter, surface(), cornerRadius, theme);
-        fillRounded(painter, surface(), cornerRadius, theme.pop);
-        frameRounded(painter, surface(), cornerRadius, theme.popEdge, 1);
+        fillRounded(painter, surface(), cornerRadius, theme.popoverBackground);
+        frameRounded(painter, surface(), cornerRadius, theme.popoverBorder, 1);
         return;
     }
-    painter.fillRect(rect(), theme.pop);
-    frameRounded(painter, surface(), 0, theme.sep, 1);
+    painter.fillRect(rect(), theme.popoverBackground);
+    frameRounded(painter, surface(), 0, theme.border, 1);
 }
 
 void AnchoredPopover::closeEvent(QCloseEvent* event) {
@@ -103,7 +103,7 @@ void AnchoredPopover::closeEvent(QCloseEvent* event) {
 }
 
 QRect AnchoredPopover::surface() const {
-    return m_composited ? rect().marginsRemoved(popoverShadowReach) : rect();
+    return m_composited ? rect().marginsRemoved(popoverShadowMargins) : rect();
 }
 
 QRect AnchoredPopover::anchorRect() const {

@@ -71,15 +71,20 @@ void CheckBox::paintBox(QPainter& painter, const Theme& theme) const {
         paintEmptyBox(painter, theme);
         return;
     }
-    fillRounded(painter, box(), boxRadius, accentFill(look(), theme));
+    fillRounded(painter, box(), boxRadius, accentFill(visualState(), theme));
     paintSymbol(painter, Symbol::Checkmark, markStyle, box(), theme.onAccent);
 }
 
 void CheckBox::paintEmptyBox(QPainter& painter, const Theme& theme) const {
-    fillRounded(painter, box(), boxRadius, theme.base);
-    if (look() == Look::Pressed)
-        fillRounded(painter, box(), boxRadius, theme.press);
-    frameRounded(painter, box(), boxRadius, look() == Look::Hover ? theme.text2 : theme.outline, 1);
+    fillRounded(painter, box(), boxRadius, theme.controlBackground);
+    if (visualState() == VisualState::Pressed)
+        fillRounded(painter, box(), boxRadius, theme.pressOverlay);
+    frameRounded(
+        painter,
+        box(),
+        boxRadius,
+        visualState() == VisualState::Hover ? theme.secondaryText : theme.checkBoxBorder,
+        1);
 }
 
 } // namespace quorvane

@@ -8,12 +8,12 @@ void ChipSurface::paint(
     QPainter& painter,
     const QRectF& rect,
     const Theme& theme,
-    PressableControl::Look look,
+    PressableControl::VisualState state,
     Frame frame) {
-    fillRounded(painter, rect, cornerRadius, theme.base);
-    fillRounded(painter, rect, cornerRadius, overlayFor(look, theme));
-    const auto& ink = frame == Frame::Open ? theme.accentText : theme.sep;
-    frameRounded(painter, rect, cornerRadius, ink, frameWidth);
+    fillRounded(painter, rect, cornerRadius, theme.controlBackground);
+    fillRounded(painter, rect, cornerRadius, overlayFor(state, theme));
+    const auto& color = frame == Frame::Open ? theme.accentText : theme.border;
+    frameRounded(painter, rect, cornerRadius, color, frameWidth);
 }
 
 } // namespace quorvane

@@ -34,13 +34,13 @@ QSize CommandRow::sizeHint() const {
 
 void CommandRow::paintContent(QPainter& painter, const Theme& theme) {
     const int symbol = static_cast<int>(symbolStyle.size);
-    const auto ink = hasFocus() || isDown() ? theme.text : theme.text2;
+    const auto color = hasFocus() || isDown() ? theme.text : theme.secondaryText;
     const QRect symbolPlace(horizontalPadding, 0, symbol, height);
-    paintSymbol(painter, m_symbol, symbolStyle, placed(symbolPlace), ink);
+    paintSymbol(painter, m_symbol, symbolStyle, placed(symbolPlace), color);
     const int titleStart = horizontalPadding + symbol + symbolGap;
     const auto rest = rect().adjusted(titleStart, 0, -horizontalPadding, 0);
     paintTitle(painter, theme, rest);
-    painter.setPen(theme.text2);
+    painter.setPen(theme.secondaryText);
     painter.drawText(
         placed(rest),
         static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignRight)) |

@@ -45,12 +45,13 @@ QColor withOpacity(QColor color, double opacity) {
     return color;
 }
 
-QColor pushedToContrast(QColor color, const QColor& ground, double ratio) {
-    const bool lighten = contrastRatio(Qt::white, ground) > contrastRatio(Qt::black, ground);
+QColor pushedToContrast(QColor color, const QColor& background, double ratio) {
+    const bool lighten =
+        contrastRatio(Qt::white, background) > contrastRatio(Qt::black, background);
     auto [hue, saturation, lightness, alpha] = std::array<float, 4>{};
     color.getHslF(&hue, &saturation, &lightness, &alpha);
     const float end = lighten ? 1 : 0;
-    while (contrastRatio(color, ground) < ratio && lightness != end) {
+    while (contrastRatio(color, background) < ratio && lightness != end) {
         lightness = std::clamp(lightness + (lighten ? lightnessStep : -lightnessStep), 0.0F, 1.0F);
         color = QColor::fromHslF(std::max(hue, 0.0F), saturation, lightness, alpha).toRgb();
     }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double gap = 1;
 constexpr double thickness = 2;
-constexpr double reach = gap + thickness;
+constexpr double extent = gap + thickness;
 
 const FocusShaped* shapeOf(const QWidget* widget) {
     return dynamic_cast<const FocusShaped*>(widget);
@@ -97,7 +97,7 @@ void FocusRing::follow() {
     }
     const auto rect =
         shape->focusOutline().rect.translated(QPointF(m_target->mapTo(m_window, QPoint())));
-    const auto ring = rect.adjusted(-reach, -reach, reach, reach).toAlignedRect();
+    const auto ring = rect.adjusted(-extent, -extent, extent, extent).toAlignedRect();
     const auto seen = ring & sightOf(m_target, m_window);
     setGeometry(seen);
     raise();
@@ -115,8 +115,8 @@ void FocusRing::paintEvent(QPaintEvent* /*event*/) {
     const auto rect = outline.rect.translated(QPointF(origin));
     frameRounded(
         painter,
-        rect.adjusted(-reach, -reach, reach, reach),
-        outline.radius + reach,
+        rect.adjusted(-extent, -extent, extent, extent),
+        outline.radius + extent,
         Theme::of(m_target->palette()).accentText,
         thickness);
 }

@@ -8,15 +8,17 @@ namespace quorvane {
 
 namespace {
 
-QColor fillOf(IconButton::Kind kind, PressableControl::Look look, const Theme& theme) {
-    if (kind != IconButton::Kind::Close || look == PressableControl::Look::Rest)
-        return overlayFor(look, theme);
-    return look == PressableControl::Look::Pressed ? theme.dangerPress : theme.dangerHover;
+QColor fillOf(IconButton::Kind kind, PressableControl::VisualState state, const Theme& theme) {
+    if (kind != IconButton::Kind::Close || state == PressableControl::VisualState::Normal)
+        return overlayFor(state, theme);
+    return state == PressableControl::VisualState::Pressed ? theme.dangerPressed
+                                                           : theme.dangerHover;
 }
 
-QColor inkOf(IconButton::Kind kind, PressableControl::Look look, const Theme& theme) {
-    if (look == PressableControl::Look::Rest)
-        return theme.text2;
+QColor
+foregroundOf(IconButton::Kind kind, PressableControl::VisualState state, const Theme& theme) {
+    if (state == PressableControl::VisualState::Normal)
+        return theme.secondaryText;
     return kind == IconButton::Kind::Close ? theme.danger : theme.text;
 }
 
@@ -55,9 +57,9 @@ double IconButton::cornerRadius() const {
 }
 
 void IconButton::paintControl(QPainter& painter, const Theme& theme) {
-    const auto shown = isExpanded() == true ? Look::Pressed : look();
+    const auto shown = isExpanded() == true ? VisualState::Pressed : visualState();
     fillRounded(painter, rect(), cornerRadius(), fillOf(m_kind, shown, theme));
-    paintSymbol(painter, m_symbol, {}, rect(), inkOf(m_kind, shown, theme));
+    paintSymbol(painter, m_symbol, {}, rect(), foregroundOf(m_kind, shown, theme));
 }
 
 } // namespace quorvane

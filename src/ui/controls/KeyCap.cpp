@@ -47,20 +47,21 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
     const double edge = snappedLine(painter, edgeWidth);
     // The shadow is one line below the cap, inside the widget.
     const QRectF cap = QRectF(rect()).adjusted(0, 0, 0, -edge);
-    fillRounded(painter, cap.translated(0, edge), cornerRadius, theme.capShadow);
-    fillRounded(painter, cap, cornerRadius, theme.base);
-    frameRounded(painter, cap, cornerRadius, theme.capEdge, edgeWidth);
-    painter.fillRect(QRectF(cornerRadius, 0, width() - 2 * cornerRadius, edge), theme.capHighlight);
+    fillRounded(painter, cap.translated(0, edge), cornerRadius, theme.keyCapShadow);
+    fillRounded(painter, cap, cornerRadius, theme.controlBackground);
+    frameRounded(painter, cap, cornerRadius, theme.keyCapBorder, edgeWidth);
+    painter.fillRect(
+        QRectF(cornerRadius, 0, width() - 2 * cornerRadius, edge), theme.keyCapHighlight);
     if (text().isEmpty())
         return;
     const auto font = capFont(this->font());
     painter.setFont(font);
-    painter.setPen(theme.text2);
+    painter.setPen(theme.secondaryText);
     if (standsOnLine(text())) {
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
         return;
     }
-    painter.drawText(QRectF(rect()).center() - inkOf(text(), font).center(), text());
+    painter.drawText(QRectF(rect()).center() - foregroundOf(text(), font).center(), text());
 }
 
 } // namespace quorvane

@@ -30,7 +30,7 @@ double MenuRow::cornerRadius() const {
 void MenuRow::paintControl(QPainter& painter, const Theme& theme) {
     if (hasFocus() || isDown()) {
         const QRectF fill = QRectF(rect()).adjusted(fillInset, 0, -fillInset, 0);
-        fillRounded(painter, fill, fillRadius, isDown() ? theme.press : theme.hover);
+        fillRounded(painter, fill, fillRadius, isDown() ? theme.pressOverlay : theme.hoverOverlay);
     }
     paintContent(painter, theme);
 }

@@ -43,7 +43,7 @@ bool OverlayScrollBar::eventFilter(QObject* watched, QEvent* event) {
 
 void OverlayScrollBar::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    fillRounded(painter, thumb(), thumbWidth / 2.0, Theme::of(palette()).off);
+    fillRounded(painter, thumb(), thumbWidth / 2.0, Theme::of(palette()).disabledText);
 }
 
 void OverlayScrollBar::follow() {

@@ -56,7 +56,7 @@ double PopUpButton::cornerRadius() const {
 
 void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
     const auto frame = m_opened ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
-    ChipSurface::paint(painter, rect(), theme, look(), frame);
+    ChipSurface::paint(painter, rect(), theme, visualState(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     const auto inner = rect().adjusted(padding, 0, -padding, 0);
     const int chevron = static_cast<int>(chevronStyle.size);
@@ -71,7 +71,7 @@ void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
             Qt::AlignVCenter | Qt::TextSingleLine,
         text());
     const QRect end(inner.right() + 1 - chevron, 0, chevron, height());
-    paintSymbol(painter, Symbol::ChevronDown, chevronStyle, placed(end), theme.text2);
+    paintSymbol(painter, Symbol::ChevronDown, chevronStyle, placed(end), theme.secondaryText);
 }
 
 } // namespace quorvane

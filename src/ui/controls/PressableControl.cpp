@@ -22,12 +22,12 @@ double PressableControl::disabledOpacity() const {
     return 0.4;
 }
 
-PressableControl::Look PressableControl::look() const {
+PressableControl::VisualState PressableControl::visualState() const {
     if (!isEnabled())
-        return Look::Rest;
+        return VisualState::Normal;
     if (isDown())
-        return Look::Pressed;
-    return underMouse() ? Look::Hover : Look::Rest;
+        return VisualState::Pressed;
+    return underMouse() ? VisualState::Hover : VisualState::Normal;
 }
 
 void PressableControl::paintEvent(QPaintEvent* /*event*/) {
@@ -72,13 +72,13 @@ void PressableControl::changeEvent(QEvent* event) {
     }
 }
 
-QColor overlayFor(PressableControl::Look look, const Theme& theme) {
-    switch (look) {
-    case PressableControl::Look::Hover:
-        return theme.hover;
-    case PressableControl::Look::Pressed:
-        return theme.press;
-    case PressableControl::Look::Rest:
+QColor overlayFor(PressableControl::VisualState state, const Theme& theme) {
+    switch (state) {
+    case PressableControl::VisualState::Hover:
+        return theme.hoverOverlay;
+    case PressableControl::VisualState::Pressed:
+        return theme.pressOverlay;
+    case PressableControl::VisualState::Normal:
         break;
     }
     return Qt::transparent;

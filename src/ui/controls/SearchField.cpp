@@ -61,14 +61,14 @@ bool SearchField::event(QEvent* event) {
 
 void SearchField::paintSurface(QPainter& painter) {
     const auto theme = Theme::of(surroundings());
-    fillRounded(painter, rect(), ChipSurface::cornerRadius, theme.quiet);
+    fillRounded(painter, rect(), ChipSurface::cornerRadius, theme.subtleFill);
     const QRect lens(sidePadding, 0, lensSize, QWidget::height());
     paintSymbol(
         painter,
         Symbol::Magnifyingglass,
         {},
         QStyle::visualRect(layoutDirection(), rect(), lens),
-        theme.text2);
+        theme.secondaryText);
 }
 
 void SearchField::resizeEvent(QResizeEvent* event) {

@@ -45,8 +45,8 @@ double SegmentButton::cornerRadius() const {
 
 void SegmentButton::paintControl(QPainter& painter, const Theme& theme) {
     const QRectF label(inset, (height() - labelHeight) / 2.0, width() - 2 * inset, labelHeight);
-    const auto fill =
-        isChecked() ? withOpacity(theme.accentText, selectedTint) : overlayFor(look(), theme);
+    const auto fill = isChecked() ? withOpacity(theme.accentText, selectedTint)
+                                  : overlayFor(visualState(), theme);
     fillRounded(painter, label, segmentRadius, fill);
     painter.setFont(
         textFont(font(), TextStyle::Callout, isChecked() ? QFont::DemiBold : QFont::Normal));

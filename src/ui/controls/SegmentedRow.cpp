@@ -64,7 +64,8 @@ void SegmentedRow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (!isEnabled())
         painter.setOpacity(disabledOpacity);
-    ChipSurface::paint(painter, rect(), Theme::of(palette()), PressableControl::Look::Rest);
+    ChipSurface::paint(
+        painter, rect(), Theme::of(palette()), PressableControl::VisualState::Normal);
 }
 
 void SegmentedRow::resizeEvent(QResizeEvent* event) {

@@ -70,8 +70,8 @@ void Sheet::paintEvent(QPaintEvent* /*event*/) {
     painter.setOpacity(progress());
     painter.fillRect(rect(), theme.scrim);
     paintPopoverShadow(painter, surface(), cornerRadius, theme);
-    fillRounded(painter, surface(), cornerRadius, theme.pop);
-    frameRounded(painter, surface(), cornerRadius, theme.sep, 1);
+    fillRounded(painter, surface(), cornerRadius, theme.popoverBackground);
+    frameRounded(painter, surface(), cornerRadius, theme.border, 1);
 }
 
 void Sheet::keyPressEvent(QKeyEvent* event) {

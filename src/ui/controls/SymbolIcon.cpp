@@ -22,17 +22,17 @@ constexpr std::array barSizes{16, 22, 24, 32, 48};
 
 class SymbolIconEngine final : public QIconEngine {
 public:
-    SymbolIconEngine(Symbol symbol, const SymbolInk& ink) : m_symbol(symbol), m_ink(ink) {}
+    SymbolIconEngine(Symbol symbol, const SymbolColors& color) : m_symbol(symbol), m_color(color) {}
 
     [[nodiscard]] QIconEngine* clone() const override {
-        return new SymbolIconEngine(m_symbol, m_ink);
+        return new SymbolIconEngine(m_symbol, m_color);
     }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
         const double size = std::min(rect.width(), rect.height());
         constexpr double haloed = SymbolStyle::regular + 2 * haloWidth;
-        paintSymbol(*painter, m_symbol, {size, haloed}, rect, m_ink.halo);
-        paintSymbol(*painter, m_symbol, {size, SymbolStyle::regular}, rect, m_ink.ink);
+        paintSymbol(*painter, m_symbol, {size, haloed}, rect, m_color.halo);
+        paintSymbol(*painter, m_symbol, {size, SymbolStyle::regular}, rect, m_color.color);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -59,19 +59,19 @@ public:
 
 private:
     Symbol m_symbol;
-    SymbolInk m_ink;
+    SymbolColors m_color;
 };
 
 } // namespace
 
-SymbolInk SymbolInk::of(const QPalette& palette) {
-    const auto ink = palette.color(QPalette::WindowText);
-    const bool isDark = contrastRatio(ink, Qt::white) > contrastRatio(ink, Qt::black);
-    return {ink, isDark ? Qt::white : Qt::black};
+SymbolColors SymbolColors::of(const QPalette& palette) {
+    const auto color = palette.color(QPalette::WindowText);
+    const bool isDark = contrastRatio(color, Qt::white) > contrastRatio(color, Qt::black);
+    return {color, isDark ? Qt::white : Qt::black};
 }
 
-QIcon symbolIcon(Symbol symbol, const SymbolInk& ink) {
-    return QIcon(new SymbolIconEngine(symbol, ink));
+QIcon symbolIcon(Symbol symbol, const SymbolColors& color) {
+    return QIcon(new SymbolIconEngine(symbol, color));
 }
 
 } // namespace quorvane

@@ -32,7 +32,7 @@ double TextButton::cornerRadius() const {
 }
 
 void TextButton::paintControl(QPainter& painter, const Theme& theme) {
-    fillRounded(painter, rect(), cornerRadius(), overlayFor(look(), theme));
+    fillRounded(painter, rect(), cornerRadius(), overlayFor(visualState(), theme));
     painter.setFont(textFont(font(), TextStyle::Headline));
     painter.setPen(theme.accentText);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());

@@ -95,7 +95,8 @@ void TextField::centerText() {
 }
 
 void TextField::paintSurface(QPainter& painter) {
-    ChipSurface::paint(painter, rect(), Theme::of(surroundings()), PressableControl::Look::Rest);
+    ChipSurface::paint(
+        painter, rect(), Theme::of(surroundings()), PressableControl::VisualState::Normal);
 }
 
 const QPalette& TextField::surroundings() const {
@@ -110,7 +111,7 @@ void TextField::adoptColors() {
     own.setColor(QPalette::Base, Qt::transparent);
     own.setColor(QPalette::Highlight, withOpacity(theme.accentText, selectionOpacity));
     own.setColor(QPalette::HighlightedText, theme.text);
-    own.setColor(QPalette::PlaceholderText, theme.text2);
+    own.setColor(QPalette::PlaceholderText, theme.secondaryText);
     setPalette(own);
 }
 

@@ -46,7 +46,7 @@ QFont fixedSizeFont(QFont body, int pixels, QFont::Weight weight) {
     return body;
 }
 
-QRectF inkOf(const QString& text, const QFont& font) {
+QRectF foregroundOf(const QString& text, const QFont& font) {
     QPainterPath outline;
     outline.addText(0, 0, font, text);
     return outline.boundingRect();

@@ -16,7 +16,7 @@ constexpr double suggestedEdgeOpacity = 0.3;
 /// Between text and ground; black on white has 21, and nobody who did not mean it comes near.
 constexpr double highContrast = 20.0;
 
-QColor ink(double opacity) {
+QColor darkTint(double opacity) {
     return withOpacity(QColor(0x14, 0x16, 0x1c), opacity);
 }
 
@@ -30,74 +30,80 @@ QColor black(double opacity) {
 
 Theme lightTheme() {
     return {
-        .win = 0xf6f6f8,
-        .base = 0xffffff,
-        .pop = 0xffffff,
+        .windowBackground = 0xf6f6f8,
+        .controlBackground = 0xffffff,
+        .popoverBackground = 0xffffff,
         .text = 0x1a1b1e,
-        .text2 = 0x5c6068,
-        .off = 0xa4a7ae,
+        .secondaryText = 0x5c6068,
+        .disabledText = 0xa4a7ae,
         .accent = 0x3457d5,
         .accentHover = 0x2c4dc4,
-        .accentPress = 0x2542ac,
+        .accentPressed = 0x2542ac,
         .onAccent = 0xffffff,
         .accentText = 0x2f50c8,
-        .chosenEdge = withOpacity(0x2f50c8, chosenEdgeOpacity),
-        .suggestedEdge = withOpacity(0x5c6068, suggestedEdgeOpacity),
-        .popEdge = ink(0.13),
-        .sep = ink(0.13),
-        .line = ink(0.09),
-        .outline = 0x85888f,
-        .track = 0x85888f,
-        .knob = 0xffffff,
-        .quiet = ink(0.05),
-        .hover = ink(0.05),
-        .press = ink(0.10),
-        .green = 0x1a7a37,
+        .selectedBorder = withOpacity(0x2f50c8, chosenEdgeOpacity),
+        .suggestedBorder = withOpacity(0x5c6068, suggestedEdgeOpacity),
+        .popoverBorder = darkTint(0.13),
+        .border = darkTint(0.13),
+        .divider = darkTint(0.09),
+        .checkBoxBorder = 0x85888f,
+        .switchTrack = 0x85888f,
+        .switchKnob = 0xffffff,
+        .subtleFill = darkTint(0.05),
+        .hoverOverlay = darkTint(0.05),
+        .pressOverlay = darkTint(0.10),
+        .success = 0x1a7a37,
         .danger = 0xc4302b,
         .dangerHover = withOpacity(0xc4302b, 0.10),
-        .dangerPress = withOpacity(0xc4302b, 0.18),
-        .yellow = 0xf4b90b,
-        .yellowEdge = 0xb07d00,
-        .capEdge = black(0.18),
-        .capShadow = black(0.12),
-        .capHighlight = Qt::transparent,
-        .scrim = ink(0.24),
-        .shadow = {ink(0.028), ink(0.028), ink(0.022), ink(0.022), ink(0.016), ink(0.016)}};
+        .dangerPressed = withOpacity(0xc4302b, 0.18),
+        .star = 0xf4b90b,
+        .starBorder = 0xb07d00,
+        .keyCapBorder = black(0.18),
+        .keyCapShadow = black(0.12),
+        .keyCapHighlight = Qt::transparent,
+        .scrim = darkTint(0.24),
+        .shadow = {
+            darkTint(0.028),
+            darkTint(0.028),
+            darkTint(0.022),
+            darkTint(0.022),
+            darkTint(0.016),
+            darkTint(0.016)}};
 }
 
 Theme darkTheme() {
     return {
-        .win = 0x1d1e21,
-        .base = 0x2a2b2f,
-        .pop = 0x27282c,
+        .windowBackground = 0x1d1e21,
+        .controlBackground = 0x2a2b2f,
+        .popoverBackground = 0x27282c,
         .text = 0xf0f1f3,
-        .text2 = 0xaeb2bb,
-        .off = 0x62656d,
+        .secondaryText = 0xaeb2bb,
+        .disabledText = 0x62656d,
         .accent = 0x4666ea,
         .accentHover = 0x3e5de0,
-        .accentPress = 0x3652ca,
+        .accentPressed = 0x3652ca,
         .onAccent = 0xffffff,
         .accentText = 0xa6b7ff,
-        .chosenEdge = withOpacity(0xa6b7ff, chosenEdgeOpacity),
-        .suggestedEdge = withOpacity(0xaeb2bb, suggestedEdgeOpacity),
-        .popEdge = white(0.12),
-        .sep = white(0.12),
-        .line = white(0.08),
-        .outline = 0x7c8089,
-        .track = 0x6a6e77,
-        .knob = 0xffffff,
-        .quiet = white(0.065),
-        .hover = white(0.06),
-        .press = white(0.11),
-        .green = 0x63d387,
+        .selectedBorder = withOpacity(0xa6b7ff, chosenEdgeOpacity),
+        .suggestedBorder = withOpacity(0xaeb2bb, suggestedEdgeOpacity),
+        .popoverBorder = white(0.12),
+        .border = white(0.12),
+        .divider = white(0.08),
+        .checkBoxBorder = 0x7c8089,
+        .switchTrack = 0x6a6e77,
+        .switchKnob = 0xffffff,
+        .subtleFill = white(0.065),
+        .hoverOverlay = white(0.06),
+        .pressOverlay = white(0.11),
+        .success = 0x63d387,
         .danger = 0xff8a80,
         .dangerHover = withOpacity(0xff8a80, 0.14),
-        .dangerPress = withOpacity(0xff8a80, 0.22),
-        .yellow = 0xf5c542,
-        .yellowEdge = 0xf5c542,
-        .capEdge = black(0.18),
-        .capShadow = black(0.12),
-        .capHighlight = white(0.10),
+        .dangerPressed = withOpacity(0xff8a80, 0.22),
+        .star = 0xf5c542,
+        .starBorder = 0xf5c542,
+        .keyCapBorder = black(0.18),
+        .keyCapShadow = black(0.12),
+        .keyCapHighlight = white(0.10),
         .scrim = black(0.5),
         .shadow = {black(0.10), black(0.10), black(0.08), black(0.08), black(0.06), black(0.06)}};
 }
@@ -106,30 +112,31 @@ QColor active(const QPalette& palette, QPalette::ColorRole role) {
     return palette.color(QPalette::Active, role);
 }
 
-QColor readableOn(QColor color, const std::array<QColor, 3>& grounds, double ratio = readable) {
-    for (const auto& ground : grounds)
-        color = pushedToContrast(color, ground, ratio);
+QColor readableOn(QColor color, const std::array<QColor, 3>& backgrounds, double ratio = readable) {
+    for (const auto& background : backgrounds)
+        color = pushedToContrast(color, background, ratio);
     return color;
 }
 
 /// Grounds and text as the desktop has them.
-void adoptGrounds(Theme& theme, const QPalette& palette) {
-    theme.win = active(palette, QPalette::Window);
-    theme.base = active(palette, QPalette::Base);
-    theme.pop = theme.base;
+void adoptBackgrounds(Theme& theme, const QPalette& palette) {
+    theme.windowBackground = active(palette, QPalette::Window);
+    theme.controlBackground = active(palette, QPalette::Base);
+    theme.popoverBackground = theme.controlBackground;
     theme.text = active(palette, QPalette::WindowText);
-    const auto faded = blended(withOpacity(theme.text, 0.68), theme.win);
-    theme.text2 = readableOn(faded, {theme.win, theme.base, theme.pop});
-    theme.suggestedEdge = withOpacity(theme.text2, suggestedEdgeOpacity);
-    theme.off = blended(withOpacity(theme.text, 0.4), theme.win);
+    const auto faded = blended(withOpacity(theme.text, 0.68), theme.windowBackground);
+    theme.secondaryText = readableOn(
+        faded, {theme.windowBackground, theme.controlBackground, theme.popoverBackground});
+    theme.suggestedBorder = withOpacity(theme.secondaryText, suggestedEdgeOpacity);
+    theme.disabledText = blended(withOpacity(theme.text, 0.4), theme.windowBackground);
 }
 
 /// `color` with enough contrast on `ground` under a tint of itself.
-QColor inkOnItsOwnTint(QColor color, const QColor& ground, double ratio = readable) {
+QColor readableOnItsOwnTint(QColor color, const QColor& background, double ratio = readable) {
     // The tint darkens or lightens with its ink: that takes some rounds to come to rest.
     for (QColor before; before != color;) {
         before = color;
-        const auto tinted = blended(withOpacity(color, chosenTint), ground);
+        const auto tinted = blended(withOpacity(color, chosenTint), background);
         color = pushedToContrast(color, tinted, ratio);
     }
     return color;
@@ -142,9 +149,9 @@ void adoptAccent(Theme& theme, const QColor& accent) {
     theme.onAccent = isBright ? QColor(0x14161c) : QColor(Qt::white);
     theme.accent = isBright ? accent : pushedToContrast(accent, Qt::white, readable);
     theme.accentHover = theme.accent.darker(108);
-    theme.accentPress = theme.accent.darker(122);
-    theme.accentText = inkOnItsOwnTint(accent, theme.base);
-    theme.chosenEdge = withOpacity(theme.accentText, chosenEdgeOpacity);
+    theme.accentPressed = theme.accent.darker(122);
+    theme.accentText = readableOnItsOwnTint(accent, theme.controlBackground);
+    theme.selectedBorder = withOpacity(theme.accentText, chosenEdgeOpacity);
 }
 
 bool hasHighContrast(const QPalette& palette) {
@@ -154,67 +161,74 @@ bool hasHighContrast(const QPalette& palette) {
 }
 
 /// Inks that are read well on all grounds, in every state of a control.
-void strengthenInks(Theme& theme, const QColor& accent) {
-    const std::array grounds{
-        theme.win, blended(theme.press, theme.win), blended(theme.press, theme.base)};
-    theme.text2 = readableOn(theme.text2, grounds, wellReadable);
-    theme.off = readableOn(theme.off, grounds, readable);
-    theme.green = readableOn(theme.green, grounds, wellReadable);
-    theme.yellowEdge = readableOn(theme.yellowEdge, grounds, wellReadable);
-    theme.danger = inkOnItsOwnTint(theme.danger, theme.base, wellReadable);
+void strengthenForegrounds(Theme& theme, const QColor& accent) {
+    const std::array backgrounds{
+        theme.windowBackground,
+        blended(theme.pressOverlay, theme.windowBackground),
+        blended(theme.pressOverlay, theme.controlBackground)};
+    theme.secondaryText = readableOn(theme.secondaryText, backgrounds, wellReadable);
+    theme.disabledText = readableOn(theme.disabledText, backgrounds, readable);
+    theme.success = readableOn(theme.success, backgrounds, wellReadable);
+    theme.starBorder = readableOn(theme.starBorder, backgrounds, wellReadable);
+    theme.danger = readableOnItsOwnTint(theme.danger, theme.controlBackground, wellReadable);
     theme.dangerHover = withOpacity(theme.danger, chosenTint / 2);
-    theme.dangerPress = withOpacity(theme.danger, chosenTint);
-    theme.accentText = inkOnItsOwnTint(accent, theme.base, wellReadable);
+    theme.dangerPressed = withOpacity(theme.danger, chosenTint);
+    theme.accentText = readableOnItsOwnTint(accent, theme.controlBackground, wellReadable);
     // What stands on a fill is the ground that shows through it, in light and in dark.
-    theme.onAccent = theme.base;
+    theme.onAccent = theme.controlBackground;
     theme.accent = pushedToContrast(accent, theme.onAccent, wellReadable);
     theme.accentHover = blended(withOpacity(theme.text, 0.2), theme.accent);
-    theme.accentPress = blended(withOpacity(theme.text, 0.4), theme.accent);
-    theme.track = theme.text2;
-    theme.knob = theme.onAccent;
+    theme.accentPressed = blended(withOpacity(theme.text, 0.4), theme.accent);
+    theme.switchTrack = theme.secondaryText;
+    theme.switchKnob = theme.onAccent;
 }
 
 /// Every edge as strong as text.
 void strengthenEdges(Theme& theme) {
-    for (auto edge : {&Theme::sep, &Theme::line, &Theme::outline, &Theme::capEdge, &Theme::popEdge})
+    for (auto edge :
+         {&Theme::border,
+          &Theme::divider,
+          &Theme::checkBoxBorder,
+          &Theme::keyCapBorder,
+          &Theme::popoverBorder})
         theme.*edge = theme.text;
-    theme.chosenEdge = theme.accentText;
-    theme.suggestedEdge = theme.text2;
-    theme.capShadow = Qt::transparent;
-    theme.capHighlight = Qt::transparent;
+    theme.selectedBorder = theme.accentText;
+    theme.suggestedBorder = theme.secondaryText;
+    theme.keyCapShadow = Qt::transparent;
+    theme.keyCapHighlight = Qt::transparent;
 }
 
 Theme highContrastTheme(const QPalette& palette) {
-    Theme theme = Theme::house(colorScheme(palette));
-    theme.win = active(palette, QPalette::Window);
-    theme.base = active(palette, QPalette::Base);
-    theme.pop = theme.base;
+    Theme theme = Theme::builtIn(colorScheme(palette));
+    theme.windowBackground = active(palette, QPalette::Window);
+    theme.controlBackground = active(palette, QPalette::Base);
+    theme.popoverBackground = theme.controlBackground;
     theme.text = active(palette, QPalette::WindowText);
-    theme.hover = withOpacity(theme.text, 0.1);
-    theme.press = withOpacity(theme.text, 0.2);
-    strengthenInks(theme, active(palette, QPalette::Highlight));
+    theme.hoverOverlay = withOpacity(theme.text, 0.1);
+    theme.pressOverlay = withOpacity(theme.text, 0.2);
+    strengthenForegrounds(theme, active(palette, QPalette::Highlight));
     strengthenEdges(theme);
     return theme;
 }
 
 /// What decides a theme, and nothing else.
 QPalette seedPalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
-    const auto& house = Theme::house(scheme);
+    const auto& builtIn = Theme::builtIn(scheme);
     const bool isHigh = contrast == Contrast::High;
     const bool isDark = scheme == ColorScheme::Dark;
     const QColor strongest = isDark ? Qt::white : Qt::black;
     const QColor faintest = isDark ? Qt::black : Qt::white;
     QPalette palette;
-    palette.setColor(QPalette::Window, isHigh ? faintest : house.win);
-    palette.setColor(QPalette::Base, isHigh ? faintest : house.base);
-    palette.setColor(QPalette::WindowText, isHigh ? strongest : house.text);
-    palette.setColor(QPalette::Highlight, accent.value_or(house.accent));
+    palette.setColor(QPalette::Window, isHigh ? faintest : builtIn.windowBackground);
+    palette.setColor(QPalette::Base, isHigh ? faintest : builtIn.controlBackground);
+    palette.setColor(QPalette::WindowText, isHigh ? strongest : builtIn.text);
+    palette.setColor(QPalette::Highlight, accent.value_or(builtIn.accent));
     return palette;
 }
 
 } // namespace
 
-const Theme& Theme::house(ColorScheme scheme) {
+const Theme& Theme::builtIn(ColorScheme scheme) {
     static const Theme light = lightTheme();
     static const Theme dark = darkTheme();
     return scheme == ColorScheme::Dark ? dark : light;
@@ -223,35 +237,36 @@ const Theme& Theme::house(ColorScheme scheme) {
 Theme Theme::of(const QPalette& palette) {
     if (hasHighContrast(palette))
         return highContrastTheme(palette);
-    Theme theme = house(colorScheme(palette));
-    const bool sameGrounds = active(palette, QPalette::Window) == theme.win &&
-                             active(palette, QPalette::Base) == theme.base &&
-                             active(palette, QPalette::WindowText) == theme.text;
+    Theme theme = builtIn(colorScheme(palette));
+    const bool sameBackgrounds = active(palette, QPalette::Window) == theme.windowBackground &&
+                                 active(palette, QPalette::Base) == theme.controlBackground &&
+                                 active(palette, QPalette::WindowText) == theme.text;
     const auto accent = active(palette, QPalette::Highlight);
     const bool sameAccent = accent == theme.accent;
-    if (!sameGrounds)
-        adoptGrounds(theme, palette);
-    if (!sameAccent || !sameGrounds)
+    if (!sameBackgrounds)
+        adoptBackgrounds(theme, palette);
+    if (!sameAccent || !sameBackgrounds)
         adoptAccent(theme, accent);
     return theme;
 }
 
-QPalette housePalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
+QPalette
+builtInPalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
     const auto theme = Theme::of(seedPalette(scheme, contrast, accent));
-    QPalette palette(theme.base, theme.win);
+    QPalette palette(theme.controlBackground, theme.windowBackground);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, theme.text);
-    palette.setColor(QPalette::Base, theme.base);
-    palette.setColor(QPalette::AlternateBase, theme.win);
-    palette.setColor(QPalette::Button, theme.base);
+    palette.setColor(QPalette::Base, theme.controlBackground);
+    palette.setColor(QPalette::AlternateBase, theme.windowBackground);
+    palette.setColor(QPalette::Button, theme.controlBackground);
     palette.setColor(QPalette::Highlight, theme.accent);
     palette.setColor(QPalette::HighlightedText, theme.onAccent);
-    palette.setColor(QPalette::PlaceholderText, theme.text2);
+    palette.setColor(QPalette::PlaceholderText, theme.secondaryText);
     palette.setColor(QPalette::Link, theme.accentText);
-    palette.setColor(QPalette::ToolTipBase, theme.pop);
+    palette.setColor(QPalette::ToolTipBase, theme.popoverBackground);
     palette.setColor(QPalette::ToolTipText, theme.text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, theme.off);
+        palette.setColor(QPalette::Disabled, role, theme.disabledText);
     return palette;
 }
 

@@ -48,8 +48,11 @@ void ToggleSwitch::paintControl(QPainter& painter, const Theme& theme) {
     const QRectF knob(
         track().left() + knobInset + along * run, track().top() + knobInset, knobSize, knobSize);
     fillRounded(
-        painter, track(), cornerRadius(), isChecked() ? accentFill(look(), theme) : theme.track);
-    painter.setBrush(theme.knob);
+        painter,
+        track(),
+        cornerRadius(),
+        isChecked() ? accentFill(visualState(), theme) : theme.switchTrack);
+    painter.setBrush(theme.switchKnob);
     painter.drawEllipse(knob);
 }
 

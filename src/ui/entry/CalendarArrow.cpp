@@ -29,14 +29,14 @@ double CalendarArrow::cornerRadius() const {
 }
 
 void CalendarArrow::paintControl(QPainter& painter, const Theme& theme) {
-    fillRounded(painter, rect(), cornerRadius(), overlayFor(look(), theme));
+    fillRounded(painter, rect(), cornerRadius(), overlayFor(visualState(), theme));
     const bool pointsLeft = (m_way == Way::Back) == (layoutDirection() == Qt::LeftToRight);
     paintSymbol(
         painter,
         pointsLeft ? Symbol::ChevronLeft : Symbol::ChevronRight,
         arrowStyle,
         rect(),
-        look() == Look::Rest ? theme.text2 : theme.text);
+        visualState() == VisualState::Normal ? theme.secondaryText : theme.text);
 }
 
 } // namespace quorvane

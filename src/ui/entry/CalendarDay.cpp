@@ -57,13 +57,13 @@ void CalendarDay::paintControl(QPainter& painter, const Theme& theme) {
     const bool isStrong = m_marks.isChosen || m_marks.isToday;
     const auto weight = isStrong ? QFont::DemiBold : QFont::Normal;
     painter.setFont(textFont(font(), TextStyle::Callout, weight));
-    painter.setPen(ink(theme));
+    painter.setPen(foreground(theme));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextDontClip, text());
     if (m_marks.isToday) {
         QRectF dot(0, 0, dotSize, dotSize);
         dot.moveCenter(disc().center());
         dot.moveBottom(disc().bottom() - dotRise);
-        fillRounded(painter, dot, dotSize / 2, ink(theme));
+        fillRounded(painter, dot, dotSize / 2, foreground(theme));
     }
 }
 
@@ -87,15 +87,15 @@ QRectF CalendarDay::disc() const {
 }
 
 QColor CalendarDay::discColor(const Theme& theme) const {
-    const auto shown = m_marks.isRefused ? Look::Rest : look();
+    const auto shown = m_marks.isRefused ? VisualState::Normal : visualState();
     return m_marks.isChosen ? accentFill(shown, theme) : overlayFor(shown, theme);
 }
 
-QColor CalendarDay::ink(const Theme& theme) const {
+QColor CalendarDay::foreground(const Theme& theme) const {
     if (m_marks.isChosen)
         return theme.onAccent;
     if (m_marks.isRefused)
-        return theme.off;
+        return theme.disabledText;
     return m_marks.isToday ? theme.accentText : theme.text;
 }
 

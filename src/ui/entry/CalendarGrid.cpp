@@ -57,7 +57,7 @@ QSize CalendarGrid::sizeHint() const {
 void CalendarGrid::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setFont(textFont(font(), TextStyle::Caption, QFont::Medium));
-    painter.setPen(Theme::of(palette()).text2);
+    painter.setPen(Theme::of(palette()).secondaryText);
     for (int column = 0; column < columns; ++column) {
         const QRect cell(columnLeft(column), 0, cellSize, weekdayHeight);
         const auto& name = m_month.weekdayNames.at(static_cast<std::size_t>(column));

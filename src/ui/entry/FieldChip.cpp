@@ -45,7 +45,7 @@ double FieldChip::cornerRadius() const {
 
 void FieldChip::paintControl(QPainter& painter, const Theme& theme) {
     const auto frame = m_popover ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
-    ChipSurface::paint(painter, rect(), theme, look(), frame);
+    ChipSurface::paint(painter, rect(), theme, visualState(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     contentRow(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
 }
@@ -86,7 +86,7 @@ void FieldChip::announceExpansion() {
 
 ContentRow FieldChip::contentRow(const Theme& theme) const {
     ContentRow row(spacing);
-    row.addSymbol(m_icon, iconStyle, theme.text2);
+    row.addSymbol(m_icon, iconStyle, theme.secondaryText);
     row.addText(text(), textFont(font(), TextStyle::Callout), theme.text);
     return row;
 }

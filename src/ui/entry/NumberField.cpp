@@ -55,9 +55,9 @@ void NumberField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
         const auto theme = Theme::of(parentWidget()->palette());
-        fillRounded(painter, rect(), cornerRadius, theme.base);
-        const auto& ink = hasFocus() ? theme.accentText : theme.sep;
-        frameRounded(painter, rect(), cornerRadius, ink, hasFocus() ? 2 : 1);
+        fillRounded(painter, rect(), cornerRadius, theme.controlBackground);
+        const auto& color = hasFocus() ? theme.accentText : theme.border;
+        frameRounded(painter, rect(), cornerRadius, color, hasFocus() ? 2 : 1);
     }
     QLineEdit::paintEvent(event);
 }
@@ -94,7 +94,7 @@ void NumberField::followPalette() {
     auto own = palette();
     own.setColor(QPalette::Base, Qt::transparent);
     own.setColor(QPalette::Text, theme.text);
-    own.setColor(QPalette::PlaceholderText, theme.text2);
+    own.setColor(QPalette::PlaceholderText, theme.secondaryText);
     own.setColor(QPalette::Highlight, withOpacity(theme.accentText, selectionOpacity));
     own.setColor(QPalette::HighlightedText, theme.text);
     if (own != palette())

@@ -72,9 +72,9 @@ void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto colonFont = fixedSizeFont(font(), colonPixels, QFont::ExtraLight);
     painter.setFont(colonFont);
-    painter.setPen(Theme::of(palette()).text2);
+    painter.setPen(Theme::of(palette()).secondaryText);
     const QRectF gap(m_hour->geometry().topRight(), m_minute->geometry().bottomLeft());
-    painter.drawText(gap.center() - inkOf(u":"_s, colonFont).center(), u":"_s);
+    painter.drawText(gap.center() - foregroundOf(u":"_s, colonFont).center(), u":"_s);
 }
 
 NumberField* TimePickerPopover::numberField(const QString& name, const QString& placeholder) {

@@ -4,7 +4,7 @@
 #include "CopyButton.h"
 #include "PanelMetrics.h"
 
-#include <controls/DimmingVeil.h>
+#include <controls/DimmingOverlay.h>
 #include <controls/Theme.h>
 
 #include <QHBoxLayout>
@@ -25,7 +25,7 @@ ActionBar::ActionBar(MainQueue& queue, QWidget* parent)
       m_copy(new CopyButton(queue, this)),
       m_insert(new ActionButton(
           ActionButton::Prominence::Prominent, Symbol::Return, tr("Insert"), this)),
-      m_veil(new DimmingVeil(this)) {
+      m_overlay(new DimmingOverlay(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(
         panelmetrics::sideMargin, verticalPadding, panelmetrics::sideMargin, verticalPadding);
@@ -36,12 +36,12 @@ ActionBar::ActionBar(MainQueue& queue, QWidget* parent)
 
 void ActionBar::setAvailable(bool available) {
     setEnabled(available);
-    m_veil->setOpacity(available ? 1 : unavailableOpacity);
+    m_overlay->setOpacity(available ? 1 : unavailableOpacity);
 }
 
 void ActionBar::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(0, 0, width(), 1, Theme::of(palette()).line);
+    painter.fillRect(0, 0, width(), 1, Theme::of(palette()).divider);
 }
 
 } // namespace quorvane

@@ -9,7 +9,7 @@ namespace quorvane {
 
 class ActionButton;
 class CopyButton;
-class DimmingVeil;
+class DimmingOverlay;
 
 /// The two ways to deliver the output, side by side.
 class ActionBar final : public QWidget {
@@ -31,7 +31,7 @@ protected:
 private:
     CopyButton* m_copy;
     ActionButton* m_insert;
-    DimmingVeil* m_veil;
+    DimmingOverlay* m_overlay;
 };
 
 } // namespace quorvane

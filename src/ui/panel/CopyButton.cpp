@@ -50,8 +50,8 @@ void CopyButton::setCopyConfirmed(bool confirmed) {
 }
 
 ActionButton::Face CopyButton::faceWhile(bool confirmed, const Theme& theme) const {
-    return confirmed ? Face{Symbol::Checkmark, tr("Copied"), theme.green, theme.green}
-                     : Face{Symbol::DocOnDoc, tr("Copy"), theme.text2, theme.text};
+    return confirmed ? Face{Symbol::Checkmark, tr("Copied"), theme.success, theme.success}
+                     : Face{Symbol::DocOnDoc, tr("Copy"), theme.secondaryText, theme.text};
 }
 
 } // namespace quorvane

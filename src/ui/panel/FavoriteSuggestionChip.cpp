@@ -23,16 +23,16 @@ FavoriteSuggestionChip::FavoriteSuggestionChip(
 }
 
 ContentRow FavoriteSuggestionChip::content(const Theme& theme) const {
-    const auto& ink = look() == Look::Rest ? theme.text2 : theme.text;
+    const auto& color = visualState() == VisualState::Normal ? theme.secondaryText : theme.text;
     ContentRow row(spacing);
-    row.addSymbol(Symbol::Plus, markStyle, ink);
-    row.addText(text(), labelFont(), ink);
+    row.addSymbol(Symbol::Plus, markStyle, color);
+    row.addText(text(), labelFont(), color);
     return row;
 }
 
 void FavoriteSuggestionChip::paintControl(QPainter& painter, const Theme& theme) {
-    fillRounded(painter, rect(), cornerRadius(), overlayFor(look(), theme));
-    frameRounded(painter, rect(), cornerRadius(), theme.suggestedEdge, frameWidth);
+    fillRounded(painter, rect(), cornerRadius(), overlayFor(visualState(), theme));
+    frameRounded(painter, rect(), cornerRadius(), theme.suggestedBorder, frameWidth);
     constexpr int padding = ChipSurface::horizontalPadding;
     content(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
 }

@@ -190,7 +190,7 @@ void OutputPreview::adoptDirection() {
 void OutputPreview::paintSelection() {
     QPainter painter(viewport());
     const auto theme = Theme::of(parentWidget()->palette());
-    fillRounded(painter, viewport()->rect(), cornerRadius, theme.quiet);
+    fillRounded(painter, viewport()->rect(), cornerRadius, theme.subtleFill);
     const auto cursor = textCursor();
     if (!cursor.hasSelection())
         return;

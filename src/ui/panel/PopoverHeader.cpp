@@ -29,7 +29,7 @@ constexpr int titleGap = 8;
 constexpr int capsGap = 12;
 constexpr int capSpacing = 4;
 constexpr int buttonSpacing = 4;
-constexpr int buttonReach = 8; ///< the last button's ink ends with the column
+constexpr int buttonOverhang = 8; ///< the last button's ink ends with the column
 
 } // namespace
 
@@ -65,7 +65,7 @@ void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
         row->addSpacing(buttonSpacing);
         row->addWidget(button);
     }
-    row->addSpacing(panelmetrics::sideMargin - buttonReach);
+    row->addSpacing(panelmetrics::sideMargin - buttonOverhang);
 }
 
 void PopoverHeader::setKeys(const QStringList& labels, const QStringList& names) {
@@ -96,7 +96,7 @@ void PopoverHeader::setPresentationMode(PresentationMode mode) {
 void PopoverHeader::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
-    painter.fillRect(0, height() - 1, width(), 1, theme.line);
+    painter.fillRect(0, height() - 1, width(), 1, theme.divider);
     const QRect symbol(panelmetrics::sideMargin, 0, static_cast<int>(appSymbol.size), height());
     paintSymbol(
         painter,

@@ -4,7 +4,7 @@
 #include "PanelMetrics.h"
 #include "SectionLabel.h"
 
-#include <controls/DimmingVeil.h>
+#include <controls/DimmingOverlay.h>
 
 #include <QVBoxLayout>
 
@@ -21,9 +21,9 @@ Section::Section(const QString& name, Symbol icon, QWidget* parent)
       m_label(new SectionLabel(name, icon, this)),
       m_content(new QWidget(this)),
       m_body(new QVBoxLayout(m_content)),
-      m_veil(new DimmingVeil(this)) {
+      m_overlay(new DimmingOverlay(this)) {
     setAccessibleName(name);
-    m_body->setContentsMargins(panelmetrics::reach, 0, panelmetrics::reach, 0);
+    m_body->setContentsMargins(panelmetrics::overhang, 0, panelmetrics::overhang, 0);
     m_body->setSpacing(panelmetrics::labelSpacing);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -34,7 +34,7 @@ Section::Section(const QString& name, Symbol icon, QWidget* parent)
 
 void Section::setAvailable(bool available) {
     m_content->setEnabled(available);
-    m_veil->setOpacity(available ? 1 : unavailableOpacity);
+    m_overlay->setOpacity(available ? 1 : unavailableOpacity);
 }
 
 } // namespace quorvane

@@ -8,7 +8,7 @@ class QVBoxLayout;
 
 namespace quorvane {
 
-class DimmingVeil;
+class DimmingOverlay;
 class SectionLabel;
 
 /// One part of the panel: a label and what stands below it. To assistive technology it is a group
@@ -32,7 +32,7 @@ private:
     SectionLabel* m_label;
     QWidget* m_content; ///< holds the body, so that it can be disabled without the label
     QVBoxLayout* m_body;
-    DimmingVeil* m_veil;
+    DimmingOverlay* m_overlay;
 };
 
 } // namespace quorvane

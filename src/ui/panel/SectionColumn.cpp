@@ -13,7 +13,7 @@ namespace quorvane {
 SectionColumn::SectionColumn(QWidget* parent) : QScrollArea(parent) {
     auto* column = new QWidget;
     m_sections = new QVBoxLayout(column);
-    constexpr int side = panelmetrics::sideMargin - panelmetrics::reach;
+    constexpr int side = panelmetrics::sideMargin - panelmetrics::overhang;
     m_sections->setContentsMargins(
         side, panelmetrics::sectionSpacing, side, panelmetrics::sectionSpacing);
     m_sections->setSpacing(panelmetrics::sectionSpacing);

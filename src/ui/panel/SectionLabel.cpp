@@ -33,7 +33,7 @@ SectionLabel::SectionLabel(const QString& name, Symbol icon, QWidget* parent)
     m_note->setForegroundRole(QPalette::PlaceholderText);
     m_row->setContentsMargins(0, 0, 0, 0);
     m_row->setSpacing(0);
-    m_row->addSpacing(panelmetrics::reach + symbolSize + symbolGap);
+    m_row->addSpacing(panelmetrics::overhang + symbolSize + symbolGap);
     m_row->addWidget(m_name);
     m_row->addSpacing(noteGap);
     m_row->addWidget(m_note);
@@ -48,7 +48,7 @@ void SectionLabel::setNote(const QString& note) {
 void SectionLabel::addTrailing(QWidget* widget, End end) {
     m_row->addWidget(widget);
     if (end == End::WithColumn)
-        m_row->addSpacing(panelmetrics::reach);
+        m_row->addSpacing(panelmetrics::overhang);
 }
 
 void SectionLabel::setBuddy(QWidget* control) {
@@ -57,13 +57,13 @@ void SectionLabel::setBuddy(QWidget* control) {
 
 void SectionLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QRect symbol(panelmetrics::reach, 0, symbolSize, height());
+    const QRect symbol(panelmetrics::overhang, 0, symbolSize, height());
     paintSymbol(
         painter,
         m_icon,
         {},
         QStyle::visualRect(layoutDirection(), rect(), symbol),
-        Theme::of(palette()).text2);
+        Theme::of(palette()).secondaryText);
 }
 
 void SectionLabel::changeEvent(QEvent* event) {

@@ -15,13 +15,13 @@ constexpr double spacing = 5;
 constexpr double frameWidth = 0.5;
 constexpr SymbolStyle markStyle{9, SymbolStyle::bold};
 
-double fillOpacity(PressableControl::Look look) {
-    switch (look) {
-    case PressableControl::Look::Hover:
+double fillOpacity(PressableControl::VisualState state) {
+    switch (state) {
+    case PressableControl::VisualState::Hover:
         return 0.18;
-    case PressableControl::Look::Pressed:
+    case PressableControl::VisualState::Pressed:
         return 0.26;
-    case PressableControl::Look::Rest:
+    case PressableControl::VisualState::Normal:
         break;
     }
     return 0.12;
@@ -39,14 +39,17 @@ TimeZoneChip::TimeZoneChip(
 ContentRow TimeZoneChip::content(const Theme& theme) const {
     ContentRow row(spacing);
     row.addText(text(), labelFont(), theme.text);
-    row.addSymbol(Symbol::Xmark, markStyle, look() == Look::Rest ? theme.text2 : theme.text);
+    row.addSymbol(
+        Symbol::Xmark,
+        markStyle,
+        visualState() == VisualState::Normal ? theme.secondaryText : theme.text);
     return row;
 }
 
 void TimeZoneChip::paintControl(QPainter& painter, const Theme& theme) {
-    const auto fill = withOpacity(theme.accentText, fillOpacity(look()));
+    const auto fill = withOpacity(theme.accentText, fillOpacity(visualState()));
     fillRounded(painter, rect(), cornerRadius(), fill);
-    frameRounded(painter, rect(), cornerRadius(), theme.chosenEdge, frameWidth);
+    frameRounded(painter, rect(), cornerRadius(), theme.selectedBorder, frameWidth);
     constexpr int padding = ChipSurface::horizontalPadding;
     content(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
 }

@@ -59,7 +59,7 @@ void NothingFound::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF place(0, top, width(), lensSize);
     const SymbolStyle style{lensSize, lensStroke};
-    paintSymbol(painter, m_symbol, style, place, Theme::of(palette()).text2);
+    paintSymbol(painter, m_symbol, style, place, Theme::of(palette()).secondaryText);
 }
 
 } // namespace quorvane

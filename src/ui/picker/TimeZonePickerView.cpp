@@ -24,7 +24,7 @@ namespace {
 constexpr int headHeight = 44;
 constexpr int topPadding = 4;
 constexpr int sideMargin = 16;
-constexpr int doneReach = 8; ///< the button's padding ends beyond the column
+constexpr int doneOverhang = 8; ///< the button's padding ends beyond the column
 constexpr int listGap = 8;
 constexpr int lineWidth = 1;
 
@@ -40,7 +40,7 @@ QWidget* makeHead(TextButton* done) {
     row->addWidget(title);
     row->addStretch();
     row->addWidget(done);
-    row->addSpacing(sideMargin - doneReach);
+    row->addSpacing(sideMargin - doneOverhang);
     return head;
 }
 
@@ -87,7 +87,7 @@ void TimeZonePickerView::toggleTimeZone(const TimeZone& zone) {
 void TimeZonePickerView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF line(0, m_list->y() - lineWidth, width(), lineWidth);
-    painter.fillRect(line, Theme::of(palette()).line);
+    painter.fillRect(line, Theme::of(palette()).divider);
 }
 
 void TimeZonePickerView::layOut() {

@@ -54,7 +54,7 @@ public:
     void paintHead() {
         const auto font = textFont(m_option.font, TextStyle::Callout, QFont::DemiBold);
         m_painter.setFont(font);
-        m_painter.setPen(m_theme.text2);
+        m_painter.setPen(m_theme.secondaryText);
         auto place = placed(textStart, m_option.rect.width() - textStart - endPadding);
         place.setTop(place.bottom() + 1 - headHeight + headDrop);
         m_painter.drawText(place, leading(Qt::AlignLeft), text(Qt::DisplayRole));
@@ -80,11 +80,11 @@ private:
         const QRectF fill = QRectF(m_option.rect).adjusted(fillInset, 0, -fillInset, 0);
         const auto* list = qobject_cast<const ZoneList*>(m_option.widget);
         if (list != nullptr && list->isPressed(m_index))
-            fillRounded(m_painter, fill, fillRadius, m_theme.press);
+            fillRounded(m_painter, fill, fillRadius, m_theme.pressOverlay);
         else if (list != nullptr && list->currentIndex() == m_index)
             fillRounded(m_painter, fill, fillRadius, withOpacity(m_theme.accentText, currentTint));
         else if (m_option.state.testFlag(QStyle::State_MouseOver))
-            fillRounded(m_painter, fill, fillRadius, m_theme.hover);
+            fillRounded(m_painter, fill, fillRadius, m_theme.hoverOverlay);
     }
 
     void paintTexts(const QFont& cityFont) {
@@ -107,14 +107,14 @@ private:
         write(
             text(ZoneListModel::RegionRole),
             callout,
-            m_theme.text2,
+            m_theme.secondaryText,
             regionStart,
             abbreviationStart - regionStart,
             Qt::AlignLeft);
         write(
             text(ZoneListModel::AbbreviationRole),
             callout,
-            m_theme.text2,
+            m_theme.secondaryText,
             abbreviationStart,
             abbreviationEnd - abbreviationStart,
             Qt::AlignLeft);

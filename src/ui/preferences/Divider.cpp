@@ -12,7 +12,7 @@ Divider::Divider(QWidget* parent) : QWidget(parent) {
 }
 
 void Divider::paintEvent(QPaintEvent* /*event*/) {
-    QPainter(this).fillRect(rect(), Theme::of(palette()).line);
+    QPainter(this).fillRect(rect(), Theme::of(palette()).divider);
 }
 
 } // namespace quorvane

@@ -56,11 +56,11 @@ private:
     void paintFill() {
         const auto* list = qobject_cast<const ZoneList*>(m_option.widget);
         if (list != nullptr && list->isPressed(m_index))
-            fill(m_theme.press);
+            fill(m_theme.pressOverlay);
         else if (list != nullptr && list->currentIndex() == m_index)
             fill(withOpacity(m_theme.accentText, currentTint));
         else if (m_option.state.testFlag(QStyle::State_MouseOver))
-            fill(m_theme.hover);
+            fill(m_theme.hoverOverlay);
     }
 
     void fill(const QColor& color) { fillRounded(m_painter, m_option.rect, fillRadius, color); }
@@ -70,7 +70,7 @@ private:
         if (m_index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked)
             paintStarred(m_painter, starSize, star, m_theme);
         else
-            paintSymbol(m_painter, Symbol::Star, {}, star, m_theme.text2);
+            paintSymbol(m_painter, Symbol::Star, {}, star, m_theme.secondaryText);
     }
 
     void paintCity(int top, int height) {
@@ -93,12 +93,12 @@ private:
             draw(text, place);
             place.translate(place.width() + bulletGap, 0);
         };
-        append(m_index.data(ZoneListModel::OffsetRole).toString(), m_theme.text2);
+        append(m_index.data(ZoneListModel::OffsetRole).toString(), m_theme.secondaryText);
         const auto abbreviation = m_index.data(ZoneListModel::AbbreviationRole).toString();
         if (abbreviation.isEmpty())
             return;
-        append(u"·"_s, withOpacity(m_theme.text2, bulletOpacity));
-        append(abbreviation, m_theme.text2);
+        append(u"·"_s, withOpacity(m_theme.secondaryText, bulletOpacity));
+        append(abbreviation, m_theme.secondaryText);
     }
 
     void draw(const QString& text, const QRect& place) {

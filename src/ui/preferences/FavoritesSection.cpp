@@ -120,7 +120,7 @@ void FavoritesSection::layOut() {
     column().addWidget(new WrappedText(
         tr("Favorites appear as one-click chips in the popover."),
         TextStyle::Caption,
-        WrappedText::Ink::Secondary));
+        WrappedText::Color::Secondary));
     column().addSpacing(preferencesmetrics::rowSpacing);
     column().addLayout(search);
     column().addSpacing(listGap);

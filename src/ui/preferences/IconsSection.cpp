@@ -18,8 +18,8 @@ QWidget* makeNote(const QString& text, QWidget* parent) {
     auto* note = new QWidget(parent);
     auto* column = new QVBoxLayout(note);
     column->setContentsMargins(
-        0, preferencesmetrics::captionSpacing - SwitchRow::reach, 0, IconsSection::reach);
-    column->addWidget(new WrappedText(text, TextStyle::Caption, WrappedText::Ink::Secondary));
+        0, preferencesmetrics::captionSpacing - SwitchRow::overhang, 0, IconsSection::overhang);
+    column->addWidget(new WrappedText(text, TextStyle::Caption, WrappedText::Color::Secondary));
     return note;
 }
 
@@ -32,9 +32,9 @@ IconsSection::IconsSection(DateTimeModel& model, QWidget* parent)
       m_dock(
           new SwitchRow(tr("Show icon in Dock (poorly supported — use at own annoyance)"), this)),
       m_note(makeNote(tr("Open Quorvane from Finder to access Preferences."), this)) {
-    column().addSpacing(preferencesmetrics::rowSpacing - SwitchRow::reach);
+    column().addSpacing(preferencesmetrics::rowSpacing - SwitchRow::overhang);
     column().addWidget(m_menuBar);
-    column().addSpacing(preferencesmetrics::rowSpacing - 2 * SwitchRow::reach);
+    column().addSpacing(preferencesmetrics::rowSpacing - 2 * SwitchRow::overhang);
     column().addWidget(m_dock);
     column().addWidget(m_note);
     connect(m_menuBar, &SwitchRow::switched, &m_model, &DateTimeModel::setShowInMenuBar);

@@ -14,7 +14,7 @@ class IconsSection final : public PreferencesSection {
 
 public:
     /// How far the section reaches beyond its ink, at its lower end.
-    static constexpr int reach = SwitchRow::reach;
+    static constexpr int overhang = SwitchRow::overhang;
 
     IconsSection(DateTimeModel& model, QWidget* parent);
 

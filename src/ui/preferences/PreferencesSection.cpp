@@ -14,7 +14,7 @@ PreferencesSection::PreferencesSection(const QString& heading, QWidget* parent)
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(0);
     m_column->addWidget(
-        new WrappedText(heading, TextStyle::Headline, WrappedText::Ink::Primary, this));
+        new WrappedText(heading, TextStyle::Headline, WrappedText::Color::Primary, this));
 }
 
 } // namespace quorvane

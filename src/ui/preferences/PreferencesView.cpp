@@ -78,7 +78,7 @@ void PreferencesView::showEvent(QShowEvent* event) {
 void PreferencesView::layOut() {
     using namespace preferencesmetrics;
     // Switches reach beyond their ink, and so does their section below.
-    constexpr int afterSwitches = dividerSpacing - IconsSection::reach;
+    constexpr int afterSwitches = dividerSpacing - IconsSection::overhang;
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, 0);
     column->setSpacing(0);

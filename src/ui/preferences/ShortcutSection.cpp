@@ -25,7 +25,7 @@ ShortcutSection::ShortcutSection(
       m_recorder(new ShortcutRecorder(std::move(combo), layout, queue, this)) {
     const auto name = tr("Invoke Quorvane");
     m_recorder->setAccessibleName(name);
-    auto* label = new WrappedText(name, TextStyle::Body, WrappedText::Ink::Secondary, this);
+    auto* label = new WrappedText(name, TextStyle::Body, WrappedText::Color::Secondary, this);
     auto* row = new QHBoxLayout;
     row->setSpacing(labelGap);
     row->addWidget(label, 0, Qt::AlignVCenter);
@@ -36,7 +36,7 @@ ShortcutSection::ShortcutSection(
     column().addWidget(new WrappedText(
         tr("Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."),
         TextStyle::Caption,
-        WrappedText::Ink::Secondary));
+        WrappedText::Color::Secondary));
 }
 
 } // namespace quorvane

@@ -5,8 +5,8 @@ namespace quorvane {
 
 void paintStarred(QPainter& painter, double size, const QRectF& rect, const Theme& theme) {
     constexpr double edge = 1;
-    paintSymbol(painter, Symbol::StarFill, {size, edge}, rect, theme.yellow);
-    paintSymbol(painter, Symbol::Star, {size, edge}, rect, theme.yellowEdge);
+    paintSymbol(painter, Symbol::StarFill, {size, edge}, rect, theme.star);
+    paintSymbol(painter, Symbol::Star, {size, edge}, rect, theme.starBorder);
 }
 
 } // namespace quorvane

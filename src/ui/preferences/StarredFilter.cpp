@@ -48,7 +48,11 @@ void StarredFilter::paintEvent(QPaintEvent* /*event*/) {
         paintStarred(painter, starSize, star, theme);
     else
         paintSymbol(
-            painter, Symbol::StarFill, {starSize, SymbolStyle::semibold}, star, theme.text2);
+            painter,
+            Symbol::StarFill,
+            {starSize, SymbolStyle::semibold},
+            star,
+            theme.secondaryText);
 }
 
 void StarredFilter::mousePressEvent(QMouseEvent* event) {

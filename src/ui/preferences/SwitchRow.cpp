@@ -21,7 +21,7 @@ constexpr int gap = 12;
 
 SwitchRow::SwitchRow(const QString& label, QWidget* parent)
     : QWidget(parent),
-      m_label(new WrappedText(label, TextStyle::Body, WrappedText::Ink::Primary, this)),
+      m_label(new WrappedText(label, TextStyle::Body, WrappedText::Color::Primary, this)),
       m_switch(new ToggleSwitch(this)),
       m_labelPlace(new QVBoxLayout),
       m_switchPlace(new QVBoxLayout) {

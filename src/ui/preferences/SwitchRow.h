@@ -17,7 +17,7 @@ class SwitchRow final : public QWidget {
 
 public:
     /// How far the row reaches beyond its ink, above and below: the switch is a target of 24.
-    static constexpr int reach = 3;
+    static constexpr int overhang = 3;
 
     SwitchRow(const QString& label, QWidget* parent);
 

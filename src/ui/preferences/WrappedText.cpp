@@ -37,10 +37,10 @@ int lineHeight(const QFont& body, TextStyle style) {
     return std::max(qRound(font.pixelSize() * leadingOf(style)), QFontMetrics(font).height());
 }
 
-WrappedText::WrappedText(const QString& text, TextStyle style, Ink ink, QWidget* parent)
+WrappedText::WrappedText(const QString& text, TextStyle style, Color color, QWidget* parent)
     : QLabel(text, parent),
       m_style(style),
-      m_ink(ink) {
+      m_color(color) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
 }
@@ -64,7 +64,7 @@ int WrappedText::heightForWidth(int width) const {
 void WrappedText::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
-    painter.setPen(m_ink == Ink::Primary ? theme.text : theme.text2);
+    painter.setPen(m_color == Color::Primary ? theme.text : theme.secondaryText);
     lines(width())->draw(&painter, QPointF());
 }
 

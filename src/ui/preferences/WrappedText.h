@@ -20,9 +20,9 @@ class WrappedText final : public QLabel {
     Q_OBJECT
 
 public:
-    enum class Ink { Primary, Secondary };
+    enum class Color { Primary, Secondary };
 
-    WrappedText(const QString& text, TextStyle style, Ink ink, QWidget* parent = nullptr);
+    WrappedText(const QString& text, TextStyle style, Color color, QWidget* parent = nullptr);
 
     /// On one line.
     [[nodiscard]] QSize sizeHint() const override;
@@ -37,7 +37,7 @@ private:
     [[nodiscard]] std::unique_ptr<QTextLayout> lines(int width) const;
 
     TextStyle m_style;
-    Ink m_ink;
+    Color m_color;
 };
 
 } // namespace quorvane

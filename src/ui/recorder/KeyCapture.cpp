@@ -98,8 +98,8 @@ void KeyCapture::settleFocus() {
     const bool isFocused = top->focusWidget() == this;
     if (m_isRecording && !isFocused)
         setFocus(Qt::OtherFocusReason);
-    else if (!m_isRecording && isFocused && m_heir)
-        m_heir->setFocus(Qt::OtherFocusReason);
+    else if (!m_isRecording && isFocused && m_nextFocus)
+        m_nextFocus->setFocus(Qt::OtherFocusReason);
     else if (!m_isRecording && isFocused)
         clearFocus();
 }

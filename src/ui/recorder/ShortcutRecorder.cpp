@@ -51,7 +51,7 @@ ShortcutRecorder::ShortcutRecorder(
     m_capture->setAccessibleName(tr("Recording a new shortcut"));
     m_capture->setAccessibleDescription(
         tr("Press a key together with Control, Alt, Shift or Super. Escape cancels."));
-    m_capture->setFocusHeir(m_button);
+    m_capture->setNextFocus(m_button);
     // A press of the button must not take the focus from the recording that it is to end.
     m_button->setFocusPolicy(Qt::TabFocus);
     connect(m_button, &IconButton::clicked, this, &ShortcutRecorder::toggle);

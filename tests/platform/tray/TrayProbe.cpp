@@ -67,7 +67,7 @@ public:
 private:
     void setImage(const QPalette& palette) {
         m_item->setImage(
-            symbolIcon(Symbol::CalendarBadgeClock, SymbolInk::of(palette)), u"Quorvane"_s);
+            symbolIcon(Symbol::CalendarBadgeClock, SymbolColors::of(palette)), u"Quorvane"_s);
     }
 
     void clicked(StatusItem::Click click) {

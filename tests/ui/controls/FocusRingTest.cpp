@@ -103,7 +103,7 @@ TEST_F(FocusRingTest, IsDrawnInTheAccentOnAllSides) {
     first->setFocus(Qt::TabFocusReason);
     const auto image = picture(window);
     const auto place = around(*first);
-    const QColor accent = Theme::house(ColorScheme::Light).accentText;
+    const QColor accent = Theme::builtIn(ColorScheme::Light).accentText;
     for (const auto& point :
          {QPoint(place.center().x(), place.top()),
           QPoint(place.center().x(), place.bottom()),

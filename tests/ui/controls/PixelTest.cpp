@@ -22,19 +22,19 @@ TEST_P(Pixels, ChipIsThirtyHighAndItsFrameOnePoint) {
     const auto image = render(chip, {200, 30});
     EXPECT_EQ(image.height(), std::round(30 * scale));
     const int middle = static_cast<int>(150 * scale);
-    const auto edge = blended(theme.sep, theme.base);
+    const auto edge = blended(theme.border, theme.controlBackground);
     for (int y = 0; y < frame(); ++y) {
         expectColor(image.pixel(middle, y), edge, "upper frame");
         expectColor(image.pixel(middle, image.height() - 1 - y), edge, "lower frame");
     }
-    expectColor(image.pixel(middle, frame()), theme.base, "fill");
+    expectColor(image.pixel(middle, frame()), theme.controlBackground, "fill");
     const int half = image.height() / 2;
     for (int x = 0; x < frame(); ++x) {
         expectColor(image.pixel(x, half), edge, "left frame");
         expectColor(image.pixel(image.width() - 1 - x, half), edge, "right frame");
     }
-    expectColor(image.pixel(frame(), half), theme.base, "fill beside the frame");
-    expectColor(image.pixel(0, 0), theme.win, "corner");
+    expectColor(image.pixel(frame(), half), theme.controlBackground, "fill beside the frame");
+    expectColor(image.pixel(0, 0), theme.windowBackground, "corner");
 }
 
 TEST_P(Pixels, ProminentButtonIsTheAccent) {
@@ -50,8 +50,8 @@ TEST_P(Pixels, CheckedBoxIsTheAccentAndAnEmptyOneOutlined) {
     const auto pixel = [&](double x, double y) {
         return image.pixel(static_cast<int>(x * scale), static_cast<int>(y * scale));
     };
-    expectColor(pixel(8, 12), theme.base, "empty");
-    expectColor(pixel(0, 12), theme.outline, "outline");
+    expectColor(pixel(8, 12), theme.controlBackground, "empty");
+    expectColor(pixel(0, 12), theme.checkBoxBorder, "outline");
     box.setChecked(true);
     image = picture(box, scale);
     expectColor(pixel(2, 8), theme.accent, "checked");
@@ -64,8 +64,11 @@ TEST_P(Pixels, ChosenSegmentIsTinted) {
     const auto at = [&](double x, double y) {
         return image.pixel(static_cast<int>(x * scale), static_cast<int>(y * scale));
     };
-    expectColor(at(150, 15), blended(withOpacity(theme.accentText, 0.15), theme.base), "chosen");
-    expectColor(at(10, 15), theme.base, "other");
+    expectColor(
+        at(150, 15),
+        blended(withOpacity(theme.accentText, 0.15), theme.controlBackground),
+        "chosen");
+    expectColor(at(10, 15), theme.controlBackground, "other");
 }
 
 INSTANTIATE_TEST_SUITE_P(

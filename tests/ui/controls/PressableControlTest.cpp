@@ -104,7 +104,7 @@ TEST_F(PressableControlTest, DisabledOneIsPaler) {
 TEST_F(PressableControlTest, FollowsThePaletteWhileItIsShown) {
     const auto light = picture(button);
     EXPECT_TRUE(
-        repaintsAfter(button, [this] { window.setPalette(housePalette(ColorScheme::Dark)); }));
+        repaintsAfter(button, [this] { window.setPalette(builtInPalette(ColorScheme::Dark)); }));
     EXPECT_NE(picture(button), light);
 }
 

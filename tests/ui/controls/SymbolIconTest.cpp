@@ -21,7 +21,7 @@ constexpr std::array barSizes{16, 22, 24, 32, 48};
 constexpr std::array schemes{ColorScheme::Light, ColorScheme::Dark};
 
 QIcon icon(ColorScheme scheme) {
-    return symbolIcon(Symbol::CalendarBadgeClock, SymbolInk::of(housePalette(scheme)));
+    return symbolIcon(Symbol::CalendarBadgeClock, SymbolColors::of(builtInPalette(scheme)));
 }
 
 QImage shown(const QIcon& icon, int size, const QColor& bar) {
@@ -55,7 +55,7 @@ TEST(SymbolIcon, IsReadOnBarsOfEitherToneWhateverTheDesktopsIs) {
 
 TEST(SymbolIcon, OnABarOfTheDesktopsToneOnlyTheInkIsSeen) {
     for (const auto scheme : schemes) {
-        const auto ink = SymbolInk::of(housePalette(scheme));
+        const auto ink = SymbolColors::of(builtInPalette(scheme));
         for (const int size : barSizes) {
             QImage plain(size, size, QImage::Format_RGB32);
             plain.fill(ink.halo);
@@ -65,7 +65,7 @@ TEST(SymbolIcon, OnABarOfTheDesktopsToneOnlyTheInkIsSeen) {
                 Symbol::CalendarBadgeClock,
                 {static_cast<double>(size)},
                 plain.rect(),
-                ink.ink);
+                ink.color);
             painter.end();
             EXPECT_EQ(shown(icon(scheme), size, ink.halo), plain) << size;
         }
@@ -73,11 +73,11 @@ TEST(SymbolIcon, OnABarOfTheDesktopsToneOnlyTheInkIsSeen) {
 }
 
 TEST(SymbolIcon, InkIsThePalettesTextAndTheHaloItsOpposite) {
-    const auto light = SymbolInk::of(housePalette(ColorScheme::Light));
-    EXPECT_EQ(light.ink, Theme::house(ColorScheme::Light).text);
+    const auto light = SymbolColors::of(builtInPalette(ColorScheme::Light));
+    EXPECT_EQ(light.color, Theme::builtIn(ColorScheme::Light).text);
     EXPECT_EQ(light.halo, QColor(Qt::white));
-    const auto dark = SymbolInk::of(housePalette(ColorScheme::Dark));
-    EXPECT_EQ(dark.ink, Theme::house(ColorScheme::Dark).text);
+    const auto dark = SymbolColors::of(builtInPalette(ColorScheme::Dark));
+    EXPECT_EQ(dark.color, Theme::builtIn(ColorScheme::Dark).text);
     EXPECT_EQ(dark.halo, QColor(Qt::black));
 }
 

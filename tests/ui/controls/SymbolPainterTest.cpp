@@ -21,22 +21,22 @@ QImage painted(Symbol symbol, SymbolStyle style, double scale, const QColor& col
     return image.convertToFormat(QImage::Format_ARGB32);
 }
 
-struct Ink {
+struct Coverage {
     int pixels = 0;   ///< that are clearly there
     QRgb densest = 0; ///< the one that shows the colour purest
 };
 
-Ink inkOf(const QImage& image) {
-    Ink ink;
+Coverage coverageOf(const QImage& image) {
+    Coverage coverage;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
-            ink.pixels += qAlpha(pixel) > 64 ? 1 : 0;
-            if (qAlpha(pixel) > qAlpha(ink.densest))
-                ink.densest = pixel;
+            coverage.pixels += qAlpha(pixel) > 64 ? 1 : 0;
+            if (qAlpha(pixel) > qAlpha(coverage.densest))
+                coverage.densest = pixel;
         }
     }
-    return ink;
+    return coverage;
 }
 
 bool isOfColor(QRgb pixel, const QColor& color) {
@@ -52,13 +52,14 @@ TEST(SymbolPainter, EverySymbolIsDrawnAtEverySizeInTheColorAskedFor) {
         for (int size = 9; size <= 24; ++size) {
             for (const double scale : {1.0, 1.25, 2.0}) {
                 const SymbolStyle style{static_cast<double>(size), SymbolStyle::regular};
-                const auto ink = inkOf(painted(symbol, style, scale, color));
+                const auto coverage = coverageOf(painted(symbol, style, scale, color));
                 const auto label = symbolName(symbol);
-                EXPECT_GE(ink.pixels, size / 2) << label.data() << ' ' << size << ' ' << scale;
-                EXPECT_GT(qAlpha(ink.densest), 90) << label.data() << ' ' << size << ' ' << scale;
-                EXPECT_TRUE(isOfColor(ink.densest, color))
+                EXPECT_GE(coverage.pixels, size / 2) << label.data() << ' ' << size << ' ' << scale;
+                EXPECT_GT(qAlpha(coverage.densest), 90)
+                    << label.data() << ' ' << size << ' ' << scale;
+                EXPECT_TRUE(isOfColor(coverage.densest, color))
                     << label.data() << " " << size << " " << scale << " " << std::hex
-                    << ink.densest;
+                    << coverage.densest;
             }
         }
     }
@@ -80,13 +81,13 @@ TEST(SymbolPainter, HeavierWeightHasMoreInk) {
 }
 
 TEST(SymbolPainter, TranslucentColorShowsThrough) {
-    const auto ink = inkOf(painted(Symbol::StarFill, {24}, 2, QColor(0, 0, 0, 128)));
-    EXPECT_NEAR(qAlpha(ink.densest), 128, 2);
+    const auto coverage = coverageOf(painted(Symbol::StarFill, {24}, 2, QColor(0, 0, 0, 128)));
+    EXPECT_NEAR(qAlpha(coverage.densest), 128, 2);
 }
 
 TEST(SymbolPainter, ColorsOfOneSymbolDoNotMix) {
-    const auto red = inkOf(painted(Symbol::StarFill, {16}, 1, Qt::red));
-    const auto blue = inkOf(painted(Symbol::StarFill, {16}, 1, Qt::blue));
+    const auto red = coverageOf(painted(Symbol::StarFill, {16}, 1, Qt::red));
+    const auto blue = coverageOf(painted(Symbol::StarFill, {16}, 1, Qt::blue));
     EXPECT_TRUE(isOfColor(red.densest, Qt::red));
     EXPECT_TRUE(isOfColor(blue.densest, Qt::blue));
 }

@@ -36,39 +36,39 @@ constexpr QRgb faded(QRgb color, double opacity) {
 }
 
 const Token tokens[] = {
-    {"win", &Theme::win, 0xfff6f6f8, 0xff1d1e21},
-    {"base", &Theme::base, 0xffffffff, 0xff2a2b2f},
-    {"pop", &Theme::pop, 0xffffffff, 0xff27282c},
+    {"win", &Theme::windowBackground, 0xfff6f6f8, 0xff1d1e21},
+    {"base", &Theme::controlBackground, 0xffffffff, 0xff2a2b2f},
+    {"pop", &Theme::popoverBackground, 0xffffffff, 0xff27282c},
     {"text", &Theme::text, 0xff1a1b1e, 0xfff0f1f3},
-    {"text2", &Theme::text2, 0xff5c6068, 0xffaeb2bb},
-    {"off", &Theme::off, 0xffa4a7ae, 0xff62656d},
+    {"text2", &Theme::secondaryText, 0xff5c6068, 0xffaeb2bb},
+    {"off", &Theme::disabledText, 0xffa4a7ae, 0xff62656d},
     {"accent", &Theme::accent, 0xff3457d5, 0xff4666ea},
     {"accentHover", &Theme::accentHover, 0xff2c4dc4, 0xff3e5de0},
-    {"accentPress", &Theme::accentPress, 0xff2542ac, 0xff3652ca},
+    {"accentPress", &Theme::accentPressed, 0xff2542ac, 0xff3652ca},
     {"onAccent", &Theme::onAccent, 0xffffffff, 0xffffffff},
     {"accentText", &Theme::accentText, 0xff2f50c8, 0xffa6b7ff},
-    {"chosenEdge", &Theme::chosenEdge, faded(0x2f50c8, 0.25), faded(0xa6b7ff, 0.25)},
-    {"suggestedEdge", &Theme::suggestedEdge, faded(0x5c6068, 0.3), faded(0xaeb2bb, 0.3)},
-    {"popEdge", &Theme::popEdge, ink(0.13), white(0.12)},
-    {"sep", &Theme::sep, ink(0.13), white(0.12)},
-    {"line", &Theme::line, ink(0.09), white(0.08)},
-    {"outline", &Theme::outline, 0xff85888f, 0xff7c8089},
-    {"track", &Theme::track, 0xff85888f, 0xff6a6e77},
-    {"quiet", &Theme::quiet, ink(0.05), white(0.065)},
-    {"hover", &Theme::hover, ink(0.05), white(0.06)},
-    {"press", &Theme::press, ink(0.10), white(0.11)},
-    {"green", &Theme::green, 0xff1a7a37, 0xff63d387},
+    {"chosenEdge", &Theme::selectedBorder, faded(0x2f50c8, 0.25), faded(0xa6b7ff, 0.25)},
+    {"suggestedEdge", &Theme::suggestedBorder, faded(0x5c6068, 0.3), faded(0xaeb2bb, 0.3)},
+    {"popEdge", &Theme::popoverBorder, ink(0.13), white(0.12)},
+    {"sep", &Theme::border, ink(0.13), white(0.12)},
+    {"line", &Theme::divider, ink(0.09), white(0.08)},
+    {"outline", &Theme::checkBoxBorder, 0xff85888f, 0xff7c8089},
+    {"track", &Theme::switchTrack, 0xff85888f, 0xff6a6e77},
+    {"quiet", &Theme::subtleFill, ink(0.05), white(0.065)},
+    {"hover", &Theme::hoverOverlay, ink(0.05), white(0.06)},
+    {"press", &Theme::pressOverlay, ink(0.10), white(0.11)},
+    {"green", &Theme::success, 0xff1a7a37, 0xff63d387},
     {"danger", &Theme::danger, 0xffc4302b, 0xffff8a80},
     {"dangerHover", &Theme::dangerHover, faded(0xc4302b, 0.10), faded(0xff8a80, 0.14)},
-    {"dangerPress", &Theme::dangerPress, faded(0xc4302b, 0.18), faded(0xff8a80, 0.22)},
-    {"yellow", &Theme::yellow, 0xfff4b90b, 0xfff5c542},
-    {"yellowEdge", &Theme::yellowEdge, 0xffb07d00, 0xfff5c542},
+    {"dangerPress", &Theme::dangerPressed, faded(0xc4302b, 0.18), faded(0xff8a80, 0.22)},
+    {"yellow", &Theme::star, 0xfff4b90b, 0xfff5c542},
+    {"yellowEdge", &Theme::starBorder, 0xffb07d00, 0xfff5c542},
     {"scrim", &Theme::scrim, ink(0.24), black(0.5)},
 };
 
 TEST(Theme, HousePalettesGiveTheHousesTokens) {
-    const auto light = Theme::of(housePalette(ColorScheme::Light));
-    const auto dark = Theme::of(housePalette(ColorScheme::Dark));
+    const auto light = Theme::of(builtInPalette(ColorScheme::Light));
+    const auto dark = Theme::of(builtInPalette(ColorScheme::Dark));
     for (const auto& token : tokens) {
         EXPECT_EQ((light.*token.color).rgba(), token.light) << token.name << " in light";
         EXPECT_EQ((dark.*token.color).rgba(), token.dark) << token.name << " in dark";
@@ -79,8 +79,8 @@ TEST(Theme, HousesShadowFadesOutwards) {
     constexpr std::array light{0.028, 0.028, 0.022, 0.022, 0.016, 0.016};
     constexpr std::array dark{0.10, 0.10, 0.08, 0.08, 0.06, 0.06};
     for (std::size_t step = 0; step < light.size(); ++step) {
-        EXPECT_EQ(Theme::house(ColorScheme::Light).shadow.at(step).rgba(), ink(light.at(step)));
-        EXPECT_EQ(Theme::house(ColorScheme::Dark).shadow.at(step).rgba(), black(dark.at(step)));
+        EXPECT_EQ(Theme::builtIn(ColorScheme::Light).shadow.at(step).rgba(), ink(light.at(step)));
+        EXPECT_EQ(Theme::builtIn(ColorScheme::Dark).shadow.at(step).rgba(), black(dark.at(step)));
     }
 }
 
@@ -116,27 +116,27 @@ protected:
 };
 
 TEST_P(ThemeOfADesktop, KeepsItsGroundsAndText) {
-    EXPECT_EQ(theme.win.rgb(), GetParam().win);
-    EXPECT_EQ(theme.base.rgb(), GetParam().base);
+    EXPECT_EQ(theme.windowBackground.rgb(), GetParam().win);
+    EXPECT_EQ(theme.controlBackground.rgb(), GetParam().base);
     EXPECT_EQ(theme.text.rgb(), GetParam().text);
 }
 
 TEST_P(ThemeOfADesktop, CaptionsAreReadableOnEveryGround) {
-    EXPECT_GE(ratio(theme.text2, theme.win), 4.5);
-    EXPECT_GE(ratio(theme.text2, theme.base), 4.5);
-    EXPECT_GE(ratio(theme.text2, theme.pop), 4.5);
+    EXPECT_GE(ratio(theme.secondaryText, theme.windowBackground), 4.5);
+    EXPECT_GE(ratio(theme.secondaryText, theme.controlBackground), 4.5);
+    EXPECT_GE(ratio(theme.secondaryText, theme.popoverBackground), 4.5);
 }
 
 TEST_P(ThemeOfADesktop, TextOnTheAccentIsReadableInEveryState) {
     EXPECT_GE(ratio(theme.onAccent, theme.accent), 4.5);
     EXPECT_GE(ratio(theme.onAccent, theme.accentHover), 4.5);
-    EXPECT_GE(ratio(theme.onAccent, theme.accentPress), 4.5);
+    EXPECT_GE(ratio(theme.onAccent, theme.accentPressed), 4.5);
 }
 
 TEST_P(ThemeOfADesktop, AccentAsInkIsReadableUnderItsOwnTint) {
-    const auto tinted = blended(withOpacity(theme.accentText, 0.15), theme.base);
+    const auto tinted = blended(withOpacity(theme.accentText, 0.15), theme.controlBackground);
     EXPECT_GE(ratio(theme.accentText, tinted), 4.5);
-    EXPECT_GE(ratio(theme.accentText, theme.base), 4.5);
+    EXPECT_GE(ratio(theme.accentText, theme.controlBackground), 4.5);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -180,7 +180,7 @@ class ThemeOfHighContrast
     : public testing::TestWithParam<std::tuple<ColorScheme, std::optional<QRgb>>> {
 protected:
     ColorScheme scheme = std::get<0>(GetParam());
-    QPalette palette = housePalette(scheme, Contrast::High, accent());
+    QPalette palette = builtInPalette(scheme, Contrast::High, accent());
     Theme theme = Theme::of(palette);
 
     static std::optional<QColor> accent() {
@@ -194,7 +194,7 @@ protected:
     }
 
     [[nodiscard]] std::array<QColor, 3> grounds() const {
-        return {theme.win, theme.base, theme.pop};
+        return {theme.windowBackground, theme.controlBackground, theme.popoverBackground};
     }
 };
 
@@ -209,37 +209,42 @@ TEST_P(ThemeOfHighContrast, IsBlackOnWhiteOrWhiteOnBlack) {
 // WCAG 2.1, 1.4.6: 7:1.
 TEST_P(ThemeOfHighContrast, TextIsReadWellOnEveryGroundInEveryState) {
     for (const auto& ground : grounds()) {
-        for (const auto& overlay : {theme.quiet, theme.hover, theme.press}) {
+        for (const auto& overlay : {theme.subtleFill, theme.hoverOverlay, theme.pressOverlay}) {
             const auto seen = blended(overlay, ground);
             EXPECT_GE(ratio(theme.text, seen), 7);
-            EXPECT_GE(ratio(theme.text2, seen), 7);
-            EXPECT_GE(ratio(theme.green, seen), 7);
+            EXPECT_GE(ratio(theme.secondaryText, seen), 7);
+            EXPECT_GE(ratio(theme.success, seen), 7);
         }
         EXPECT_GE(ratio(theme.danger, blended(theme.dangerHover, ground)), 7);
-        EXPECT_GE(ratio(theme.danger, blended(theme.dangerPress, ground)), 7);
+        EXPECT_GE(ratio(theme.danger, blended(theme.dangerPressed, ground)), 7);
         EXPECT_GE(ratio(theme.accentText, ground), 7);
         EXPECT_GE(ratio(theme.accentText, blended(withOpacity(theme.accentText, 0.15), ground)), 7);
         // The strongest tint: a chosen zone that is pressed.
         EXPECT_GE(ratio(theme.text, blended(withOpacity(theme.accentText, 0.26), ground)), 7);
-        EXPECT_GE(ratio(theme.off, ground), 4.5);
+        EXPECT_GE(ratio(theme.disabledText, ground), 4.5);
     }
-    for (const auto& fill : {theme.accent, theme.accentHover, theme.accentPress})
+    for (const auto& fill : {theme.accent, theme.accentHover, theme.accentPressed})
         EXPECT_GE(ratio(theme.onAccent, fill), 7);
 }
 
 TEST_P(ThemeOfHighContrast, EdgesAreAsStrongAsText) {
-    for (const auto& edge : {theme.sep, theme.line, theme.outline, theme.capEdge, theme.popEdge})
+    for (const auto& edge :
+         {theme.border,
+          theme.divider,
+          theme.checkBoxBorder,
+          theme.keyCapBorder,
+          theme.popoverBorder})
         EXPECT_EQ(edge, theme.text);
-    EXPECT_EQ(theme.chosenEdge, theme.accentText);
-    EXPECT_EQ(theme.suggestedEdge, theme.text2);
+    EXPECT_EQ(theme.selectedBorder, theme.accentText);
+    EXPECT_EQ(theme.suggestedBorder, theme.secondaryText);
 }
 
 // WCAG 2.1, 1.4.11: 3:1.
 TEST_P(ThemeOfHighContrast, SwitchIsSeenOnItsGroundAndItsKnobOnBothTracks) {
-    EXPECT_GE(ratio(theme.track, theme.win), 3);
-    EXPECT_GE(ratio(theme.knob, theme.track), 3);
-    EXPECT_GE(ratio(theme.accent, theme.win), 3);
-    EXPECT_GE(ratio(theme.knob, theme.accent), 3);
+    EXPECT_GE(ratio(theme.switchTrack, theme.windowBackground), 3);
+    EXPECT_GE(ratio(theme.switchKnob, theme.switchTrack), 3);
+    EXPECT_GE(ratio(theme.accent, theme.windowBackground), 3);
+    EXPECT_GE(ratio(theme.switchKnob, theme.accent), 3);
 }
 
 TEST_P(ThemeOfHighContrast, SelectedTextIsReadable) {
@@ -264,17 +269,17 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Theme, HousesAccentIsTheUsersWhereThereIsOne) {
     for (const auto scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-        const auto theme = Theme::of(housePalette(scheme, Contrast::Normal, QColor(0x1c71d8)));
+        const auto theme = Theme::of(builtInPalette(scheme, Contrast::Normal, QColor(0x1c71d8)));
         EXPECT_EQ(theme.accent, QColor(0x1c71d8));
-        EXPECT_EQ(theme.win, Theme::house(scheme).win);
-        EXPECT_EQ(theme.text2, Theme::house(scheme).text2);
-        EXPECT_GE(contrastRatio(theme.accentText, theme.base), 4.5);
+        EXPECT_EQ(theme.windowBackground, Theme::builtIn(scheme).windowBackground);
+        EXPECT_EQ(theme.secondaryText, Theme::builtIn(scheme).secondaryText);
+        EXPECT_GE(contrastRatio(theme.accentText, theme.controlBackground), 4.5);
     }
 }
 
 TEST(Theme, SelectedTextOfTheHouseIsReadableOnAnyAccent) {
     for (const QRgb accent : {0xff3daee9, 0xfff6d32d, 0xffffffff, 0xff000000}) {
-        const auto palette = housePalette(ColorScheme::Light, Contrast::Normal, QColor(accent));
+        const auto palette = builtInPalette(ColorScheme::Light, Contrast::Normal, QColor(accent));
         EXPECT_GE(
             contrastRatio(
                 palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),
@@ -284,7 +289,7 @@ TEST(Theme, SelectedTextOfTheHouseIsReadableOnAnyAccent) {
 
 TEST(Theme, DesktopsOwnBlackOnWhiteIsHighContrastAndAlmostBlackIsNot) {
     const auto popEdge = [](QRgb win, QRgb base, QRgb text) {
-        return Theme::of(Desktop{"", win, base, text, 0xff3584e4}.palette()).popEdge;
+        return Theme::of(Desktop{"", win, base, text, 0xff3584e4}.palette()).popoverBorder;
     };
     EXPECT_EQ(popEdge(0xffffffff, 0xffffffff, 0xff000000), QColor(Qt::black));
     EXPECT_EQ(popEdge(0xff000000, 0xff000000, 0xffffffff), QColor(Qt::white));
@@ -293,8 +298,8 @@ TEST(Theme, DesktopsOwnBlackOnWhiteIsHighContrastAndAlmostBlackIsNot) {
 }
 
 TEST(Theme, SchemeIsThatOfTextAndGround) {
-    EXPECT_EQ(colorScheme(housePalette(ColorScheme::Light)), ColorScheme::Light);
-    EXPECT_EQ(colorScheme(housePalette(ColorScheme::Dark)), ColorScheme::Dark);
+    EXPECT_EQ(colorScheme(builtInPalette(ColorScheme::Light)), ColorScheme::Light);
+    EXPECT_EQ(colorScheme(builtInPalette(ColorScheme::Dark)), ColorScheme::Dark);
 }
 
 } // namespace

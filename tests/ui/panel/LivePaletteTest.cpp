@@ -149,15 +149,15 @@ protected:
 };
 
 TEST_P(LivePalette, AViewThatLivedThroughTheChangeLooksLikeOneMadeAfterIt) {
-    QApplication::setPalette(housePalette(ColorScheme::Light));
+    QApplication::setPalette(builtInPalette(ColorScheme::Light));
     const auto old = open();
     const auto light = picture(*old);
     const QPalette changes[] = {
-        housePalette(ColorScheme::Dark),
-        housePalette(ColorScheme::Dark, Contrast::Normal, QColor(0xe95420)),
-        housePalette(ColorScheme::Light, Contrast::High),
-        housePalette(ColorScheme::Dark, Contrast::High),
-        housePalette(ColorScheme::Light)};
+        builtInPalette(ColorScheme::Dark),
+        builtInPalette(ColorScheme::Dark, Contrast::Normal, QColor(0xe95420)),
+        builtInPalette(ColorScheme::Light, Contrast::High),
+        builtInPalette(ColorScheme::Dark, Contrast::High),
+        builtInPalette(ColorScheme::Light)};
     for (const auto& palette : changes) {
         QApplication::setPalette(palette);
         const auto fresh = open();

@@ -41,7 +41,7 @@ protected:
     QLineEdit* next;
 
     OutputPreviewTest() {
-        window.setPalette(housePalette(ColorScheme::Light));
+        window.setPalette(builtInPalette(ColorScheme::Light));
         auto font = window.font();
         font.setPixelSize(13);
         window.setFont(font);
@@ -287,7 +287,7 @@ TEST_F(OutputPreviewTest, SelectionHasNoStripesBetweenItsRows) {
 }
 
 TEST_F(OutputPreviewTest, TextIsLightOnDark) {
-    window.setPalette(housePalette(ColorScheme::Dark));
+    window.setPalette(builtInPalette(ColorScheme::Dark));
     show(u"mmmm"_s);
     drag(at(2), at(4));
     next->setFocus();

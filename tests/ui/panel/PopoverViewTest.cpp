@@ -209,8 +209,8 @@ TEST_F(PopoverViewTest, WithoutAZoneForTheTimeNothingCanBeDelivered) {
 }
 
 TEST_F(PopoverViewTest, WhatCannotBeUsedIsDimmedAsOne) {
-    const auto ground = Theme::of(view.palette()).win;
-    const auto inkOf = [&](QWidget& widget) {
+    const auto ground = Theme::of(view.palette()).windowBackground;
+    const auto foregroundOf = [&](QWidget& widget) {
         // The darkest pixel is the ink of text or symbol, however it is smoothed.
         const auto image = widget.grab().toImage();
         int darkest = 255;
@@ -222,13 +222,13 @@ TEST_F(PopoverViewTest, WhatCannotBeUsedIsDimmedAsOne) {
     };
     auto& format = find<QWidget>(QAccessible::Grouping, u"Format"_s);
     auto& copy = *button(u"Copy"_s).parentWidget();
-    const int formatInk = inkOf(format);
-    const int copyInk = inkOf(copy);
+    const int formatColor = foregroundOf(format);
+    const int copyColor = foregroundOf(copy);
     model.setSelectedTimeZones({});
     queue.run();
     const int white = qGray(ground.rgb());
-    EXPECT_NEAR(inkOf(format), white + (formatInk - white) * 0.4, 3);
-    EXPECT_NEAR(inkOf(copy), white + (copyInk - white) * 0.5, 3);
+    EXPECT_NEAR(foregroundOf(format), white + (formatColor - white) * 0.4, 3);
+    EXPECT_NEAR(foregroundOf(copy), white + (copyColor - white) * 0.5, 3);
 }
 
 } // namespace

@@ -14,16 +14,16 @@ TEST_P(Pixels, HalfPointLineIsOneDevicePixel) {
     FavoriteSuggestionChip chip(ZoneDatabase::utc(), u"PST"_s, [] {});
     const auto image = render(chip, {120, 30});
     const int middle = image.width() / 2;
-    const auto line = blended(withOpacity(theme.text2, 0.3), theme.win);
+    const auto line = blended(withOpacity(theme.secondaryText, 0.3), theme.windowBackground);
     expectColor(image.pixel(middle, 0), line, "line");
-    expectColor(image.pixel(middle, 1), theme.win, "no fill");
+    expectColor(image.pixel(middle, 1), theme.windowBackground, "no fill");
     expectColor(image.pixel(middle, image.height() - 1), line, "lower line");
 }
 
 TEST_P(Pixels, ChosenZoneIsTinted) {
     TimeZoneChip chip(ZoneDatabase::utc(), u"PST"_s, [] {});
     const auto image = render(chip, {120, 30});
-    const auto tint = blended(withOpacity(theme.accentText, 0.12), theme.win);
+    const auto tint = blended(withOpacity(theme.accentText, 0.12), theme.windowBackground);
     const auto line = blended(withOpacity(theme.accentText, 0.25), tint);
     expectColor(image.pixel(image.width() / 2, 0), line, "line");
     expectColor(image.pixel(image.width() / 2, 2), tint, "tint");

@@ -41,7 +41,7 @@ protected:
     QListView& list = find<QListView>(QAccessible::List, u"Time Zones"_s);
 
     TimeZonePickerViewTest() {
-        window.setPalette(housePalette(ColorScheme::Light));
+        window.setPalette(builtInPalette(ColorScheme::Light));
         window.setFixedSize(504, 488);
         window.show();
         window.activateWindow();

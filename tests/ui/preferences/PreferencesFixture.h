@@ -72,7 +72,7 @@ protected:
         auto font = view->font();
         font.setPixelSize(13);
         view->setFont(font);
-        view->setPalette(housePalette(ColorScheme::Light));
+        view->setPalette(builtInPalette(ColorScheme::Light));
         view->resize(400, 540);
         new FocusRing(view.get());
         keyboard = std::make_unique<PhysicalKeyboard>(*view);

@@ -71,7 +71,7 @@ TEST_F(KeyCaptureTest, GivesUpTheFocusOnALaterTurn) {
 }
 
 TEST_F(KeyCaptureTest, GivesTheFocusToItsHeir) {
-    capture->setFocusHeir(field);
+    capture->setNextFocus(field);
     startRecording();
     capture->setIsRecording(false);
     queue.run();
@@ -232,7 +232,7 @@ TEST_F(KeyCaptureTest, RepeatsOfTheKeyThatEndedTheRecordingReachNobody) {
     auto* heir = new Witness(&window);
     heir->setFocusPolicy(Qt::StrongFocus);
     heir->show();
-    capture->setFocusHeir(heir);
+    capture->setNextFocus(heir);
     startRecording();
     keyboard.press(escape);
     capture->setIsRecording(false);

@@ -39,7 +39,7 @@ protected:
     ShortcutRecorderTest() {
         layout.setKey(2, u"d");
         layout.setKey(40, u"k");
-        window.setPalette(housePalette(ColorScheme::Light));
+        window.setPalette(builtInPalette(ColorScheme::Light));
         recorder = new ShortcutRecorder(
             {[this] { return combo; },
              [this](HotKeyCombo recorded) {
@@ -290,7 +290,7 @@ TEST_F(ShortcutRecorderTest, FramesItselfWhileRecordingOnly) {
         const auto image = recorder->grab().toImage();
         return image.pixelColor(1, image.height() / 2);
     };
-    const auto& theme = Theme::house(ColorScheme::Light);
+    const auto& theme = Theme::builtIn(ColorScheme::Light);
     EXPECT_NE(leftEdge(), theme.accentText);
     startRecording();
     EXPECT_EQ(leftEdge(), theme.accentText);

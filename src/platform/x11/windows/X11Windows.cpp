@@ -79,7 +79,7 @@ bool X11Windows::isViewable(xcb_window_t window) const {
     return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
-bool X11Windows::isFurniture(xcb_window_t window) const {
+bool X11Windows::isDockOrDesktop(xcb_window_t window) const {
     const auto types = values(window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM);
     const auto dock = m_connection->atom("_NET_WM_WINDOW_TYPE_DOCK");
     const auto desktop = m_connection->atom("_NET_WM_WINDOW_TYPE_DESKTOP");

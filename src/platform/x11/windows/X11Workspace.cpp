@@ -84,7 +84,7 @@ void X11Workspace::trackSpace() {
 bool X11Workspace::isAnotherProgram(xcb_window_t window) const {
     // The word of a window manager that crashed stands until its successor has one of its own.
     return m_windows.exists(window) && !m_connection->owns(window) && !qtx11::owns(window) &&
-           !m_windows.isFurniture(window);
+           !m_windows.isDockOrDesktop(window);
 }
 
 std::vector<std::uint32_t> X11Workspace::currentDesktop() const {

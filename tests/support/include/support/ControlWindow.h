@@ -15,7 +15,7 @@ namespace quorvane {
 class ControlWindow : public QWidget {
 public:
     explicit ControlWindow(ColorScheme scheme = ColorScheme::Light) {
-        setPalette(housePalette(scheme));
+        setPalette(builtInPalette(scheme));
         auto font = this->font();
         font.setPixelSize(13);
         setFont(font);

@@ -16,7 +16,7 @@ class Pixels : public testing::TestWithParam<std::tuple<ColorScheme, double>> {
 protected:
     ColorScheme scheme = std::get<0>(GetParam());
     double scale = std::get<1>(GetParam());
-    const Theme& theme = Theme::house(scheme);
+    const Theme& theme = Theme::builtIn(scheme);
     ControlWindow window{scheme};
 
     /// What a 1 point frame takes: whole device pixels.

@@ -25,8 +25,8 @@ protected:
     struct Face {
         Symbol symbol;
         QString label;
-        QColor symbolInk;
-        QColor labelInk;
+        QColor symbolColor;
+        QColor labelColor;
     };
 
     void paintControl(QPainter& painter, const Theme& theme) final;

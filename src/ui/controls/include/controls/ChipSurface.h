@@ -22,7 +22,7 @@ struct ChipSurface {
         QPainter& painter,
         const QRectF& rect,
         const Theme& theme,
-        PressableControl::Look look,
+        PressableControl::VisualState state,
         Frame frame = Frame::Plain);
 };
 

@@ -16,6 +16,6 @@ namespace quorvane {
 
 /// `color` moved in lightness, hue kept, away from `ground` until it has `ratio` against it. Black
 /// or white where no lightness reaches that.
-[[nodiscard]] QColor pushedToContrast(QColor color, const QColor& ground, double ratio);
+[[nodiscard]] QColor pushedToContrast(QColor color, const QColor& background, double ratio);
 
 } // namespace quorvane

@@ -11,7 +11,7 @@ class QPainter;
 namespace quorvane {
 
 /// How far a popover's shadow reaches beyond its surface, in points.
-inline constexpr QMargins popoverShadowReach{9, 3, 9, 15};
+inline constexpr QMargins popoverShadowMargins{9, 3, 9, 15};
 
 /// A shadow in steps, without blur.
 void paintPopoverShadow(

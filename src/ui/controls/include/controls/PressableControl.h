@@ -17,7 +17,7 @@ class PressableControl : public QAbstractButton, public FocusShaped {
     Q_OBJECT
 
 public:
-    enum class Look { Rest, Hover, Pressed };
+    enum class VisualState { Normal, Hover, Pressed };
 
     explicit PressableControl(QWidget* parent = nullptr);
 
@@ -48,7 +48,7 @@ protected:
     /// While it is disabled by itself, 0 to 1.
     [[nodiscard]] virtual double disabledOpacity() const;
 
-    [[nodiscard]] Look look() const;
+    [[nodiscard]] VisualState visualState() const;
 
     void paintEvent(QPaintEvent* event) final;
     void keyPressEvent(QKeyEvent* event) override;
@@ -56,6 +56,6 @@ protected:
 };
 
 /// What the look lays over a control's fill: nothing at rest.
-[[nodiscard]] QColor overlayFor(PressableControl::Look look, const Theme& theme);
+[[nodiscard]] QColor overlayFor(PressableControl::VisualState state, const Theme& theme);
 
 } // namespace quorvane

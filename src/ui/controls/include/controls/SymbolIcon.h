@@ -10,17 +10,17 @@
 namespace quorvane {
 
 /// What a symbol is drawn with where nobody tells the colour of the ground.
-struct SymbolInk {
-    QColor ink;
+struct SymbolColors {
+    QColor color;
     QColor halo; ///< thinly around the ink; it alone shows on a ground like it
 
     /// In the palette's text colour, whose opposite is the halo: on a bar that follows the
     /// desktop's light or dark, only the ink is seen; on one of the other tone, its outline.
-    [[nodiscard]] static SymbolInk of(const QPalette& palette);
+    [[nodiscard]] static SymbolColors of(const QPalette& palette);
 };
 
 /// The symbol as a square icon of any size, drawn anew for each size and device pixel ratio. It
 /// keeps its colours: who shows it asks for another one when the palette changes.
-[[nodiscard]] QIcon symbolIcon(Symbol symbol, const SymbolInk& ink);
+[[nodiscard]] QIcon symbolIcon(Symbol symbol, const SymbolColors& color);
 
 } // namespace quorvane

@@ -21,6 +21,6 @@ enum class TextStyle { Title, Headline, Body, Callout, Caption };
 
 /// Where the ink of a text is when it is drawn at the origin. A font's metrics say less: there ink
 /// always reaches down to the base line.
-[[nodiscard]] QRectF inkOf(const QString& text, const QFont& font);
+[[nodiscard]] QRectF foregroundOf(const QString& text, const QFont& font);
 
 } // namespace quorvane

@@ -16,44 +16,44 @@ enum class Contrast { Normal, High };
 /// Every colour of the interface. Views ask for it when they paint, so that a change of the
 /// palette shows at once.
 struct Theme {
-    QColor win;  ///< panel, preferences
-    QColor base; ///< whatever takes a press or text
-    QColor pop;  ///< popovers, menus, sheets
+    QColor windowBackground;  ///< panel, preferences
+    QColor controlBackground; ///< whatever takes a press or text
+    QColor popoverBackground; ///< popovers, menus, sheets
 
     QColor text;
-    QColor text2; ///< symbols, captions, suggestions, placeholders; at least 4.5:1
-    QColor off;   ///< what is refused
+    QColor secondaryText; ///< symbols, captions, suggestions, placeholders; at least 4.5:1
+    QColor disabledText;  ///< what is refused
 
     QColor accent; ///< fills with onAccent on top
     QColor accentHover;
-    QColor accentPress;
+    QColor accentPressed;
     QColor onAccent;
     QColor accentText; ///< the accent as ink, and as the tint of what is chosen
 
-    QColor chosenEdge;    ///< of a chosen zone
-    QColor suggestedEdge; ///< of a suggested one
-    QColor popEdge;       ///< of a popover with a shadow
+    QColor selectedBorder;  ///< of a chosen zone
+    QColor suggestedBorder; ///< of a suggested one
+    QColor popoverBorder;   ///< of a popover with a shadow
 
-    QColor sep;     ///< frames
-    QColor line;    ///< dividers inside a surface
-    QColor outline; ///< of an empty checkbox
-    QColor track;   ///< of a switch that is off
-    QColor knob;
+    QColor border;         ///< frames
+    QColor divider;        ///< dividers inside a surface
+    QColor checkBoxBorder; ///< of an empty checkbox
+    QColor switchTrack;    ///< of a switch that is off
+    QColor switchKnob;
 
-    QColor quiet; ///< fill of output and of search rows
-    QColor hover; ///< laid over a control's own fill
-    QColor press; ///< likewise
+    QColor subtleFill;   ///< fill of output and of search rows
+    QColor hoverOverlay; ///< laid over a control's own fill
+    QColor pressOverlay; ///< likewise
 
-    QColor green;
+    QColor success;
     QColor danger;
     QColor dangerHover; ///< fills under `danger`
-    QColor dangerPress;
-    QColor yellow;
-    QColor yellowEdge;
+    QColor dangerPressed;
+    QColor star;
+    QColor starBorder;
 
-    QColor capEdge;
-    QColor capShadow;
-    QColor capHighlight;          ///< transparent on light grounds
+    QColor keyCapBorder;
+    QColor keyCapShadow;
+    QColor keyCapHighlight;       ///< transparent on light grounds
     QColor scrim;                 ///< over what a sheet covers
     std::array<QColor, 6> shadow; ///< of a popover, from its edge outwards
 
@@ -63,12 +63,12 @@ struct Theme {
     /// 7:1, and every edge is as strong as text.
     [[nodiscard]] static Theme of(const QPalette& palette);
 
-    [[nodiscard]] static const Theme& house(ColorScheme scheme);
+    [[nodiscard]] static const Theme& builtIn(ColorScheme scheme);
 };
 
 /// The house's own palette, for desktops that give none; with the user's accent, if there is one,
 /// darkened or lightened until what stands on it can be read.
-[[nodiscard]] QPalette housePalette(
+[[nodiscard]] QPalette builtInPalette(
     ColorScheme scheme,
     Contrast contrast = Contrast::Normal,
     const std::optional<QColor>& accent = std::nullopt);

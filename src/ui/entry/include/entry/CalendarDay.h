@@ -51,7 +51,7 @@ private:
     void pick();
     [[nodiscard]] QRectF disc() const;
     [[nodiscard]] QColor discColor(const Theme& theme) const;
-    [[nodiscard]] QColor ink(const Theme& theme) const;
+    [[nodiscard]] QColor foreground(const Theme& theme) const;
 
     CivilDay m_day;
     Marks m_marks;

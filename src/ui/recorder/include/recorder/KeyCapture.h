@@ -49,7 +49,7 @@ public:
     void setIsRecording(bool isRecording);
 
     /// Who gets the focus that is given up; nobody if there is none.
-    void setFocusHeir(QWidget* heir) { m_heir = heir; }
+    void setNextFocus(QWidget* nextFocus) { m_nextFocus = nextFocus; }
 
     bool event(QEvent* event) override;
 
@@ -66,7 +66,7 @@ private:
 
     MainQueue& m_queue;
     Intents m_intents;
-    QPointer<QWidget> m_heir;
+    QPointer<QWidget> m_nextFocus;
     std::unique_ptr<HeldModifiers> m_held;
     std::unique_ptr<RepeatedKeys> m_repeats;
     bool m_isRecording = false;

@@ -44,7 +44,7 @@ public:
     [[nodiscard]] bool isViewable(xcb_window_t window) const;
 
     /// Part of the desktop itself: a dock (panel, taskbar) or the window behind all others.
-    [[nodiscard]] bool isFurniture(xcb_window_t window) const;
+    [[nodiscard]] bool isDockOrDesktop(xcb_window_t window) const;
 
     /// On the root, in the server's pixels; none for a window that is gone.
     [[nodiscard]] std::optional<QPoint> centreOf(xcb_window_t window) const;

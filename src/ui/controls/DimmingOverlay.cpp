@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/Contrast.h>
-#include <controls/DimmingVeil.h>
+#include <controls/DimmingOverlay.h>
 #include <controls/Theme.h>
 
 #include <QEvent>
@@ -8,14 +8,14 @@
 
 namespace quorvane {
 
-DimmingVeil::DimmingVeil(QWidget* dimmed) : QWidget(dimmed) {
+DimmingOverlay::DimmingOverlay(QWidget* dimmed) : QWidget(dimmed) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     dimmed->installEventFilter(this);
     hide();
 }
 
-void DimmingVeil::setOpacity(double opacity) {
+void DimmingOverlay::setOpacity(double opacity) {
     m_opacity = opacity;
     setGeometry(parentWidget()->rect());
     setVisible(opacity < 1);
@@ -23,7 +23,7 @@ void DimmingVeil::setOpacity(double opacity) {
     update();
 }
 
-bool DimmingVeil::eventFilter(QObject* watched, QEvent* event) {
+bool DimmingOverlay::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize)
         setGeometry(parentWidget()->rect());
     else if (event->type() == QEvent::ChildAdded)
@@ -31,9 +31,9 @@ bool DimmingVeil::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void DimmingVeil::paintEvent(QPaintEvent* /*event*/) {
+void DimmingOverlay::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), withOpacity(Theme::of(palette()).win, 1 - m_opacity));
+    painter.fillRect(rect(), withOpacity(Theme::of(palette()).windowBackground, 1 - m_opacity));
 }
 
 } // namespace quorvane

@@ -7,12 +7,12 @@ namespace quorvane {
 
 /// Shows a widget, with everything in it, at less than full opacity: the window's own ground, laid
 /// over it. Exact on the plain ground of a window alone; and what lies below costs no layer.
-class DimmingVeil final : public QWidget {
+class DimmingOverlay final : public QWidget {
     Q_OBJECT
 
 public:
     /// Over the whole of `dimmed`, whose child it becomes; off at first.
-    explicit DimmingVeil(QWidget* dimmed);
+    explicit DimmingOverlay(QWidget* dimmed);
 
     /// What is left of the widget, 0 to 1; 1 takes the veil off.
     void setOpacity(double opacity);
