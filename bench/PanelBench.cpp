@@ -35,9 +35,9 @@ double milliseconds(SteadyClock::duration span) {
 }
 
 /// The panel with everything in it, on a desktop that only remembers what it is told.
-class PanelHouse {
+class PanelFixture {
 public:
-    explicit PanelHouse(const QStringList& zones) {
+    explicit PanelFixture(const QStringList& zones) {
         std::vector<TimeZone> selected;
         for (const auto& identifier : zones)
             selected.push_back(*m_zones.zone(identifier));
@@ -133,7 +133,7 @@ QLineEdit& patternOf(QWidget& panel) {
 
 /// From a key in the pattern's field to the painted preview, with eight zones in rows.
 void typePattern(benchmark::State& state) {
-    PanelHouse house(
+    PanelFixture fixture(
         {u"America/New_York"_s,
          u"America/Los_Angeles"_s,
          u"Europe/London"_s,
@@ -171,7 +171,7 @@ void typePattern(benchmark::State& state) {
 void openPanel(benchmark::State& state) {
     std::vector<double> samples;
     for ([[maybe_unused]] const auto round : state) {
-        PanelHouse house({u"America/New_York"_s});
+        PanelFixture fixture({u"America/New_York"_s});
         const auto start = SteadyClock::now();
         builtIn.open();
         PaintWatch watch(*previewOf(builtIn.panel()).viewport());
@@ -202,7 +202,7 @@ LongOutput longOutput(std::int64_t kind) {
 /// From a very long output to the painted preview in a panel of the height that this asks for.
 void showLongOutput(benchmark::State& state) {
     const auto output = longOutput(state.range(0));
-    PanelHouse house({u"America/New_York"_s});
+    PanelFixture fixture({u"America/New_York"_s});
     builtIn.open();
     settle();
     auto& preview = previewOf(builtIn.panel());

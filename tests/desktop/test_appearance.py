@@ -36,7 +36,7 @@ class Appearance(DesktopCase):
         self.addCleanup(started.close)
         return started
 
-    def ground(self, quorvane: Quorvane) -> int:
+    def background(self, quorvane: Quorvane) -> int:
         """The colour of the panel, left of everything in it."""
         return Picture(self.display, quorvane.wait_active()).color(_INSIDE, _BELOW_HEADER)
 
@@ -46,12 +46,12 @@ class Appearance(DesktopCase):
         screen = Picture(self.display, self.display.screen().root.id)
         return screen.color(left + 2 * _INSIDE, top + height // 2)
 
-    def wait_look(self, quorvane: Quorvane, ground: int, accent: int) -> None:
+    def wait_appearance(self, quorvane: Quorvane, background: int, accent: int) -> None:
         """Waits until the panel and its Insert have these colours."""
         insert = quorvane.tree().find_role("push button", "Insert")
-        wanted = f"ground #{ground:06x}, accent #{accent:06x}"
+        wanted = f"background #{background:06x}, accent #{accent:06x}"
         wait_until(
-            lambda: (self.ground(quorvane), self.fill(insert)) == (ground, accent),
+            lambda: (self.background(quorvane), self.fill(insert)) == (background, accent),
             wanted,
             interval=0.05,
         )
@@ -60,31 +60,31 @@ class Appearance(DesktopCase):
         desktop = self.start_portal()
         desktop.set_scheme(portal.LIGHT)
         quorvane = Quorvane(self.session)
-        self.wait_look(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
         desktop.set_scheme(portal.DARK)
-        self.wait_look(quorvane, _DARK_GROUND, _DARK_ACCENT)
+        self.wait_appearance(quorvane, _DARK_GROUND, _DARK_ACCENT)
         desktop.set_accent(0x99 / 0xFF, 0, 0)
-        self.wait_look(quorvane, _DARK_GROUND, _RED)
+        self.wait_appearance(quorvane, _DARK_GROUND, _RED)
         desktop.set_scheme(portal.NO_PREFERENCE)
-        self.wait_look(quorvane, _LIGHT_GROUND, _RED)
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _RED)
         desktop.set_high_contrast(True)
-        self.wait_look(quorvane, _WHITE, _RED)
+        self.wait_appearance(quorvane, _WHITE, _RED)
         desktop.set_accent(-1, -1, -1)
         desktop.set_high_contrast(False)
-        self.wait_look(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
 
     def test_what_the_desktop_says_before_the_start_shows(self) -> None:
         desktop = self.start_portal()
         desktop.set_scheme(portal.DARK)
-        self.wait_look(Quorvane(self.session), _DARK_GROUND, _DARK_ACCENT)
+        self.wait_appearance(Quorvane(self.session), _DARK_GROUND, _DARK_ACCENT)
 
     def test_a_portal_that_comes_later_is_heard(self) -> None:
         quorvane = Quorvane(self.session)
-        self.wait_look(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
         desktop = self.start_portal()
         self.assertTrue(desktop.asked.wait(PATIENCE))
         desktop.set_scheme(portal.DARK)
-        self.wait_look(quorvane, _DARK_GROUND, _DARK_ACCENT)
+        self.wait_appearance(quorvane, _DARK_GROUND, _DARK_ACCENT)
 
     def test_without_a_portal_the_program_works(self) -> None:
         editor = self.editor()
@@ -98,7 +98,7 @@ class Appearance(DesktopCase):
         quorvane = Quorvane(self.session)
         quorvane.wait_active()
         self.assertTrue(desktop.asked.wait(PATIENCE))
-        self.wait_look(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
         quorvane.hide()
         editor.wait_active()
         self.insert(quorvane, editor)

@@ -30,7 +30,7 @@ class Keymap(DesktopCase):
                 self.clipboard.wait_empty()
 
     def let_notice(self, quorvane: Quorvane) -> None:
-        """The news of the layout reach the program before what it does next is seen."""
+        """Waits until the program has received the change of the layout."""
         for _ in range(2):
             quorvane.action("toggle")
             quorvane.wait_active()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The road through the popover at the icon, and from one presentation to the other."""
+"""The workflow through the popover at the icon, and from one presentation to the other."""
 
 import json
 

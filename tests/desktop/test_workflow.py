@@ -9,8 +9,8 @@ from harness.offer import plain_text
 _ROUNDS = 20
 
 
-class Road(DesktopCase):
-    """The way that every insertion takes."""
+class Workflow(DesktopCase):
+    """What every insertion goes through, from the shortcut to the text."""
 
     def test_every_text_arrives_in_a_gtk_editor(self) -> None:
         self.walk("mousepad")

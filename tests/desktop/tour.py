@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Quorvane's road once, on a desktop made for the occasion: for machines without a display."""
+"""Runs Quorvane's whole workflow once on a private virtual desktop."""
 
 from harness import screenshot, tray
 from harness.clipboard import Clipboard
@@ -14,7 +14,7 @@ _COPIED = "something that the user copied earlier"
 
 
 def main() -> None:
-    """Shows, in text and pictures, what a user gets."""
+    """Prints each step and saves pictures of it."""
     pictures = TREE / "build" / "tour"
     pictures.mkdir(parents=True, exist_ok=True)
     with Session("openbox") as session:

@@ -46,6 +46,15 @@ QJsonValue optionalText(const std::optional<QString>& text) {
     return text ? QJsonValue(*text) : QJsonValue::Null;
 }
 
+/// The zones that a query finds by an alias or by their identifier, whatever the locale.
+QStringList foundByAliasOrIdentifier(const VectorRow& row) {
+    // Sets of rows made before the field had its name call it so.
+    constexpr auto formerName = "by_rules_1_2";
+    return row.texts(
+        row.fields().contains(QLatin1StringView(formerName)) ? formerName
+                                                             : "by_alias_or_identifier");
+}
+
 /// Which zones a search lacks, and which it should not have found, in one of the row's seasons.
 QJsonObject searchFaults(const VectorRow& row, const char* seasonName) {
     const VectorRow season(row.value(seasonName).toObject(), row.zones());
@@ -55,7 +64,7 @@ QJsonObject searchFaults(const VectorRow& row, const char* seasonName) {
     for (const auto& zone : search.filtered(row.text("query"), now))
         found.insert(zone.identifier());
 
-    const auto required = setOf(row.texts("by_rules_1_2") + season.texts("also"));
+    const auto required = setOf(foundByAliasOrIdentifier(row) + season.texts("also"));
     const auto maybe = setOf(season.texts("maybe"));
     std::set<QString> missing;
     std::set<QString> surplus;

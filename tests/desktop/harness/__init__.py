@@ -1,2 +1,2 @@
 # SPDX-License-Identifier: MIT
-"""A private desktop for each test process, and the hands and eyes of a user on it."""
+"""A private desktop for each test process, driven and inspected as a user would."""

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The common ground of the desktop's test cases."""
+"""What the desktop test cases have in common."""
 
 import os
 import sys
@@ -55,7 +55,7 @@ class DesktopCase(unittest.TestCase):
         quorvane.wait_active()
 
     def insert(self, quorvane: Quorvane, target: Target) -> str:
-        """Walks the road from the shortcut to the text in the target, and returns the text."""
+        """Runs the workflow from the shortcut to the text in the target, and returns the text."""
         before = target.text()
         self.summon(quorvane)
         text = quorvane.preview()

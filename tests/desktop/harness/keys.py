@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A user's hands: keys that the X server takes for real ones."""
+"""Key events that the X server treats as those of a real keyboard."""
 
 from collections.abc import Iterator
 from contextlib import contextmanager

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The desktop's settings portal, as far as it tells how programs should look."""
+"""The desktop's settings portal, with what it says about the appearance of programs."""
 
 import threading
 from typing import Any

@@ -105,12 +105,12 @@ class Tray:
             screen = Picture(display, display.screen().root.id)
         finally:
             display.close()
-        # An empty panel has a border line and a ground, and no more than a few shades of either.
-        reach = _SIZE // 4
+        # An empty panel has a border line and a background, in a few shades.
+        half = _SIZE // 4
         seen = {
             screen.color(x + across, y + down)
-            for across in range(-reach, reach)
-            for down in range(-reach, reach)
+            for across in range(-half, half)
+            for down in range(-half, half)
         }
         return len(seen) > 4
 
