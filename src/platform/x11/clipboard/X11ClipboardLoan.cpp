@@ -72,11 +72,11 @@ void X11ClipboardLoan::refreshQtTime(const QWindow& window) {
 // Qt takes note of an event's time after its filters: we lend before the next event, which may be
 // the key that pastes, or else on the next turn.
 bool X11ClipboardLoan::nativeEventFilter(const QByteArray& kind, void* message, qintptr*) {
-    if (kind != "xcb_generic_event_t")
+    const auto* event = qtx11::eventIn(kind, message);
+    if (event == nullptr)
         return false;
     lend();
-    const auto* change =
-        eventAs<xcb_property_notify_event_t>(*static_cast<const xcb_generic_event_t*>(message));
+    const auto* change = eventAs<xcb_property_notify_event_t>(*event);
     if (change != nullptr && change->atom == m_connection->atom(timeProperty)) {
         m_qtTime = change->time;
         m_lending = m_queue.after(Seconds(0), [this] { lend(); });

@@ -83,7 +83,7 @@ bool X11Pasteboard::frontWindowPastesFromPrimary() const {
 X11PasteboardSave::Source
 X11Pasteboard::sourceOf(const X11SelectionOwner& owner, QClipboard::Mode mode) const {
     // The server knows of an owner after us before we do.
-    const auto window = owner.ownerWindow();
+    const auto window = m_connection->selectionOwner(owner.selection());
     if (const auto* content = owner.content(); content != nullptr && m_connection->owns(window))
         return {owner.selection(), content->item()};
     if (window == XCB_WINDOW_NONE)
@@ -94,10 +94,8 @@ X11Pasteboard::sourceOf(const X11SelectionOwner& owner, QClipboard::Mode mode) c
 }
 
 bool X11Pasteboard::hasClipboardManager() const {
-    auto* xcb = m_connection->xcb();
-    const XcbReply<xcb_get_selection_owner_reply_t> manager(xcb_get_selection_owner_reply(
-        xcb, xcb_get_selection_owner(xcb, m_connection->atom("CLIPBOARD_MANAGER")), nullptr));
-    return manager && manager->owner != XCB_WINDOW_NONE;
+    const auto manager = m_connection->atom("CLIPBOARD_MANAGER");
+    return m_connection->selectionOwner(manager) != XCB_WINDOW_NONE;
 }
 
 // PRIMARY is ours only while something has to stand there.

@@ -82,7 +82,7 @@ void X11SelectionConversion::finish(std::optional<X11PropertyValue> value) {
 
 std::optional<X11PropertyValue> X11SelectionConversion::takeProperty() {
     auto& connection = *m_inbox.connection();
-    auto value = readPropertyValue(connection, m_inbox.window(), m_property, AfterReading::Delete);
+    auto value = readPropertyValue(connection, m_inbox.window(), m_property, {.deletes = true});
     connection.flush();
     return value;
 }

@@ -52,7 +52,7 @@ void X11SelectionOwner::own(PasteboardItem item) {
     m_since = m_clock.now();
     xcb_set_selection_owner(m_connection->xcb(), m_window.id(), m_selection, m_since);
     // The server says nothing when it refuses.
-    if (ownerWindow() == m_window.id())
+    if (isOwner())
         m_content.emplace(*m_connection, std::move(item));
     else
         qCDebug(lcOwner, "another program took selection %u first", m_selection);
@@ -65,21 +65,18 @@ void X11SelectionOwner::empty() {
 }
 
 void X11SelectionOwner::giveUp() {
-    if (m_content && ownerWindow() == m_window.id())
+    if (m_content && isOwner())
         empty();
 }
 
-xcb_window_t X11SelectionOwner::ownerWindow() const {
-    auto* xcb = m_connection->xcb();
-    const XcbReply<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(xcb, xcb_get_selection_owner(xcb, m_selection), nullptr));
-    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+bool X11SelectionOwner::isOwner() const {
+    return m_connection->selectionOwner(m_selection) == m_window.id();
 }
 
 void X11SelectionOwner::handle(const xcb_generic_event_t& event) {
     const auto* loss = eventAs<xcb_selection_clear_event_t>(event);
     // The loss may be one that we caused ourselves before we owned it again.
-    if (loss != nullptr && loss->owner == m_window.id() && ownerWindow() != m_window.id())
+    if (loss != nullptr && loss->owner == m_window.id() && !isOwner())
         m_content.reset();
     const auto* request = eventAs<xcb_selection_request_event_t>(event);
     if (request != nullptr && request->owner == m_window.id())
@@ -107,7 +104,7 @@ bool X11SelectionOwner::serve(const xcb_selection_request_event_t& request, xcb_
 
 // ICCCM 2.6.2: pairs of a target and a property; a target that cannot be served becomes None.
 bool X11SelectionOwner::convertAll(xcb_window_t requestor, xcb_atom_t property) {
-    const auto value = readPropertyValue(*m_connection, requestor, property, AfterReading::Keep);
+    const auto value = readPropertyValue(*m_connection, requestor, property);
     if (!value || value->unitBits != 32)
         return false;
     auto pairs = unitsOf(*value);

@@ -7,15 +7,14 @@
 #include <QLoggingCategory>
 
 #include <utility>
+#include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
 
 namespace quorvane {
 
 namespace {
 
 Q_LOGGING_CATEGORY(lcTap, "quorvane.tap", QtFatalMsg)
-
-// The highest bit marks events that another client sent by SendEvent.
-constexpr std::uint8_t eventTypeMask = 0x7f;
 
 } // namespace
 
@@ -55,29 +54,26 @@ void X11EventTap::disable() {
     updateGrab();
 }
 
-bool X11EventTap::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
-    if (!m_grab || eventType != QByteArrayView("xcb_generic_event_t"))
+bool X11EventTap::nativeEventFilter(const QByteArray& kind, void* message, qintptr*) {
+    const auto* event = qtx11::eventIn(kind, message);
+    if (!m_grab || event == nullptr)
         return false;
-    const auto& event = *static_cast<const xcb_generic_event_t*>(message);
-    if ((event.response_type & eventTypeMask) != XCB_KEY_PRESS)
-        return false;
-    const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(event);
+    const auto* press = eventAs<xcb_key_press_event_t>(*event);
     // One that the grab has handed on was decided about already.
-    if (!isWatched(press) || press.time == m_lastDecision)
+    if (press == nullptr || !isWatched(*press) || press->time == m_lastDecision)
         return false;
-    return decide(press) == TapVerdict::Swallow;
+    return decide(*press) == TapVerdict::Swallow;
 }
 
 void X11EventTap::handleEvent(const xcb_generic_event_t& event) {
-    const auto type = event.response_type & eventTypeMask;
-    if (type == XCB_MAPPING_NOTIFY)
+    if (eventAs<xcb_mapping_notify_event_t>(event) != nullptr)
         return m_mapRefresh.schedule();
-    if (type != XCB_KEY_PRESS || !m_grab || !m_grab->canHaveSent(event))
+    const auto* press = eventAs<xcb_key_press_event_t>(event);
+    if (press == nullptr || !m_grab || !m_grab->canHaveSent(event))
         return;
-    const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(event);
     if (m_postedKeys->caused(event))
-        return m_grab->replay(press.time);
-    answerGrab(press);
+        return m_grab->replay(press->time);
+    answerGrab(*press);
 }
 
 void X11EventTap::answerGrab(const xcb_key_press_event_t& press) {

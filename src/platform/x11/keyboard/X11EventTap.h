@@ -39,7 +39,7 @@ public:
     [[nodiscard]] bool isDelivering() const override { return m_grab != nullptr; }
 
 private:
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+    bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
     void handleEvent(const xcb_generic_event_t& event);
     void answerGrab(const xcb_key_press_event_t& press);
     [[nodiscard]] TapVerdict decide(const xcb_key_press_event_t& press);

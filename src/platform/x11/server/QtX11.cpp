@@ -2,8 +2,9 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <cstdlib>
 #include <x11_server/QtX11.h>
-#include <x11_server/XcbReply.h>
+#include <x11_server/XcbRequests.h>
 
 namespace quorvane::qtx11 {
 
@@ -15,12 +16,23 @@ xcb_connection_t* connection() {
     return x11 != nullptr ? x11->connection() : nullptr;
 }
 
+int screenNumber() {
+    int screen = 0;
+    char* host = nullptr;
+    int display = 0;
+    if (xcb_parse_display(nullptr, &host, &display, &screen) != 0)
+        std::free(host);
+    return screen;
+}
+
+const xcb_generic_event_t* eventIn(const QByteArray& kind, const void* message) {
+    return kind == "xcb_generic_event_t" ? static_cast<const xcb_generic_event_t*>(message)
+                                         : nullptr;
+}
+
 bool owns(xcb_window_t window) {
     auto* qt = connection();
-    if (qt == nullptr)
-        return false;
-    const auto* setup = xcb_get_setup(qt);
-    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+    return qt != nullptr && xcbrequests::owns(qt, window);
 }
 
 QScreen* screenAt(QPoint pixel) {
@@ -35,11 +47,8 @@ QScreen* screenAt(QPoint pixel) {
 }
 
 void waitForServer() {
-    auto* qt = connection();
-    if (qt == nullptr)
-        return;
-    const XcbReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(qt, xcb_get_input_focus(qt), nullptr));
+    if (auto* qt = connection())
+        xcbrequests::waitForServer(qt);
 }
 
 } // namespace quorvane::qtx11

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 #include <x11_server/X11Connection.h>
+#include <x11_server/XcbRequests.h>
 
 namespace quorvane {
 
@@ -66,17 +67,13 @@ X11Connection::~X11Connection() {
 }
 
 bool X11Connection::owns(xcb_window_t window) const {
-    const auto* setup = xcb_get_setup(m_connection);
-    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+    return xcbrequests::owns(m_connection, window);
 }
 
 xcb_atom_t X11Connection::atom(const char* name) {
     if (const auto known = m_atoms.find(name); known != m_atoms.end())
         return known->second;
-    const auto length = static_cast<std::uint16_t>(std::char_traits<char>::length(name));
-    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-        m_connection, xcb_intern_atom(m_connection, 0, length, name), nullptr));
-    const auto atom = reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    const auto atom = xcbrequests::atom(m_connection, name);
     if (atom != XCB_ATOM_NONE)
         m_atoms.emplace(name, atom);
     return atom;
@@ -95,6 +92,10 @@ QString X11Connection::atomName(xcb_atom_t atom) {
         xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get()));
 }
 
+xcb_window_t X11Connection::selectionOwner(xcb_atom_t selection) const {
+    return xcbrequests::selectionOwner(m_connection, selection);
+}
+
 X11Connection::Subscription X11Connection::subscribe(EventHandler handler) {
     auto shared = std::make_shared<EventHandler>(std::move(handler));
     m_handlers.push_back(shared);
@@ -106,8 +107,7 @@ void X11Connection::flush() {
 }
 
 void X11Connection::waitForServer() {
-    const XcbReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    xcbrequests::waitForServer(m_connection);
 }
 
 bool X11Connection::succeeded(xcb_void_cookie_t checkedRequest) {

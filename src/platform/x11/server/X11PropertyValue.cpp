@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <cstring>
-#include <limits>
 #include <x11_server/X11PropertyValue.h>
 
 namespace quorvane {
@@ -25,17 +24,15 @@ std::vector<std::uint32_t> unitsOf(const X11PropertyValue& value) {
 }
 
 std::optional<X11PropertyValue> readPropertyValue(
-    const X11Connection& connection, xcb_window_t window, xcb_atom_t property, AfterReading after) {
-    // Counted in units of 32 bits; the server multiplies it by four.
-    constexpr std::uint32_t wholeLength = std::numeric_limits<std::int32_t>::max() / 4;
+    const X11Connection& connection, xcb_window_t window, xcb_atom_t property, X11Reading reading) {
     const auto cookie = xcb_get_property(
         connection.xcb(),
-        after == AfterReading::Delete,
+        reading.deletes ? 1 : 0,
         window,
         property,
         XCB_GET_PROPERTY_TYPE_ANY,
         0,
-        wholeLength);
+        reading.maxLength);
     const XcbReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection.xcb(), cookie, nullptr));
     if (!reply || reply->type == XCB_ATOM_NONE)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <x11_server/X11PropertyValue.h>
 #include <x11_windows/X11WindowStates.h>
 
 namespace quorvane {
@@ -17,15 +18,11 @@ void X11WindowStates::write(xcb_window_t window, const Pair& states, Change chan
         if (change == Change::Add)
             present.push_back(state);
     }
-    xcb_change_property(
-        m_connection->xcb(),
-        XCB_PROP_MODE_REPLACE,
+    writePropertyValue(
+        *m_connection,
         window,
         m_connection->atom(stateProperty),
-        XCB_ATOM_ATOM,
-        32,
-        static_cast<std::uint32_t>(present.size()),
-        present.data());
+        propertyValue(XCB_ATOM_ATOM, present));
 }
 
 void X11WindowStates::request(xcb_window_t window, const Pair& states, Change change) const {

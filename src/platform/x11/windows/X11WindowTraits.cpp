@@ -4,7 +4,7 @@
 
 #include <utility>
 #include <x11_server/QtX11.h>
-#include <x11_server/XcbReply.h>
+#include <x11_server/X11PropertyValue.h>
 #include <x11_windows/X11WindowTraits.h>
 
 namespace quorvane {
@@ -51,10 +51,7 @@ void X11WindowTraits::setActivationPolicy(ActivationPolicy policy) {
 bool X11WindowTraits::isComposited() const {
     // The running compositing manager of a screen owns this selection (EWMH, _NET_WM_CM_Sn).
     const auto name = QStringLiteral("_NET_WM_CM_S%1").arg(m_connection->screenNumber());
-    const auto cookie = xcb_get_selection_owner(m_connection->xcb(), m_connection->atom(name));
-    const XcbReply<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(m_connection->xcb(), cookie, nullptr));
-    return reply && reply->owner != XCB_WINDOW_NONE;
+    return m_connection->selectionOwner(m_connection->atom(name)) != XCB_WINDOW_NONE;
 }
 
 bool X11WindowTraits::eventFilter(QObject* watched, QEvent* event) {
@@ -77,15 +74,8 @@ void X11WindowTraits::preparePanel(QWindow& window) {
     qtx11::waitForServer();
     // The state for the window managers that ignore the desktop of a window not yet mapped, the
     // desktop for those that know no sticky windows.
-    xcb_change_property(
-        m_connection->xcb(),
-        XCB_PROP_MODE_REPLACE,
-        id,
-        m_connection->atom("_NET_WM_DESKTOP"),
-        XCB_ATOM_CARDINAL,
-        32,
-        1,
-        &allDesktops);
+    const auto desktop = m_connection->atom("_NET_WM_DESKTOP");
+    writePropertyValue(*m_connection, id, desktop, propertyValue(XCB_ATOM_CARDINAL, {allDesktops}));
     m_states.write(id, panelStates, X11WindowStates::Change::Add);
     m_connection->waitForServer();
 }

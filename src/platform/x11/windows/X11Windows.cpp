@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <span>
 #include <utility>
+#include <x11_server/X11PropertyValue.h>
 #include <x11_windows/X11Windows.h>
 
 namespace quorvane {
@@ -11,16 +11,6 @@ namespace {
 // Lengths of properties are counted in units of 32 bits.
 constexpr std::uint32_t maxValues = 64;
 constexpr std::uint32_t maxTextLength = 1024;
-
-XcbReply<xcb_get_property_reply_t> readProperty(
-    xcb_connection_t* connection,
-    xcb_window_t window,
-    xcb_atom_t property,
-    xcb_atom_t type,
-    std::uint32_t length) {
-    const auto cookie = xcb_get_property(connection, 0, window, property, type, 0, length);
-    return XcbReply<xcb_get_property_reply_t>(xcb_get_property_reply(connection, cookie, nullptr));
-}
 
 XcbReply<xcb_get_window_attributes_reply_t>
 attributesOf(xcb_connection_t* connection, xcb_window_t window) {
@@ -55,15 +45,12 @@ xcb_window_t X11Windows::inputFocus() const {
 }
 
 QStringList X11Windows::classOf(xcb_window_t window) const {
-    const auto reply = readProperty(
-        m_connection->xcb(), window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, maxTextLength);
-    if (!reply || reply->format != 8)
+    const auto value =
+        readPropertyValue(*m_connection, window, XCB_ATOM_WM_CLASS, {.maxLength = maxTextLength});
+    if (!value || value->type != XCB_ATOM_STRING || value->unitBits != 8)
         return {};
-    const auto text = QByteArray::fromRawData(
-        static_cast<const char*>(xcb_get_property_value(reply.get())),
-        xcb_get_property_value_length(reply.get()));
     QStringList names;
-    for (const auto& name : text.split('\0')) {
+    for (const auto& name : value->bytes.split('\0')) {
         if (!name.isEmpty())
             names.append(QString::fromLatin1(name));
     }
@@ -100,13 +87,9 @@ std::optional<QPoint> X11Windows::centreOf(xcb_window_t window) const {
 
 std::vector<std::uint32_t>
 X11Windows::values(xcb_window_t window, const char* property, xcb_atom_t type) const {
-    const auto reply =
-        readProperty(m_connection->xcb(), window, m_connection->atom(property), type, maxValues);
-    if (!reply || reply->format != 32)
-        return {};
-    const std::span read(
-        static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get())), reply->value_len);
-    return {read.begin(), read.end()};
+    const auto value = readPropertyValue(
+        *m_connection, window, m_connection->atom(property), {.maxLength = maxValues});
+    return value && value->type == type ? unitsOf(*value) : std::vector<std::uint32_t>();
 }
 
 void X11Windows::requestOfManager(

@@ -3,6 +3,7 @@
 
 #include <utility>
 #include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
 #include <x11_windows/X11Workspace.h>
 
 namespace quorvane {
@@ -52,14 +53,12 @@ void X11Workspace::onActiveSpaceChanged(std::function<void()> handler) {
 }
 
 void X11Workspace::handleEvent(const xcb_generic_event_t& event) {
-    if (event.response_type != XCB_PROPERTY_NOTIFY)
+    const auto* change = eventAs<xcb_property_notify_event_t>(event);
+    if (change == nullptr || change->window != m_connection->root())
         return;
-    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-    if (change.window != m_connection->root())
-        return;
-    if (change.atom == m_connection->atom("_NET_ACTIVE_WINDOW"))
+    if (change->atom == m_connection->atom("_NET_ACTIVE_WINDOW"))
         trackActiveWindow();
-    else if (change.atom == m_connection->atom("_NET_CURRENT_DESKTOP"))
+    else if (change->atom == m_connection->atom("_NET_CURRENT_DESKTOP"))
         trackSpace();
 }
 

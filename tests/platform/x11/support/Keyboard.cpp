@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <string_view>
 #include <x11_server/XcbReply.h>
+#include <x11_server/XcbRequests.h>
 
 #define explicit explicit_
 #include <xcb/xkb.h>
@@ -22,11 +23,6 @@ namespace {
 
 constexpr std::uint16_t evdevOffset = 8;
 constexpr int modifierCount = 8;
-
-void waitForServer(xcb_connection_t* connection) {
-    const XcbReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
-}
 
 } // namespace
 
@@ -77,7 +73,7 @@ void Keyboard::setLayout(const QString& layout, const QString& options) {
 
 void Keyboard::useGroup(std::uint8_t group) {
     xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
-    waitForServer(m_connection);
+    xcbrequests::waitForServer(m_connection);
 }
 
 void Keyboard::swapModifiers(std::size_t one, std::size_t other) {
@@ -130,7 +126,7 @@ void Keyboard::fake(std::uint8_t coreEvent, std::uint16_t evdevCode) {
         0,
         0,
         device);
-    waitForServer(m_connection);
+    xcbrequests::waitForServer(m_connection);
 }
 
 std::uint8_t Keyboard::physicalKeyboard() const {

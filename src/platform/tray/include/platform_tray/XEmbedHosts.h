@@ -24,10 +24,10 @@ public:
 
     [[nodiscard]] bool isThere() const { return m_isThere; }
 
-    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+    bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
 
 Q_SIGNALS:
-    /// On a turn of the main loop of its own, not in the midst of Qt's events.
+    /// In an iteration of the event loop of its own, not while Qt filters events.
     void changed();
 
 private:

@@ -14,7 +14,7 @@
 
 namespace quorvane {
 
-/// Owns one selection, from time to time, and answers those that ask for it (ICCCM 2).
+/// Can own one selection, and answers those that ask for it while it does (ICCCM 2).
 class X11SelectionOwner {
 public:
     /// Queue and clock must outlive it.
@@ -43,10 +43,9 @@ public:
     /// The server's time as of which we took the selection last.
     [[nodiscard]] xcb_timestamp_t since() const { return m_since; }
 
-    /// The window that owns the selection, of any program; XCB_WINDOW_NONE for none.
-    [[nodiscard]] xcb_window_t ownerWindow() const;
-
 private:
+    /// As the server has it, which knows of a new owner before we do.
+    [[nodiscard]] bool isOwner() const;
     void handle(const xcb_generic_event_t& event);
     void answer(const xcb_selection_request_event_t& request);
     [[nodiscard]] bool serve(const xcb_selection_request_event_t& request, xcb_atom_t property);

@@ -56,6 +56,9 @@ public:
     /// Empty for an atom that the server does not know.
     [[nodiscard]] QString atomName(xcb_atom_t atom);
 
+    /// The window that owns the selection, of any program; XCB_WINDOW_NONE for none.
+    [[nodiscard]] xcb_window_t selectionOwner(xcb_atom_t selection) const;
+
     /// Every event and error of this connection, in order, on the main loop. A handler may
     /// subscribe and unsubscribe others.
     [[nodiscard]] Subscription subscribe(EventHandler handler);

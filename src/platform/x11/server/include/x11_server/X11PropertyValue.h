@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 #include <x11_server/X11Connection.h>
@@ -24,14 +25,22 @@ propertyValue(xcb_atom_t type, const std::vector<std::uint32_t>& units);
 /// The units of a value; none if they are not of 32 bits.
 [[nodiscard]] std::vector<std::uint32_t> unitsOf(const X11PropertyValue& value);
 
-enum class AfterReading { Keep, Delete };
+/// How a property is read.
+struct X11Reading {
+    bool deletes = false; ///< only a value that is read to its end is deleted
+    /// At most so many units of 32 bits; the server multiplies them by four.
+    std::uint32_t maxLength = std::numeric_limits<std::int32_t>::max() / 4;
+};
 
 /// None where there is no such property, or no such window.
 [[nodiscard]] std::optional<X11PropertyValue> readPropertyValue(
-    const X11Connection& connection, xcb_window_t window, xcb_atom_t property, AfterReading after);
+    const X11Connection& connection,
+    xcb_window_t window,
+    xcb_atom_t property,
+    X11Reading reading = {});
 
-/// In one request: the value must not be longer than the server takes in one. A window that is gone
-/// is let be.
+/// In one request: the value must not be longer than the server takes in one. Does nothing
+/// if the window no longer exists.
 void writePropertyValue(
     const X11Connection& connection,
     xcb_window_t window,

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include <cstdint>
+#include <x11_server/XcbReply.h>
+#include <x11_server/XcbRequests.h>
+
+namespace quorvane::xcbrequests {
+
+bool owns(xcb_connection_t* connection, xcb_window_t window) {
+    const auto* setup = xcb_get_setup(connection);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
+void waitForServer(xcb_connection_t* connection) {
+    const XcbReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+}
+
+xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
+    const auto length = static_cast<std::uint16_t>(name.size());
+    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        connection, xcb_intern_atom(connection, 0, length, name.data()), nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+xcb_window_t selectionOwner(xcb_connection_t* connection, xcb_atom_t selection) {
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
+        connection, xcb_get_selection_owner(connection, selection), nullptr));
+    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+} // namespace quorvane::xcbrequests
