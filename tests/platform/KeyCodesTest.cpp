@@ -75,6 +75,23 @@ TEST(KeyCodes, AreOneToOneWithTheKernels) {
     }
 }
 
+TEST(KeyCodes, HaveScanCodesEightAboveTheKernels) {
+    for (const auto& row : rows) {
+        const std::uint32_t scanCode = row.evdevCode + 8U;
+        EXPECT_EQ(scanCodeFromKeyCode(row.keyCode), scanCode) << "HID usage " << row.usage;
+        EXPECT_EQ(keyCodeFromScanCode(scanCode), row.keyCode) << "HID usage " << row.usage;
+    }
+    EXPECT_EQ(keyCodeFromScanCode(127), 0x100U + 119) << "Pause, which has no code of its own";
+}
+
+TEST(KeyCodes, AreNoneForScanCodesThatNoKeyHas) {
+    EXPECT_EQ(keyCodeFromScanCode(0), std::nullopt) << "an event that came from no keyboard";
+    EXPECT_EQ(keyCodeFromScanCode(8), std::nullopt) << "the kernel's KEY_RESERVED";
+    EXPECT_EQ(keyCodeFromScanCode(KEY_MAX + 9), std::nullopt);
+    EXPECT_EQ(keyCodeFromScanCode(0xffffffff), std::nullopt);
+    EXPECT_EQ(scanCodeFromKeyCode(0x34), std::nullopt) << "a gap in the numbering";
+}
+
 TEST(KeyCodes, ThatNameNoKeyGiveNone) {
     EXPECT_EQ(evdevFromKeyCode(0x34), std::nullopt) << "a gap in the numbering";
     EXPECT_EQ(evdevFromKeyCode(0x7f), std::nullopt);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "LocalKeyMonitor.h"
 
-#include "EntryKeyCodes.h"
-
 #include <platform/KeyCodes.h>
 
 #include <QCoreApplication>
@@ -14,9 +12,6 @@
 namespace quorvane {
 
 namespace {
-
-// X11's keycodes, which Wayland keymaps keep, are the kernel's plus this (XKB's evdev rules).
-constexpr quint32 firstKeycode = 8;
 
 /// For a key press that came from no keyboard and so has no position.
 std::optional<std::uint32_t> keyCodeOfMeaning(int key) {
@@ -38,10 +33,8 @@ std::optional<std::uint32_t> keyCodeOfMeaning(int key) {
 }
 
 std::optional<std::uint32_t> keyCodeOf(const QKeyEvent& event) {
-    const auto scanCode = event.nativeScanCode();
-    if (scanCode <= firstKeycode)
-        return keyCodeOfMeaning(event.key());
-    return keyCodeFromEvdev(static_cast<std::uint16_t>(scanCode - firstKeycode));
+    const auto keyCode = keyCodeFromScanCode(event.nativeScanCode());
+    return keyCode ? keyCode : keyCodeOfMeaning(event.key());
 }
 
 } // namespace

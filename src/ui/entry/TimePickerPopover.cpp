@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TimePickerPopover.h"
 
-#include "EntryKeyCodes.h"
-
 #include <controls/SegmentedChip.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <platform/KeyCodes.h>
 
 #include <QHBoxLayout>
 #include <QPainter>

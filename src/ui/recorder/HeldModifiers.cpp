@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "HeldModifiers.h"
 
-#include "ScanCodes.h"
+#include <platform/KeyCodes.h>
 
 #include <QKeyEvent>
-
-#include <linux/input-event-codes.h>
 
 namespace quorvane {
 
@@ -20,8 +18,8 @@ constexpr quint32 keysymIsoLevel5Lock = 0xfe13;
 constexpr quint32 nativeLockMask = 1U << 1; ///< the core protocol's Lock, which is Caps Lock
 
 bool isAltPosition(const QKeyEvent& event) {
-    return event.nativeScanCode() == firstScanCode + KEY_LEFTALT ||
-           event.nativeScanCode() == firstScanCode + KEY_RIGHTALT;
+    const auto keyCode = keyCodeFromScanCode(event.nativeScanCode());
+    return keyCode == keycode::leftOption || keyCode == keycode::rightOption;
 }
 
 bool shiftsLevelOrGroup(const QKeyEvent& event) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "HeldModifiers.h"
 #include "RepeatedKeys.h"
-#include "ScanCodes.h"
 
 #include <platform/KeyCodes.h>
 #include <recorder/KeyCapture.h>
@@ -17,10 +16,7 @@ namespace {
 
 /// None for a press that came from no keyboard and so has no position.
 std::optional<std::uint32_t> keyCodeOf(const QKeyEvent& event) {
-    const auto scanCode = event.nativeScanCode();
-    if (scanCode <= firstScanCode)
-        return std::nullopt;
-    return keyCodeFromEvdev(static_cast<std::uint16_t>(scanCode - firstScanCode));
+    return keyCodeFromScanCode(event.nativeScanCode());
 }
 
 /// By its place, as all keys go here, and by its name: whoever has moved Escape elsewhere needs a

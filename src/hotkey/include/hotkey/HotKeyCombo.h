@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/KeyCodes.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/ModifierFlags.h>
 
@@ -39,7 +40,7 @@ inline constexpr std::uint32_t control = 0x1000;
 /// The global shortcut: a key by its position and a set of modifiers.
 struct HotKeyCombo {
     /// Control, Shift and Command with the key that carries D on an ANSI keyboard.
-    static constexpr std::uint32_t defaultKeyCode = 2;
+    static constexpr std::uint32_t defaultKeyCode = keycode::d;
     static constexpr std::uint32_t defaultModifiers = 0x1300;
 
     static constexpr QStringView keyCodeKey = u"hotKeyCode";

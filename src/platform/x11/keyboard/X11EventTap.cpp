@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "X11EventTap.h"
 
-#include "X11Keycodes.h"
+#include <platform/KeyCodes.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
+#include <limits>
 #include <utility>
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Events.h>
@@ -15,6 +16,14 @@ namespace quorvane {
 namespace {
 
 Q_LOGGING_CATEGORY(lcTap, "quorvane.tap", QtFatalMsg)
+
+/// None for a key that X cannot name, which has only one byte for it.
+std::optional<xcb_keycode_t> x11KeycodeOf(std::uint32_t keyCode) {
+    const auto scanCode = scanCodeFromKeyCode(keyCode);
+    if (!scanCode || *scanCode > std::numeric_limits<xcb_keycode_t>::max())
+        return std::nullopt;
+    return static_cast<xcb_keycode_t>(*scanCode);
+}
 
 } // namespace
 
@@ -88,9 +97,12 @@ void X11EventTap::answerGrab(const xcb_key_press_event_t& press) {
 }
 
 TapVerdict X11EventTap::decide(const xcb_key_press_event_t& press) {
+    const auto keyCode = keyCodeFromScanCode(press.detail);
+    if (!keyCode)
+        return TapVerdict::Pass;
     m_lastDecision = press.time;
     m_connection->noteUserTime(press.time);
-    return m_handler({keyCodeFromX11(press.detail), m_modifiers.flagsOf(press.state)});
+    return m_handler({*keyCode, m_modifiers.flagsOf(press.state)});
 }
 
 bool X11EventTap::isWatched(const xcb_key_press_event_t& press) const {
@@ -102,7 +114,7 @@ bool X11EventTap::isWatched(const xcb_key_press_event_t& press) const {
 std::optional<X11KeyGrab::Combination> X11EventTap::wantedCombination() const {
     if (!m_enabled || !m_watched)
         return std::nullopt;
-    const auto keycode = x11KeycodeFrom(m_watched->keyCode);
+    const auto keycode = x11KeycodeOf(m_watched->keyCode);
     const auto mask = m_modifiers.maskOf(m_watched->flags);
     if (!keycode || !mask) {
         qCInfo(lcTap, "this keyboard has no such shortcut");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "X11Keycodes.h"
+#include <platform/KeyCodes.h>
 
 #include <utility>
 #include <x11_keyboard/X11KeyboardLayout.h>
@@ -19,8 +19,8 @@ X11KeyboardLayout::X11KeyboardLayout(std::shared_ptr<X11Keymap> keymap)
 std::optional<std::u16string> X11KeyboardLayout::characters(std::uint16_t keyCode) const {
     if (!m_keymap)
         return std::nullopt;
-    const auto keycode = x11KeycodeFrom(keyCode);
-    return keycode ? m_keymap->characters(*keycode).substr(0, maxUnits) : std::u16string();
+    const auto scanCode = scanCodeFromKeyCode(keyCode);
+    return scanCode ? m_keymap->characters(*scanCode).substr(0, maxUnits) : std::u16string();
 }
 
 void X11KeyboardLayout::onChanged(std::function<void()> handler) {

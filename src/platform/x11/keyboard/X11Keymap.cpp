@@ -129,7 +129,7 @@ xkb_layout_index_t X11Keymap::groupInUse() const {
     return state ? state->group : xkb_layout_index_t{0};
 }
 
-std::u16string X11Keymap::characters(xcb_keycode_t keycode) const {
+std::u16string X11Keymap::characters(xkb_keycode_t keycode) const {
     const int length = xkb_state_key_get_utf8(m_state.get(), keycode, nullptr, 0);
     if (length <= 0)
         return {};

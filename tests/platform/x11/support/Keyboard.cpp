@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/Keyboard.h"
 
+#include <platform/KeyCodes.h>
+
 #include <QProcess>
 #include <xcb/xcb.h>
 #include <xcb/xinput.h>
@@ -21,7 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::uint16_t evdevOffset = 8;
 constexpr int modifierCount = 8;
 
 } // namespace

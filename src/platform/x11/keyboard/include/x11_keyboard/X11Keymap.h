@@ -15,7 +15,7 @@ namespace quorvane {
 
 /// What the keys of the keyboard type. It follows the layout in use.
 ///
-/// On a connection of its own: a client that has used the XKB extension is sent no more
+/// On a connection of its own: a client that has used the XKB extension no longer receives
 /// MappingNotify, by which the shortcut's grab learns of a new keyboard map.
 class X11Keymap {
 public:
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] static std::unique_ptr<X11Keymap> open(MainQueue& mainQueue);
 
     /// What the key types on its own; empty for dead keys and keys without a character.
-    [[nodiscard]] std::u16string characters(xcb_keycode_t keycode) const;
+    [[nodiscard]] std::u16string characters(xkb_keycode_t keycode) const;
 
     /// A key that yields the keysym on its own: in the group in use if there is one, else in any.
     [[nodiscard]] std::optional<xcb_keycode_t> keycodeOf(xkb_keysym_t keysym) const;
