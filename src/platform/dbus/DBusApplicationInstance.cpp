@@ -49,7 +49,7 @@ ApplicationInstance::Role DBusApplicationInstance::claim() {
         qCInfo(lcInstance, "no session bus");
         return Role::Alone;
     }
-    // The object first: whoever sees the name may call at once.
+    // The object first: a program that sees the name may call at once.
     m_bus.registerObject(objectPath.toString(), &m_object);
     for (int attempt = 0; attempt < maxClaims; ++attempt) {
         const auto reply = m_bus.interface()->registerService(
@@ -92,7 +92,7 @@ bool DBusApplicationInstance::activateFirst() {
     if (reply.type() != QDBusMessage::ErrorMessage)
         return true;
     qCInfo(lcInstance, "the first process: %ls", qUtf16Printable(reply.errorMessage()));
-    // One that hangs is there all the same.
+    // A first process that hangs is still the first.
     return m_bus.interface()->isServiceRegistered(serviceName.toString());
 }
 

@@ -18,7 +18,8 @@ namespace quorvane {
 
 namespace {
 
-/// Selections tell of their owners only to who has asked for this extension.
+/// Changes of a selection's owner are reported by this extension alone; null if the server lacks
+/// it.
 const xcb_query_extension_reply_t* xfixes(xcb_connection_t* x11) {
     const auto* extension = xcb_get_extension_data(x11, &xcb_xfixes_id);
     if (extension == nullptr || extension->present == 0)

@@ -23,7 +23,7 @@ using namespace std::chrono_literals;
 using Accent = DesktopAppearance::Accent;
 using Scheme = DesktopAppearance::Scheme;
 
-const auto look = u"org.freedesktop.appearance"_s;
+const auto appearanceSettings = u"org.freedesktop.appearance"_s;
 const auto interfaceSettings = u"org.gnome.desktop.interface"_s;
 const auto scheme = u"color-scheme"_s;
 const auto accentColor = u"accent-color"_s;
@@ -69,7 +69,7 @@ protected:
     /// Whatever was sent before has been received when the scheme of this later signal is there.
     void catchUp() {
         const bool isDark = appearance->current().scheme == Scheme::Dark;
-        portal.announce(look, scheme, isDark ? light : dark);
+        portal.announce(appearanceSettings, scheme, isDark ? light : dark);
         EXPECT_TRUE(comesTo([&] {
             return appearance->current().scheme == (isDark ? Scheme::Light : Scheme::Dark);
         }));
@@ -105,7 +105,7 @@ TEST_P(PortalAppearanceTold, IsUnderstood) {
 }
 
 FakePortal::Settings one(const QString& key, const QVariant& value) {
-    return {{look, {{key, value}}}};
+    return {{appearanceSettings, {{key, value}}}};
 }
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -154,7 +154,7 @@ TEST_F(PortalAppearanceTest, AsksForNothingElseThanItUses) {
     readAs(Scheme::Dark, one(scheme, dark));
     EXPECT_EQ(
         portal.questions().constFirst().arguments().constFirst().toStringList(),
-        (QStringList{look, interfaceSettings}));
+        (QStringList{appearanceSettings, interfaceSettings}));
 }
 
 TEST_F(PortalAppearanceTest, MotionIsUnwelcomeInEitherOfTwoWays) {
@@ -162,10 +162,10 @@ TEST_F(PortalAppearanceTest, MotionIsUnwelcomeInEitherOfTwoWays) {
     const auto lessMotion = [this] {
         return appearance->current().wantsLessMotion;
     };
-    portal.announce(look, u"reduced-motion"_s, 1U);
+    portal.announce(appearanceSettings, u"reduced-motion"_s, 1U);
     EXPECT_TRUE(comesTo(lessMotion));
     portal.announce(interfaceSettings, u"enable-animations"_s, false);
-    portal.announce(look, u"reduced-motion"_s, 0U);
+    portal.announce(appearanceSettings, u"reduced-motion"_s, 0U);
     catchUp();
     EXPECT_TRUE(lessMotion());
     portal.announce(interfaceSettings, u"enable-animations"_s, true);
@@ -175,19 +175,19 @@ TEST_F(PortalAppearanceTest, MotionIsUnwelcomeInEitherOfTwoWays) {
 TEST_F(PortalAppearanceTest, FollowsChanges) {
     readAs(Scheme::Light, one(scheme, light));
     EXPECT_EQ(changes, 1);
-    portal.announce(look, scheme, dark);
+    portal.announce(appearanceSettings, scheme, dark);
     EXPECT_TRUE(comesTo([this] { return appearance->current().scheme == Scheme::Dark; }));
-    portal.announce(look, accentColor, accent(1, 0.5, 0));
+    portal.announce(appearanceSettings, accentColor, accent(1, 0.5, 0));
     EXPECT_TRUE(comesTo([this] { return appearance->current().accent == Accent{1, 0.5, 0}; }));
-    portal.announce(look, accentColor, accent(-1, -1, -1));
+    portal.announce(appearanceSettings, accentColor, accent(-1, -1, -1));
     EXPECT_TRUE(comesTo([this] { return !appearance->current().accent; }));
     EXPECT_EQ(changes, 4);
 }
 
 TEST_F(PortalAppearanceTest, WhatStaysAsItIsIsNoChange) {
     readAs(Scheme::Light, one(scheme, light));
-    portal.announce(look, scheme, light);
-    portal.announce(look, u"font-scale"_s, 2.0);
+    portal.announce(appearanceSettings, scheme, light);
+    portal.announce(appearanceSettings, u"font-scale"_s, 2.0);
     portal.announce(u"org.example.other"_s, scheme, dark);
     catchUp();
     EXPECT_EQ(changes, 2);
@@ -195,10 +195,10 @@ TEST_F(PortalAppearanceTest, WhatStaysAsItIsIsNoChange) {
 
 TEST_F(PortalAppearanceTest, ChangeOfAWrongTypeChangesNothing) {
     readAs(Scheme::Dark, one(scheme, dark));
-    portal.announce(look, scheme, u"light"_s);
-    portal.announce(look, accentColor, 7U);
+    portal.announce(appearanceSettings, scheme, u"light"_s);
+    portal.announce(appearanceSettings, accentColor, 7U);
     portal.announce(interfaceSettings, u"enable-animations"_s, 0U);
-    portal.announce(look, u"contrast"_s, 1U);
+    portal.announce(appearanceSettings, u"contrast"_s, 1U);
     EXPECT_TRUE(comesTo([this] { return appearance->current().wantsMoreContrast; }));
     EXPECT_EQ(
         appearance->current(),
@@ -211,7 +211,7 @@ TEST_F(PortalAppearanceTest, AnErrorKeepsWhatIsKnown) {
     portal.answerWithError();
     appearance->read();
     EXPECT_TRUE(comesTo([this] { return portal.questions().size() == 2; }));
-    portal.announce(look, u"contrast"_s, 1U);
+    portal.announce(appearanceSettings, u"contrast"_s, 1U);
     EXPECT_TRUE(comesTo([this] { return changes == 2; }));
     EXPECT_EQ(appearance->current().scheme, Scheme::Dark);
 }
@@ -221,7 +221,7 @@ TEST_F(PortalAppearanceTest, AnAnswerOfAnotherTypeKeepsWhatIsKnown) {
     portal.answer(u"all is well"_s);
     appearance->read();
     EXPECT_TRUE(comesTo([this] { return portal.questions().size() == 2; }));
-    portal.announce(look, u"contrast"_s, 1U);
+    portal.announce(appearanceSettings, u"contrast"_s, 1U);
     EXPECT_TRUE(comesTo([this] { return changes == 2; }));
     EXPECT_EQ(appearance->current().scheme, Scheme::Dark);
 }
@@ -230,7 +230,7 @@ TEST_F(PortalAppearanceTest, APortalThatHangsIsNotWaitedFor) {
     read();
     EXPECT_TRUE(comesTo([this] { return portal.questions().size() == 1; }));
     EXPECT_EQ(appearance->current(), DesktopAppearance{});
-    portal.announce(look, scheme, dark);
+    portal.announce(appearanceSettings, scheme, dark);
     EXPECT_TRUE(comesTo([this] { return appearance->current().scheme == Scheme::Dark; }));
     portal.answer(one(scheme, light));
     EXPECT_TRUE(comesTo([this] { return appearance->current().scheme == Scheme::Light; }));
@@ -245,7 +245,7 @@ TEST_F(PortalAppearanceTest, APortalThatAnswersTooLateIsFollowedAllTheSame) {
     const QDeadlineTimer givenUp(100ms);
     EXPECT_TRUE(comesTo([&] { return givenUp.hasExpired(); }));
     portal.answer(one(scheme, light));
-    portal.announce(look, scheme, dark);
+    portal.announce(appearanceSettings, scheme, dark);
     EXPECT_TRUE(comesTo([&] { return hasty.current().scheme == Scheme::Dark; }));
 }
 
@@ -280,7 +280,7 @@ TEST_F(PortalAppearanceTest, ReadingTwiceFollowsOnce) {
     readAs(Scheme::Light, one(scheme, light));
     appearance->read();
     EXPECT_TRUE(comesTo([this] { return portal.questions().size() == 2; }));
-    portal.announce(look, scheme, dark);
+    portal.announce(appearanceSettings, scheme, dark);
     EXPECT_TRUE(comesTo([this] { return appearance->current().scheme == Scheme::Dark; }));
     EXPECT_EQ(changes, 2);
 }

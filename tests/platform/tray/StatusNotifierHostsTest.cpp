@@ -32,7 +32,7 @@ protected:
     std::unique_ptr<StatusNotifierHosts> hosts;
     int changes = 0;
 
-    void look(std::chrono::milliseconds patience = longPatience) {
+    void start(std::chrono::milliseconds patience = longPatience) {
         hosts = std::make_unique<StatusNotifierHosts>(bus.connection(), patience);
         QObject::connect(hosts.get(), &StatusNotifierHosts::changed, [this] { ++changes; });
     }
@@ -44,7 +44,7 @@ protected:
 
 TEST_F(StatusNotifierHostsTest, AHostThatIsThereIsKnownAtOnce) {
     watcher.appear();
-    look();
+    start();
     EXPECT_EQ(hosts->presence(), Presence::Present);
     EXPECT_EQ(watcher.questions(), 1);
 }
@@ -52,13 +52,13 @@ TEST_F(StatusNotifierHostsTest, AHostThatIsThereIsKnownAtOnce) {
 TEST_F(StatusNotifierHostsTest, WithoutAWatcherThereIsNoneAndNothingIsWaitedFor) {
     QElapsedTimer timer;
     timer.start();
-    look();
+    start();
     EXPECT_EQ(hosts->presence(), Presence::Absent);
     EXPECT_LT(timer.elapsed(), longPatience.count() * 1000);
 }
 
 TEST_F(StatusNotifierHostsTest, AWatcherThatComesLateIsAsked) {
-    look();
+    start();
     watcher.appear();
     EXPECT_TRUE(becomes(Presence::Present));
 }
@@ -66,7 +66,7 @@ TEST_F(StatusNotifierHostsTest, AWatcherThatComesLateIsAsked) {
 TEST_F(StatusNotifierHostsTest, AWatcherWithoutHostsTellsOfTheFirst) {
     watcher.answer(false);
     watcher.appear();
-    look();
+    start();
     EXPECT_EQ(hosts->presence(), Presence::Absent);
     watcher.answer(true);
     watcher.announce(hostRegistered);
@@ -76,7 +76,7 @@ TEST_F(StatusNotifierHostsTest, AWatcherWithoutHostsTellsOfTheFirst) {
 
 TEST_F(StatusNotifierHostsTest, TheLastHostThatGoesLeavesNone) {
     watcher.appear();
-    look();
+    start();
     watcher.answer(false);
     watcher.announce(hostUnregistered);
     EXPECT_TRUE(becomes(Presence::Absent));
@@ -85,7 +85,7 @@ TEST_F(StatusNotifierHostsTest, TheLastHostThatGoesLeavesNone) {
 
 TEST_F(StatusNotifierHostsTest, OneOfTwoHostsThatGoesChangesNothing) {
     watcher.appear();
-    look();
+    start();
     watcher.announce(hostUnregistered);
     EXPECT_TRUE(waitUntil([this] { return watcher.questions() == 2; }));
     watcher.answer(false);
@@ -96,7 +96,7 @@ TEST_F(StatusNotifierHostsTest, OneOfTwoHostsThatGoesChangesNothing) {
 
 TEST_F(StatusNotifierHostsTest, AWatcherThatStartsAnewIsAskedAnew) {
     watcher.appear();
-    look();
+    start();
     watcher.vanish();
     EXPECT_TRUE(becomes(Presence::Absent));
     watcher.appear();
@@ -106,7 +106,7 @@ TEST_F(StatusNotifierHostsTest, AWatcherThatStartsAnewIsAskedAnew) {
 TEST_F(StatusNotifierHostsTest, AWatcherThatHangsIsUnknownUntilItAnswers) {
     watcher.hang();
     watcher.appear();
-    look(shortPatience);
+    start(shortPatience);
     EXPECT_EQ(hosts->presence(), Presence::Unknown);
     EXPECT_TRUE(waitUntil([this] { return watcher.questions() == 2; }));
     watcher.answer(true);
@@ -116,7 +116,7 @@ TEST_F(StatusNotifierHostsTest, AWatcherThatHangsIsUnknownUntilItAnswers) {
 TEST_F(StatusNotifierHostsTest, AWatcherThatHangsAndGoesLeavesNoHost) {
     watcher.hang();
     watcher.appear();
-    look(shortPatience);
+    start(shortPatience);
     watcher.vanish();
     EXPECT_TRUE(becomes(Presence::Absent));
 }
@@ -124,7 +124,7 @@ TEST_F(StatusNotifierHostsTest, AWatcherThatHangsAndGoesLeavesNoHost) {
 TEST_F(StatusNotifierHostsTest, ALateAnswerOfAWatcherThatIsGoneDoesNotCount) {
     watcher.hang();
     watcher.appear();
-    look(shortPatience);
+    start(shortPatience);
     EXPECT_TRUE(waitUntil([this] { return watcher.questions() == 2; }));
     watcher.vanish();
     EXPECT_TRUE(becomes(Presence::Absent));
@@ -141,13 +141,13 @@ TEST_F(StatusNotifierHostsTest, AnAnswerWithoutMeaningIsNoHost) {
     for (const auto& answer : {QVariant(1), QVariant(u"true"_s)}) {
         watcher.answer(answer);
         watcher.appear();
-        look();
+        start();
         EXPECT_EQ(hosts->presence(), Presence::Absent) << answer.typeName();
         watcher.vanish();
     }
     watcher.answerWithError();
     watcher.appear();
-    look();
+    start();
     EXPECT_EQ(hosts->presence(), Presence::Absent);
 }
 

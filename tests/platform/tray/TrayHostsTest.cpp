@@ -33,7 +33,7 @@ protected:
     std::optional<TrayHosts> hosts;
     int changes = 0;
 
-    void look() {
+    void start() {
         hosts.emplace(bus.connection());
         QObject::connect(&*hosts, &TrayHosts::changed, [this] { ++changes; });
     }
@@ -44,14 +44,14 @@ protected:
 };
 
 TEST_F(TrayHostsTest, NobodyIsThereBeforeTheFirstHost) {
-    look();
+    start();
     EXPECT_TRUE(hosts->arePossible());
     EXPECT_FALSE(hosts->areThere());
     EXPECT_EQ(hosts->protocol(), std::nullopt);
 }
 
 TEST_F(TrayHostsTest, AHostOfItemsComesGoesAndComesAgain) {
-    look();
+    start();
     watcher.appear();
     EXPECT_TRUE(comesToChanges(1));
     EXPECT_TRUE(hosts->areThere());
@@ -65,7 +65,7 @@ TEST_F(TrayHostsTest, AHostOfItemsComesGoesAndComesAgain) {
 }
 
 TEST_F(TrayHostsTest, AnEmbeddingHostCountsWhereThereAreNoItems) {
-    look();
+    start();
     std::optional<FakeXEmbedHost> host(std::in_place);
     EXPECT_TRUE(comesToChanges(1));
     EXPECT_EQ(hosts->protocol(), TrayProtocol::XEmbed);
@@ -77,13 +77,13 @@ TEST_F(TrayHostsTest, AnEmbeddingHostCountsWhereThereAreNoItems) {
 TEST_F(TrayHostsTest, OfTwoHostsTheOneOfItemsIsChosen) {
     const FakeXEmbedHost host;
     watcher.appear();
-    look();
+    start();
     EXPECT_EQ(hosts->protocol(), TrayProtocol::StatusNotifierItem);
 }
 
 TEST_F(TrayHostsTest, OnceEmbeddedOnlyEmbeddingHostsCount) {
     std::optional<FakeXEmbedHost> host(std::in_place);
-    look();
+    start();
     EXPECT_TRUE(hosts->areThere());
     watcher.appear();
     EXPECT_TRUE(waitUntil([this] { return watcher.questions() == 1; }));
@@ -97,7 +97,7 @@ TEST_F(TrayHostsTest, AWatcherThatHangsKeepsTheProtocolOpen) {
     const FakeXEmbedHost host;
     watcher.hang();
     watcher.appear();
-    look();
+    start();
     EXPECT_FALSE(hosts->areThere());
     EXPECT_EQ(hosts->protocol(), std::nullopt);
     watcher.vanish();

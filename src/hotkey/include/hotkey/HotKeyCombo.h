@@ -46,7 +46,7 @@ struct HotKeyCombo {
     static constexpr QStringView keyCodeKey = u"hotKeyCode";
     static constexpr QStringView modifiersKey = u"hotKeyModifiers";
 
-    /// What a coded form lacks or holds wrongly.
+    /// What a coded form lacks or holds wrongly, for the caller of decode().
     struct DecodingError {
         enum class Kind { MissingKey, WrongType, OutOfRange };
 
@@ -70,7 +70,8 @@ struct HotKeyCombo {
     /// Stores both numbers.
     void save(DefaultsStore& store) const;
 
-    /// The coded form: an object with "keyCode" and "modifiers".
+    /// The coded form: an object with "keyCode" and "modifiers". For exchange with other programs
+    /// and formats; the settings hold the two numbers of save().
     [[nodiscard]] QJsonObject encoded() const;
     [[nodiscard]] static Decoded decode(const QJsonObject& coded);
 

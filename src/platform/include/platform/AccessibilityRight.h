@@ -3,7 +3,7 @@
 
 namespace quorvane {
 
-/// The user's leave to read the global shortcut and to post keys into other applications.
+/// The user's permission to read the global shortcut and to post keys into other applications.
 class AccessibilityRight {
 public:
     virtual ~AccessibilityRight() = default;

@@ -27,7 +27,7 @@ struct DesktopAppearance {
     friend bool operator==(const DesktopAppearance&, const DesktopAppearance&) = default;
 };
 
-/// The desktop's word on how programs look, now and whenever it changes.
+/// The desktop's settings of how programs look, now and whenever they change.
 class Appearance {
 public:
     virtual ~Appearance() = default;
@@ -35,8 +35,8 @@ public:
     /// What is known; before the first answer, nothing.
     [[nodiscard]] virtual DesktopAppearance current() const = 0;
 
-    /// Asks the desktop, and from then on follows it. Returns at once; nobody has to wait with the
-    /// first picture for a desktop that is slow to answer.
+    /// Asks the desktop, and from then on follows it. Returns at once: the first paint does not
+    /// wait for a desktop that is slow to answer.
     virtual void read() = 0;
 
     /// Called whenever current() has become another; replaces an earlier handler.

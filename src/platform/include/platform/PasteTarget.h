@@ -23,7 +23,8 @@ struct PasteTarget {
 
 /// How an application pastes, by the names its windows carry: both strings of WM_CLASS (ICCCM
 /// 4.1.2.5) or the app_id of xdg-shell, in any case. Names that are not known, or no names at all,
-/// give Ctrl+V and the clipboard: a terminal's keys must never reach a window that is none.
+/// give Ctrl+V and the clipboard: a terminal's keys must never go to a window that is not a
+/// terminal.
 [[nodiscard]] PasteTarget pasteTargetFor(const QStringList& classes);
 
 } // namespace quorvane

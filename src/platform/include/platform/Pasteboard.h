@@ -21,8 +21,8 @@ public:
 
     virtual ~Pasteboard() = default;
 
-    /// Reads everything that the pasteboard holds and hands it to `done`, on a later turn of the
-    /// main loop and never later than a second: an owner that stays silent for 0.3 s is cut off,
+    /// Reads everything that the pasteboard holds and hands it to `done`, in a later iteration of
+    /// the event loop, at most a second from now: an owner that stays silent for 0.3 s is cut off,
     /// and what was read until then is handed over.
     virtual void save(SaveHandler done) = 0;
 
@@ -36,7 +36,7 @@ public:
     write(const PasteboardItem& item, const std::optional<PasteboardItem>& selection) = 0;
 
     /// Before the process ends: leaves what we own to the desktop's clipboard manager, if there is
-    /// one. `done` runs on a later turn, bounded like a save.
+    /// one. `done` runs in a later event-loop iteration, at most a second from now.
     virtual void handOver(std::function<void()> done) = 0;
 };
 

@@ -23,6 +23,7 @@ struct PasteboardEntry {
 using PasteboardItem = std::vector<PasteboardEntry>;
 
 struct PasteboardContents {
+    /// X11 and Wayland have one, or none; a desktop may hold several, as when files are copied.
     std::vector<PasteboardItem> items;
 
     /// What the desktop's second pasteboard (X11's PRIMARY) held, if the text has to pass through

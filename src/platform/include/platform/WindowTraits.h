@@ -25,7 +25,8 @@ public:
     /// In front of the others, without the focus.
     virtual void orderFront(QWindow& window) = 0;
 
-    /// In front of the others and with the keyboard focus, as the user's own wish.
+    /// In front of the others and with the keyboard focus, as a direct user action (EWMH
+    /// source 2).
     virtual void activate(QWindow& window) = 0;
 
     /// Whether windows are composited, so that a translucent one shows what is below it.

@@ -70,7 +70,7 @@ void X11ClipboardLoan::refreshQtTime(const QWindow& window) {
 }
 
 // Qt takes note of an event's time after its filters: we lend before the next event, which may be
-// the key that pastes, or else on the next turn.
+// the key that pastes, or else in the next event-loop iteration.
 bool X11ClipboardLoan::nativeEventFilter(const QByteArray& kind, void* message, qintptr*) {
     const auto* event = qtx11::eventIn(kind, message);
     if (event == nullptr)

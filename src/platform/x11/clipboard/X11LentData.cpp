@@ -39,7 +39,7 @@ std::optional<QString> textOf(const PasteboardItem& item) {
     return std::nullopt;
 }
 
-// Names of text that Qt offers of its own accord.
+// Target names for texts that Qt adds by itself.
 bool isTextOfQts(const QString& type) {
     return type == u"TEXT" || type == u"COMPOUND_TEXT" ||
            std::ranges::find(textTypes, type, &TextType::name) != textTypes.end();

@@ -8,7 +8,7 @@
 namespace quorvane {
 
 /// An item as Qt's clipboard takes it: the MIME types as they are, and the text under whichever
-/// name it has. Keeps the item whole, with what Qt has no words for.
+/// name it has. Keeps the whole item, with what Qt cannot express.
 class X11LentData final : public QMimeData {
 public:
     explicit X11LentData(PasteboardItem item);

@@ -39,8 +39,9 @@ void X11Pasteboard::save(SaveHandler done) {
         });
 }
 
-// At the end of the turn: what follows on a clear, nearly always, is new contents, and a clipboard
-// manager that sees an empty clipboard in between fills it with the old ones.
+// Carried out later in this event-loop iteration, and not at all if new contents are set before, as
+// nearly always: a clipboard manager that sees an empty clipboard would fill it with the old
+// contents.
 void X11Pasteboard::clear() {
     m_isClearing = true;
     m_clearing = m_queue.after(Seconds(0), [this] { finishClearing(); });
@@ -98,7 +99,7 @@ bool X11Pasteboard::hasClipboardManager() const {
     return m_connection->selectionOwner(manager) != XCB_WINDOW_NONE;
 }
 
-// PRIMARY is ours only while something has to stand there.
+// Without contents for PRIMARY we give it up, if it is ours.
 void X11Pasteboard::put(
     std::optional<PasteboardItem> clipboard, std::optional<PasteboardItem> primary) {
     m_clearing.cancel();

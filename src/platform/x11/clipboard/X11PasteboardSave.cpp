@@ -17,7 +17,7 @@ X11PasteboardSave::X11PasteboardSave(
     begin(m_clipboard, std::move(clipboard), time);
     if (primary)
         begin(m_primary.emplace(), *std::move(primary), time);
-    // What is at hand is handed over on a later turn, too.
+    // Contents that are at hand are handed over in a later event-loop iteration, too.
     m_soon = m_queue.after(Seconds(0), [this] { finishWhenComplete(); });
 }
 

@@ -22,8 +22,9 @@ PasteboardItem plainTextItem(const QString& text) {
         {u"text/plain;charset=utf-8"_s, utf8, u"text/plain;charset=utf-8"_s},
         {u"text/plain"_s, utf8, u"text/plain"_s},
     };
-    // STRING is Latin-1, and TEXT what the owner likes best (ICCCM 2.6.2): those that ask for
-    // neither of the above are old enough to like Latin-1. A text that would lose by it has none.
+    // STRING is Latin-1; the encoding of TEXT is the owner's choice (ICCCM 2.6.2). Programs that
+    // ask for TEXT are too old for UTF-8 and get Latin-1. A text that Latin-1 cannot hold offers no
+    // STRING, and UTF-8 as TEXT.
     if (isLatin1(text)) {
         item.push_back({u"STRING"_s, text.toLatin1(), u"STRING"_s});
         item.push_back({u"TEXT"_s, text.toLatin1(), u"STRING"_s});

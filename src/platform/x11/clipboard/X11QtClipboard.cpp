@@ -18,7 +18,7 @@ PasteboardItem itemOf(const QMimeData& data) {
     PasteboardItem item;
     for (const auto& format : data.formats()) {
         if (format == u"text/plain"_s) {
-            // Qt offers text under all the names that X knows for it.
+            // Qt offers a text under all the target names for texts.
             for (auto& entry : plainTextItem(data.text()))
                 item.push_back(std::move(entry));
         } else if (const auto bytes = data.data(format); !bytes.isNull()) {

@@ -6,12 +6,12 @@
 namespace quorvane {
 
 X11SelectionConversion::X11SelectionConversion(
-    X11SelectionInbox& inbox, const X11SelectionRequest& request, Handlers handlers)
+    X11SelectionInbox& inbox, const X11SelectionRequest& request, Callbacks callbacks)
     : m_inbox(inbox),
       m_selection(request.selection),
       m_target(request.target),
       m_property(inbox.lease()),
-      m_handlers(std::move(handlers)),
+      m_callbacks(std::move(callbacks)),
       m_subscription(inbox.connection()->subscribe(
           [this](const xcb_generic_event_t& event) { handle(event); })) {
     auto& connection = *m_inbox.connection();
@@ -55,7 +55,7 @@ void X11SelectionConversion::takeAnswer(const xcb_selection_notify_event_t& answ
     if (!value || value->type != m_inbox.connection()->atom("INCR"))
         return finish(std::move(value));
     m_stage = Stage::Incremental;
-    m_handlers.progress();
+    m_callbacks.progress();
 }
 
 void X11SelectionConversion::takeIncrement() {
@@ -71,12 +71,12 @@ void X11SelectionConversion::takeIncrement() {
     if (isLast)
         finish(std::move(m_received));
     else
-        m_handlers.progress();
+        m_callbacks.progress();
 }
 
 void X11SelectionConversion::finish(std::optional<X11PropertyValue> value) {
     m_stage = Stage::Done;
-    const auto done = std::move(m_handlers.done);
+    const auto done = std::move(m_callbacks.done);
     done(std::move(value));
 }
 

@@ -45,7 +45,7 @@ bool X11SelectionDelivery::deliver(
         return false;
     receiver->transfers[property] = {value, 0};
     awaitProgress(requestor, *receiver);
-    // The receiver may make room by this; sizes that do not fit tell it as much.
+    // A lower bound of the size (ICCCM 2.7.2); one that does not fit is cut.
     const auto size = static_cast<std::uint32_t>(
         std::min(value.bytes.size(), qsizetype{std::numeric_limits<std::int32_t>::max()}));
     writePropertyValue(

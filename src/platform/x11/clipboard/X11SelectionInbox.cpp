@@ -37,7 +37,7 @@ void X11SelectionInbox::handle(const xcb_generic_event_t& event) {
     if (change == nullptr || change->window != window() ||
         change->state != XCB_PROPERTY_NEW_VALUE || !m_abandoned.contains(change->atom))
         return;
-    // This also lets an owner that sends in increments come to its end.
+    // An owner that sends in increments waits for this before it sends the next.
     xcb_delete_property(m_connection->xcb(), window(), change->atom);
 }
 

@@ -51,7 +51,7 @@ void X11SelectionOwner::own(PasteboardItem item) {
     m_content.reset();
     m_since = m_clock.now();
     xcb_set_selection_owner(m_connection->xcb(), m_window.id(), m_selection, m_since);
-    // The server says nothing when it refuses.
+    // The server does not report a refusal.
     if (isOwner())
         m_content.emplace(*m_connection, std::move(item));
     else
@@ -75,7 +75,7 @@ bool X11SelectionOwner::isOwner() const {
 
 void X11SelectionOwner::handle(const xcb_generic_event_t& event) {
     const auto* loss = eventAs<xcb_selection_clear_event_t>(event);
-    // The loss may be one that we caused ourselves before we owned it again.
+    // The event may be about an earlier loss, since when we have taken the selection again.
     if (loss != nullptr && loss->owner == m_window.id() && !isOwner())
         m_content.reset();
     const auto* request = eventAs<xcb_selection_request_event_t>(event);

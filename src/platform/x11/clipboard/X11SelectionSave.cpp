@@ -48,7 +48,7 @@ void X11SelectionSave::ask(const QString& target, std::function<void(Answer)> th
     m_conversion = std::make_unique<X11SelectionConversion>(
         m_inbox,
         request,
-        X11SelectionConversion::Handlers{[this] { awaitProgress(); }, std::move(then)});
+        X11SelectionConversion::Callbacks{[this] { awaitProgress(); }, std::move(then)});
 }
 
 void X11SelectionSave::awaitProgress() {
@@ -59,7 +59,7 @@ void X11SelectionSave::awaitProgress() {
 }
 
 void X11SelectionSave::takeTargets(const Answer& answer) {
-    // An owner that cannot tell its targets may be too old for that, but not for text.
+    // An owner that is too old to answer TARGETS may still have a text.
     m_targets = answer ? contentTargets(namesOf(*m_inbox.connection(), *answer))
                        : QStringList{u"UTF8_STRING"_s, u"STRING"_s};
     m_unread = readingOrder(m_targets);

@@ -68,7 +68,7 @@ bool X11EventTap::nativeEventFilter(const QByteArray& kind, void* message, qintp
     if (!m_grab || event == nullptr)
         return false;
     const auto* press = eventAs<xcb_key_press_event_t>(*event);
-    // One that the grab has handed on was decided about already.
+    // A press that the grab has replayed has been decided about already.
     if (press == nullptr || !isWatched(*press) || press->time == m_lastDecision)
         return false;
     return decide(*press) == TapVerdict::Swallow;
@@ -87,7 +87,7 @@ void X11EventTap::handleEvent(const xcb_generic_event_t& event) {
 
 void X11EventTap::answerGrab(const xcb_key_press_event_t& press) {
     const auto verdict = decide(press);
-    // Gone if the handler disabled us; the press was handed on then.
+    // No grab is left if the handler disabled us; it has replayed the press then.
     if (!m_grab)
         return;
     if (verdict == TapVerdict::Swallow)

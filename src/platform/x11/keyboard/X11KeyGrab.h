@@ -34,7 +34,7 @@ public:
     [[nodiscard]] bool canHaveSent(const xcb_generic_event_t& event) const;
 
     /// Keeps the press that halted the keyboard from everyone else. Its release goes to the window
-    /// with the focus, and each repeat comes to us again.
+    /// with the focus; each repeat comes to us as a press of its own.
     void swallow();
 
     /// Hands the press on to where it would have gone without us.

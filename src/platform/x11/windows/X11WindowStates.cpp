@@ -28,7 +28,7 @@ void X11WindowStates::write(xcb_window_t window, const Pair& states, Change chan
 void X11WindowStates::request(xcb_window_t window, const Pair& states, Change change) const {
     const auto [first, second] = atoms(states);
     m_windows.requestOfManager(
-        window, stateProperty, {static_cast<std::uint32_t>(change), first, second, fromPager, 0});
+        window, stateProperty, {static_cast<std::uint32_t>(change), first, second, sourcePager, 0});
 }
 
 std::array<xcb_atom_t, 2> X11WindowStates::atoms(const Pair& states) const {

@@ -17,7 +17,7 @@ constexpr X11WindowStates::Pair panelStates{"_NET_WM_STATE_STICKY", "_NET_WM_STA
 constexpr X11WindowStates::Pair hiddenFromTaskbar{
     "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"};
 
-// Popups and tooltips are no business of the window manager's.
+// The window manager does not manage popups and tooltips.
 bool isManaged(const QWindow& window) {
     return window.isTopLevel() && window.handle() != nullptr && window.type() != Qt::Popup &&
            window.type() != Qt::ToolTip && !window.flags().testFlag(Qt::BypassWindowManagerHint);
@@ -72,8 +72,8 @@ void X11WindowTraits::preparePanel(QWindow& window) {
         return;
     const auto id = idOf(window);
     qtx11::waitForServer();
-    // The state for the window managers that ignore the desktop of a window not yet mapped, the
-    // desktop for those that know no sticky windows.
+    // Some window managers ignore the desktop of a window that is not yet mapped and need the
+    // state; others do not support sticky windows and need the desktop.
     const auto desktop = m_connection->atom("_NET_WM_DESKTOP");
     writePropertyValue(*m_connection, id, desktop, propertyValue(XCB_ATOM_CARDINAL, {allDesktops}));
     m_states.write(id, panelStates, X11WindowStates::Change::Add);
@@ -87,9 +87,9 @@ void X11WindowTraits::presentPanel(QWindow& window) {
     // Ours must not overtake the request that maps the window.
     qtx11::waitForServer();
     const auto id = idOf(window);
-    m_windows.requestOfManager(id, "_NET_WM_DESKTOP", {allDesktops, fromPager, 0, 0, 0});
-    // Once more what stood there before the mapping: a window manager that had not finished with
-    // the last hide has thrown it away together with its own.
+    m_windows.requestOfManager(id, "_NET_WM_DESKTOP", {allDesktops, sourcePager, 0, 0, 0});
+    // Again what preparePanel() wrote: a window manager that was still handling the last hide has
+    // removed it together with its own states.
     m_states.request(id, panelStates, X11WindowStates::Change::Add);
     m_states.request(id, hiddenFromTaskbar, taskbarChange());
     m_windows.requestFocus(id);

@@ -114,7 +114,7 @@ void X11Windows::requestFocus(xcb_window_t window) const {
         return requestOfManager(
             window,
             "_NET_ACTIVE_WINDOW",
-            {fromPager, m_connection->lastUserTime(), XCB_WINDOW_NONE, 0, 0});
+            {sourcePager, m_connection->lastUserTime(), XCB_WINDOW_NONE, 0, 0});
     }
     constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
     xcb_configure_window(m_connection->xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);

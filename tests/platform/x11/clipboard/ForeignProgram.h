@@ -18,7 +18,7 @@ public:
     ForeignProgram(const ForeignProgram&) = delete;
     ForeignProgram& operator=(const ForeignProgram&) = delete;
 
-    /// Waits for it, while the main loop turns; undefined if none comes.
+    /// Waits for it, while the event loop runs; undefined if none comes.
     [[nodiscard]] QJsonValue nextReport();
 
     /// All texts that it has reported, but for those that `nextReport` took.

@@ -23,7 +23,7 @@ protected:
         clock.start();
         bool isDone = false;
         m_pasteboard.handOver([&isDone] { isDone = true; });
-        EXPECT_FALSE(isDone) << "not on a later turn";
+        EXPECT_FALSE(isDone) << "not in a later event-loop iteration";
         EXPECT_TRUE(waitUntil([&isDone] { return isDone; }));
         return clock.elapsed();
     }

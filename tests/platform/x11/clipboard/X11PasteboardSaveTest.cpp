@@ -51,7 +51,7 @@ TEST_F(X11PasteboardSaveTest, WithoutAnOwnerThereIsNothingToSave) {
     EXPECT_LT(clock.elapsed(), silence / 2);
 }
 
-TEST_F(X11PasteboardSaveTest, CallsBackOnALaterTurn) {
+TEST_F(X11PasteboardSaveTest, CallsBackInALaterIteration) {
     bool isDone = false;
     m_pasteboard.save([&isDone](const PasteboardContents&) { isDone = true; });
     EXPECT_FALSE(isDone);

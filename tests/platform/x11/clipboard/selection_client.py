@@ -55,7 +55,7 @@ class SelectionClient:
         return self.display.get_atom(name)
 
     def put(self, window: Window, store: int, kind: str, units: int, data: bytes) -> None:
-        """Sets a property, bit for bit; a window that is gone is let be."""
+        """Sets a property, bit for bit; nothing if the window no longer exists."""
         values = data if units == 8 else memoryview(data).cast(TYPECODES[units]).tolist()
         window.change_property(store, self.atom(kind), units, values, onerror=CatchError())
         self.display.flush()

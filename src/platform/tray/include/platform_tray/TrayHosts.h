@@ -13,14 +13,14 @@ namespace quorvane {
 /// How an icon reaches its host.
 enum class TrayProtocol { StatusNotifierItem, XEmbed };
 
-/// The protocol that fits the hosts; none while nobody is there, and while it is unknown whether a
-/// host of the better protocol is.
+/// The protocol that fits the hosts; none while there is no host, and while it is unknown whether
+/// there is a host of StatusNotifierItems.
 [[nodiscard]] std::optional<TrayProtocol>
 protocolFor(StatusNotifierHosts::Presence statusNotifierHosts, bool isXEmbedHostThere);
 
-/// Those who may show our icon. Qt settles on a protocol when the first icon is made, and stays
-/// with it as long as the process runs: so no icon is made before there is a host, and afterwards
-/// only hosts of that protocol count.
+/// The hosts that may show our icon. Qt settles on a protocol when the first icon is made, and
+/// stays with it as long as the process runs: so no icon is made before there is a host, and
+/// afterwards only hosts of that protocol count.
 class TrayHosts final : public QObject {
     Q_OBJECT
 

@@ -9,9 +9,10 @@
 
 namespace quorvane {
 
-/// Whether somebody on the X server takes in icons, which then embed themselves: the owner of a
+/// Whether there is a host on the X server that embeds icons: the owner of a
 /// selection (freedesktop.org's System Tray Protocol Specification). Watched on Qt's connection, on
-/// which the icons are shown too. Never, where Qt draws on something else than X11.
+/// which the icons are shown too. There is never one where Qt does not draw on
+/// X11.
 class XEmbedHosts final : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
 

@@ -14,9 +14,9 @@ class X11ClipboardHandOver {
 public:
     static constexpr Seconds longestWait{1.0};
 
-    /// Calls `done` once, on a later turn, when the manager has taken what it wants or refused, or
-    /// after `longestWait`; it may destroy the hand-over. `targets` is what there is to keep. Inbox
-    /// and queue must outlive it.
+    /// Calls `done` once, in a later event-loop iteration, when the manager has taken what it wants
+    /// or refused, or after `longestWait`; it may destroy the hand-over. `targets` is what there is
+    /// to keep. Inbox and queue must outlive it.
     X11ClipboardHandOver(
         X11SelectionInbox& inbox,
         MainQueue& queue,

@@ -19,8 +19,8 @@ public:
         std::optional<PasteboardItem> atHand; ///< none: its owner has to be asked
     };
 
-    /// Calls `done` once, on a later turn; it may destroy the save. Destroying it earlier gives up.
-    /// Inbox and queue must outlive it.
+    /// Calls `done` once, in a later event-loop iteration; it may destroy the save. Destroying it
+    /// earlier gives up. Inbox and queue must outlive it.
     X11PasteboardSave(
         X11SelectionInbox& inbox,
         MainQueue& queue,

@@ -17,20 +17,20 @@ struct X11SelectionRequest {
 };
 
 /// One request to the owner of a selection and its answer, whole or in increments (ICCCM 2.4 and
-/// 2.7.2). Bounds no time: destroying it gives up.
+/// 2.7.2). It has no time limit: destroying it gives up.
 class X11SelectionConversion {
 public:
-    struct Handlers {
-        /// The owner gave a sign of life.
+    struct Callbacks {
+        /// The owner has sent something.
         std::function<void()> progress;
-        /// Called once, last, on a later turn; none where the owner refused. It may destroy the
-        /// conversion.
+        /// Called once, last, in a later event-loop iteration; none where the owner refused. It may
+        /// destroy the conversion.
         std::function<void(std::optional<X11PropertyValue>)> done;
     };
 
     /// The inbox must outlive it.
     X11SelectionConversion(
-        X11SelectionInbox& inbox, const X11SelectionRequest& request, Handlers handlers);
+        X11SelectionInbox& inbox, const X11SelectionRequest& request, Callbacks callbacks);
     ~X11SelectionConversion();
 
     X11SelectionConversion(const X11SelectionConversion&) = delete;
@@ -49,7 +49,7 @@ private:
     xcb_atom_t m_selection;
     xcb_atom_t m_target;
     xcb_atom_t m_property;
-    Handlers m_handlers;
+    Callbacks m_callbacks;
     Stage m_stage = Stage::Asked;
     std::optional<X11PropertyValue> m_received;
     X11Connection::Subscription m_subscription;

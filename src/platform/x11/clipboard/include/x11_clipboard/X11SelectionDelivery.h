@@ -10,11 +10,11 @@
 namespace quorvane {
 
 /// Brings values into the properties of those that asked for them: short ones at once, long ones in
-/// increments at the requestor's pace (ICCCM 2.7.2), to any number of them side by side. What has
-/// begun goes on after the selection is lost.
+/// increments at the requestor's pace (ICCCM 2.7.2), to any number of them side by side. A
+/// transfer that has begun goes on after the selection is lost.
 class X11SelectionDelivery {
 public:
-    /// A requestor that takes no increment for so long is given up.
+    /// A requestor that takes no increment for this long is given up.
     static constexpr Seconds longestPause{10.0};
 
     /// The queue must outlive it.

@@ -19,14 +19,15 @@ class X11SelectionSave {
 public:
     using Done = std::function<void(PasteboardItem)>;
 
-    /// An owner that gives no sign of life for so long is cut off.
+    /// An owner that sends nothing for this long is cut off.
     static constexpr Seconds longestSilence{0.3};
-    /// And in any case after so long.
+    /// And in any case after this long.
     static constexpr Seconds longestSave{1.0};
 
-    /// Calls `done` once, on a later turn, with what was read, in the owner's order; it may destroy
-    /// the save. Destroying it earlier gives up. All requests carry one time, so that an owner who
-    /// comes after it can tell that he is not meant. Inbox and queue must outlive it.
+    /// Calls `done` once, in a later event-loop iteration, with what was read, in the owner's
+    /// order; it may destroy the save. Destroying it earlier gives up. All requests carry the same
+    /// time, so that a later owner of the selection can tell that the request is not for it. Inbox
+    /// and queue must outlive it.
     X11SelectionSave(
         X11SelectionInbox& inbox,
         MainQueue& queue,

@@ -7,8 +7,8 @@
 
 namespace quorvane {
 
-/// Has the changes of another program's window, and its end, reported for as long as the watch
-/// lives. What other services of ours have selected on the window stays selected.
+/// Subscribes to property changes and to the destruction of another program's window, for as long
+/// as the watch lives. Events that we had selected on the window before stay selected.
 class X11WindowWatch {
 public:
     /// Null where the window is gone.

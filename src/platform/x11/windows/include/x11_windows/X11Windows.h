@@ -14,12 +14,11 @@
 
 namespace quorvane {
 
-/// EWMH's source indication of requests that window managers carry out without a doubt: those that
-/// stand for a direct wish of the user.
-inline constexpr std::uint32_t fromPager = 2;
+/// EWMH's source indication for direct user actions: window managers do not question these.
+inline constexpr std::uint32_t sourcePager = 2;
 
-/// What windows say about themselves, which one has the keys, and how to give them to another;
-/// asked from the server at every call. Windows that are gone say nothing.
+/// Questions about windows, and requests to the window manager. The server is asked at every call;
+/// a window that no longer exists has no properties.
 class X11Windows {
 public:
     explicit X11Windows(std::shared_ptr<X11Connection> connection)
