@@ -18,8 +18,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Whether a host has taken our window in; until then it is nowhere. Qt's own platform plugin knows
-/// the window by its name, too.
+/// Whether a host has embedded our window; until then it has no place on the screen. Qt's own
+/// platform plugin finds the window by its name, too.
 bool isEmbedded() {
     return std::ranges::any_of(QGuiApplication::allWindows(), [](const QWindow* window) {
         return window->objectName() == "QSystemTrayIconSysWindow"_L1 && window->isExposed();
@@ -63,15 +63,12 @@ std::optional<QRect> TrayStatusItem::frame() const {
 void TrayStatusItem::hostsChanged() {
     if (hasButton() && !m_icon)
         makeIcon();
-    const auto handler = m_buttonChanged;
-    if (handler)
-        handler();
 }
 
 void TrayStatusItem::makeIcon() {
     m_icon = std::make_unique<QSystemTrayIcon>();
     connect(m_icon.get(), &QSystemTrayIcon::activated, this, &TrayStatusItem::activated);
-    // An icon that embeds itself would open the menu on its own, and tell nobody.
+    // With XEmbed, Qt would open this menu without reporting the click.
     if (!drawsMenuItself()) {
         m_hostsMenu = makeTrayMenu(m_published);
         m_icon->setContextMenu(m_hostsMenu.get());

@@ -14,7 +14,7 @@ class QMenu;
 namespace quorvane {
 
 /// An icon that Qt shows to whatever host is there. An XEmbed host leaves the menu to us; a host of
-/// StatusNotifierItems draws it itself and tells of no right click.
+/// StatusNotifierItems draws it itself and does not report right clicks.
 class TrayStatusItem final : public QObject, public StatusItem {
     Q_OBJECT
 
@@ -28,10 +28,6 @@ public:
     void setImage(const QIcon& image, const QString& accessibilityDescription) override;
 
     void onClicked(std::function<void(Click)> handler) override { m_clicked = std::move(handler); }
-
-    void onButtonChanged(std::function<void()> handler) override {
-        m_buttonChanged = std::move(handler);
-    }
 
     [[nodiscard]] bool isVisible() const override { return m_isVisible; }
 
@@ -58,7 +54,6 @@ private:
     QString m_description;
     bool m_isVisible = false;
     std::function<void(Click)> m_clicked;
-    std::function<void()> m_buttonChanged;
     std::unique_ptr<QMenu> m_hostsMenu;      ///< what the host draws
     std::unique_ptr<QMenu> m_openMenu;       ///< the last one that we opened
     std::unique_ptr<QSystemTrayIcon> m_icon; ///< once a host has come

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "TrayStatusItem.h"
+
 #include <controls/SymbolIcon.h>
-#include <platform_tray/TrayStatusBar.h>
 
 #include <QApplication>
 #include <QSocketNotifier>
@@ -39,14 +40,16 @@ StatusMenu menu() {
 
 class Probe {
 public:
-    Probe() : m_bar(QDBusConnection::sessionBus()), m_item(m_bar.makeStatusItem(menu())) {
-        if (!m_item) {
+    Probe() {
+        if (!m_hosts.arePossible()) {
             say(u"no bar"_s);
             return;
         }
+        m_item = std::make_unique<TrayStatusItem>(m_hosts, menu());
         setImage(QApplication::palette());
         m_item->onClicked([this](StatusItem::Click click) { clicked(click); });
-        m_item->onButtonChanged([this] { sayButton(); });
+        // Connected after the item, so that its icon is there when the button is announced.
+        QObject::connect(&m_hosts, &TrayHosts::changed, m_item.get(), [this] { sayButton(); });
         m_item->setVisible(true);
         sayButton();
     }
@@ -93,8 +96,8 @@ private:
     }
 
     QtMainQueue m_queue;
-    TrayStatusBar m_bar;
-    std::unique_ptr<StatusItem> m_item;
+    TrayHosts m_hosts{QDBusConnection::sessionBus()};
+    std::unique_ptr<TrayStatusItem> m_item;
 };
 
 } // namespace

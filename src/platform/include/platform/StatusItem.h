@@ -16,7 +16,7 @@ namespace quorvane {
 /// show it; a bar may come, go and come again.
 class StatusItem {
 public:
-    /// What the user let go over the icon.
+    /// Which button the user released over the icon.
     enum class Click { Left, Right };
 
     virtual ~StatusItem() = default;
@@ -24,15 +24,12 @@ public:
     /// Whether there is a bar that shows items, this one unless it is hidden.
     [[nodiscard]] virtual bool hasButton() const = 0;
 
-    /// The picture, in any size that the bar asks for, and its name for those who do not see it.
+    /// The picture, in any size that the bar asks for, and its name for assistive technology.
     virtual void setImage(const QIcon& image, const QString& accessibilityDescription) = 0;
 
     /// Called for each click on the icon; replaces an earlier handler. A desktop that shows the
     /// menu by itself reports no right clicks.
     virtual void onClicked(std::function<void(Click)> handler) = 0;
-
-    /// Called when a bar has come or gone; replaces an earlier handler.
-    virtual void onButtonChanged(std::function<void()> handler) = 0;
 
     [[nodiscard]] virtual bool isVisible() const = 0;
     virtual void setVisible(bool visible) = 0;

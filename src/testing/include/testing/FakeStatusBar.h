@@ -30,13 +30,6 @@ public:
             m_item->clicked(click);
     }
 
-    /// A host comes or goes.
-    void setHasButton(bool isThere) {
-        hasButton = isThere;
-        if (m_item != nullptr && m_item->buttonChanged)
-            m_item->buttonChanged();
-    }
-
     [[nodiscard]] bool isItemVisible() const { return m_item != nullptr && m_item->visible; }
 
     [[nodiscard]] const StatusMenu& attachedMenu() const { return m_item->menu; }
@@ -68,10 +61,6 @@ private:
             clicked = std::move(handler);
         }
 
-        void onButtonChanged(std::function<void()> handler) override {
-            buttonChanged = std::move(handler);
-        }
-
         [[nodiscard]] bool isVisible() const override { return visible; }
 
         void setVisible(bool isVisible) override {
@@ -91,7 +80,6 @@ private:
         bool visible = false;
         StatusMenu menu;
         std::function<void(Click)> clicked;
-        std::function<void()> buttonChanged;
 
     private:
         FakeStatusBar& m_bar;
