@@ -2,7 +2,6 @@
 #include "MergedItem.h"
 
 #include <delivery/TextInserter.h>
-#include <platform/KeyCodes.h>
 
 #include <QLoggingCategory>
 
@@ -10,28 +9,47 @@
 
 namespace quorvane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Q_LOGGING_CATEGORY(lcInsert, "quorvane.insert", QtFatalMsg)
 
-constexpr KeyChord pasteChord{keycode::v, modifier::command};
+/// Types and sizes; never the contents, which are the user's.
+QString summaryOf(const PasteboardItem& item) {
+    QStringList entries;
+    for (const auto& entry : item)
+        entries.append(u"%1 (%2 bytes)"_s.arg(entry.type, QString::number(entry.bytes.size())));
+    return entries.isEmpty() ? u"nothing"_s : entries.join(u", "_s);
+}
+
+void logContents(
+    const char* action,
+    const PasteboardItem& item,
+    const std::optional<PasteboardItem>& selection) {
+    if (!lcInsert().isDebugEnabled())
+        return;
+    qCDebug(lcInsert, "%s: %ls", action, qUtf16Printable(summaryOf(item)));
+    if (selection)
+        qCDebug(lcInsert, "%s, selection: %ls", action, qUtf16Printable(summaryOf(*selection)));
+}
 
 } // namespace
 
-TextInserter::TextInserter(Services services)
-    : m_services(services),
+TextInserter::TextInserter(Dependencies dependencies)
+    : m_dependencies(dependencies),
       m_savesWanted(std::make_shared<const bool>(true)) {
 }
 
 TextInserter::~TextInserter() = default;
 
 void TextInserter::insert(const QString& text) {
-    if (!m_services.accessibilityRight.isTrusted()) {
+    if (!m_dependencies.accessibilityRight.isTrusted()) {
         qCInfo(lcInsert, "dropped: the accessibility right is missing");
-        m_services.accessibilityRight.prompt();
+        m_dependencies.accessibilityRight.prompt();
         return;
     }
-    m_services.pasteboard.save(
+    m_dependencies.pasteboard.save(
         [this, text, wanted = std::weak_ptr(m_savesWanted)](PasteboardContents saved) {
             if (!wanted.expired())
                 paste(text, std::move(saved));
@@ -45,23 +63,25 @@ void TextInserter::finish() {
         restore(saved);
 }
 
-// One turn of the main loop: nobody can change the pasteboard between the save and the text.
+// All in one iteration of the event loop: none of our own code can change the pasteboard between
+// the save and the text.
 void TextInserter::paste(const QString& text, PasteboardContents saved) {
-    m_services.pasteboard.clear();
-    m_services.pasteboard.setString(text, TextStay::Passing);
+    logContents("saved", mergedItem(saved.items), saved.selection);
+    m_dependencies.pasteboard.clear();
+    m_dependencies.pasteboard.setString(text, TextStay::Passing);
     post();
     scheduleRestore(std::move(saved));
 }
 
 void TextInserter::post() {
-    switch (m_services.keyPoster.post(pasteChord)) {
+    switch (m_dependencies.keyPoster.paste()) {
     case PostOutcome::Posted:
         break;
     case PostOutcome::NoSuchKey:
         qCInfo(lcInsert, "no paste keys: the keyboard has none that would do");
         break;
     case PostOutcome::Unavailable:
-        qCInfo(lcInsert, "no paste keys: this desktop takes none from us");
+        qCInfo(lcInsert, "no paste keys: this desktop does not let us post any");
         break;
     }
 }
@@ -69,16 +89,17 @@ void TextInserter::post() {
 void TextInserter::scheduleRestore(PasteboardContents saved) {
     const int number = m_nextRestore++;
     m_pending.emplace(number, std::move(saved));
-    m_deadlines.run(m_services.mainQueue, restoreDelay, [this, number] {
+    m_deadlines.run(m_dependencies.mainQueue, restoreDelay, [this, number] {
         restore(m_pending.extract(number).mapped());
     });
 }
 
 void TextInserter::restore(const PasteboardContents& saved) {
-    m_services.pasteboard.clear();
+    m_dependencies.pasteboard.clear();
     const auto item = mergedItem(saved.items);
+    logContents("put back", item, saved.selection);
     if (!item.empty() || saved.selection)
-        m_services.pasteboard.write(item, saved.selection);
+        m_dependencies.pasteboard.write(item, saved.selection);
 }
 
 } // namespace quorvane

@@ -18,7 +18,7 @@ using testing::ElementsAre;
 using Call = CallLog::Call;
 
 const RunningApplication editor{42, u"editor"_s};
-const std::string pasteKeys = "post 9 with 1048576"; // V with Command, 1 << 20, alone
+const std::string pasteKeys = "paste";
 
 class AppDelegateTest : public DelegateFixture {};
 

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <testing/CallLog.h>
+#include <testing/CapturedLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeKeyPoster.h>
 #include <testing/FakePasteboard.h>
@@ -18,7 +19,7 @@ using namespace std::chrono_literals;
 
 using Calls = std::vector<CallLog::Call>;
 
-const std::string pasteKeys = "post 9 with 1048576"; // V with Command, 1 << 20, alone
+const std::string pasteKeys = "paste";
 
 class TextInserterTest : public testing::Test {
 protected:
@@ -27,8 +28,8 @@ protected:
     FakeAccessibilityRight right{log};
     FakePasteboard pasteboard{log, queue};
     FakeKeyPoster poster{log};
-    std::unique_ptr<TextInserter> inserter =
-        std::make_unique<TextInserter>(TextInserter::Services{right, pasteboard, poster, queue});
+    std::unique_ptr<TextInserter> inserter = std::make_unique<TextInserter>(
+        TextInserter::Dependencies{right, pasteboard, poster, queue});
 };
 
 TEST_F(TextInserterTest, SavesPutsPostsAndRestoresInOrder) {
@@ -174,6 +175,30 @@ TEST_F(TextInserterTest, InserterThatIsGoneTouchesNothing) {
     inserter.reset();
     queue.advance(1s);
     EXPECT_EQ(log.calls(), (Calls{{0ms, "isTrusted"}, {0ms, "save"}}));
+}
+
+TEST_F(TextInserterTest, LogTellsTypesAndSizesButNoContents) {
+    const CapturedLog messages(u"quorvane.insert"_s);
+    const PasteboardItem marked{pasteboardEntry(u"UTF8_STRING"_s, "marked words")};
+    pasteboard.setContents(
+        {{{pasteboardEntry(u"text/plain"_s, "private"), pasteboardEntry(u"image/png"_s, "pixels")}},
+         marked});
+    inserter->insert(u"2024-03-10"_s);
+    queue.advance(1s);
+    EXPECT_EQ(
+        messages.lines(),
+        (QStringList{
+            u"saved: text/plain (7 bytes), image/png (6 bytes)"_s,
+            u"saved, selection: UTF8_STRING (12 bytes)"_s,
+            u"put back: text/plain (7 bytes), image/png (6 bytes)"_s,
+            u"put back, selection: UTF8_STRING (12 bytes)"_s}));
+}
+
+TEST_F(TextInserterTest, LogTellsThatThereWasNothingToSave) {
+    const CapturedLog messages(u"quorvane.insert"_s);
+    inserter->insert(u"2024-03-10"_s);
+    queue.advance(1s);
+    EXPECT_EQ(messages.lines(), (QStringList{u"saved: nothing"_s, u"put back: nothing"_s}));
 }
 
 } // namespace

@@ -27,7 +27,7 @@ public:
 
 class NullKeyPoster final : public KeyPoster {
 public:
-    PostOutcome post(const KeyChord&) override { return PostOutcome::Unavailable; }
+    [[nodiscard]] PostOutcome paste() override { return PostOutcome::Unavailable; }
 };
 
 class NullPasteboard final : public Pasteboard {

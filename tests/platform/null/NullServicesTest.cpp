@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <platform/KeyCodes.h>
 #include <platform_null/NullServices.h>
 
 #include <gtest/gtest.h>
@@ -19,8 +18,7 @@ protected:
 TEST_F(NullServices, GrantNothing) {
     m_services.accessibilityRight->prompt();
     EXPECT_FALSE(m_services.accessibilityRight->isTrusted());
-    EXPECT_EQ(
-        m_services.keyPoster->post({keycode::v, modifier::command}), PostOutcome::Unavailable);
+    EXPECT_EQ(m_services.keyPoster->paste(), PostOutcome::Unavailable);
     EXPECT_EQ(m_services.workspace->frontmostApplication(), std::nullopt);
     EXPECT_EQ(m_services.keyboardLayout->characters(0), std::nullopt);
 }

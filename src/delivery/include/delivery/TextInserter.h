@@ -18,7 +18,7 @@ namespace quorvane {
 class TextInserter final {
 public:
     /// What the inserter works with; all must outlive it.
-    struct Services {
+    struct Dependencies {
         AccessibilityRight& accessibilityRight;
         Pasteboard& pasteboard;
         KeyPoster& keyPoster;
@@ -28,17 +28,19 @@ public:
     /// From the paste keys to the restore: long enough for an application that pastes late.
     static constexpr Seconds restoreDelay{0.6};
 
-    explicit TextInserter(Services services);
+    explicit TextInserter(Dependencies dependencies);
     ~TextInserter();
 
     TextInserter(const TextInserter&) = delete;
     TextInserter& operator=(const TextInserter&) = delete;
 
-    /// Saves the pasteboard, puts the text on it, posts the paste keys, and restores it
+    /// Saves the pasteboard, puts the text on it, posts the paste keys, and restores the pasteboard
     /// `restoreDelay` later, whether or not the keys reached anything. Without the accessibility
-    /// right the desktop is asked to offer it, and nothing else happens.
+    /// right it does none of this: it lets the desktop ask the user for the right.
     ///
-    /// Insertions may overlap: each saves what stands there when its turn comes.
+    /// Insertions may overlap: each saves what the pasteboard holds when it begins.
+    /// At debug level the log (quorvane.insert) tells the types and sizes of what was saved and put
+    /// back.
     void insert(const QString& text);
 
     /// Runs at once the restores that are still due, in the order of their insertions, and gives up
@@ -46,7 +48,7 @@ public:
     void finish();
 
 private:
-    /// What a pasteboard gets back; numbered in the order of the insertions.
+    /// What is still to be put back; numbered in the order of the insertions.
     using PendingRestores = std::map<int, PasteboardContents>;
 
     void paste(const QString& text, PasteboardContents saved);
@@ -54,11 +56,13 @@ private:
     void scheduleRestore(PasteboardContents saved);
     void restore(const PasteboardContents& saved);
 
-    Services m_services;
+    Dependencies m_dependencies;
     PendingRestores m_pending;
     int m_nextRestore = 0;
     DeadlineSet m_deadlines;
-    std::shared_ptr<const bool> m_savesWanted; ///< saves that come back after it went are dropped
+    /// Held weakly by the saves in progress; one that ends after it was replaced or destroyed is
+    /// dropped.
+    std::shared_ptr<const bool> m_savesWanted;
 };
 
 } // namespace quorvane

@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform/KeyChord.h>
-
 namespace quorvane {
 
-/// What became of a posted chord.
+/// What became of the keys that were to be posted.
 enum class PostOutcome {
     Posted,
     NoSuchKey,   ///< the keyboard has no key that would do
-    Unavailable, ///< this desktop lets us post no keys
+    Unavailable, ///< this desktop does not let us post keys
 };
 
-/// Types keys into whatever application is in front.
+/// Types into the application in front.
 class KeyPoster {
 public:
     virtual ~KeyPoster() = default;
 
-    /// Presses and releases the chord with exactly its modifiers, whatever the user still holds.
-    /// Command means the front window's own accelerator: for V, the keys by which it pastes.
-    virtual PostOutcome post(const KeyChord& chord) = 0;
+    /// Presses and releases the keys by which the window in front pastes. Modifier keys that the
+    /// user still holds do not take part.
+    [[nodiscard]] virtual PostOutcome paste() = 0;
 };
 
 } // namespace quorvane

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "X11Keycodes.h"
-#include "X11TestExtension.h"
 
 #include <platform/PasteTarget.h>
 
@@ -8,9 +6,9 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <utility>
+#include <x11_keyboard/X11AccessibilityRight.h>
 #include <x11_keyboard/X11KeyPoster.h>
 #include <x11_server/X11ServerGrab.h>
 
@@ -19,21 +17,6 @@ namespace quorvane {
 namespace {
 
 Q_LOGGING_CATEGORY(lcKeys, "quorvane.keys", QtFatalMsg)
-
-struct ModifierKey {
-    ModifierFlags flag;
-    xkb_keysym_t keysym;
-};
-
-// The desktop's accelerator is Control, whatever the other keys of a chord are.
-constexpr std::array modifierKeys{
-    ModifierKey{modifier::control, XKB_KEY_Control_L},
-    ModifierKey{modifier::command, XKB_KEY_Control_L},
-    ModifierKey{modifier::option, XKB_KEY_Alt_L},
-    ModifierKey{modifier::shift, XKB_KEY_Shift_L},
-};
-
-constexpr KeyChord pasteChord{keycode::v, modifier::command};
 
 void appendOnce(std::vector<xcb_keycode_t>& keys, xcb_keycode_t key) {
     if (std::ranges::find(keys, key) == keys.end())
@@ -52,38 +35,16 @@ X11KeyPoster::X11KeyPoster(
       m_windows(m_connection) {
 }
 
-PostOutcome X11KeyPoster::post(const KeyChord& chord) {
+PostOutcome X11KeyPoster::paste() {
     if (!hasTestExtension(*m_connection))
         return PostOutcome::Unavailable;
     const auto target = m_windows.active();
     logTarget(target);
-    const auto keys = keysFor(chord, target);
+    const auto keys = m_keymap ? pasteKeysFor(target) : std::nullopt;
     if (!keys)
         return PostOutcome::NoSuchKey;
     type(*keys);
     return PostOutcome::Posted;
-}
-
-std::optional<X11KeyPoster::Keys>
-X11KeyPoster::keysFor(const KeyChord& chord, xcb_window_t target) const {
-    if (!m_keymap)
-        return std::nullopt;
-    if (chord == pasteChord)
-        return pasteKeysFor(target);
-    Keys keys;
-    for (const auto& [flag, keysym] : modifierKeys) {
-        if ((chord.flags & flag) != flag)
-            continue;
-        const auto key = m_keymap->keycodeOf(keysym);
-        if (!key)
-            return std::nullopt;
-        appendOnce(keys, *key);
-    }
-    const auto key = x11KeycodeFrom(chord.keyCode);
-    if (!key)
-        return std::nullopt;
-    keys.push_back(*key);
-    return keys;
 }
 
 std::optional<X11KeyPoster::Keys> X11KeyPoster::pasteKeysFor(xcb_window_t target) const {
@@ -98,7 +59,7 @@ std::optional<X11KeyPoster::Keys> X11KeyPoster::pasteKeysFor(xcb_window_t target
     case PasteKeys::ShiftInsert:
         break;
     }
-    // Layouts without a Latin V, alone, leave the older command: nearly all that paste know it.
+    // A keyboard without a Latin V has no Ctrl+V: nearly all programs know the older command too.
     return keys ? keys : keysYielding({XKB_KEY_Shift_L, XKB_KEY_Insert});
 }
 
@@ -125,7 +86,7 @@ X11KeyPoster::Keys X11KeyPoster::keysInTheWay() const {
         if (isDown && m_keymap->isHeldModifier(keycode))
             keys.push_back(keycode);
     }
-    // Those that are pressed next, even if the server thinks that they are up.
+    // The modifiers of the paste keys, too: the server may not know yet that the user holds them.
     for (const auto keysym : {XKB_KEY_Control_L, XKB_KEY_Shift_L}) {
         if (const auto key = m_keymap->keycodeOf(static_cast<xkb_keysym_t>(keysym)))
             appendOnce(keys, *key);
@@ -135,11 +96,11 @@ X11KeyPoster::Keys X11KeyPoster::keysInTheWay() const {
 
 void X11KeyPoster::type(const Keys& keys) {
     {
-        // No other client gets a word in between the question what is held and the chord.
+        // While we ask which keys are held and then type, no other client's request comes between.
         const X11ServerGrab alone(*m_connection);
         std::vector<xcb_void_cookie_t> requests;
-        // Never pressed again afterwards: a press of ours would outlast the real release, and the
-        // user's next chord would meet a modifier that is stuck.
+        // The held modifiers are not pressed again afterwards: the server would keep our press when
+        // the user lets go, and the modifier would be stuck.
         for (const auto key : keysInTheWay())
             requests.push_back(fake(XCB_KEY_RELEASE, key));
         for (const auto key : keys)

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "XkbProtocol.h"
 
 #include <QByteArray>
 #include <QLoggingCategory>
 #include <QString>
 #include <xkbcommon/xkbcommon-x11.h>
+
+// The protocol header has a field of this name, which C++ reserves; the platform offers no other
+// way to include it.
+#define explicit explicit_
+#include <xcb/xkb.h>
+#undef explicit
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,6 @@
 #include "support/PrivateDisplay.h"
 #include "support/X11Test.h"
 
-#include <platform/KeyCodes.h>
-
 #include <linux/input-event-codes.h>
 #include <x11_keyboard/X11KeyPoster.h>
 
@@ -16,18 +14,16 @@ namespace {
 
 using enum ReceivedKey::Kind;
 
-constexpr KeyChord paste{keycode::v, modifier::command};
-
 constexpr xcb_keycode_t x11(std::uint16_t evdevCode) {
     return static_cast<xcb_keycode_t>(evdevCode + 8);
 }
 
 class PosterOnX11 : public X11Test {
 protected:
-    [[nodiscard]] PostOutcome post(const KeyChord& chord) {
+    [[nodiscard]] PostOutcome paste() {
         X11KeyPoster poster(
             m_connection, X11Keymap::open(m_queue), std::make_shared<X11PostedKeys>());
-        return poster.post(chord);
+        return poster.paste();
     }
 
     /// What the window receives from now on, until it has received the release of all.
@@ -40,7 +36,7 @@ protected:
 TEST_F(PosterOnX11, PressesAndReleasesControlAndV) {
     ForeignWindow window;
     window.takeFocus();
-    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    ASSERT_EQ(paste(), PostOutcome::Posted);
     EXPECT_EQ(
         keysOf(window, 4),
         (std::vector<ReceivedKey>{
@@ -66,7 +62,7 @@ TEST_P(PosterOnX11WithLayout, FindsTheKeyThatPastesThere) {
     m_keyboard.useGroup(row.group);
     ForeignWindow window;
     window.takeFocus();
-    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    ASSERT_EQ(paste(), PostOutcome::Posted);
     const auto keys = keysOf(window, 4);
     m_keyboard.useGroup(0);
     ASSERT_EQ(keys.size(), 4U);
@@ -92,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(PosterOnX11, UsesTheKeysOfATerminal) {
     ForeignWindow window("konsole", "konsole");
     window.takeFocus();
-    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    ASSERT_EQ(paste(), PostOutcome::Posted);
     const auto keys = keysOf(window, 6);
     ASSERT_EQ(keys.size(), 6U);
     EXPECT_EQ(keys[2], (ReceivedKey{Press, x11(KEY_V), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT}));
@@ -101,30 +97,15 @@ TEST_F(PosterOnX11, UsesTheKeysOfATerminal) {
 TEST_F(PosterOnX11, UsesShiftInsertForXterm) {
     ForeignWindow window("xterm", "XTerm");
     window.takeFocus();
-    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    ASSERT_EQ(paste(), PostOutcome::Posted);
     const auto keys = keysOf(window, 4);
     ASSERT_EQ(keys.size(), 4U);
     EXPECT_EQ(keys[1], (ReceivedKey{Press, x11(KEY_INSERT), XCB_MOD_MASK_SHIFT}));
 }
 
-TEST_F(PosterOnX11, PostsAnyOtherChordByThePositionOfItsKey) {
-    ForeignWindow window;
-    window.takeFocus();
-    ASSERT_EQ(post({0, modifier::command | modifier::option}), PostOutcome::Posted);
-    const auto keys = keysOf(window, 6);
-    ASSERT_EQ(keys.size(), 6U);
-    EXPECT_EQ(keys[2], (ReceivedKey{Press, x11(KEY_A), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1}));
-}
-
-TEST_F(PosterOnX11, PressesControlOnceForControlAndCommand) {
-    ForeignWindow window;
-    window.takeFocus();
-    ASSERT_EQ(post({0, modifier::command | modifier::control}), PostOutcome::Posted);
-    EXPECT_EQ(keysOf(window, 4).size(), 4U);
-}
-
-TEST_F(PosterOnX11, KnowsNoKeyForACodeWithoutOne) {
-    EXPECT_EQ(post({0x34, modifier::command}), PostOutcome::NoSuchKey);
+TEST_F(PosterOnX11, HasNoKeysWithoutAKeymap) {
+    X11KeyPoster poster(m_connection, nullptr, std::make_shared<X11PostedKeys>());
+    EXPECT_EQ(poster.paste(), PostOutcome::NoSuchKey);
 }
 
 class PosterOnX11WithHeldKey : public PosterOnX11,
@@ -138,7 +119,7 @@ TEST_P(PosterOnX11WithHeldKey, SendsOnlyControlAndLeavesNothingStuck) {
     window.takeFocus();
     user.press(GetParam());
     ASSERT_NE(m_keyboard.state(), 0);
-    ASSERT_EQ(post(paste), PostOutcome::Posted);
+    ASSERT_EQ(paste(), PostOutcome::Posted);
     ASSERT_TRUE(waitUntil([&window] { return window.hasReceived(Release, x11(KEY_V)); }));
     for (const auto& key : window.keys()) {
         if (key.keycode == x11(KEY_V)) {
@@ -172,7 +153,7 @@ TEST_F(PosterOnX11, LeavesCapsLockOn) {
     ForeignWindow window;
     window.takeFocus();
     m_keyboard.type({KEY_CAPSLOCK});
-    EXPECT_EQ(post(paste), PostOutcome::Posted);
+    EXPECT_EQ(paste(), PostOutcome::Posted);
     EXPECT_EQ(m_keyboard.state(), XCB_MOD_MASK_LOCK);
     m_keyboard.type({KEY_CAPSLOCK});
     EXPECT_EQ(m_keyboard.state(), 0);
@@ -181,7 +162,7 @@ TEST_F(PosterOnX11, LeavesCapsLockOn) {
 TEST_F(PosterOnX11, PostsIntoAnyWindowWhereNoneIsActive) {
     xcb_set_input_focus(
         m_connection->xcb(), XCB_INPUT_FOCUS_NONE, XCB_INPUT_FOCUS_NONE, XCB_CURRENT_TIME);
-    EXPECT_EQ(post(paste), PostOutcome::Posted);
+    EXPECT_EQ(paste(), PostOutcome::Posted);
 }
 
 TEST(PosterOnX11WithoutXtest, IsUnavailable) {
@@ -190,7 +171,7 @@ TEST(PosterOnX11WithoutXtest, IsUnavailable) {
     QtMainQueue queue;
     const auto connection = X11Connection::open();
     X11KeyPoster poster(connection, X11Keymap::open(queue), std::make_shared<X11PostedKeys>());
-    EXPECT_EQ(poster.post(paste), PostOutcome::Unavailable);
+    EXPECT_EQ(poster.paste(), PostOutcome::Unavailable);
     EXPECT_EQ(xcb_connection_has_error(connection->xcb()), 0) << "the other services live on";
 }
 

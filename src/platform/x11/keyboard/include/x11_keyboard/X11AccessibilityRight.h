@@ -8,6 +8,9 @@
 
 namespace quorvane {
 
+/// Whether the server lets its clients type: it has the XTEST extension, and answers to it.
+[[nodiscard]] bool hasTestExtension(const X11Connection& connection);
+
 /// X11 asks nobody: every client may read and type keys, where the server can do it at all.
 class X11AccessibilityRight final : public AccessibilityRight {
 public:

@@ -23,13 +23,12 @@ public:
         std::shared_ptr<const X11Keymap> keymap,
         std::shared_ptr<X11PostedKeys> postedKeys);
 
-    PostOutcome post(const KeyChord& chord) override;
+    [[nodiscard]] PostOutcome paste() override;
 
 private:
     /// Pressed in this order, released in the opposite one.
     using Keys = std::vector<xcb_keycode_t>;
 
-    [[nodiscard]] std::optional<Keys> keysFor(const KeyChord& chord, xcb_window_t target) const;
     [[nodiscard]] std::optional<Keys> pasteKeysFor(xcb_window_t target) const;
     [[nodiscard]] std::optional<Keys>
     keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const;

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include <testing/CapturedLog.h>
+
+namespace quorvane {
+
+CapturedLog::CapturedLog(const QString& category)
+    : m_category(category),
+      m_before(qInstallMessageHandler(take)) {
+    s_current = this;
+    QLoggingCategory::setFilterRules(category + QStringLiteral(".debug=true"));
+}
+
+CapturedLog::~CapturedLog() {
+    QLoggingCategory::setFilterRules({});
+    qInstallMessageHandler(m_before);
+    s_current = nullptr;
+}
+
+// A message handler is a plain function.
+void CapturedLog::take(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (QLatin1StringView(context.category) == s_current->m_category)
+        s_current->m_lines.append(message);
+    else
+        s_current->m_before(type, context, message);
+}
+
+} // namespace quorvane
