@@ -4,9 +4,13 @@
 #include <app/Panel.h>
 #include <delivery/CopyText.h>
 
+#include <QLoggingCategory>
+
 namespace quorvane {
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcInsert, "quorvane.insert", QtFatalMsg)
 
 // Time for the panel to be gone before the other application is asked to the front ...
 constexpr Seconds activationDelay{0.08};
@@ -30,8 +34,11 @@ void AppDelegate::performCopy() {
 }
 
 void AppDelegate::activatePreviousApplication() {
-    if (m_previousFrontmostApp)
-        m_environment.platform.workspace->activate(*m_previousFrontmostApp);
+    if (!m_previousFrontmostApp)
+        return;
+    const auto& application = *m_previousFrontmostApp;
+    if (!m_environment.platform.workspace->activate(application))
+        qCInfo(lcInsert, "%ls cannot be activated", qUtf16Printable(application.name));
 }
 
 } // namespace quorvane

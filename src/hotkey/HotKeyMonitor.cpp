@@ -21,13 +21,13 @@ bool isKeyCode(std::int64_t value) {
 
 } // namespace
 
-std::shared_ptr<HotKeyMonitor> HotKeyMonitor::create(HotKeyCombo combo, Services services) {
-    return std::shared_ptr<HotKeyMonitor>(new HotKeyMonitor(combo, services));
+std::shared_ptr<HotKeyMonitor> HotKeyMonitor::create(HotKeyCombo combo, Dependencies dependencies) {
+    return std::shared_ptr<HotKeyMonitor>(new HotKeyMonitor(combo, dependencies));
 }
 
-HotKeyMonitor::HotKeyMonitor(HotKeyCombo combo, Services services)
+HotKeyMonitor::HotKeyMonitor(HotKeyCombo combo, Dependencies dependencies)
     : m_combo(combo),
-      m_services(services) {
+      m_dependencies(dependencies) {
 }
 
 void HotKeyMonitor::setCombo(HotKeyCombo combo) {
@@ -42,11 +42,11 @@ void HotKeyMonitor::setOnTriggered(std::function<void()> onTriggered) {
 
 void HotKeyMonitor::start() {
     m_lastFailure.reset();
-    if (!m_services.accessibilityRight.isTrusted())
-        return fail({u"the accessibility right is missing"_s, TapFailure::Retry::Possible});
+    if (!m_dependencies.accessibilityRight.isTrusted())
+        return fail({u"the accessibility right is missing"_s});
 
     auto result =
-        m_services.eventTaps.createTap([this](const KeyPress& press) { return handle(press); });
+        m_dependencies.eventTaps.createTap([this](const KeyPress& press) { return handle(press); });
     if (auto* failure = std::get_if<TapFailure>(&result))
         return fail(std::move(*failure));
 
@@ -80,7 +80,7 @@ TapVerdict HotKeyMonitor::handle(const KeyPress& press) {
 }
 
 void HotKeyMonitor::scheduleTrigger() {
-    m_services.mainQueue.async([self = shared_from_this()] {
+    m_dependencies.mainQueue.async([self = shared_from_this()] {
         // A copy: the callback may replace itself.
         if (const auto onTriggered = self->m_onTriggered)
             onTriggered();

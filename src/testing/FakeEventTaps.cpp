@@ -17,6 +17,7 @@ public:
 
     ~FakeEventTap() override {
         m_state->enabled = false;
+        m_state->grabbed.reset();
         m_state->alive = false;
         m_log.add("tap freed");
     }
@@ -27,23 +28,31 @@ public:
     void watch(std::optional<KeyChord> chord) override {
         m_state->watched = chord;
         m_log.add("watch");
+        updateGrab();
     }
 
     void enable() override {
         m_state->enabled = true;
         m_log.add("enable");
+        updateGrab();
     }
 
     void disable() override {
         m_state->enabled = false;
         m_log.add("disable");
+        updateGrab();
     }
 
-    [[nodiscard]] bool isDelivering() const override {
-        return m_state->enabled && m_state->watched && !*m_heldElsewhere;
-    }
+    [[nodiscard]] bool isDelivering() const override { return m_state->grabbed.has_value(); }
 
 private:
+    void updateGrab() {
+        const auto wanted = m_state->enabled ? m_state->watched : std::nullopt;
+        // What we hold nobody can take from us.
+        if (wanted != m_state->grabbed)
+            m_state->grabbed = *m_heldElsewhere ? std::nullopt : wanted;
+    }
+
     CallLog& m_log;
     std::shared_ptr<FakeEventTaps::TapState> m_state;
     std::shared_ptr<bool> m_heldElsewhere;
@@ -61,7 +70,7 @@ TapResult FakeEventTaps::createTap(KeyPressHandler handler) {
 }
 
 TapVerdict FakeEventTaps::press(const KeyPress& press) {
-    if (!m_tap || !m_tap->enabled || *m_heldElsewhere)
+    if (!m_tap || !m_tap->enabled || (m_tap->watched && !m_tap->grabbed))
         return TapVerdict::Pass;
     return m_tap->handler(press);
 }

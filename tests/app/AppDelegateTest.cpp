@@ -123,6 +123,14 @@ TEST_F(AppDelegateTest, WithNothingRememberedTheKeysGoToWhateverIsInFront) {
     EXPECT_THAT(calls(), testing::Contains(pasteKeys));
 }
 
+TEST_F(AppDelegateTest, ApplicationThatCannotBeActivatedStopsNoInsertion) {
+    showOver(editor);
+    workspace->loseWindows();
+    delegate->performInsert();
+    queue.advance(1s);
+    EXPECT_THAT(calls(), testing::IsSupersetOf({std::string("activate editor"), pasteKeys}));
+}
+
 TEST_F(AppDelegateTest, PanelThatWasNeverMadeIsNoObstacle) {
     makeDelegate();
     delegate->performInsert();

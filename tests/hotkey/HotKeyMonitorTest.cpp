@@ -34,7 +34,7 @@ protected:
     void TearDown() override { queue.run(); }
 };
 
-TEST_F(HotKeyMonitorTest, SwallowsTheShortcutAndTriggersOnceOnTheNextTurn) {
+TEST_F(HotKeyMonitorTest, SwallowsTheShortcutAndTriggersOnceInTheNextIteration) {
     monitor->start();
     EXPECT_TRUE(monitor->isArmed());
     EXPECT_EQ(taps.press(shortcut), TapVerdict::Swallow);
@@ -97,14 +97,14 @@ TEST_F(HotKeyMonitorTest, WithoutTheRightItStaysIdleAndAsksForNothing) {
     monitor->start();
     EXPECT_EQ(log.calls(), (std::vector<CallLog::Call>{{{}, "isTrusted"}}));
     EXPECT_FALSE(monitor->isArmed());
-    EXPECT_EQ(monitor->lastFailure()->retry, TapFailure::Retry::Possible);
+    EXPECT_EQ(monitor->lastFailure()->reason, u"the accessibility right is missing"_s);
     log.clear();
     monitor->stop();
     EXPECT_TRUE(log.calls().empty());
 }
 
 TEST_F(HotKeyMonitorTest, WithoutATapItStaysIdleUntilTheNextStart) {
-    taps.refuse({u"no keyboard"_s, TapFailure::Retry::Pointless});
+    taps.refuse({u"no keyboard"_s});
     monitor->start();
     EXPECT_FALSE(monitor->isArmed());
     EXPECT_EQ(monitor->lastFailure()->reason, u"no keyboard"_s);
@@ -150,7 +150,7 @@ TEST_F(HotKeyMonitorTest, CallbackReplacedBeforeTheTriggerRunsIsTheOneThatRuns) 
     EXPECT_EQ(replaced, 1);
 }
 
-TEST_F(HotKeyMonitorTest, MissingCallbackIsLetBe) {
+TEST_F(HotKeyMonitorTest, WithoutACallbackThePressIsSwallowedAllTheSame) {
     monitor->start();
     monitor->setOnTriggered({});
     EXPECT_EQ(taps.press(shortcut), TapVerdict::Swallow);
@@ -200,7 +200,20 @@ TEST_F(HotKeyMonitorTest, ShortcutHeldElsewhereIsSilentAndCanBeAskedFor) {
     EXPECT_FALSE(monitor->isArmed());
     EXPECT_EQ(monitor->lastFailure(), std::nullopt);
     taps.setHeldElsewhere(false);
+    EXPECT_FALSE(monitor->isArmed()) << "nobody tells that the shortcut has become free";
+    monitor->setCombo(monitor->combo());
     EXPECT_TRUE(monitor->isArmed());
+    EXPECT_EQ(taps.press(shortcut), TapVerdict::Swallow);
+}
+
+TEST_F(HotKeyMonitorTest, ShortcutThatIsHeldStaysOursWhateverOthersAskFor) {
+    monitor->start();
+    taps.setHeldElsewhere(true);
+    monitor->setCombo(monitor->combo());
+    EXPECT_TRUE(monitor->isArmed());
+    monitor->stop();
+    monitor->start();
+    EXPECT_FALSE(monitor->isArmed());
 }
 
 TEST_F(HotKeyMonitorTest, KeyCodeOutOfRangeStopsTheProcess) {

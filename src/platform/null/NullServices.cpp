@@ -21,7 +21,7 @@ public:
 class NullEventTapService final : public EventTapService {
 public:
     [[nodiscard]] TapResult createTap(KeyPressHandler) override {
-        return TapFailure{u"this desktop shows nobody its keys"_s, TapFailure::Retry::Pointless};
+        return TapFailure{u"there is no backend for the keyboard"_s};
     }
 };
 
@@ -58,7 +58,7 @@ public:
 
     [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
 
-    void activate(const RunningApplication&) override {}
+    [[nodiscard]] bool activate(const RunningApplication&) override { return false; }
 
     void onActiveSpaceChanged(std::function<void()>) override {}
 };

@@ -31,10 +31,27 @@ TEST_F(FreedesktopApplicationTest, RequestsReachTheirHandlers) {
     EXPECT_EQ(requests, (QStringList{u"reopen"_s, u"reopen"_s, u"toggle"_s, u"copy"_s}));
 }
 
-TEST_F(FreedesktopApplicationTest, RequestsWithoutHandlersAreLetBe) {
+TEST_F(FreedesktopApplicationTest, RequestsWithoutHandlersAreDropped) {
     FreedesktopApplication application(Start::ByUser, &object);
     application.Activate({});
+    application.ActivateAction(u"copy"_s, {}, {});
+    listen(application);
+    EXPECT_EQ(requests, QStringList()) << "none is kept for a later handler";
     application.ActivateAction(u"toggle"_s, {}, {});
+    EXPECT_EQ(requests, QStringList(u"toggle"_s));
+    application.setReopenHandler({});
+    application.setActionHandler({});
+    application.Activate({});
+    application.ActivateAction(u"copy"_s, {}, {});
+    EXPECT_EQ(requests, QStringList(u"toggle"_s));
+}
+
+TEST_F(FreedesktopApplicationTest, StartWithoutHandlersIsAStartAllTheSame) {
+    FreedesktopApplication application(Start::ByBus, &object);
+    application.ActivateAction(u"toggle"_s, {}, {});
+    listen(application);
+    application.ActivateAction(u"toggle"_s, {}, {});
+    EXPECT_EQ(requests, QStringList(u"toggle"_s)) << "only the first request is the start's";
 }
 
 TEST_F(FreedesktopApplicationTest, StartForToggleShowsInsteadOfHiding) {

@@ -12,22 +12,20 @@
 
 namespace quorvane {
 
-/// Watches every key press of the session for one shortcut, swallows it and asks for `onTriggered`
-/// on the next turn of the main loop. Held by a shared pointer: a pending trigger keeps it alive.
-///
-/// Going away neither stops nor detaches anything by itself; the tap, which goes with the monitor,
-/// frees what it holds from the desktop.
+/// Waits for one shortcut, wherever it is pressed, keeps the press from other programs and runs
+/// `onTriggered` in the next event-loop iteration. Held by a shared pointer: a pending trigger
+/// keeps it alive. Its end needs no stop(): destroying the tap gives the shortcut up.
 class HotKeyMonitor final : public std::enable_shared_from_this<HotKeyMonitor> {
 public:
     /// What the monitor works with; all must outlive it.
-    struct Services {
+    struct Dependencies {
         const AccessibilityRight& accessibilityRight;
         EventTapService& eventTaps;
         MainQueue& mainQueue;
     };
 
     [[nodiscard]] static std::shared_ptr<HotKeyMonitor>
-    create(HotKeyCombo combo, Services services);
+    create(HotKeyCombo combo, Dependencies dependencies);
 
     [[nodiscard]] HotKeyCombo combo() const { return m_combo; }
 
@@ -53,7 +51,7 @@ public:
     [[nodiscard]] const std::optional<TapFailure>& lastFailure() const { return m_lastFailure; }
 
 private:
-    HotKeyMonitor(HotKeyCombo combo, Services services);
+    HotKeyMonitor(HotKeyCombo combo, Dependencies dependencies);
 
     [[nodiscard]] TapVerdict handle(const KeyPress& press);
     void scheduleTrigger();
@@ -61,7 +59,7 @@ private:
     void fail(TapFailure failure);
 
     HotKeyCombo m_combo;
-    Services m_services;
+    Dependencies m_dependencies;
     std::function<void()> m_onTriggered;
     std::unique_ptr<EventTap> m_eventTap;
     std::optional<TapFailure> m_lastFailure;

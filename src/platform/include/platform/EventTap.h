@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform/KeyChord.h>
+#include <platform/ModifierFlags.h>
 
 #include <QString>
 
@@ -13,6 +13,14 @@
 
 namespace quorvane {
 
+/// A key by its position, with the modifiers held: exactly those, of the counted ones.
+struct KeyChord {
+    std::uint32_t keyCode = 0; ///< see KeyCodes.h
+    ModifierFlags flags;
+
+    friend constexpr bool operator==(const KeyChord&, const KeyChord&) = default;
+};
+
 /// One key going down, auto-repeats included.
 struct KeyPress {
     std::int64_t keyCode = 0;
@@ -21,33 +29,30 @@ struct KeyPress {
 
 enum class TapVerdict { Pass, Swallow };
 
-/// Decides about a press, at once: it stands in the way of every key of the session.
+/// Decides about a press, at once: keys that are typed after it may have to wait for the answer.
 using KeyPressHandler = std::function<TapVerdict(const KeyPress&)>;
 
-/// A filter on the session's key presses, in front of every application. Destroying it frees all
-/// that it holds from the desktop.
+/// Gets the presses of one shortcut before every application. Backends that can (X11) take hold of
+/// that shortcut alone, and see no other key. Destroying the tap gives the shortcut up.
 class EventTap {
 public:
     virtual ~EventTap() = default;
 
-    /// Which press to deliver, from now on: backends that cannot see every key ask the desktop for
-    /// this one alone. None asks for nothing.
+    /// Which press to deliver, from now on; none for no press. A backend may deliver others as
+    /// well.
     virtual void watch(std::optional<KeyChord> chord) = 0;
 
     virtual void enable() = 0;
     virtual void disable() = 0;
 
-    /// Whether the watched press is really ours: false while disabled, and while another program
-    /// holds it.
+    /// Whether the watched press is really ours: false while disabled, and where another program
+    /// held it when this tap last tried, by watch() or enable().
     [[nodiscard]] virtual bool isDelivering() const = 0;
 };
 
-/// Why there is no tap, and whether asking again later can help.
+/// Why there is no tap, for the log.
 struct TapFailure {
-    enum class Retry { Pointless, Possible };
-
     QString reason;
-    Retry retry = Retry::Pointless;
 
     friend bool operator==(const TapFailure&, const TapFailure&) = default;
 };

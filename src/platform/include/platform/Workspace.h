@@ -32,8 +32,9 @@ public:
     /// desktop does not tell.
     [[nodiscard]] virtual QScreen* focusedScreen() const = 0;
 
-    /// Brings the application to the front. One that is gone is let be.
-    virtual void activate(const RunningApplication& application) = 0;
+    /// Brings the application to the front; false if its window no longer exists, or the desktop
+    /// lets nobody do it.
+    [[nodiscard]] virtual bool activate(const RunningApplication& application) = 0;
 
     /// Called whenever another virtual desktop comes to the front; replaces an earlier handler.
     virtual void onActiveSpaceChanged(std::function<void()> handler) = 0;

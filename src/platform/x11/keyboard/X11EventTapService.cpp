@@ -19,7 +19,7 @@ X11EventTapService::X11EventTapService(
 
 TapResult X11EventTapService::createTap(KeyPressHandler handler) {
     if (!m_connection || xcb_connection_has_error(m_connection->xcb()) != 0)
-        return TapFailure{u"there is no X server"_s, TapFailure::Retry::Pointless};
+        return TapFailure{u"there is no X server"_s};
     return std::make_unique<X11EventTap>(
         m_connection, m_mainQueue, m_postedKeys, std::move(handler));
 }

@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <QLoggingCategory>
-
 #include <utility>
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Events.h>
 #include <x11_windows/X11Workspace.h>
 
 namespace quorvane {
-
-namespace {
-
-Q_LOGGING_CATEGORY(lcWorkspace, "quorvane.workspace", QtFatalMsg)
-
-} // namespace
 
 X11Workspace::X11Workspace(std::shared_ptr<X11Connection> connection)
     : m_connection(std::move(connection)),
@@ -39,13 +31,12 @@ QScreen* X11Workspace::focusedScreen() const {
     return centre ? qtx11::screenAt(*centre) : nullptr;
 }
 
-void X11Workspace::activate(const RunningApplication& application) {
+bool X11Workspace::activate(const RunningApplication& application) {
     const auto window = static_cast<xcb_window_t>(application.window);
-    if (!m_windows.exists(window)) {
-        qCInfo(lcWorkspace, "%ls is gone", qUtf16Printable(application.name));
-        return;
-    }
+    if (!m_windows.exists(window))
+        return false;
     m_windows.requestFocus(window);
+    return true;
 }
 
 void X11Workspace::onActiveSpaceChanged(std::function<void()> handler) {
@@ -81,7 +72,7 @@ void X11Workspace::trackSpace() {
 }
 
 bool X11Workspace::isAnotherProgram(xcb_window_t window) const {
-    // The word of a window manager that crashed stands until its successor has one of its own.
+    // A crashed window manager leaves _NET_ACTIVE_WINDOW behind until its successor writes it.
     return m_windows.exists(window) && !m_connection->owns(window) && !qtx11::owns(window) &&
            !m_windows.isDockOrDesktop(window);
 }

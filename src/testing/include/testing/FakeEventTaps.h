@@ -8,14 +8,16 @@
 
 namespace quorvane {
 
-/// A keyboard that the test types on. Delivers every press to an enabled tap, as a desktop does
-/// that shows a tap all keys; `watched` tells what a narrower one would have asked for.
+/// A keyboard that the test types on. A tap tries to take the watched shortcut when it is enabled
+/// and when it is given another, and keeps what it has got, as on X11. An enabled tap is shown
+/// every press, as it is by a desktop that cannot pick one out.
 class FakeEventTaps final : public EventTapService {
 public:
     /// The state of the last tap that was made, shared with it.
     struct TapState {
         KeyPressHandler handler;
         std::optional<KeyChord> watched;
+        std::optional<KeyChord> grabbed; ///< what the desktop has given to the tap
         bool enabled = false;
         bool alive = true;
     };
@@ -30,7 +32,7 @@ public:
     /// From now on, no tap can be had.
     void refuse(TapFailure failure) { m_refusal = std::move(failure); }
 
-    /// Another program holds the shortcut: enabled taps hear nothing of it.
+    /// Whether another program holds the shortcuts that no tap has taken.
     void setHeldElsewhere(bool held) { *m_heldElsewhere = held; }
 
     /// Null before the first tap.

@@ -18,8 +18,9 @@ public:
 
     [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
 
-    void activate(const RunningApplication& application) override {
+    [[nodiscard]] bool activate(const RunningApplication& application) override {
         m_log.add("activate " + application.name.toStdString());
+        return m_canActivate;
     }
 
     void onActiveSpaceChanged(std::function<void()> handler) override {
@@ -27,6 +28,9 @@ public:
     }
 
     void setFront(std::optional<RunningApplication> front) { m_front = std::move(front); }
+
+    /// From now on, the windows of other programs no longer exist.
+    void loseWindows() { m_canActivate = false; }
 
     void changeSpace() {
         if (m_spaceChanged)
@@ -36,6 +40,7 @@ public:
 private:
     CallLog& m_log;
     std::optional<RunningApplication> m_front;
+    bool m_canActivate = true;
     std::function<void()> m_spaceChanged;
 };
 

@@ -127,7 +127,7 @@ TEST_F(TapOnX11, FollowsAModifierThatMovesWhileItRuns) {
     const auto tap = makeTap();
     setLayout(u"us"_s);
     m_keyboard.swapModifiers(XCB_MAP_INDEX_4, XCB_MAP_INDEX_3);
-    // The grab follows on a later turn of the loop; until then the old one stands.
+    // The grab follows in a later event-loop iteration; until then the old one stands.
     ASSERT_TRUE(waitUntil([this] {
         m_keyboard.type(shortcutKeys);
         return !m_presses.empty();
@@ -209,7 +209,7 @@ TEST_F(TapOnX11, FreesThePressWhenDestroyed) {
 
 TEST_F(TapOnX11, HandsOnAPressThatWasUndecidedWhenDestroyed) {
     auto tap = makeTap();
-    // Without a turn of the loop: the server has halted the keyboard, and nobody has answered.
+    // The event loop has not run: the server has halted the keyboard, and nobody has answered.
     m_keyboard.type(shortcutKeys);
     tap.reset();
     ASSERT_TRUE(keysAreThrough());
@@ -245,7 +245,7 @@ TEST_F(TapOnX11, LetsThroughWhatTheProgramTypesItself) {
     EXPECT_TRUE(waitUntil([this] { return m_presses.size() == 1; }));
 }
 
-TEST(TapServiceOnX11, FailsForGoodOnceTheServerIsGone) {
+TEST(TapServiceOnX11, FailsOnceTheServerIsGone) {
     PrivateDisplay display;
     const ScopedDisplayVariable variable(display.name());
     QtMainQueue queue;
@@ -255,7 +255,7 @@ TEST(TapServiceOnX11, FailsForGoodOnceTheServerIsGone) {
     connection->waitForServer();
     const auto result = service.createTap([](const KeyPress&) { return TapVerdict::Pass; });
     ASSERT_TRUE(std::holds_alternative<TapFailure>(result));
-    EXPECT_EQ(std::get<TapFailure>(result).retry, TapFailure::Retry::Pointless);
+    EXPECT_EQ(std::get<TapFailure>(result).reason, u"there is no X server"_s);
 }
 
 } // namespace

@@ -75,20 +75,20 @@ TEST_F(WorkspaceOnX11, KeepsTheWindowBeforeWhileOneOfOursIsActive) {
     EXPECT_EQ(frontWindow(), second.id());
 }
 
-class WorkspaceOnX11WithFurniture : public WorkspaceOnX11,
-                                    public testing::WithParamInterface<const char*> {};
+class WorkspaceOnX11WithDockOrDesktop : public WorkspaceOnX11,
+                                        public testing::WithParamInterface<const char*> {};
 
-TEST_P(WorkspaceOnX11WithFurniture, KeepsTheWindowBeforeWhileTheDesktopIsActive) {
+TEST_P(WorkspaceOnX11WithDockOrDesktop, KeepsTheWindowBeforeWhileTheDesktopIsActive) {
     ForeignWindow window;
     activate(window);
-    ForeignWindow furniture("panel", "Panel", GetParam());
-    activate(furniture);
+    ForeignWindow dockOrDesktop("panel", "Panel", GetParam());
+    activate(dockOrDesktop);
     EXPECT_EQ(frontWindow(), window.id());
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Every,
-    WorkspaceOnX11WithFurniture,
+    WorkspaceOnX11WithDockOrDesktop,
     testing::Values("_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_WINDOW_TYPE_DESKTOP"));
 
 TEST_F(WorkspaceOnX11, CountsADialogAsAWindow) {
@@ -124,7 +124,7 @@ TEST_F(WorkspaceOnX11, BringsAWindowToTheFront) {
     ASSERT_TRUE(front);
     QWidget own;
     activate(own);
-    m_workspace.activate(*front);
+    EXPECT_TRUE(m_workspace.activate(*front));
     EXPECT_TRUE(waitUntil([&] { return activeWindow() == window.id() && window.hasFocus(); }));
 }
 
@@ -140,11 +140,11 @@ TEST_F(WorkspaceOnX11, BringsAWindowToTheFrontAfterAnotherTookTheFocusByItself) 
     ForeignWindow other;
     other.show();
     ASSERT_TRUE(becomesActive(other.id()));
-    m_workspace.activate(*front);
+    EXPECT_TRUE(m_workspace.activate(*front));
     EXPECT_TRUE(waitUntil([&] { return activeWindow() == window.id() && window.hasFocus(); }));
 }
 
-TEST_F(WorkspaceOnX11, LetsAWindowThatIsGoneBe) {
+TEST_F(WorkspaceOnX11, CannotActivateAWindowThatNoLongerExists) {
     QWidget own;
     activate(own);
     RunningApplication gone;
@@ -154,7 +154,7 @@ TEST_F(WorkspaceOnX11, LetsAWindowThatIsGoneBe) {
     }
     ASSERT_TRUE(waitUntil(
         [&] { return !X11Windows(m_connection).exists(static_cast<xcb_window_t>(gone.window)); }));
-    m_workspace.activate(gone);
+    EXPECT_FALSE(m_workspace.activate(gone));
     m_connection->waitForServer();
     EXPECT_EQ(activeWindow(), own.winId());
 }
@@ -216,7 +216,7 @@ TEST_F(WorkspaceOnX11WithoutManager, GivesTheFocusBack) {
     own.show();
     own.activateWindow();
     ASSERT_TRUE(waitUntil([&window] { return !window.hasFocus(); }));
-    m_workspace.activate(*front);
+    EXPECT_TRUE(m_workspace.activate(*front));
     EXPECT_TRUE(waitUntil([&window] { return window.hasFocus(); }));
 }
 

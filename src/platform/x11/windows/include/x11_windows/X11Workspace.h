@@ -12,16 +12,16 @@
 
 namespace quorvane {
 
-/// Follows the window manager's word on which window is active. While that is one of ours, a part
-/// of the desktop, or none, the last window of another program before it is in front, as long as
-/// it shows.
+/// Follows which window is active, as the window manager tells. While that is one of ours, a dock
+/// or desktop window, or none, the last window of another program counts as in front, as long as it
+/// is shown.
 class X11Workspace final : public Workspace {
 public:
     explicit X11Workspace(std::shared_ptr<X11Connection> connection);
 
     [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override;
     [[nodiscard]] QScreen* focusedScreen() const override;
-    void activate(const RunningApplication& application) override;
+    [[nodiscard]] bool activate(const RunningApplication& application) override;
     void onActiveSpaceChanged(std::function<void()> handler) override;
 
 private:
@@ -35,7 +35,7 @@ private:
     std::shared_ptr<X11Connection> m_connection;
     X11Windows m_windows;
     X11UserTime m_userTime;
-    /// Kept by whoever looks: a caller may ask before the event that tells of a change arrives.
+    /// Updated by each question too: a caller may ask before the event that reports a change.
     mutable xcb_window_t m_lastForeign = XCB_WINDOW_NONE;
     std::vector<std::uint32_t> m_desktop;
     std::function<void()> m_spaceChanged;
