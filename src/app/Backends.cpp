@@ -26,22 +26,20 @@ bool wantsX11(const QString& forced, const QString& qtPlatform) {
 
 PlatformServices
 makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue) {
-    if (wantsX11(forced, qtPlatform)) {
-        if (auto services = makeX11Services(queue)) {
-            services->softwareCentre = std::make_unique<XdgSoftwareCentre>(
-                MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
-            services->appearance =
-                std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
-            services->statusBar = std::make_unique<TrayStatusBar>(QDBusConnection::sessionBus());
-            return *std::move(services);
-        }
+    auto services = makeNullServices(queue);
+    if (wantsX11(forced, qtPlatform) && addX11Services(services, queue)) {
+        services.softwareCentre = std::make_unique<XdgSoftwareCentre>(
+            MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
+        services.appearance = std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
+        services.statusBar = std::make_unique<TrayStatusBar>(QDBusConnection::sessionBus());
+        return services;
     }
     qCInfo(
         lcBackend,
         "no services of a desktop: \"%ls\" on \"%ls\"",
         qUtf16Printable(forced),
         qUtf16Printable(qtPlatform));
-    return makeNullServices(queue);
+    return services;
 }
 
 } // namespace quorvane

@@ -90,6 +90,27 @@ public:
     [[nodiscard]] bool isComposited() const override { return false; }
 };
 
+class NullAppearance final : public Appearance {
+public:
+    [[nodiscard]] DesktopAppearance current() const override { return {}; }
+
+    void read() override {}
+
+    void onChanged(std::function<void()>) override {}
+};
+
+class NullSoftwareCentre final : public SoftwareCentre {
+public:
+    [[nodiscard]] bool showPage(const QString&) override { return false; }
+};
+
+class NullStatusBar final : public StatusBar {
+public:
+    [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem(const StatusMenu&) override {
+        return nullptr;
+    }
+};
+
 } // namespace
 
 PlatformServices makeNullServices(MainQueue& mainQueue) {
@@ -101,6 +122,9 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .workspace = std::make_unique<NullWorkspace>(),
         .keyboardLayout = std::make_unique<NullKeyboardLayout>(),
         .windowTraits = std::make_unique<NullWindowTraits>(),
+        .appearance = std::make_unique<NullAppearance>(),
+        .softwareCentre = std::make_unique<NullSoftwareCentre>(),
+        .statusBar = std::make_unique<NullStatusBar>(),
     };
 }
 

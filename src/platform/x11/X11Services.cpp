@@ -11,21 +11,20 @@
 
 namespace quorvane {
 
-std::optional<PlatformServices> makeX11Services(MainQueue& mainQueue) {
+bool addX11Services(PlatformServices& services, MainQueue& mainQueue) {
     const auto connection = X11Connection::open();
     if (!connection)
-        return std::nullopt;
+        return false;
     const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(mainQueue);
     const auto postedKeys = std::make_shared<X11PostedKeys>();
-    return PlatformServices{
-        .accessibilityRight = std::make_unique<X11AccessibilityRight>(connection),
-        .eventTaps = std::make_unique<X11EventTapService>(connection, mainQueue, postedKeys),
-        .keyPoster = std::make_unique<X11KeyPoster>(connection, keymap, postedKeys),
-        .pasteboard = std::make_unique<X11Pasteboard>(connection, mainQueue),
-        .workspace = std::make_unique<X11Workspace>(connection),
-        .keyboardLayout = std::make_unique<X11KeyboardLayout>(keymap),
-        .windowTraits = std::make_unique<X11WindowTraits>(connection),
-    };
+    services.accessibilityRight = std::make_unique<X11AccessibilityRight>(connection);
+    services.eventTaps = std::make_unique<X11EventTapService>(connection, mainQueue, postedKeys);
+    services.keyPoster = std::make_unique<X11KeyPoster>(connection, keymap, postedKeys);
+    services.pasteboard = std::make_unique<X11Pasteboard>(connection, mainQueue);
+    services.workspace = std::make_unique<X11Workspace>(connection);
+    services.keyboardLayout = std::make_unique<X11KeyboardLayout>(keymap);
+    services.windowTraits = std::make_unique<X11WindowTraits>(connection);
+    return true;
 }
 
 } // namespace quorvane

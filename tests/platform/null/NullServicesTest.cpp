@@ -26,6 +26,11 @@ TEST_F(NullServices, GrantNothing) {
     EXPECT_EQ(m_services.keyboardLayout->characters(0), std::nullopt);
 }
 
+TEST_F(NullServices, ShowNothingOnTheDesktop) {
+    EXPECT_EQ(m_services.statusBar->makeStatusItem({}), nullptr);
+    EXPECT_FALSE(m_services.softwareCentre->showPage(u"org.quorvane.Quorvane"_s));
+}
+
 TEST_F(NullServices, KnowNothingOfTheAppearance) {
     m_services.appearance->read();
     EXPECT_EQ(m_services.appearance->current(), DesktopAppearance{});

@@ -2,13 +2,13 @@
 #pragma once
 
 #include <platform/AccessibilityRight.h>
+#include <platform/Appearance.h>
 #include <platform/EventTap.h>
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
-#include <platform/NoSoftwareCentre.h>
-#include <platform/NoStatusBar.h>
 #include <platform/Pasteboard.h>
-#include <platform/UnknownAppearance.h>
+#include <platform/SoftwareCentre.h>
+#include <platform/StatusBar.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
 
@@ -16,7 +16,8 @@
 
 namespace quorvane {
 
-/// One of each desktop service, none absent.
+/// One of each desktop service, none absent: the set begins with the services that do nothing, and
+/// each backend replaces those that it has.
 struct PlatformServices {
     std::unique_ptr<AccessibilityRight> accessibilityRight;
     std::unique_ptr<EventTapService> eventTaps;
@@ -26,10 +27,9 @@ struct PlatformServices {
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<WindowTraits> windowTraits;
 
-    // No display server tells these; the one who chooses the backends knows where to ask.
-    std::unique_ptr<Appearance> appearance = std::make_unique<UnknownAppearance>();
-    std::unique_ptr<SoftwareCentre> softwareCentre = std::make_unique<NoSoftwareCentre>();
-    std::unique_ptr<StatusBar> statusBar = std::make_unique<NoStatusBar>();
+    std::unique_ptr<Appearance> appearance;
+    std::unique_ptr<SoftwareCentre> softwareCentre;
+    std::unique_ptr<StatusBar> statusBar;
 };
 
 } // namespace quorvane

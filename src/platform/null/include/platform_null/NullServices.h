@@ -7,8 +7,8 @@
 
 namespace quorvane {
 
-/// A desktop on which nothing can be done: no right, no taps, no keys, an empty pasteboard, nothing
-/// in front. It runs everywhere. The queue must outlive the services.
+/// One service of each kind that does nothing: no right, no taps, no keys, an empty pasteboard,
+/// nothing in front, no tray. They run everywhere. The queue must outlive the services.
 [[nodiscard]] PlatformServices makeNullServices(MainQueue& mainQueue);
 
 } // namespace quorvane

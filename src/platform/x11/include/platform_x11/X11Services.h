@@ -4,12 +4,12 @@
 #include <platform/PlatformServices.h>
 
 #include <loop/MainQueue.h>
-#include <optional>
 
 namespace quorvane {
 
-/// All services on the X server that $DISPLAY names; none if it does not answer. The application
-/// object must exist before and the queue outlive them.
-[[nodiscard]] std::optional<PlatformServices> makeX11Services(MainQueue& mainQueue);
+/// Replaces, among the services, those that an X server has; false, and nothing changed, where
+/// $DISPLAY names no server that answers. The application object must exist before, and the queue
+/// outlive them.
+[[nodiscard]] bool addX11Services(PlatformServices& services, MainQueue& mainQueue);
 
 } // namespace quorvane
