@@ -16,9 +16,9 @@ constexpr double lastMillisecond = 9007199254740992.0;
 QDateTime utcDateTime(Instant instant) {
     const double milliseconds = std::floor(instant.secondsSince1970 * 1000);
     if (std::isnan(milliseconds))
-        return QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
+        return QDateTime::fromMSecsSinceEpoch(0, QTimeZone::utc());
     const double clamped = std::clamp(milliseconds, -lastMillisecond, lastMillisecond);
-    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(clamped), Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(clamped), QTimeZone::utc());
 }
 
 } // namespace
