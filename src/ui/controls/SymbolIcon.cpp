@@ -4,7 +4,9 @@
 #include <controls/SymbolPainter.h>
 
 #include <QIconEngine>
+#include <QLibraryInfo>
 #include <QPainter>
+#include <QVersionNumber>
 
 #include <algorithm>
 
@@ -19,6 +21,12 @@ constexpr double haloWidth = 0.75;
 
 /// The sizes that status bars ask for; a desktop that is sent pictures is sent these.
 constexpr std::array barSizes{16, 22, 24, 32, 48};
+
+/// The pixels of a picture that QIcon wants for a device of that scale: up to Qt 6.7, QIcon itself
+/// multiplies the size that it asks its engine for. The library that runs decides, not the headers.
+QSize devicePixels(const QSize& size, qreal scale) {
+    return QLibraryInfo::version() < QVersionNumber(6, 8) ? size : size * scale;
+}
 
 class SymbolIconEngine final : public QIconEngine {
 public:
@@ -39,9 +47,9 @@ public:
         return scaledPixmap(size, mode, state, 1);
     }
 
-    /// `size` is in device pixels already.
-    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override {
-        QPixmap pixmap(size);
+    QPixmap
+    scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
+        QPixmap pixmap(devicePixels(size, scale));
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         paint(&painter, pixmap.rect(), mode, state);
