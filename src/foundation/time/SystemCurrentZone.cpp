@@ -95,7 +95,7 @@ QString SystemCurrentZone::identifierOfFile(Path file) const {
 QString SystemCurrentZone::identifierOfCopy(const Path& file) const {
     const auto stated =
         QString::fromUtf8(readFile(m_root / "etc/timezone").value_or(QByteArray())).trimmed();
-    if (m_zones.isKnown(stated) && isCopyOf(file, stated))
+    if (m_zones.isKnown(stated) && isCopyOf(file, m_zones.dataFileOf(stated)))
         return stated;
     const auto candidates = m_zones.zonesByCountry();
     const auto same = std::ranges::find_if(

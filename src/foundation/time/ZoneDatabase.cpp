@@ -37,31 +37,28 @@ QByteArrayView field(QByteArrayView line, char separator, int index) {
     return end < 0 ? line : line.first(end);
 }
 
-/// The name that a line of zic's input defines: "Z name ..." a zone, "L target name" a link. All
-/// other lines (rules, continuations, comments) define none.
-QByteArrayView definedName(QByteArrayView line) {
-    if (line.startsWith("Z "))
-        return field(line, ' ', 1);
-    if (line.startsWith("L "))
-        return field(line, ' ', 2);
-    return {};
-}
+// Links lead to zones, seldom to other links; an index in which they lead in a circle is broken.
+constexpr int maximumLinks = 8;
 
 } // namespace
 
 ZoneDatabase::ZoneDatabase(QString directory)
     : m_directory(std::move(directory)),
       m_index(readFile(m_directory + u"/tzdata.zi"_s)) {
+    // In zic's input, "Z name ..." defines a zone, "L target name" a link. All other lines (rules,
+    // continuations, comments) define no name.
     forEachLine(m_index, [this](QByteArrayView line) {
-        if (const auto name = definedName(line); !name.isEmpty())
-            m_identifiers.push_back(name);
+        if (line.startsWith("Z "))
+            m_entries.push_back({field(line, ' ', 1), {}});
+        else if (line.startsWith("L "))
+            m_entries.push_back({field(line, ' ', 2), field(line, ' ', 1)});
     });
-    std::ranges::sort(m_identifiers);
+    std::erase_if(m_entries, [](const IndexEntry& entry) { return entry.name.isEmpty(); });
+    std::ranges::sort(m_entries, {}, &IndexEntry::name);
 }
 
 bool ZoneDatabase::isKnown(const QString& identifier) const {
-    return identifier == "UTC"_L1 ||
-           std::ranges::binary_search(m_identifiers, QByteArrayView(identifier.toUtf8()));
+    return identifier == "UTC"_L1 || entry(identifier.toUtf8()) != nullptr;
 }
 
 std::optional<TimeZone> ZoneDatabase::zone(const QString& identifier) const {
@@ -69,12 +66,36 @@ std::optional<TimeZone> ZoneDatabase::zone(const QString& identifier) const {
         return std::nullopt;
     auto opened = m_opened.find(identifier);
     if (opened == m_opened.end()) {
-        QTimeZone zone(identifier.toUtf8());
+        auto zone = dataOf(identifier);
         if (!zone.isValid())
             return std::nullopt;
         opened = m_opened.emplace(identifier, std::move(zone)).first;
     }
     return TimeZone(identifier, opened->second);
+}
+
+QString ZoneDatabase::dataFileOf(const QString& identifier) const {
+    return isKnown(identifier) ? QString::fromUtf8(dataOf(identifier).id()) : QString();
+}
+
+const ZoneDatabase::IndexEntry* ZoneDatabase::entry(QByteArrayView name) const {
+    const auto found = std::ranges::lower_bound(m_entries, name, {}, &IndexEntry::name);
+    return found != m_entries.end() && found->name == name ? &*found : nullptr;
+}
+
+QTimeZone ZoneDatabase::dataOf(const QString& identifier) const {
+    auto name = identifier.toUtf8();
+    QTimeZone zone(name);
+    // Debian, for one, keeps the files of old names in a package of their own, but the names in the
+    // index: a name that a user has stored goes on to mean its zone.
+    for (int links = 0; !zone.isValid() && links < maximumLinks; ++links) {
+        const auto* link = entry(name);
+        if (link == nullptr || link->target.isEmpty())
+            break;
+        name = link->target.toByteArray();
+        zone = QTimeZone(name);
+    }
+    return zone;
 }
 
 TimeZone ZoneDatabase::utc() {

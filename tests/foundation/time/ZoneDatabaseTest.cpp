@@ -73,6 +73,25 @@ TEST(ZoneDatabase, IndexedZoneWithoutADataFileIsNone) {
     EXPECT_FALSE(zones.zone(u"Moon/Tycho"_s).has_value());
 }
 
+TEST(ZoneDatabase, LinkWithoutADataFileHasTheDataOfItsTarget) {
+    const QTemporaryDir folder;
+    QFile index(folder.filePath(u"tzdata.zi"_s));
+    ASSERT_TRUE(index.open(QIODevice::WriteOnly));
+    index.write("Z Asia/Kolkata 5:30 - IST\nL Asia/Kolkata Moon/Tycho\nL Moon/Tycho Moon/Surveyor\n"
+                "L Moon/Luna Moon/Selene\nL Moon/Selene Moon/Luna");
+    index.close();
+    const ZoneDatabase zones(folder.path());
+    for (const auto& link : {u"Moon/Tycho"_s, u"Moon/Surveyor"_s}) {
+        const auto zone = zones.zone(link);
+        ASSERT_TRUE(zone.has_value()) << link.toStdString();
+        EXPECT_EQ(zone->identifier(), link);
+        EXPECT_EQ(zone->secondsFromGMT({0}), 19800);
+        EXPECT_EQ(zones.dataFileOf(link), u"Asia/Kolkata"_s);
+    }
+    EXPECT_FALSE(zones.zone(u"Moon/Luna"_s).has_value());
+    EXPECT_EQ(zones.dataFileOf(u"Moon/Luna"_s), QString());
+}
+
 TEST(ZoneDatabase, TableByCountryHasModernNames) {
     const auto zones = ZoneDatabase().zonesByCountry();
     EXPECT_EQ(zones.front(), u"Europe/Andorra"_s);

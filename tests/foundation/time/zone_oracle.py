@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Prints "IDENTIFIER SECONDS OFFSET" for every zone of this system, by CPython's zoneinfo."""
-import re
 from datetime import datetime, timezone
-from zoneinfo import ZoneInfo
+from zoneinfo import ZoneInfo, ZoneInfoNotFoundError
 
 INDEX = "/usr/share/zoneinfo/tzdata.zi"
 
@@ -15,13 +14,30 @@ INSTANTS = [
 ] + [-(2**31), 2**31 - 1, 2**31]
 
 
-def identifiers():
-    with open(INDEX, encoding="utf-8") as index:
-        return sorted(set(re.findall(r"^(?:Z|L \S+) (\S+)", index.read(), re.MULTILINE)))
+def index():
+    """The target of every link, by its name; of a zone, nothing."""
+    entries = {}
+    with open(INDEX, encoding="utf-8") as lines:
+        for line in lines:
+            match line.split():
+                case ["Z", zone, *_]:
+                    entries[zone] = None
+                case ["L", target, link]:
+                    entries[link] = target
+    return entries
 
 
-for identifier in identifiers():
-    zone = ZoneInfo(identifier)
+def zone_named(identifier, entries):
+    """Some distributions have no files for old names, which are links to those that there are."""
+    try:
+        return ZoneInfo(identifier)
+    except ZoneInfoNotFoundError:
+        return zone_named(entries[identifier], entries)
+
+
+entries = index()
+for identifier in sorted(entries):
+    zone = zone_named(identifier, entries)
     for instant in INSTANTS:
         offset = datetime.fromtimestamp(instant, zone).utcoffset()
         print(identifier, instant, int(offset.total_seconds()))

@@ -25,8 +25,12 @@ public:
     /// Whether a zone or a link has exactly this identifier; case matters.
     [[nodiscard]] bool isKnown(const QString& identifier) const;
 
-    /// None for an unknown identifier, and for one whose data file is missing.
+    /// None for an unknown identifier, and for one without data. A link whose own data file is
+    /// missing has those of the zone that it leads to.
     [[nodiscard]] std::optional<TimeZone> zone(const QString& identifier) const;
+
+    /// The name of the file that holds the data of such a zone; empty if there is none.
+    [[nodiscard]] QString dataFileOf(const QString& identifier) const;
 
     [[nodiscard]] static TimeZone utc();
 
@@ -35,9 +39,17 @@ public:
     [[nodiscard]] QStringList zonesByCountry() const;
 
 private:
+    struct IndexEntry {
+        QByteArrayView name;
+        QByteArrayView target; ///< what a link leads to; empty for a zone
+    };
+
+    [[nodiscard]] const IndexEntry* entry(QByteArrayView name) const;
+    [[nodiscard]] QTimeZone dataOf(const QString& identifier) const;
+
     QString m_directory;
-    QByteArray m_index;                        ///< the text that m_identifiers points into
-    std::vector<QByteArrayView> m_identifiers; ///< sorted
+    QByteArray m_index;                ///< the text that m_entries points into
+    std::vector<IndexEntry> m_entries; ///< sorted by name
 
     /// The zones that were asked for: a list of all of them would read 420 files at each opening.
     /// They are as old as the index above.
