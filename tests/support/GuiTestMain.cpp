@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <support/TestSession.h>
+
 #include <QApplication>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 // Widgets are real but shown nowhere: what needs a desktop is tested on one.
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const quorvane::TestSession session;
     const QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
+    testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "VectorFile.h"
 
+#include <support/TestSession.h>
+
 #include <QCoreApplication>
 
 #include <cstdlib>
@@ -8,6 +10,7 @@
 int main(int argc, char* argv[]) {
     using namespace quorvane;
 
+    const TestSession session;
     const QCoreApplication application(argc, argv);
     const auto paths = QCoreApplication::arguments().sliced(1);
     QTextStream out(stdout);

@@ -9,3 +9,6 @@ TREE = Path(__file__).resolve().parents[3]
 
 PROGRAM = Path(os.environ.get("QUORVANE_PROGRAM", TREE / "build" / "quorvane"))
 """The program under test; QUORVANE_PROGRAM names another one than the tree's build."""
+
+FONTS = TREE / "tests" / "support" / "fonts.conf"
+"""The fonts that tests see, whatever else is installed."""

@@ -13,6 +13,7 @@ from typing import Any
 
 from . import session_bus
 from .accessible import Accessibility
+from .paths import FONTS
 from .processes import Processes
 from .windows import Windows
 
@@ -103,6 +104,10 @@ class Session:
             "XDG_CACHE_HOME": str(self.directory("cache")),
             "XDG_RUNTIME_DIR": str(self.directory("run")),
             "LANG": "C.UTF-8",
+            "TZ": "UTC",
+            "FONTCONFIG_FILE": str(FONTS),
+            # Whatever a desktop's defaults on this machine say.
+            "GTK_THEME": "Adwaita",
             # Toolkits publish their accessible tree without a screen reader in sight.
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             # No settings daemon and no portal: GTK programs start at once and alike.

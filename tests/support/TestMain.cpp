@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <QCoreApplication>
-#include <gtest/gtest.h>
+#include <support/TestSession.h>
 
-// Messages arrive on the main loop.
+#include <QCoreApplication>
+#include <gmock/gmock.h>
+
 int main(int argc, char** argv) {
+    const quorvane::TestSession session;
     const QCoreApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
+    testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }
