@@ -32,7 +32,8 @@ xcb_window_t idOf(const QWindow& window) {
 X11WindowTraits::X11WindowTraits(std::shared_ptr<X11Connection> connection)
     : m_connection(std::move(connection)),
       m_windows(m_connection),
-      m_states(m_connection) {
+      m_states(m_connection),
+      m_withdrawals(m_connection, [this](QWindow& window) { showAgain(window); }) {
     if (qtx11::connection() != nullptr)
         QCoreApplication::instance()->installEventFilter(this);
 }
@@ -59,12 +60,30 @@ bool X11WindowTraits::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Show || !watched->isWindowType())
         return false;
     const auto& window = *static_cast<const QWindow*>(watched);
-    if (!isManaged(window))
-        return false;
+    if (isManaged(window))
+        writeTaskbarStates(window);
+    return false;
+}
+
+void X11WindowTraits::writeTaskbarStates(const QWindow& window) {
     qtx11::waitForServer();
     m_states.write(idOf(window), hiddenFromTaskbar, taskbarChange());
     m_connection->waitForServer();
-    return false;
+}
+
+// With its states, which a window manager throws away as it withdraws a window.
+void X11WindowTraits::showAgain(QWindow& window) {
+    if (!isManaged(window))
+        return;
+    const bool isPanel = m_panel == &window;
+    writeTaskbarStates(window);
+    if (isPanel)
+        preparePanel(window);
+    xcb_map_window(qtx11::connection(), idOf(window));
+    if (isPanel)
+        presentPanel(window);
+    else
+        qtx11::waitForServer();
 }
 
 void X11WindowTraits::preparePanel(QWindow& window) {
@@ -83,6 +102,7 @@ void X11WindowTraits::preparePanel(QWindow& window) {
 void X11WindowTraits::presentPanel(QWindow& window) {
     if (qtx11::connection() == nullptr)
         return;
+    m_panel = &window;
     window.raise();
     // Ours must not overtake the request that maps the window.
     qtx11::waitForServer();

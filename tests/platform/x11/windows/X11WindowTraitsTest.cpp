@@ -31,6 +31,10 @@ protected:
         return m_windows.inputFocus() == widget.winId();
     }
 
+    [[nodiscard]] bool isViewable(const QWidget& widget) const {
+        return m_windows.isViewable(static_cast<xcb_window_t>(widget.winId()));
+    }
+
     [[nodiscard]] bool hasState(const QWidget& widget, const char* state) const {
         const auto states = m_windows.values(
             static_cast<xcb_window_t>(widget.winId()), "_NET_WM_STATE", XCB_ATOM_ATOM);
@@ -78,6 +82,10 @@ protected:
                    XCB_ATOM_CARDINAL) == std::vector<std::uint32_t>{0xffffffff};
     }
 
+    [[nodiscard]] bool isAboveOthersOnAllDesktops() const {
+        return isViewable(m_panel) && isOnAllDesktops() && hasState(m_panel, "_NET_WM_STATE_ABOVE");
+    }
+
     WindowManager m_manager;
 };
 
@@ -99,13 +107,22 @@ TEST_F(PanelOnX11, TakesTheFocusAtEveryShow) {
 TEST_F(PanelOnX11, IsAboveOthersOnAllDesktopsAtEveryShow) {
     for (int round = 0; round < 3; ++round) {
         showPanel();
-        EXPECT_TRUE(waitUntil([this] {
-            return isOnAllDesktops() && hasState(m_panel, "_NET_WM_STATE_ABOVE");
-        })) << "round "
-            << round;
+        EXPECT_TRUE(waitUntil([this] { return isAboveOthersOnAllDesktops(); }))
+            << "round " << round;
         m_panel.hide();
-        ASSERT_TRUE(waitUntil(
-            [this] { return !m_windows.isViewable(static_cast<xcb_window_t>(m_panel.winId())); }));
+        ASSERT_TRUE(waitUntil([this] { return !isViewable(m_panel); }));
+    }
+}
+
+TEST_F(PanelOnX11, ShowsThoughItWasHiddenBeforeTheManagerHadMappedIt) {
+    for (int round = 0; round < 30; ++round) {
+        showPanel();
+        m_panel.hide();
+        showPanel();
+        ASSERT_TRUE(waitUntil([this] { return isAboveOthersOnAllDesktops(); }))
+            << "round " << round;
+        EXPECT_TRUE(waitUntil([this] { return hasFocus(m_panel); })) << "round " << round;
+        m_panel.hide();
     }
 }
 
@@ -113,7 +130,7 @@ TEST_F(PanelOnX11, StaysInSightOnAnotherDesktop) {
     showPanel();
     ASSERT_TRUE(waitUntil([this] { return isOnAllDesktops(); }));
     ASSERT_TRUE(m_manager.showDesktop(1));
-    EXPECT_TRUE(m_windows.isViewable(static_cast<xcb_window_t>(m_panel.winId())));
+    EXPECT_TRUE(isViewable(m_panel));
     ASSERT_TRUE(m_manager.showDesktop(0));
 }
 
@@ -150,10 +167,7 @@ TEST_F(PanelOnX11, LeavesWindowsOutOfTheTaskbarOfAnAccessoryAndInThatOfARegularP
     window.hide();
     m_traits.setActivationPolicy(ActivationPolicy::Regular);
     window.show();
-    EXPECT_TRUE(waitUntil([&] {
-        return m_windows.isViewable(static_cast<xcb_window_t>(window.winId())) &&
-               showsInTaskbar(window);
-    }));
+    EXPECT_TRUE(waitUntil([&] { return isViewable(window) && showsInTaskbar(window); }));
 }
 
 class PanelOnX11WithoutManager : public WindowTraitsTest {};
@@ -171,7 +185,7 @@ TEST_F(PanelOnX11WithoutManager, TakesTheFocusAtEveryShow) {
 TEST_F(PanelOnX11WithoutManager, IsPreparedBeforeItIsMapped) {
     m_traits.setActivationPolicy(ActivationPolicy::Accessory);
     m_traits.preparePanel(*m_panel.windowHandle());
-    EXPECT_FALSE(m_windows.isViewable(static_cast<xcb_window_t>(m_panel.winId())));
+    EXPECT_FALSE(isViewable(m_panel));
     EXPECT_TRUE(hasState(m_panel, "_NET_WM_STATE_STICKY"));
     EXPECT_TRUE(hasState(m_panel, "_NET_WM_STATE_ABOVE"));
     m_panel.show();

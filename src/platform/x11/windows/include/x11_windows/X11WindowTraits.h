@@ -4,11 +4,13 @@
 #include <platform/WindowTraits.h>
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 #include <x11_server/X11Connection.h>
 #include <x11_windows/X11WindowStates.h>
 #include <x11_windows/X11Windows.h>
+#include <x11_windows/X11WithdrawalWatch.h>
 
 namespace quorvane {
 
@@ -30,11 +32,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void writeTaskbarStates(const QWindow& window);
+    void showAgain(QWindow& window);
     [[nodiscard]] X11WindowStates::Change taskbarChange() const;
 
     std::shared_ptr<X11Connection> m_connection;
     X11Windows m_windows;
     X11WindowStates m_states;
+    X11WithdrawalWatch m_withdrawals;
+    QPointer<QWindow> m_panel;
     ActivationPolicy m_policy = ActivationPolicy::Regular;
 };
 
