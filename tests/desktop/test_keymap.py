@@ -5,7 +5,8 @@ from harness.case import DesktopCase
 from harness.quorvane import Quorvane
 
 # Dvorak and French move D, V or both; the Russian layout has no Latin letters at all.
-_LAYOUTS = ("dvorak", "fr", "ru", "us,ru", "us")
+# Each is a layout with its variant.
+_LAYOUTS = (("us", "dvorak"), ("fr", ""), ("ru", ""), ("us,ru", ""), ("us", ""))
 
 
 class Keymap(DesktopCase):
@@ -21,9 +22,9 @@ class Keymap(DesktopCase):
         editor = self.editor(name)
         quorvane = self.hidden_quorvane()
         editor.wait_active()
-        for layout in _LAYOUTS:
-            with self.subTest(layout):
-                self.session.run(["setxkbmap", "-layout", layout])
+        for layout, variant in _LAYOUTS:
+            with self.subTest(layout, variant=variant):
+                self.session.run(["setxkbmap", "-layout", layout, "-variant", variant])
                 self.let_notice(quorvane)
                 editor.wait_active()
                 self.insert(quorvane, editor)

@@ -121,7 +121,7 @@ TEST_P(TapOnX11WithLayout, KeepsToThePositionOfTheKey) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Every, TapOnX11WithLayout, testing::Values("us", "dvorak", "fr", "ru", "us,ru", "de"));
+    Every, TapOnX11WithLayout, testing::Values("us", "us(dvorak)", "fr", "ru", "us,ru", "de"));
 
 TEST_F(TapOnX11, FollowsAModifierThatMovesWhileItRuns) {
     const auto tap = makeTap();

@@ -77,9 +77,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         LayoutRow{"us", 0, KEY_LEFTCTRL, KEY_V},
         LayoutRow{"fr", 0, KEY_LEFTCTRL, KEY_V},
-        LayoutRow{"dvorak", 0, KEY_LEFTCTRL, KEY_DOT},
-        LayoutRow{"us,dvorak", 0, KEY_LEFTCTRL, KEY_V},
-        LayoutRow{"us,dvorak", 1, KEY_LEFTCTRL, KEY_DOT},
+        LayoutRow{"us(dvorak)", 0, KEY_LEFTCTRL, KEY_DOT},
+        LayoutRow{"us,us(dvorak)", 0, KEY_LEFTCTRL, KEY_V},
+        LayoutRow{"us,us(dvorak)", 1, KEY_LEFTCTRL, KEY_DOT},
         LayoutRow{"us,ru", 1, KEY_LEFTCTRL, KEY_V},
         LayoutRow{"ru,us", 0, KEY_LEFTCTRL, KEY_V},
         LayoutRow{"ru", 0, KEY_LEFTSHIFT, KEY_INSERT},

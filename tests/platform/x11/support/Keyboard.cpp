@@ -25,6 +25,17 @@ namespace {
 
 constexpr int modifierCount = 8;
 
+/// A list of layouts as setxkbmap takes it: their names in one list, their variants in another.
+QStringList layoutArguments(const QString& layouts) {
+    QStringList names;
+    QStringList variants;
+    for (const auto& layout : layouts.split(u',')) {
+        names << layout.section(u'(', 0, 0);
+        variants << layout.section(u'(', 1).chopped(layout.endsWith(u')') ? 1 : 0);
+    }
+    return {u"-layout"_s, names.join(u','), u"-variant"_s, variants.join(u',')};
+}
+
 } // namespace
 
 Keyboard::Keyboard(Device device) : m_connection(xcb_connect(nullptr, nullptr)), m_device(device) {
@@ -66,7 +77,7 @@ std::uint16_t Keyboard::state() const {
 
 void Keyboard::setLayout(const QString& layout, const QString& options) {
     // Options add up unless they are cleared first.
-    QStringList arguments{u"-layout"_s, layout, u"-option"_s, QString()};
+    auto arguments = layoutArguments(layout) << u"-option"_s << QString();
     if (!options.isEmpty())
         arguments << u"-option"_s << options;
     QProcess::execute(u"setxkbmap"_s, arguments);

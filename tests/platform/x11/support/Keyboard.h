@@ -33,7 +33,8 @@ public:
     /// The modifiers that the server takes for held or locked.
     [[nodiscard]] std::uint16_t state() const;
 
-    /// A layout by its name as setxkbmap knows it; several with commas.
+    /// A layout as keymaps name it, with its variant if it has one, such as "us(dvorak)"; several
+    /// with commas.
     void setLayout(const QString& layout, const QString& options = {});
     /// Of several layouts, the one in use, from 0.
     void useGroup(std::uint8_t group);
