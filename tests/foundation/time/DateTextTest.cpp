@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "IcuRelease.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -34,7 +36,10 @@ std::string inPattern(
 
 TEST(DateText, ZonesThatChangedSinceIcusDataHaveTheirPresentOffset) {
     const auto pattern = u"yyyy-MM-dd HH:mm zzz"_s;
-    EXPECT_EQ(inPattern(july15, "America/Ciudad_Juarez", pattern), "2024-07-15 06:00 GMT-6");
+    EXPECT_EQ(
+        inPattern(july15, "America/Ciudad_Juarez", pattern),
+        byIcuRelease<std::string>({{72, "2024-07-15 06:00 GMT-6"}, {76, "2024-07-15 06:00 MDT"}}));
+    EXPECT_EQ(inPattern(july15, "America/Coyhaique", pattern), "2024-07-15 08:00 GMT-4");
     EXPECT_EQ(inPattern(july15, "Africa/Cairo", pattern), "2024-07-15 15:00 GMT+3");
     EXPECT_EQ(inPattern(july15, "America/Mexico_City", pattern), "2024-07-15 06:00 CST");
     EXPECT_EQ(inPattern(july15, "Asia/Almaty", pattern), "2024-07-15 17:00 GMT+5");

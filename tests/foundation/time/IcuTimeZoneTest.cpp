@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "IcuRelease.h"
 #include "ZoneOracle.h"
 
 #include <gtest/gtest.h>
@@ -76,8 +77,18 @@ TEST(IcuTimeZone, SplitsTheTotalAsIcuDoes) {
 }
 
 TEST(IcuTimeZone, ZoneThatIcuDoesNotKnowKeepsItsNameAndOffset) {
+    const auto coyhaique = zone("America/Coyhaique");
+    EXPECT_EQ(icuOwnTimeZone(coyhaique), nullptr);
+    const auto icuZone = icuTimeZone(coyhaique);
+    icu::UnicodeString identifier;
+    EXPECT_EQ(icuZone->getID(identifier), icu::UnicodeString(u"America/Coyhaique"));
+    // Summer in the south, in 2024 the last but one of summer time there.
+    EXPECT_EQ(offsetOf(*icuZone, 1705320000.0 * 1000).daylight, 3600 * 1000);
+}
+
+TEST(IcuTimeZone, ZoneThatIcuHasLearntKeepsItsNameAndOffset) {
     const auto juarez = zone("America/Ciudad_Juarez");
-    EXPECT_EQ(icuOwnTimeZone(juarez), nullptr);
+    EXPECT_EQ(icuOwnTimeZone(juarez) != nullptr, byIcuRelease<bool>({{72, false}, {76, true}}));
     const auto icuZone = icuTimeZone(juarez);
     icu::UnicodeString identifier;
     EXPECT_EQ(icuZone->getID(identifier), icu::UnicodeString(u"America/Ciudad_Juarez"));

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "IcuRelease.h"
+
 #include <QProcess>
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -134,9 +136,20 @@ TEST(MonthGridTest, PersianMonthsHaveTheirOwnLengths) {
 }
 
 TEST(MonthGridTest, IslamicMonthsAreThoseOfUmmAlQura) {
-    const auto ramadan = grid(day(2026, 3, 1), "ar_SA"); // of 1447
+    const auto ramadan = grid(day(2026, 3, 1), "ar_SA@calendar=islamic-umalqura"); // of 1447
     EXPECT_EQ(ramadan.days.front().day, day(2026, 2, 18));
     EXPECT_EQ(ramadan.days.back().day, day(2026, 3, 19));
+}
+
+// The newer locale data know that Saudi Arabia counts by the Gregorian calendar now.
+TEST(MonthGridTest, SaudiMonthsAreThoseOfTheReleasesCalendar) {
+    const auto month = grid(day(2026, 3, 1), "ar_SA");
+    EXPECT_EQ(
+        month.days.front().day,
+        byIcuRelease<CivilDay>({{72, day(2026, 2, 18)}, {76, day(2026, 3, 1)}}));
+    EXPECT_EQ(
+        month.days.back().day,
+        byIcuRelease<CivilDay>({{72, day(2026, 3, 19)}, {76, day(2026, 3, 31)}}));
 }
 
 TEST(MonthGridTest, MonthOfTheGregorianReformHasItsTwentyOneDays) {

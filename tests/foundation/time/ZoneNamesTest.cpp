@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "IcuRelease.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -68,14 +70,27 @@ TEST(ZoneNames, GenericNameIsTheSameAllYear) {
 
 TEST(ZoneNames, ZoneWithLawNewerThanIcusDataStillHasItsGenericName) {
     const auto english = UserLocale::named(u"en_US"_s);
-    EXPECT_EQ(genericZoneName(zone(u"Asia/Almaty"_s), summer, english), u"East Kazakhstan Time"_s);
+    EXPECT_EQ(
+        genericZoneName(zone(u"Asia/Almaty"_s), summer, english),
+        byIcuRelease<QString>({{72, u"East Kazakhstan Time"_s}, {76, u"Kazakhstan Time"_s}}));
 }
 
 TEST(ZoneNames, ZoneThatIcuDoesNotKnowHasAnAbbreviationButNoGenericName) {
     const auto english = UserLocale::named(u"en_US"_s);
+    const auto coyhaique = zone(u"America/Coyhaique"_s);
+    EXPECT_EQ(zoneAbbreviation(coyhaique, summer, english), u"GMT-4"_s);
+    EXPECT_EQ(genericZoneName(coyhaique, summer, english), std::nullopt);
+}
+
+TEST(ZoneNames, ZoneThatIcuHasLearntHasTheNamesOfItsRelease) {
+    const auto english = UserLocale::named(u"en_US"_s);
     const auto juarez = zone(u"America/Ciudad_Juarez"_s);
-    EXPECT_EQ(zoneAbbreviation(juarez, summer, english), u"GMT-6"_s);
-    EXPECT_EQ(genericZoneName(juarez, summer, english), std::nullopt);
+    EXPECT_EQ(
+        zoneAbbreviation(juarez, summer, english),
+        byIcuRelease<QString>({{72, u"GMT-6"_s}, {76, u"MDT"_s}}));
+    EXPECT_EQ(
+        genericZoneName(juarez, summer, english),
+        byIcuRelease<std::optional<QString>>({{72, std::nullopt}, {76, u"Mountain Time"_s}}));
 }
 
 } // namespace
