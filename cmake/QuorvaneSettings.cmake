@@ -17,10 +17,10 @@ add_library(quorvane_options INTERFACE)
 target_compile_options(quorvane_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wformat=2 -Werror)
-# Qt 6.4 is the oldest that builds this, and what 6.8 calls deprecated is not used: 6.4 reads the
-# first of these names, later releases the others. Releases after 6.8 may deprecate more in peace.
+# Qt 6.4 is the oldest that builds this, and what 6.8 calls deprecated is not used. Releases from
+# 6.5 on read QT_DISABLE_DEPRECATED_UP_TO, 6.4 the older name.
 target_compile_definitions(quorvane_options INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400
-    QT_DISABLE_DEPRECATED_UP_TO=0x060800 QT_WARN_DEPRECATED_UP_TO=0x060800
+    QT_DISABLE_DEPRECATED_UP_TO=0x060800
     U_SHOW_CPLUSPLUS_API=1 U_USING_ICU_NAMESPACE=0)
