@@ -34,6 +34,10 @@ QJsonValue ForeignProgram::nextReport() {
                                                 : QJsonValue(QJsonValue::Undefined);
 }
 
+void ForeignProgram::proceed() {
+    m_process.write("\n");
+}
+
 QStringList ForeignProgram::textsSoFar() {
     QStringList texts;
     while (m_process.canReadLine())

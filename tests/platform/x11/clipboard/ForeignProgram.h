@@ -9,7 +9,7 @@
 namespace quorvane {
 
 /// One of the programs beside this file, in a process of its own on $DISPLAY, for as long as this
-/// object lives. It takes one order and reports in lines.
+/// object lives. It takes one order and reports in lines; some of its ways wait for go-aheads.
 class ForeignProgram {
 public:
     ForeignProgram(const QString& script, const QJsonObject& order);
@@ -20,6 +20,9 @@ public:
 
     /// Waits for it, while the event loop runs; undefined if none comes.
     [[nodiscard]] QJsonValue nextReport();
+
+    /// Lets it go on from where it waits for the test.
+    void proceed();
 
     /// All texts that it has reported, but for those that `nextReport` took.
     [[nodiscard]] QStringList textsSoFar();

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "SelectionOffers.h"
+#include "SteppedMainQueue.h"
 #include "support/ForeignWindow.h"
 #include "support/WaitUntil.h"
 
 #include <gtest/gtest.h>
 
-#include <loop/QtMainQueue.h>
 #include <memory>
 #include <optional>
 #include <x11_clipboard/X11Pasteboard.h>
@@ -17,11 +17,30 @@ namespace quorvane {
 /// A pasteboard on the display of the test program; the next test finds both selections empty.
 class PasteboardTest : public testing::Test {
 protected:
+    void startSave() {
+        m_saved.reset();
+        m_pasteboard.save([this](PasteboardContents contents) { m_saved = std::move(contents); });
+    }
+
+    /// What the save that has been started gives, however long others take for it.
+    [[nodiscard]] PasteboardContents outcome() {
+        EXPECT_TRUE(waitUntil([this] { return m_saved.has_value(); }));
+        return m_saved.value_or(PasteboardContents{});
+    }
+
     [[nodiscard]] PasteboardContents saved() {
-        std::optional<PasteboardContents> result;
-        m_pasteboard.save([&result](PasteboardContents contents) { result = std::move(contents); });
-        EXPECT_TRUE(waitUntil([&result] { return result.has_value(); }));
-        return result.value_or(PasteboardContents{});
+        startSave();
+        return outcome();
+    }
+
+    /// The outcome at the end of a span, not a millisecond before.
+    [[nodiscard]] PasteboardContents outcomeAfter(Seconds span) {
+        constexpr Seconds millisecond{0.001};
+        m_queue.advance(span - millisecond);
+        EXPECT_FALSE(m_saved.has_value());
+        m_queue.advance(millisecond);
+        EXPECT_TRUE(m_saved.has_value());
+        return m_saved.value_or(PasteboardContents{});
     }
 
     /// The one item of a save.
@@ -40,9 +59,10 @@ protected:
             xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
     }
 
-    QtMainQueue m_queue;
+    SteppedMainQueue m_queue;
     std::shared_ptr<X11Connection> m_connection = X11Connection::open();
     X11Pasteboard m_pasteboard{m_connection, m_queue};
+    std::optional<PasteboardContents> m_saved;
 };
 
 } // namespace quorvane

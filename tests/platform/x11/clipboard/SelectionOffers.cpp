@@ -17,7 +17,6 @@ QJsonObject orderFor(const Offer& offer) {
         {u"units"_s, offer.entry.unitBits},
         {u"data"_s, QString::fromLatin1(offer.entry.bytes.toBase64())},
         {u"manner"_s, offer.manner},
-        {u"pause"_s, offer.pause},
     };
 }
 

@@ -20,7 +20,6 @@ inline const QString primarySelection = QStringLiteral("PRIMARY");
 struct Offer {
     PasteboardEntry entry;
     QString manner = QStringLiteral("plain");
-    double pause = 0; ///< seconds
 };
 
 struct OwnerTraits {

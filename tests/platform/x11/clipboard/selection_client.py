@@ -27,6 +27,11 @@ def report(answer: Any) -> None:
     print(json.dumps({"report": answer}), flush=True)
 
 
+def wait_for_go_ahead() -> None:
+    """Until the test has seen the last report and says so, with an empty line."""
+    sys.stdin.readline()
+
+
 def encoded(data: bytes) -> str:
     """Bytes for a line of JSON."""
     return base64.b64encode(data).decode()

@@ -2,17 +2,18 @@
 """A foreign program that owns a selection and treats each of its targets as the test orders.
 
 An offer's manner is "plain" (one property), "incremental", "dripping" (increments of a few bytes,
-`pause` seconds between them), "refusing", "silent" (no answer), "late" (`pause` seconds late) or
-"dying" (gone after the first increment). With "targets" false the owner cannot tell its targets.
+each on the test's go-ahead), "refusing", "silent" (no answer), "late" (the first answer is put off
+until the next request) or "dying" (gone after the first increment). With "targets" false the owner
+cannot tell its targets.
 
-It reports "owned", then each target that it is asked for, and ends when it loses the selection.
+It reports "owned", then each target that it is asked for, "taken" for each increment of a dripping
+one that it may follow up, and ends when it loses the selection.
 """
 
 import os
 import struct
-import time
 
-from selection_client import SelectionClient, decoded, order, report
+from selection_client import SelectionClient, decoded, order, report, wait_for_go_ahead
 from Xlib import X
 from Xlib.error import CatchError
 from Xlib.protocol.event import SelectionNotify
@@ -31,6 +32,7 @@ class Owner(SelectionClient):
         self.selection = self.atom(wanted["selection"])
         self.since = self.server_time()
         self.transfers = {}
+        self.put_off = {}
         self.window.set_selection_owner(self.selection, self.since)
         self.display.sync()
         report("owned")
@@ -51,15 +53,27 @@ class Owner(SelectionClient):
                 self.send_increment(event)
 
     def answer(self, request) -> None:
-        """One request."""
+        """One request, and those that were put off until now."""
         target = self.display.get_atom_name(request.target)
         report(target)
+        for late in [late for late in self.put_off.values() if late]:
+            self.conclude(late)
+        self.put_off = dict.fromkeys(self.put_off)
+        manner = self.manner_of(target)
+        if manner == "late" and target not in self.put_off:
+            self.put_off[target] = request
+        elif manner != "silent":
+            self.conclude(request)
+
+    def manner_of(self, target: str) -> str:
+        """How a target is given."""
+        return self.offers.get(target, {}).get("manner", "plain")
+
+    def conclude(self, request) -> None:
+        """The answer to a request."""
+        target = self.display.get_atom_name(request.target)
         store = request.property or request.target
-        manner = self.offers.get(target, {}).get("manner", "plain")
-        if manner == "silent":
-            return
-        if manner == "late":
-            time.sleep(self.offers[target]["pause"])
+        manner = self.manner_of(target)
         served = manner != "refusing" and self.serve(request.requestor, store, target, manner)
         notice = SelectionNotify(
             time=request.time,
@@ -102,7 +116,8 @@ class Owner(SelectionClient):
         offer, rest = self.transfers[key]
         size = PIECE
         if offer["manner"] == "dripping":
-            time.sleep(offer["pause"])
+            report("taken")
+            wait_for_go_ahead()
             size = 8
         piece = rest[:size]
         self.put(event.window, event.atom, offer["type"], offer["units"], piece)

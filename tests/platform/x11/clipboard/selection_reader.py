@@ -8,12 +8,21 @@
 "outdated": one target, as of the given number of milliseconds before the owner took the selection.
 "parallel": one target, to two windows at once, their increments taken in turn.
 "vanishing": one target in increments; the window is destroyed after the first.
+"outlasting": one target in increments, the second of them on the test's go-ahead; reports "begun"
+once it has the first.
 "owned": whether anybody owns the selection.
 """
 
 import struct
 
-from selection_client import SelectionClient, decoded, encoded, order, report
+from selection_client import (
+    SelectionClient,
+    decoded,
+    encoded,
+    order,
+    report,
+    wait_for_go_ahead,
+)
 from Xlib import X, Xatom
 
 QUESTIONS_AND_ORDERS = (
@@ -76,7 +85,11 @@ class Reader(SelectionClient):
         kind, units, data = self.take(window, store)
         if kind != self.atom("INCR"):
             return kind, units, data, 1
-        parts, count = [], 0
+        return self.increments(window, store, [])
+
+    def increments(self, window, store: int, parts: list[bytes]):
+        """The value of which these parts have been taken."""
+        count = len(parts)
         while True:
             kind, units, part = self.increment(window, store)
             if not part:
@@ -192,6 +205,16 @@ class Reader(SelectionClient):
         other.destroy()
         self.display.sync()
         return "vanished"
+
+    def outlasting(self, target: str):
+        """A receiver that takes its time over the first increment."""
+        self.ask(target, self.store, self.server_time())
+        self.answer()
+        assert self.take(self.window, self.store)[0] == self.atom("INCR")
+        _, _, first = self.increment(self.window, self.store)
+        report("begun")
+        wait_for_go_ahead()
+        return self.described(target, self.increments(self.window, self.store, [first]))
 
     def owned(self) -> bool:
         """Whether there is an owner."""
