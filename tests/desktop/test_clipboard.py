@@ -11,6 +11,10 @@ from harness.offer import Offer, plain_text
 
 _MEGABYTE = 1_000_000
 
+# Seconds after which a silent owner is cut off, and one that is not silent all the time.
+_SILENCE = 0.3
+_LONGEST_SAVE = 1.0
+
 
 class Clipboard(DesktopCase):
     """The clipboard of another program, before and after an insertion."""
@@ -84,11 +88,12 @@ class Clipboard(DesktopCase):
         slowest_answer = 0.0
         while editor.text() != text:
             asked = time.monotonic()
-            self.assertLess(asked - began, 0.2 + 0.3 + 0.2, "the text came too late")
+            self.assertLess(asked - began, 0.2 + _LONGEST_SAVE, "the owner was not cut off")
             tree.children()
             slowest_answer = max(slowest_answer, time.monotonic() - asked)
-        self.assertGreater(time.monotonic() - began, 0.2 + 0.25, "the owner was not waited for")
-        self.assertLess(slowest_answer, 0.15)
+        self.assertGreater(time.monotonic() - began, 0.2 + _SILENCE, "the owner was not waited for")
+        # Questions follow close on each other: a freeze would hold one up for nearly all its time.
+        self.assertLess(slowest_answer, _SILENCE - 0.05)
         self.clipboard.wait_empty()
 
     def test_what_was_read_before_an_owner_hung_comes_back(self) -> None:
