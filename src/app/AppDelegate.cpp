@@ -2,21 +2,15 @@
 #include "AppDelegate.h"
 
 #include "MainMenu.h"
-#include "PanelFrame.h"
-#include "PreferencesWindow.h"
-#include "StatusPopover.h"
 
-#include <app/Panel.h>
-#include <preferences/PreferencesView.h>
+#include <delivery/CopyText.h>
 
 #include <QCoreApplication>
-#include <QEvent>
-#include <QGuiApplication>
 #include <QLoggingCategory>
-#include <QWindow>
 
 #include <algorithm>
 #include <array>
+#include <panel/SparkleUpdater.h>
 #include <utility>
 
 namespace quorvane {
@@ -47,44 +41,84 @@ QPointer<AppDelegate>& AppDelegate::_sharedDelegate() {
     return delegate;
 }
 
-AppDelegate::AppDelegate(Environment environment)
-    : m_environment(std::move(environment)),
+AppDelegate::AppDelegate(Dependencies dependencies)
+    : m_dependencies(std::move(dependencies)),
       m_model(
-          {m_environment.clock,
-           m_environment.defaults,
-           m_environment.currentZone,
-           m_environment.zones,
-           m_environment.locale}),
-      m_popoverAnchor(*m_environment.platform.workspace),
-      m_inserter(
-          {*m_environment.platform.accessibilityRight,
-           *m_environment.platform.pasteboard,
-           *m_environment.platform.keyPoster,
-           m_environment.mainQueue}) {
+          {m_dependencies.clock,
+           m_dependencies.defaults,
+           m_dependencies.currentZone,
+           m_dependencies.zones,
+           m_dependencies.locale}),
+      m_trayIcon(
+          {*m_dependencies.platform.statusBar, m_dependencies.mainQueue}, trayIconCallbacks()),
+      m_previousFrontmostApp(*m_dependencies.platform.workspace),
+      m_presentation(
+          {m_model,
+           m_trayIcon,
+           m_previousFrontmostApp,
+           m_dependencies.windowFrames,
+           m_dependencies.mainQueue,
+           *m_dependencies.platform.workspace,
+           *m_dependencies.platform.windowTraits},
+          interfaceCallbacks()),
+      m_shortcut(
+          {*m_dependencies.platform.accessibilityRight,
+           *m_dependencies.platform.eventTaps,
+           m_dependencies.mainQueue},
+          weakly(&AppDelegate::togglePresentation)),
+      m_preferences(
+          {m_model,
+           *m_dependencies.platform.keyboardLayout,
+           m_dependencies.zones,
+           m_dependencies.mainQueue,
+           m_dependencies.clock,
+           *m_dependencies.platform.workspace,
+           *m_dependencies.platform.windowTraits},
+          preferencesCallbacks()),
+      m_dock({*m_dependencies.platform.windowTraits, m_preferences, m_presentation.panel()}),
+      m_insertion(
+          {m_previousFrontmostApp,
+           *m_dependencies.platform.accessibilityRight,
+           *m_dependencies.platform.pasteboard,
+           *m_dependencies.platform.keyPoster,
+           m_dependencies.mainQueue}) {
 }
 
 AppDelegate::~AppDelegate() {
-    m_environment.platform.workspace->onActiveSpaceChanged({});
-    m_environment.platform.keyboardLayout->onChanged({});
+    m_dependencies.platform.workspace->onActiveSpaceChanged({});
+    m_dependencies.platform.keyboardLayout->onChanged({});
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
     _sharedDelegate() = this;
-    qGuiApp->installEventFilter(this);
-    applyActivationPolicy(m_model.showInDock());
+    m_dock.applyActivationPolicy(m_model.showInDock());
     setupMainMenu();
-    makeStatusItem();
-    present();
-    startHotKeyMonitor(m_model.hotKey());
+    m_trayIcon.makeStatusItem();
+    m_presentation.present();
+    m_shortcut.startHotKeyMonitor(m_model.hotKey());
     observeModel();
     observeDesktop();
 }
 
-bool AppDelegate::eventFilter(QObject* watched, QEvent* event) {
-    // Dark and light come and go with the desktop's.
-    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
-        applyIconImage();
-    return QObject::eventFilter(watched, event);
+void AppDelegate::performInsert() {
+    const auto text = m_model.formattedOutput();
+    m_presentation.hide();
+    m_insertion.start(text);
+}
+
+void AppDelegate::performCopy() {
+    copyText(*m_dependencies.platform.pasteboard, m_model.formattedOutput());
+}
+
+void AppDelegate::showPreferences() {
+    m_presentation.hide();
+    m_preferences.showWindow();
+}
+
+void AppDelegate::checkForUpdates() {
+    // A popover has grabbed the keyboard, which the window that opens now needs.
+    m_presentation.popover().close();
+    SparkleUpdater::shared().controller().checkForUpdates(*m_dependencies.platform.softwareCentre);
 }
 
 void AppDelegate::performAction(const QString& name) {
@@ -99,95 +133,136 @@ void AppDelegate::terminate() {
     if (std::exchange(m_terminating, true))
         return;
     Q_EMIT willTerminate();
-    if (m_panelFrame)
-        m_panelFrame->saveNow();
-    m_insertSteps.cancelAll();
-    m_inserter.finish();
-    m_environment.platform.pasteboard->handOver([] {
+    m_presentation.panel().saveFrameNow();
+    m_insertion.finish();
+    m_dependencies.platform.pasteboard->handOver([] {
         // Not quit(), which asks each window first.
         QCoreApplication::exit();
     });
 }
 
-void AppDelegate::startHotKeyMonitor(HotKeyCombo combo) {
-    m_hotKeyMonitor = HotKeyMonitor::create(
-        combo,
-        {*m_environment.platform.accessibilityRight,
-         *m_environment.platform.eventTaps,
-         m_environment.mainQueue});
-    m_hotKeyMonitor->setOnTriggered([self = QPointer(this)] {
+/// A callback that may outlive the delegate and then does nothing.
+std::function<void()> AppDelegate::weakly(void (AppDelegate::*call)()) {
+    return [self = QPointer(this), call] {
         if (self)
-            self->togglePresentation();
-    });
-    m_hotKeyMonitor->start();
+            (self->*call)();
+    };
 }
 
-/// A slot that runs the reaction on a later turn, when the change that caused it is complete.
-template <typename Value>
-auto AppDelegate::deferred(void (AppDelegate::*reaction)(Value)) {
-    return [this, reaction](Value value) {
-        m_environment.mainQueue.async([self = QPointer(this), reaction, value] {
+TrayIcon::Callbacks AppDelegate::trayIconCallbacks() {
+    return {
+        [this] { m_presentation.handleIconClick(); },
+        weakly(&AppDelegate::showPreferences),
+        weakly(&AppDelegate::checkForUpdates),
+        weakly(&AppDelegate::terminate)};
+}
+
+InterfaceCallbacks AppDelegate::interfaceCallbacks() {
+    return {
+        [this] { return makeContentView(); },
+        [this](QWidget& window) { m_mainMenu->attachTo(window); },
+        weakly(&AppDelegate::prepareAfterFirstPaint)};
+}
+
+PreferencesWindowController::Callbacks AppDelegate::preferencesCallbacks() {
+    return {
+        [this] { return m_shortcut.activity(); },
+        [self = QPointer(this), &defaults = m_dependencies.defaults](HotKeyCombo combo) {
+            combo.save(defaults);
+            if (!self)
+                return;
+            self->m_model.setHotKey(combo);
+            self->m_shortcut.change(combo);
+        },
+        [this](QWidget& window) {
+            m_mainMenu->attachTo(window);
+        }};
+}
+
+std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
+    auto& platform = m_dependencies.platform;
+    return std::make_unique<PopoverView>(
+        m_model,
+        PopoverView::Services{
+            *platform.pasteboard,
+            *platform.keyboardLayout,
+            m_dependencies.zones,
+            m_dependencies.mainQueue,
+            m_dependencies.clock,
+            m_dependencies.currentZone,
+            {[&traits = *platform.windowTraits] {
+                return traits.isComposited();
+            }}},
+        PopoverView::Callbacks{
+            weakly(&AppDelegate::performInsert),
+            weakly(&AppDelegate::showPreferences),
+            weakly(&AppDelegate::checkForUpdates),
+            [self = QPointer(this)] {
+                if (self)
+                    self->m_presentation.hide();
+            },
+            weakly(&AppDelegate::terminate)});
+}
+
+void AppDelegate::setupMainMenu() {
+    m_mainMenu = std::make_unique<MainMenu>(MainMenu::Callbacks{
+        [this] { checkForUpdates(); },
+        [this] {
+            terminate();
+        }});
+}
+
+/// A slot that runs the reaction on a later event-loop iteration, when the change is complete.
+template <typename Reaction>
+auto AppDelegate::deferred(Reaction reaction) {
+    return [this, reaction](auto value) {
+        m_dependencies.mainQueue.async([self = QPointer(this), reaction, value] {
             if (self)
-                (self->*reaction)(value);
+                reaction(value);
         });
     };
 }
 
 void AppDelegate::observeModel() {
-    const auto applyShowInMenuBarLater = deferred(&AppDelegate::applyShowInMenuBar);
-    connect(&m_model, &DateTimeModel::showInMenuBarWillChange, this, applyShowInMenuBarLater);
+    const auto applyShowInMenuBar = deferred([this](bool visible) {
+        if (!visible)
+            m_presentation.popover().close();
+        m_trayIcon.setVisible(visible);
+    });
+    connect(&m_model, &DateTimeModel::showInMenuBarWillChange, this, applyShowInMenuBar);
     // The value that is there already counts as the first one.
-    applyShowInMenuBarLater(m_model.showInMenuBar());
+    applyShowInMenuBar(m_model.showInMenuBar());
     connect(
         &m_model,
         &DateTimeModel::presentationModeWillChange,
         this,
-        deferred(&AppDelegate::handlePresentationModeChange));
-    connect(
-        &m_model,
-        &DateTimeModel::showInDockWillChange,
-        this,
-        deferred(&AppDelegate::applyShowInDock));
+        deferred(
+            [this](PresentationMode mode) { m_presentation.handlePresentationModeChange(mode); }));
+    connect(&m_model, &DateTimeModel::showInDockWillChange, this, deferred([this](bool visible) {
+        m_dock.setVisible(visible);
+    }));
 }
 
 void AppDelegate::observeDesktop() {
-    m_environment.platform.workspace->onActiveSpaceChanged([this] { activeSpaceDidChange(); });
-    m_environment.platform.keyboardLayout->onChanged([this] { refreshKeyLabels(); });
+    auto& platform = m_dependencies.platform;
+    platform.workspace->onActiveSpaceChanged(
+        [this] { m_presentation.panel().activeSpaceDidChange(); });
+    platform.keyboardLayout->onChanged([this] {
+        m_presentation.refreshSoon();
+        m_preferences.refreshSoon();
+    });
 }
 
-void AppDelegate::applyActivationPolicy(bool showInDock) {
-    m_environment.platform.windowTraits->setActivationPolicy(
-        showInDock ? ActivationPolicy::Regular : ActivationPolicy::Accessory);
-}
-
-void AppDelegate::applyShowInDock(bool visible) {
-    const bool hadPreferences = arePreferencesVisible();
-    const bool hadPanel = isPanelVisible();
-    applyActivationPolicy(visible);
-    if (visible)
-        activateApplication();
-    auto& traits = *m_environment.platform.windowTraits;
-    if (hadPreferences)
-        traits.orderFront(*m_preferencesWindow->windowHandle());
-    if (hadPanel)
-        traits.orderFront(*m_panel->windowHandle());
-}
-
-void AppDelegate::activateApplication() {
-    auto& traits = *m_environment.platform.windowTraits;
-    if (arePreferencesVisible())
-        traits.activate(*m_preferencesWindow->windowHandle());
-    else if (isPanelVisible())
-        traits.activate(*m_panel->windowHandle());
-}
-
-void AppDelegate::refreshKeyLabels() {
-    for (auto* interface : std::initializer_list<QWidget*>{m_panel.get(), m_popover.get()}) {
-        if (interface != nullptr)
-            interface->findChild<PopoverView*>()->refreshSoon();
-    }
-    if (m_preferencesView)
-        m_preferencesView->refreshSoon();
+/// What the first opening need not wait for. Panel and popover both have a first paint.
+void AppDelegate::prepareAfterFirstPaint() {
+    if (m_zoneWarmUp)
+        return;
+    m_dependencies.platform.appearance->read();
+    m_zoneWarmUp = std::make_unique<ZoneWarmUp>(
+        m_dependencies.mainQueue,
+        m_dependencies.zones,
+        m_dependencies.clock.now(),
+        m_dependencies.locale);
 }
 
 } // namespace quorvane

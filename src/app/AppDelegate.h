@@ -1,46 +1,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PopoverAnchor.h"
+#include "DockPresence.h"
+#include "GlobalShortcut.h"
+#include "Insertion.h"
+#include "PreferencesWindowController.h"
+#include "Presentation.h"
+#include "PreviousFrontmostApp.h"
+#include "TrayIcon.h"
 
-#include <delivery/TextInserter.h>
-#include <hotkey/HotKeyMonitor.h>
-#include <model/DateTimeModel.h>
 #include <platform/PlatformServices.h>
 #include <timezones/ZoneWarmUp.h>
 
 #include <QObject>
 #include <QPointer>
 
-#include <loop/DeadlineSet.h>
-#include <loop/MainQueue.h>
+#include <functional>
 #include <memory>
-#include <optional>
-#include <panel/PopoverView.h>
 #include <settings/DefaultsStore.h>
-#include <settings/WindowFrameStore.h>
-#include <time/Clock.h>
 #include <time/CurrentZone.h>
 #include <time/UserLocale.h>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 
 class MainMenu;
-class Panel;
-class PanelFrame;
-class PreferencesView;
-class PreferencesWindow;
-class StatusPopover;
 
-/// The shell of the program: owns the one model and everything that shows it, and carries each
-/// request from the shortcut to the text in the other application.
+/// The program as a whole: owns the model and the parts that show and serve it, starts and ends
+/// them, and answers the requests that concern more than one of them.
 class AppDelegate final : public QObject {
     Q_OBJECT
 
 public:
-    /// The world around the program; everything outlives the delegate.
-    struct Environment {
+    /// All must outlive the delegate.
+    struct Dependencies {
         Clock& clock;
         DefaultsStore& defaults;
         WindowFrameStore& windowFrames;
@@ -51,21 +43,22 @@ public:
         PlatformServices& platform;
     };
 
-    /// The running delegate, for code that nobody can hand one to; null before start-up.
+    /// The running delegate, for code that cannot be handed one, such as a debugger's; null before
+    /// the launch. Nothing in the program itself asks for it.
     [[nodiscard]] static QPointer<AppDelegate>&
     _sharedDelegate(); // NOLINT(readability-identifier-naming)
 
-    explicit AppDelegate(Environment environment);
+    explicit AppDelegate(Dependencies dependencies);
     ~AppDelegate() override;
 
     /// Start-up, once the main loop runs: shows the interface and arms the shortcut.
     void applicationDidFinishLaunching();
 
     /// Shows the interface, or hides it; what the shortcut does.
-    void togglePresentation();
+    void togglePresentation() { m_presentation.toggle(); }
 
     /// Shows the interface, also when it is shown already: the user opened the program again.
-    void surfaceMainUIForReopen();
+    void surfaceMainUIForReopen() { m_presentation.surface(); }
 
     /// Hides the interface and types the output into the application that was in front before.
     void performInsert();
@@ -82,89 +75,49 @@ public:
     /// An unknown name does nothing.
     void performAction(const QString& name);
 
-    /// Ends the process, with the pasteboard restored and left in good hands.
+    /// Ends the process, once the user's clipboard is restored and will outlive the program.
     void terminate();
 
     [[nodiscard]] DateTimeModel& model() { return m_model; }
 
-    [[nodiscard]] const HotKeyMonitor* hotKeyMonitor() const { return m_hotKeyMonitor.get(); }
+    /// Null before the launch; for tests.
+    [[nodiscard]] const HotKeyMonitor* hotKeyMonitor() const { return m_shortcut.monitor(); }
 
-    /// The mode actually used: a popover needs a status item to hang from.
-    [[nodiscard]] PresentationMode effectivePresentationMode() const;
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// The mode actually used, where the model's cannot be; for tests.
+    [[nodiscard]] PresentationMode effectivePresentationMode() const {
+        return m_presentation.effectivePresentationMode();
+    }
 
 Q_SIGNALS:
-    /// The end begins; the process lives until the pasteboard is in good hands.
+    /// The program is about to end; the process lives until the pasteboard is handed over.
     void willTerminate();
 
 private:
-    // Start-up
-    void applyActivationPolicy(bool showInDock);
-    void startHotKeyMonitor(HotKeyCombo combo);
+    [[nodiscard]] std::function<void()> weakly(void (AppDelegate::*call)());
+    template <typename Reaction>
+    [[nodiscard]] auto deferred(Reaction reaction);
+
+    [[nodiscard]] TrayIcon::Callbacks trayIconCallbacks();
+    [[nodiscard]] InterfaceCallbacks interfaceCallbacks();
+    [[nodiscard]] PreferencesWindowController::Callbacks preferencesCallbacks();
+    [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
+
+    void setupMainMenu();
     void observeModel();
     void observeDesktop();
-    template <typename Value>
-    [[nodiscard]] auto deferred(void (AppDelegate::*reaction)(Value));
-
-    // The icon in the menu bar
-    void makeStatusItem();
-    void statusBarButtonClicked(StatusItem::Click click);
-    void showContextMenu();
-    [[nodiscard]] StatusMenu contextMenu();
-    void applyShowInMenuBar(bool visible);
-    void applyIconImage();
-
-    // Presentation
-    [[nodiscard]] bool isPanelVisible() const;
-    [[nodiscard]] bool isPopoverShown() const;
-    void present();
-    void hideInterface();
-    void handlePresentationModeChange(PresentationMode mode);
-    void rememberFrontmostApp();
-    [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
     void prepareAfterFirstPaint();
 
-    // The panel
-    void setupPanel();
-    void showPanel();
-    void orderOutPanel();
-    void discardPanel();
-    void activeSpaceDidChange();
-
-    // The popover
-    void setupPopover();
-    void showPopover();
-    void closePopover();
-    void holdOffReopening();
-
-    // Menus, preferences, the Dock
-    void setupMainMenu();
-    void setupPreferences();
-    [[nodiscard]] bool arePreferencesVisible() const;
-    void applyHotKey(HotKeyCombo combo);
-    void applyShowInDock(bool visible);
-    void activateApplication();
-    void refreshKeyLabels();
-
-    void activatePreviousApplication();
-
-    Environment m_environment;
+    Dependencies m_dependencies;
     DateTimeModel m_model;
-    std::unique_ptr<MainMenu> m_mainMenu;
-    std::unique_ptr<StatusItem> m_statusItem;
-    PopoverAnchor m_popoverAnchor;
-    std::unique_ptr<Panel> m_panel;
-    std::unique_ptr<PanelFrame> m_panelFrame; ///< there as long as the panel is
-    std::unique_ptr<StatusPopover> m_popover;
-    std::optional<Deadline> m_reopeningHeldOff; ///< a press on the icon has just closed the popover
-    std::shared_ptr<HotKeyMonitor> m_hotKeyMonitor;
-    QPointer<PreferencesView> m_preferencesView;
-    std::unique_ptr<PreferencesWindow> m_preferencesWindow;
-    std::optional<RunningApplication> m_previousFrontmostApp;
-    std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< under way since the first paint
-    TextInserter m_inserter;
-    DeadlineSet m_insertSteps;
+    std::unique_ptr<MainMenu> m_mainMenu; ///< null before the launch
+    TrayIcon m_trayIcon;
+    PreviousFrontmostApp m_previousFrontmostApp;
+    Presentation m_presentation;
+    GlobalShortcut m_shortcut;
+    PreferencesWindowController m_preferences;
+    DockPresence m_dock;
+    std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< null before the first paint
+    Insertion m_insertion;
     bool m_terminating = false;
 };
 

@@ -1,44 +1,33 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
+#include "Insertion.h"
 
-#include <app/Panel.h>
-#include <delivery/CopyText.h>
+#include "PreviousFrontmostApp.h"
 
-#include <QLoggingCategory>
+#include <delivery/InsertionDelays.h>
 
 namespace quorvane {
 
-namespace {
+Insertion::Insertion(Dependencies dependencies)
+    : m_previousFrontmostApp(dependencies.previousFrontmostApp),
+      m_mainQueue(dependencies.mainQueue),
+      m_inserter(
+          {dependencies.accessibilityRight,
+           dependencies.pasteboard,
+           dependencies.keyPoster,
+           dependencies.mainQueue}) {
+}
 
-Q_LOGGING_CATEGORY(lcInsert, "quorvane.insert", QtFatalMsg)
-
-// Time for the panel to be gone before the other application is asked to the front ...
-constexpr Seconds activationDelay{0.08};
-// ... and for that application to take the keyboard focus before the keys come.
-constexpr Seconds pasteDelay{0.12};
-
-} // namespace
-
-void AppDelegate::performInsert() {
-    const auto text = m_model.formattedOutput();
-    hideInterface();
-    m_insertSteps.run(m_environment.mainQueue, activationDelay, [this, text] {
-        activatePreviousApplication();
-        m_insertSteps.run(
-            m_environment.mainQueue, pasteDelay, [this, text] { m_inserter.insert(text); });
+void Insertion::start(const QString& text) {
+    m_steps.run(m_mainQueue, insertiondelay::beforeActivation, [this, text] {
+        m_previousFrontmostApp.activate();
+        m_steps.run(
+            m_mainQueue, insertiondelay::beforePaste, [this, text] { m_inserter.insert(text); });
     });
 }
 
-void AppDelegate::performCopy() {
-    copyText(*m_environment.platform.pasteboard, m_model.formattedOutput());
-}
-
-void AppDelegate::activatePreviousApplication() {
-    if (!m_previousFrontmostApp)
-        return;
-    const auto& application = *m_previousFrontmostApp;
-    if (!m_environment.platform.workspace->activate(application))
-        qCInfo(lcInsert, "%ls cannot be activated", qUtf16Printable(application.name));
+void Insertion::finish() {
+    m_steps.cancelAll();
+    m_inserter.finish();
 }
 
 } // namespace quorvane

@@ -9,13 +9,13 @@ namespace quorvane {
 
 using namespace Qt::StringLiterals;
 
-MainMenu::MainMenu(const Actions& actions)
+MainMenu::MainMenu(const Callbacks& callbacks)
     : m_application(std::make_unique<QMenu>(u"Quorvane"_s)),
       m_edit(std::make_unique<QMenu>(tr("Edit"))),
       m_quit(nullptr) {
-    m_application->addAction(tr("Check for Updates…"), this, actions.checkForUpdates);
+    m_application->addAction(tr("Check for Updates…"), this, callbacks.checkForUpdates);
     m_application->addSeparator();
-    m_quit = m_application->addAction(tr("Quit Quorvane"), this, actions.quit);
+    m_quit = m_application->addAction(tr("Quit Quorvane"), this, callbacks.quit);
     m_quit->setShortcut(Qt::CTRL | Qt::Key_Q);
     // What a window has opened is a window of its own, where these keys hold as well.
     m_quit->setShortcutContext(Qt::ApplicationShortcut);

@@ -20,12 +20,12 @@ class MainMenu final : public QObject {
     Q_OBJECT
 
 public:
-    struct Actions {
+    struct Callbacks {
         std::function<void()> checkForUpdates;
         std::function<void()> quit;
     };
 
-    explicit MainMenu(const Actions& actions);
+    explicit MainMenu(const Callbacks& callbacks);
     ~MainMenu() override;
 
     /// Gives the menus to a window; each of the program's windows has them.

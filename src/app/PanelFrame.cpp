@@ -28,22 +28,22 @@ constexpr std::size_t rememberedRequests = 8;
 
 } // namespace
 
-PanelFrame::PanelFrame(Panel& panel, Surroundings surroundings)
+PanelFrame::PanelFrame(Panel& panel, Dependencies dependencies)
     : m_panel(panel),
-      m_surroundings(surroundings) {
+      m_dependencies(dependencies) {
     connect(&panel, &Panel::fittingHeightChanged, this, &PanelFrame::fit);
     connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitOnceThePointerIsGone);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelFrame::noteScreenGone);
 }
 
 void PanelFrame::restore() {
-    const auto stored = panelplacement::restored(m_surroundings.frames.frame(frameName));
+    const auto stored = panelplacement::restored(m_dependencies.frames.frame(frameName));
     if (stored) {
         m_userHeight = stored->height();
         request(*stored);
         return;
     }
-    const auto area = screens::mainScreen(m_surroundings.workspace).availableGeometry();
+    const auto area = screens::mainScreen(m_dependencies.workspace).availableGeometry();
     const QSize size(
         panelplacement::contentWidth,
         std::min(panelplacement::contentHeight(m_panel.fittingHeight()), area.height()));
@@ -74,7 +74,7 @@ void PanelFrame::request(const QRect& frame) {
 void PanelFrame::fit() {
     const auto frame = m_panel.geometry();
     const auto area =
-        screens::screenAround(frame.center(), m_surroundings.workspace).availableGeometry();
+        screens::screenAround(frame.center(), m_dependencies.workspace).availableGeometry();
     const int height =
         std::max(panelplacement::contentHeight(m_panel.fittingHeight()), m_userHeight.value_or(0));
     const auto fitting = panelplacement::resized(frame, height, area);
@@ -96,11 +96,11 @@ void PanelFrame::noteScreenGone(QScreen* gone) {
     if (!isLost)
         return;
     // A window manager may by then have pulled a corner of it onto another screen.
-    m_rescue = m_surroundings.queue.after(Seconds(0), [this] { centre(); });
+    m_rescue = m_dependencies.queue.after(Seconds(0), [this] { centre(); });
 }
 
 void PanelFrame::centre() {
-    const auto area = screens::mainScreen(m_surroundings.workspace).availableGeometry();
+    const auto area = screens::mainScreen(m_dependencies.workspace).availableGeometry();
     request(panelplacement::centred(m_panel.size(), area));
 }
 
@@ -111,12 +111,12 @@ void PanelFrame::noteChange() {
     if (frame.height() != m_requested.back().height())
         m_userHeight = frame.height();
     m_requested = {frame};
-    m_saving = m_surroundings.queue.after(saveDelay, [this] { save(); });
+    m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
 }
 
 void PanelFrame::save() {
     m_saving.reset();
-    m_surroundings.frames.setFrame(frameName, m_panel.geometry());
+    m_dependencies.frames.setFrame(frameName, m_panel.geometry());
 }
 
 } // namespace quorvane

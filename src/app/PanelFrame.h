@@ -25,13 +25,13 @@ class PanelFrame final : public QObject {
 
 public:
     /// What the frame depends on; all must outlive it.
-    struct Surroundings {
+    struct Dependencies {
         WindowFrameStore& frames;
         MainQueue& queue;
         const Workspace& workspace;
     };
 
-    PanelFrame(Panel& panel, Surroundings surroundings);
+    PanelFrame(Panel& panel, Dependencies dependencies);
 
     /// The stored frame, else one around the content in the middle of the screen.
     void restore();
@@ -55,7 +55,7 @@ private:
     void save();
 
     Panel& m_panel;
-    Surroundings m_surroundings;
+    Dependencies m_dependencies;
     std::optional<int> m_userHeight;  ///< less than that only the user gives it
     std::deque<QRect> m_requested;    ///< the latest of ours, which the desktop reports back late
     std::optional<Deadline> m_saving; ///< there is a frame that is not saved yet

@@ -1,66 +1,85 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
-#include "MainMenu.h"
-#include "PanelFrame.h"
+#include "PanelPresentation.h"
 
 #include <app/Panel.h>
 
 #include <QWindow>
 
+#include <utility>
+
 namespace quorvane {
 
-bool AppDelegate::isPanelVisible() const {
-    return m_panel && m_panel->isVisible();
+PanelPresentation::PanelPresentation(Dependencies dependencies, InterfaceCallbacks callbacks)
+    : m_dependencies(dependencies),
+      m_callbacks(std::move(callbacks)) {
 }
 
-void AppDelegate::setupPanel() {
+PanelPresentation::~PanelPresentation() = default;
+
+void PanelPresentation::setupPanel() {
     if (m_panel)
         return;
-    m_panel = std::make_unique<Panel>(makeContentView().release());
-    m_mainMenu->attachTo(*m_panel);
-    m_panelFrame = std::make_unique<PanelFrame>(
+    m_view = m_callbacks.makeContentView().release();
+    m_panel = std::make_unique<Panel>(m_view);
+    m_callbacks.attachMainMenu(*m_panel);
+    m_frame = std::make_unique<PanelFrame>(
         *m_panel,
-        PanelFrame::Surroundings{
-            m_environment.windowFrames,
-            m_environment.mainQueue,
-            *m_environment.platform.workspace});
-    m_panelFrame->restore();
-    connect(
+        PanelFrame::Dependencies{
+            m_dependencies.windowFrames, m_dependencies.mainQueue, m_dependencies.workspace});
+    m_frame->restore();
+    QObject::connect(
         m_panel.get(),
         &Panel::painted,
-        this,
-        &AppDelegate::prepareAfterFirstPaint,
+        m_panel.get(),
+        m_callbacks.onFirstPaint,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-void AppDelegate::showPanel() {
+void PanelPresentation::show() {
     setupPanel();
-    m_panelFrame->moveOntoScreen();
+    m_frame->moveOntoScreen();
     m_panel->winId();
-    auto& traits = *m_environment.platform.windowTraits;
+    auto& traits = m_dependencies.windowTraits;
     traits.preparePanel(*m_panel->windowHandle());
     m_panel->show();
     m_panel->raise();
-    // Only now: the first place is ours, not the user's.
-    m_panelFrame->follow();
+    // Not earlier: the user did not choose the frame that the panel is shown with.
+    m_frame->follow();
     traits.presentPanel(*m_panel->windowHandle());
 }
 
-void AppDelegate::orderOutPanel() {
+void PanelPresentation::hide() {
     if (m_panel)
         m_panel->hide();
 }
 
-void AppDelegate::discardPanel() {
-    if (m_panelFrame)
-        m_panelFrame->saveNow();
-    m_panelFrame.reset();
+void PanelPresentation::discard() {
+    saveFrameNow();
+    m_frame.reset();
     m_panel.reset();
 }
 
-void AppDelegate::activeSpaceDidChange() {
-    if (isPanelVisible())
-        m_environment.platform.windowTraits->orderFront(*m_panel->windowHandle());
+void PanelPresentation::saveFrameNow() {
+    if (m_frame)
+        m_frame->saveNow();
+}
+
+void PanelPresentation::activeSpaceDidChange() {
+    if (auto* window = visibleWindow())
+        m_dependencies.windowTraits.orderFront(*window);
+}
+
+void PanelPresentation::refreshSoon() {
+    if (m_view)
+        m_view->refreshSoon();
+}
+
+bool PanelPresentation::isVisible() const {
+    return m_panel && m_panel->isVisible();
+}
+
+QWindow* PanelPresentation::visibleWindow() const {
+    return isVisible() ? m_panel->windowHandle() : nullptr;
 }
 
 } // namespace quorvane

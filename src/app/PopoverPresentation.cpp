@@ -1,51 +1,78 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
-#include "MainMenu.h"
+#include "PopoverPresentation.h"
+
 #include "StatusPopover.h"
+#include "TrayIcon.h"
+
+#include <utility>
 
 namespace quorvane {
 
 namespace {
 
-// The press that closes the popover and the click that the bar reports afterwards are one gesture.
-constexpr Seconds reopeningHoldOff{0.3};
+// The press that closes the popover and the click that the tray reports afterwards are one gesture.
+constexpr Seconds dismissingClickDelay{0.3};
 
 } // namespace
 
-bool AppDelegate::isPopoverShown() const {
-    return m_popover && m_popover->isVisible();
+PopoverPresentation::PopoverPresentation(Dependencies dependencies, InterfaceCallbacks callbacks)
+    : m_dependencies(dependencies),
+      m_callbacks(std::move(callbacks)),
+      m_anchor(dependencies.workspace) {
 }
 
-void AppDelegate::setupPopover() {
+PopoverPresentation::~PopoverPresentation() = default;
+
+void PopoverPresentation::setupPopover() {
     if (m_popover)
         return;
     using Background = StatusPopover::Background;
-    const bool composited = m_environment.platform.windowTraits->isComposited();
+    const bool composited = m_dependencies.windowTraits.isComposited();
+    m_view = m_callbacks.makeContentView().release();
     m_popover = std::make_unique<StatusPopover>(
-        makeContentView().release(), composited ? Background::Composited : Background::Plain);
-    m_mainMenu->attachTo(*m_popover);
-    connect(m_popover.get(), &StatusPopover::dismissed, this, &AppDelegate::holdOffReopening);
-    connect(
+        m_view, composited ? Background::Composited : Background::Plain);
+    m_callbacks.attachMainMenu(*m_popover);
+    QObject::connect(
+        m_popover.get(), &StatusPopover::dismissed, m_popover.get(), [this] { noteDismissal(); });
+    QObject::connect(
         m_popover.get(),
         &StatusPopover::painted,
-        this,
-        &AppDelegate::prepareAfterFirstPaint,
+        m_popover.get(),
+        m_callbacks.onFirstPaint,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-void AppDelegate::showPopover() {
-    if (m_popover && m_statusItem && m_statusItem->hasButton())
-        m_popover->showAt(m_popoverAnchor.place(m_statusItem->frame()));
+void PopoverPresentation::show() {
+    setupPopover();
+    if (m_dependencies.trayIcon.hasButton())
+        m_popover->showAt(m_anchor.place(m_dependencies.trayIcon.frame()));
 }
 
-void AppDelegate::closePopover() {
+void PopoverPresentation::close() {
     if (m_popover)
         m_popover->close();
 }
 
-void AppDelegate::holdOffReopening() {
-    m_reopeningHeldOff =
-        m_environment.mainQueue.after(reopeningHoldOff, [this] { m_reopeningHeldOff.reset(); });
+void PopoverPresentation::discard() {
+    m_popover.reset();
+}
+
+void PopoverPresentation::refreshSoon() {
+    if (m_view)
+        m_view->refreshSoon();
+}
+
+bool PopoverPresentation::isShown() const {
+    return m_popover && m_popover->isVisible();
+}
+
+bool PopoverPresentation::takeDismissingClick() {
+    return std::exchange(m_dismissal, std::nullopt).has_value();
+}
+
+void PopoverPresentation::noteDismissal() {
+    m_dismissal =
+        m_dependencies.mainQueue.after(dismissingClickDelay, [this] { m_dismissal.reset(); });
 }
 
 } // namespace quorvane

@@ -1,86 +1,56 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
-#include "MainMenu.h"
+#include "PreferencesWindowController.h"
+
 #include "PanelPlacement.h"
 #include "PreferencesWindow.h"
 #include "Screens.h"
 
-#include <preferences/PreferencesView.h>
-
 #include <QScreen>
+#include <QWindow>
 
-#include <panel/SparkleUpdater.h>
+#include <utility>
 
 namespace quorvane {
 
-namespace {
-
-ShortcutRecorder::Activity activityOf(const HotKeyMonitor* monitor) {
-    using Activity = ShortcutRecorder::Activity;
-    if (monitor == nullptr || monitor->lastFailure())
-        return Activity::Unavailable;
-    return monitor->isArmed() ? Activity::Active : Activity::HeldElsewhere;
+PreferencesWindowController::PreferencesWindowController(
+    Dependencies dependencies, Callbacks callbacks)
+    : m_dependencies(dependencies),
+      m_callbacks(std::move(callbacks)) {
 }
 
-} // namespace
+PreferencesWindowController::~PreferencesWindowController() = default;
 
-void AppDelegate::showPreferences() {
-    hideInterface();
-    setupPreferences();
-    m_preferencesWindow->show();
-    activateApplication();
+void PreferencesWindowController::showWindow() {
+    setupWindow();
+    m_window->show();
+    m_dependencies.windowTraits.activate(*m_window->windowHandle());
 }
 
-bool AppDelegate::arePreferencesVisible() const {
-    return m_preferencesWindow && m_preferencesWindow->isVisible();
+void PreferencesWindowController::refreshSoon() {
+    if (m_view)
+        m_view->refreshSoon();
 }
 
-void AppDelegate::setupPreferences() {
-    if (m_preferencesWindow)
+QWindow* PreferencesWindowController::visibleWindow() const {
+    return m_window && m_window->isVisible() ? m_window->windowHandle() : nullptr;
+}
+
+void PreferencesWindowController::setupWindow() {
+    if (m_window)
         return;
-    m_preferencesView = new PreferencesView(
-        m_model,
+    m_view = new PreferencesView(
+        m_dependencies.model,
         PreferencesView::Services{
-            *m_environment.platform.keyboardLayout,
-            m_environment.zones,
-            m_environment.mainQueue,
-            m_environment.clock,
-            [this] {
-                return activityOf(m_hotKeyMonitor.get());
-            }},
-        [self = QPointer(this), &defaults = m_environment.defaults](HotKeyCombo combo) {
-            combo.save(defaults);
-            if (self)
-                self->applyHotKey(combo);
-        });
-    m_preferencesWindow = std::make_unique<PreferencesWindow>(m_preferencesView);
-    m_mainMenu->attachTo(*m_preferencesWindow);
-    const auto& screen = screens::mainScreen(*m_environment.platform.workspace);
-    m_preferencesWindow->setGeometry(
-        panelplacement::centred(m_preferencesWindow->size(), screen.availableGeometry()));
-}
-
-void AppDelegate::checkForUpdates() {
-    // It has the keyboard grabbed, which what comes now needs.
-    closePopover();
-    SparkleUpdater::shared().controller().checkForUpdates(*m_environment.platform.softwareCentre);
-}
-
-void AppDelegate::applyHotKey(HotKeyCombo combo) {
-    m_model.setHotKey(combo);
-    if (!m_hotKeyMonitor)
-        return;
-    m_hotKeyMonitor->setCombo(combo);
-    m_hotKeyMonitor->stop();
-    m_hotKeyMonitor->start();
-}
-
-void AppDelegate::setupMainMenu() {
-    m_mainMenu = std::make_unique<MainMenu>(MainMenu::Actions{
-        [this] { checkForUpdates(); },
-        [this] {
-            terminate();
-        }});
+            m_dependencies.keyboardLayout,
+            m_dependencies.zones,
+            m_dependencies.mainQueue,
+            m_dependencies.clock,
+            m_callbacks.shortcutActivity},
+        m_callbacks.onHotKeyChange);
+    m_window = std::make_unique<PreferencesWindow>(m_view);
+    m_callbacks.attachMainMenu(*m_window);
+    const auto& screen = screens::mainScreen(m_dependencies.workspace);
+    m_window->setGeometry(panelplacement::centred(m_window->size(), screen.availableGeometry()));
 }
 
 } // namespace quorvane

@@ -1,101 +1,92 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
-#include "StatusPopover.h"
+#include "Presentation.h"
 
-#include <app/Panel.h>
+#include "PreviousFrontmostApp.h"
+#include "TrayIcon.h"
+
+#include <QCursor>
 
 namespace quorvane {
 
-PresentationMode AppDelegate::effectivePresentationMode() const {
-    const bool hasIcon = m_statusItem && m_statusItem->hasButton();
-    // A popover needs an icon to hang from; one that is hidden counts, its place is remembered.
-    if (m_model.presentationMode() == PresentationMode::Popover && !hasIcon)
+Presentation::Presentation(Dependencies dependencies, const InterfaceCallbacks& callbacks)
+    : m_model(dependencies.model),
+      m_trayIcon(dependencies.trayIcon),
+      m_previousFrontmostApp(dependencies.previousFrontmostApp),
+      m_panel(
+          {dependencies.windowFrames,
+           dependencies.mainQueue,
+           dependencies.workspace,
+           dependencies.windowTraits},
+          callbacks),
+      m_popover(
+          {dependencies.trayIcon,
+           dependencies.mainQueue,
+           dependencies.workspace,
+           dependencies.windowTraits},
+          callbacks) {
+}
+
+PresentationMode Presentation::effectivePresentationMode() const {
+    // An icon that is hidden counts as one: its place is remembered.
+    if (m_model.presentationMode() == PresentationMode::Popover && !m_trayIcon.hasButton())
         return PresentationMode::Window;
     return m_model.presentationMode();
 }
 
-void AppDelegate::togglePresentation() {
-    if (isPanelVisible() || isPopoverShown()) {
-        hideInterface();
+void Presentation::toggle() {
+    if (isShown()) {
+        hide();
         return;
     }
-    rememberFrontmostApp();
+    m_previousFrontmostApp.remember();
     present();
 }
 
-void AppDelegate::surfaceMainUIForReopen() {
-    // While it is shown, what is in front may be the interface itself.
-    if (!isPanelVisible() && !isPopoverShown())
-        rememberFrontmostApp();
+void Presentation::surface() {
+    // While the interface is shown, the window in front may be the interface itself.
+    if (!isShown())
+        m_previousFrontmostApp.remember();
     present();
 }
 
-void AppDelegate::present() {
-    if (effectivePresentationMode() == PresentationMode::Window) {
-        showPanel();
-        return;
-    }
-    setupPopover();
-    showPopover();
-}
-
-void AppDelegate::hideInterface() {
-    orderOutPanel();
-    closePopover();
-}
-
-void AppDelegate::handlePresentationModeChange(PresentationMode mode) {
-    const bool wasVisible = isPanelVisible() || isPopoverShown();
-    hideInterface();
-    if (mode == PresentationMode::Popover)
-        discardPanel();
+void Presentation::present() {
+    if (effectivePresentationMode() == PresentationMode::Window)
+        m_panel.show();
     else
-        m_popover.reset();
-    if (wasVisible)
+        m_popover.show();
+}
+
+void Presentation::hide() {
+    m_panel.hide();
+    m_popover.close();
+}
+
+void Presentation::handleIconClick() {
+    if (m_popover.takeDismissingClick())
+        return;
+    m_popover.anchor().noteClick(QCursor::pos());
+    toggle();
+    m_popover.anchor().clickHandled();
+}
+
+void Presentation::handlePresentationModeChange(PresentationMode mode) {
+    const bool wasShown = isShown();
+    hide();
+    if (mode == PresentationMode::Popover)
+        m_panel.discard();
+    else
+        m_popover.discard();
+    if (wasShown)
         present();
 }
 
-void AppDelegate::rememberFrontmostApp() {
-    m_previousFrontmostApp = m_environment.platform.workspace->frontmostApplication();
+void Presentation::refreshSoon() {
+    m_panel.refreshSoon();
+    m_popover.refreshSoon();
 }
 
-std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
-    const auto weakly = [self = QPointer(this)](void (AppDelegate::*call)()) {
-        return [self, call] {
-            if (self)
-                (self->*call)();
-        };
-    };
-    return std::make_unique<PopoverView>(
-        m_model,
-        PopoverView::Services{
-            *m_environment.platform.pasteboard,
-            *m_environment.platform.keyboardLayout,
-            m_environment.zones,
-            m_environment.mainQueue,
-            m_environment.clock,
-            m_environment.currentZone,
-            {[&traits = *m_environment.platform.windowTraits] {
-                return traits.isComposited();
-            }}},
-        PopoverView::Callbacks{
-            weakly(&AppDelegate::performInsert),
-            weakly(&AppDelegate::showPreferences),
-            weakly(&AppDelegate::checkForUpdates),
-            weakly(&AppDelegate::hideInterface),
-            weakly(&AppDelegate::terminate)});
-}
-
-void AppDelegate::prepareAfterFirstPaint() {
-    // Panel and popover both have a first paint.
-    if (m_zoneWarmUp)
-        return;
-    m_environment.platform.appearance->read();
-    m_zoneWarmUp = std::make_unique<ZoneWarmUp>(
-        m_environment.mainQueue,
-        m_environment.zones,
-        m_environment.clock.now(),
-        m_environment.locale);
+bool Presentation::isShown() const {
+    return m_panel.isVisible() || m_popover.isShown();
 }
 
 } // namespace quorvane

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "AppDelegate.h"
+#include "TrayIcon.h"
 
 #include <controls/SymbolIcon.h>
 
-#include <QCursor>
+#include <QEvent>
 #include <QGuiApplication>
+#include <QPointer>
 
 #include <utility>
 
@@ -12,8 +13,16 @@ namespace quorvane {
 
 using namespace Qt::StringLiterals;
 
-void AppDelegate::makeStatusItem() {
-    m_statusItem = m_environment.platform.statusBar->makeStatusItem(contextMenu());
+TrayIcon::TrayIcon(Dependencies dependencies, Callbacks callbacks)
+    : m_dependencies(dependencies),
+      m_callbacks(std::move(callbacks)) {
+    qGuiApp->installEventFilter(this);
+}
+
+TrayIcon::~TrayIcon() = default;
+
+void TrayIcon::makeStatusItem() {
+    m_statusItem = m_dependencies.statusBar.makeStatusItem(contextMenu());
     if (!m_statusItem)
         return;
     applyIconImage();
@@ -24,59 +33,58 @@ void AppDelegate::makeStatusItem() {
     m_statusItem->setVisible(true);
 }
 
-void AppDelegate::applyIconImage() {
+void TrayIcon::setVisible(bool visible) {
+    if (!m_statusItem)
+        makeStatusItem();
+    if (m_statusItem)
+        m_statusItem->setVisible(visible);
+}
+
+bool TrayIcon::hasButton() const {
+    return m_statusItem && m_statusItem->hasButton();
+}
+
+std::optional<QRect> TrayIcon::frame() const {
+    return m_statusItem ? m_statusItem->frame() : std::nullopt;
+}
+
+bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
+    // The desktop may change between its dark and its light scheme at any time.
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
+        applyIconImage();
+    return QObject::eventFilter(watched, event);
+}
+
+void TrayIcon::applyIconImage() {
     if (m_statusItem)
         m_statusItem->setImage(
             symbolIcon(Symbol::CalendarBadgeClock, SymbolColors::of(QGuiApplication::palette())),
             u"Quorvane"_s);
 }
 
-void AppDelegate::statusBarButtonClicked(StatusItem::Click click) {
-    if (click == StatusItem::Click::Right) {
+void TrayIcon::statusBarButtonClicked(StatusItem::Click click) {
+    if (click == StatusItem::Click::Right)
         showContextMenu();
-        return;
-    }
-    // The press of this very click has closed the popover already.
-    if (std::exchange(m_reopeningHeldOff, std::nullopt))
-        return;
-    m_popoverAnchor.noteClick(QCursor::pos());
-    togglePresentation();
-    m_popoverAnchor.clickHandled();
+    else
+        m_callbacks.onClick();
 }
 
-void AppDelegate::showContextMenu() {
-    if (m_statusItem) {
-        m_statusItem->setMenu(contextMenu());
-        m_statusItem->performClick();
-    }
+void TrayIcon::showContextMenu() {
+    m_statusItem->setMenu(contextMenu());
+    m_statusItem->performClick();
     // Without the menu the next left click is reported again.
-    m_environment.mainQueue.async([self = QPointer(this)] {
+    m_dependencies.mainQueue.async([self = QPointer(this)] {
         if (self && self->m_statusItem)
             self->m_statusItem->setMenu({});
     });
 }
 
-StatusMenu AppDelegate::contextMenu() {
-    const auto weakly = [self = QPointer(this)](void (AppDelegate::*call)()) {
-        return [self, call] {
-            if (self)
-                (self->*call)();
-        };
-    };
+StatusMenu TrayIcon::contextMenu() const {
     return {
-        {tr("Preferences…"), Qt::CTRL | Qt::Key_Comma, weakly(&AppDelegate::showPreferences)},
-        {tr("Check for Updates…"), {}, weakly(&AppDelegate::checkForUpdates)},
+        {tr("Preferences…"), Qt::CTRL | Qt::Key_Comma, m_callbacks.onShowPreferences},
+        {tr("Check for Updates…"), {}, m_callbacks.onCheckForUpdates},
         {},
-        {tr("Quit Quorvane"), Qt::CTRL | Qt::Key_Q, weakly(&AppDelegate::terminate)}};
-}
-
-void AppDelegate::applyShowInMenuBar(bool visible) {
-    if (!visible)
-        closePopover();
-    if (!m_statusItem)
-        makeStatusItem();
-    if (m_statusItem)
-        m_statusItem->setVisible(visible);
+        {tr("Quit Quorvane"), Qt::CTRL | Qt::Key_Q, m_callbacks.onQuit}};
 }
 
 } // namespace quorvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MergedItem.h"
 
+#include <delivery/InsertionDelays.h>
 #include <delivery/TextInserter.h>
 
 #include <QLoggingCategory>
@@ -89,7 +90,7 @@ void TextInserter::post() {
 void TextInserter::scheduleRestore(PasteboardContents saved) {
     const int number = m_nextRestore++;
     m_pending.emplace(number, std::move(saved));
-    m_deadlines.run(m_dependencies.mainQueue, restoreDelay, [this, number] {
+    m_deadlines.run(m_dependencies.mainQueue, insertiondelay::beforeRestore, [this, number] {
         restore(m_pending.extract(number).mapped());
     });
 }

@@ -46,7 +46,7 @@ protected:
         platform = makeFakes();
         m_frames = std::make_unique<WindowFrameStore>(
             m_folder.filePath(QStringLiteral("windows.json")), m_files);
-        delegate = std::make_unique<AppDelegate>(AppDelegate::Environment{
+        delegate = std::make_unique<AppDelegate>(AppDelegate::Dependencies{
             clock,
             defaults,
             *m_frames,

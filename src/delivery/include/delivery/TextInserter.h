@@ -25,9 +25,6 @@ public:
         MainQueue& mainQueue;
     };
 
-    /// From the paste keys to the restore: long enough for an application that pastes late.
-    static constexpr Seconds restoreDelay{0.6};
-
     explicit TextInserter(Dependencies dependencies);
     ~TextInserter();
 
@@ -35,8 +32,8 @@ public:
     TextInserter& operator=(const TextInserter&) = delete;
 
     /// Saves the pasteboard, puts the text on it, posts the paste keys, and restores the pasteboard
-    /// `restoreDelay` later, whether or not the keys reached anything. Without the accessibility
-    /// right it does none of this: it lets the desktop ask the user for the right.
+    /// `insertiondelay::beforeRestore` later, whether or not the keys reached anything. Without the
+    /// accessibility right it does none of this: it lets the desktop ask the user for the right.
     ///
     /// Insertions may overlap: each saves what the pasteboard holds when it begins.
     /// At debug level the log (quorvane.insert) tells the types and sizes of what was saved and put

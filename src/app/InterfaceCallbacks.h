@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <panel/PopoverView.h>
+
+class QWidget;
+
+namespace quorvane {
+
+/// What panel and popover ask of their owner.
+struct InterfaceCallbacks {
+    /// A new view for a window that is being made.
+    std::function<std::unique_ptr<PopoverView>()> makeContentView;
+    std::function<void(QWidget& window)> attachMainMenu;
+    /// A window has been painted for the first time; each new window reports it once.
+    std::function<void()> onFirstPaint;
+};
+
+} // namespace quorvane

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "InterfaceCallbacks.h"
+#include "PanelFrame.h"
+
+#include <platform/WindowTraits.h>
+#include <platform/Workspace.h>
+
+#include <QPointer>
+
+#include <loop/MainQueue.h>
+#include <memory>
+#include <settings/WindowFrameStore.h>
+
+class QWindow;
+
+namespace quorvane {
+
+class Panel;
+
+/// The interface as a panel. The window is made when it is shown first, and kept while hidden.
+class PanelPresentation final {
+public:
+    /// All must outlive the presentation.
+    struct Dependencies {
+        WindowFrameStore& windowFrames;
+        MainQueue& mainQueue;
+        const Workspace& workspace;
+        WindowTraits& windowTraits;
+    };
+
+    PanelPresentation(Dependencies dependencies, InterfaceCallbacks callbacks);
+    ~PanelPresentation();
+
+    PanelPresentation(const PanelPresentation&) = delete;
+    PanelPresentation& operator=(const PanelPresentation&) = delete;
+
+    void show();
+    void hide();
+
+    /// Destroys the window; its frame is kept.
+    void discard();
+
+    /// Saves a frame that is due to be saved.
+    void saveFrameNow();
+
+    /// Brings a visible panel to the front of the virtual desktop that the user has changed to.
+    void activeSpaceDidChange();
+
+    /// Shows the contents anew, for changes that the model does not announce.
+    void refreshSoon();
+
+    [[nodiscard]] bool isVisible() const;
+
+    /// Null while nothing is visible.
+    [[nodiscard]] QWindow* visibleWindow() const;
+
+private:
+    void setupPanel();
+
+    Dependencies m_dependencies;
+    InterfaceCallbacks m_callbacks;
+    std::unique_ptr<Panel> m_panel;
+    QPointer<PopoverView> m_view;
+    std::unique_ptr<PanelFrame> m_frame; ///< exists as long as the panel
+};
+
+} // namespace quorvane

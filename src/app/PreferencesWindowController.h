@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <model/DateTimeModel.h>
+#include <platform/WindowTraits.h>
+#include <platform/Workspace.h>
+#include <preferences/PreferencesView.h>
+
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+class QWindow;
+
+namespace quorvane {
+
+class PreferencesWindow;
+
+/// Shows the preferences. Their window is made when it is shown first, and kept from then on.
+class PreferencesWindowController final {
+public:
+    /// All must outlive the controller.
+    struct Dependencies {
+        DateTimeModel& model;
+        const KeyboardLayout& keyboardLayout;
+        const ZoneDatabase& zones;
+        MainQueue& mainQueue;
+        const Clock& clock;
+        const Workspace& workspace;
+        WindowTraits& windowTraits;
+    };
+
+    struct Callbacks {
+        std::function<ShortcutRecorder::Activity()> shortcutActivity;
+        std::function<void(HotKeyCombo)> onHotKeyChange;
+        std::function<void(QWidget& window)> attachMainMenu;
+    };
+
+    PreferencesWindowController(Dependencies dependencies, Callbacks callbacks);
+    ~PreferencesWindowController();
+
+    PreferencesWindowController(const PreferencesWindowController&) = delete;
+    PreferencesWindowController& operator=(const PreferencesWindowController&) = delete;
+
+    /// Shows the window and gives it the focus.
+    void showWindow();
+
+    /// Shows the contents anew, for changes that the model does not announce.
+    void refreshSoon();
+
+    /// Null while nothing is visible.
+    [[nodiscard]] QWindow* visibleWindow() const;
+
+private:
+    void setupWindow();
+
+    Dependencies m_dependencies;
+    Callbacks m_callbacks;
+    QPointer<PreferencesView> m_view;
+    std::unique_ptr<PreferencesWindow> m_window;
+};
+
+} // namespace quorvane

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "InterfaceCallbacks.h"
+#include "PanelPresentation.h"
+#include "PopoverPresentation.h"
+
+#include <model/DateTimeModel.h>
+
+namespace quorvane {
+
+class PreviousFrontmostApp;
+class TrayIcon;
+
+/// Shows the interface in the mode that the model names: as a panel or as a popover.
+class Presentation final {
+public:
+    /// All must outlive the presentation.
+    struct Dependencies {
+        const DateTimeModel& model;
+        const TrayIcon& trayIcon;
+        PreviousFrontmostApp& previousFrontmostApp;
+        WindowFrameStore& windowFrames;
+        MainQueue& mainQueue;
+        const Workspace& workspace;
+        WindowTraits& windowTraits;
+    };
+
+    Presentation(Dependencies dependencies, const InterfaceCallbacks& callbacks);
+
+    /// Hides the interface, or shows it and remembers what was in front.
+    void toggle();
+
+    /// Shows the interface, also when it is shown already, which keeps what is remembered.
+    void surface();
+
+    /// Shows the interface and remembers nothing.
+    void present();
+
+    void hide();
+
+    /// The reaction to a click on the tray icon: toggles, unless that click closed the popover.
+    void handleIconClick();
+
+    /// The model's mode has changed: discards the window of the other one. What was shown is shown
+    /// in the new mode.
+    void handlePresentationModeChange(PresentationMode mode);
+
+    /// Shows the contents anew, for changes that the model does not announce.
+    void refreshSoon();
+
+    /// The mode actually used: a popover needs a tray icon to be placed at.
+    [[nodiscard]] PresentationMode effectivePresentationMode() const;
+
+    [[nodiscard]] PanelPresentation& panel() { return m_panel; }
+
+    [[nodiscard]] PopoverPresentation& popover() { return m_popover; }
+
+private:
+    [[nodiscard]] bool isShown() const;
+
+    const DateTimeModel& m_model;
+    const TrayIcon& m_trayIcon;
+    PreviousFrontmostApp& m_previousFrontmostApp;
+    PanelPresentation m_panel;
+    PopoverPresentation m_popover;
+};
+
+} // namespace quorvane

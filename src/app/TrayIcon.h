@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/StatusBar.h>
+
+#include <QObject>
+#include <QRect>
+
+#include <functional>
+#include <loop/MainQueue.h>
+#include <memory>
+#include <optional>
+
+namespace quorvane {
+
+/// The program's icon in the system tray, with its context menu.
+class TrayIcon final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both must outlive the icon.
+    struct Dependencies {
+        StatusBar& statusBar;
+        MainQueue& mainQueue;
+    };
+
+    /// A desktop may hold those of the menu longer than the icon lives.
+    struct Callbacks {
+        std::function<void()> onClick;
+        std::function<void()> onShowPreferences;
+        std::function<void()> onCheckForUpdates;
+        std::function<void()> onQuit;
+    };
+
+    TrayIcon(Dependencies dependencies, Callbacks callbacks);
+    ~TrayIcon() override;
+
+    /// Makes the icon and shows it, where the desktop takes icons.
+    void makeStatusItem();
+
+    /// Makes the icon first if it could not be made before.
+    void setVisible(bool visible);
+
+    /// Whether the desktop has a place for the icon; one that is hidden keeps its place.
+    [[nodiscard]] bool hasButton() const;
+
+    /// Where the icon is, as far as the desktop tells.
+    [[nodiscard]] std::optional<QRect> frame() const;
+
+    /// Follows the application's palette.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void applyIconImage();
+    void statusBarButtonClicked(StatusItem::Click click);
+    void showContextMenu();
+    [[nodiscard]] StatusMenu contextMenu() const;
+
+    Dependencies m_dependencies;
+    Callbacks m_callbacks;
+    std::unique_ptr<StatusItem> m_statusItem;
+};
+
+} // namespace quorvane
