@@ -76,6 +76,7 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            *m_dependencies.platform.windowTraits},
           preferencesCallbacks()),
       m_dock({*m_dependencies.platform.windowTraits, m_preferences, m_presentation.panel()}),
+      m_modelObserver(m_model, m_dependencies.mainQueue, modelCallbacks()),
       m_insertion(
           {m_previousFrontmostApp,
            *m_dependencies.platform.accessibilityRight,
@@ -96,7 +97,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     m_trayIcon.makeStatusItem();
     m_presentation.present();
     m_shortcut.startHotKeyMonitor(m_model.hotKey());
-    observeModel();
+    m_modelObserver.start();
     observeDesktop();
 }
 
@@ -179,6 +180,19 @@ PreferencesWindowController::Callbacks AppDelegate::preferencesCallbacks() {
         }};
 }
 
+ModelObserver::Callbacks AppDelegate::modelCallbacks() {
+    return {
+        [this](bool show) {
+            if (!show)
+                m_presentation.popover().close();
+            m_trayIcon.setVisible(show);
+        },
+        [this](PresentationMode mode) { m_presentation.handlePresentationModeChange(mode); },
+        [this](bool show) {
+            m_dock.setVisible(show);
+        }};
+}
+
 std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
     auto& platform = m_dependencies.platform;
     return std::make_unique<PopoverView>(
@@ -206,41 +220,7 @@ std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
 
 void AppDelegate::setupMainMenu() {
     m_mainMenu = std::make_unique<MainMenu>(MainMenu::Callbacks{
-        [this] { checkForUpdates(); },
-        [this] {
-            terminate();
-        }});
-}
-
-/// A slot that runs the reaction on a later event-loop iteration, when the change is complete.
-template <typename Reaction>
-auto AppDelegate::deferred(Reaction reaction) {
-    return [this, reaction](auto value) {
-        m_dependencies.mainQueue.async([self = QPointer(this), reaction, value] {
-            if (self)
-                reaction(value);
-        });
-    };
-}
-
-void AppDelegate::observeModel() {
-    const auto applyShowInMenuBar = deferred([this](bool visible) {
-        if (!visible)
-            m_presentation.popover().close();
-        m_trayIcon.setVisible(visible);
-    });
-    connect(&m_model, &DateTimeModel::showInMenuBarWillChange, this, applyShowInMenuBar);
-    // The value that is there already counts as the first one.
-    applyShowInMenuBar(m_model.showInMenuBar());
-    connect(
-        &m_model,
-        &DateTimeModel::presentationModeWillChange,
-        this,
-        deferred(
-            [this](PresentationMode mode) { m_presentation.handlePresentationModeChange(mode); }));
-    connect(&m_model, &DateTimeModel::showInDockWillChange, this, deferred([this](bool visible) {
-        m_dock.setVisible(visible);
-    }));
+        weakly(&AppDelegate::checkForUpdates), weakly(&AppDelegate::terminate)});
 }
 
 void AppDelegate::observeDesktop() {
@@ -253,7 +233,8 @@ void AppDelegate::observeDesktop() {
     });
 }
 
-/// What the first opening need not wait for. Panel and popover both have a first paint.
+/// Does what the first opening of the interface need not wait for; once, though panel and popover
+/// both report a first paint.
 void AppDelegate::prepareAfterFirstPaint() {
     if (m_zoneWarmUp)
         return;

@@ -4,6 +4,7 @@
 #include "DockPresence.h"
 #include "GlobalShortcut.h"
 #include "Insertion.h"
+#include "ModelObserver.h"
 #include "PreferencesWindowController.h"
 #include "Presentation.h"
 #include "PreviousFrontmostApp.h"
@@ -94,16 +95,13 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] std::function<void()> weakly(void (AppDelegate::*call)());
-    template <typename Reaction>
-    [[nodiscard]] auto deferred(Reaction reaction);
-
     [[nodiscard]] TrayIcon::Callbacks trayIconCallbacks();
     [[nodiscard]] InterfaceCallbacks interfaceCallbacks();
     [[nodiscard]] PreferencesWindowController::Callbacks preferencesCallbacks();
+    [[nodiscard]] ModelObserver::Callbacks modelCallbacks();
     [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
 
     void setupMainMenu();
-    void observeModel();
     void observeDesktop();
     void prepareAfterFirstPaint();
 
@@ -116,6 +114,7 @@ private:
     GlobalShortcut m_shortcut;
     PreferencesWindowController m_preferences;
     DockPresence m_dock;
+    ModelObserver m_modelObserver;
     std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< null before the first paint
     Insertion m_insertion;
     bool m_terminating = false;

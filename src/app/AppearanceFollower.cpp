@@ -4,6 +4,7 @@
 #include <controls/Theme.h>
 
 #include <QApplication>
+#include <QProxyStyle>
 
 namespace quorvane {
 
@@ -30,6 +31,26 @@ QPalette paletteFor(const DesktopAppearance& appearance) {
 
 } // namespace
 
+/// The desktop's style, with as much motion as the user wants. Whatever moves, ours or Qt's, asks
+/// the style how long that takes, each time it starts to move.
+class AppearanceFollower::MotionStyle final : public QProxyStyle {
+public:
+    void setMotionWanted(bool isWanted) { m_isMotionWanted = isWanted; }
+
+    int styleHint(
+        StyleHint hint,
+        const QStyleOption* option = nullptr,
+        const QWidget* widget = nullptr,
+        QStyleHintReturn* returned = nullptr) const override {
+        if (!m_isMotionWanted && hint == SH_Widget_Animation_Duration)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+private:
+    bool m_isMotionWanted = true;
+};
+
 AppearanceFollower::PaletteFrom AppearanceFollower::paletteSource() {
     // A palette that is the style's own comes from no desktop.
     return QApplication::palette() == QApplication::style()->standardPalette()
@@ -53,9 +74,7 @@ AppearanceFollower::~AppearanceFollower() {
 void AppearanceFollower::apply() {
     const auto wanted = m_appearance.current();
     if (m_style)
-        m_style->setMotion(
-            wanted.wantsLessMotion ? MotionStyle::Motion::None
-                                   : MotionStyle::Motion::AsTheStyleHasIt);
+        m_style->setMotionWanted(!wanted.wantsLessMotion);
     if (m_source == PaletteFrom::BuiltIn)
         QApplication::setPalette(paletteFor(wanted));
 }

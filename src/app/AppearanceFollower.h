@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "MotionStyle.h"
-
 #include <platform/Appearance.h>
 
 #include <QPointer>
@@ -10,9 +8,9 @@
 namespace quorvane {
 
 /// Makes the application look as the desktop wants it, now and at every change. Where the desktop
-/// gives its programs a palette, colours and contrast are that palette's affair, and Qt's to
-/// follow; elsewhere the house's own palette takes on scheme, accent and contrast. Lives as long as
-/// the application shows anything.
+/// gives its programs a palette, colours and contrast are those of that palette, which Qt follows;
+/// elsewhere the built-in palette takes on scheme, accent and contrast. Must live as long as the
+/// application shows anything.
 class AppearanceFollower {
 public:
     enum class PaletteFrom { BuiltIn, Desktop };
@@ -27,11 +25,13 @@ public:
     AppearanceFollower& operator=(const AppearanceFollower&) = delete;
 
 private:
+    class MotionStyle;
+
     void apply();
 
     Appearance& m_appearance;
     PaletteFrom m_source;
-    QPointer<MotionStyle> m_style; ///< the application's, which a desktop may exchange
+    QPointer<MotionStyle> m_style; ///< null once a desktop has replaced it
 };
 
 } // namespace quorvane

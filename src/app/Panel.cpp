@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "ContentHeight.h"
 #include "PanelPlacement.h"
 
 #include <app/Panel.h>
@@ -36,7 +35,7 @@ Panel::Panel(QWidget* content)
 }
 
 int Panel::fittingHeight() const {
-    return quorvane::fittingHeight(*m_content, panelplacement::contentWidth);
+    return panelplacement::fittingHeight(*m_content);
 }
 
 bool Panel::event(QEvent* event) {
@@ -51,8 +50,8 @@ bool Panel::event(QEvent* event) {
 
 void Panel::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    // A window that is hidden just when the desktop gives it the focus keeps it in Qt's eyes. Qt
-    // then takes no notice when the focus comes, and no widget in the window ever has it.
+    // Qt goes on taking a window for the focused one if it was hidden just when the desktop gave it
+    // the focus. It then ignores the focus that comes now, and no widget of the window gets it.
     if (QGuiApplication::focusWindow() == windowHandle())
         QApplication::setActiveWindow(this);
 }

@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlacement.h"
 
+#include <QLayout>
+#include <QWidget>
+
 #include <algorithm>
 
 namespace quorvane::panelplacement {
+
+int fittingHeight(QWidget& content) {
+    content.ensurePolished();
+    const auto* layout = content.layout();
+    return layout != nullptr && layout->hasHeightForWidth() ? layout->heightForWidth(contentWidth)
+                                                            : content.sizeHint().height();
+}
 
 int contentHeight(int fittingHeight) {
     return std::max(fittingHeight, minimumContentHeight);

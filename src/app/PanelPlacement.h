@@ -6,25 +6,30 @@
 #include <optional>
 #include <vector>
 
+class QWidget;
+
 namespace quorvane {
 
-/// Where the panel goes. All rectangles in points of the virtual desktop.
+/// Size and place of panel and popover. All rectangles in points of the virtual desktop.
 namespace panelplacement {
 
 inline constexpr int contentWidth = 504;
 inline constexpr int minimumContentHeight = 300;
 
+/// The height that the content's layout asks for at `contentWidth`.
+[[nodiscard]] int fittingHeight(QWidget& content);
+
 /// The height for content that needs `fittingHeight`.
 [[nodiscard]] int contentHeight(int fittingHeight);
 
-/// Of the panel's size, in the middle of the screen's available area; clamped to its top left
-/// corner where the area is smaller.
+/// A frame of that size in the middle of the screen's available area; at its top left corner where
+/// the area is smaller.
 [[nodiscard]] QRect centred(QSize size, const QRect& available);
 
 /// The stored frame with the width that the content has today; none without a stored frame.
 [[nodiscard]] std::optional<QRect> restored(const std::optional<QRect>& stored);
 
-/// Whether any of the areas shows a piece of the panel.
+/// Whether any of the areas shows a part of the panel.
 [[nodiscard]] bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas);
 
 /// The frame at another height, at most that of the area: its top left corner stays, unless it

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "StatusPopover.h"
 
-#include "ContentHeight.h"
 #include "PanelPlacement.h"
 
 #include <controls/DevicePixels.h>
@@ -43,7 +42,7 @@ StatusPopover::StatusPopover(QWidget* content, Background background)
 }
 
 int StatusPopover::contentHeight() const {
-    return panelplacement::contentHeight(fittingHeight(*m_content, panelplacement::contentWidth));
+    return panelplacement::contentHeight(panelplacement::fittingHeight(*m_content));
 }
 
 void StatusPopover::showAt(const PopoverAnchor::Place& place) {
@@ -88,9 +87,9 @@ QRect StatusPopover::surface() const {
 }
 
 void StatusPopover::fit() {
-    const int room = m_place.available.height() - 2 * screenMargin;
-    const QSize size(panelplacement::contentWidth, std::min(contentHeight(), room));
-    // Centred at the anchor, as far as the screen's edge lets it be.
+    const int availableHeight = m_place.available.height() - 2 * screenMargin;
+    const QSize size(panelplacement::contentWidth, std::min(contentHeight(), availableHeight));
+    // Centred at the anchor, as far as the edges of the screen allow.
     QRect anchor(QPoint(), QSize(size.width(), m_place.anchor.height()));
     anchor.moveCenter(m_place.anchor.center());
     const auto placed =
