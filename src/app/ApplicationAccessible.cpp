@@ -39,7 +39,7 @@ int ApplicationAccessible::indexOfChild(const QAccessibleInterface* child) const
 QList<QWidget*> ApplicationAccessible::popovers() {
     QList<QWidget*> popovers;
     for (auto* widget : QApplication::topLevelWidgets()) {
-        // What a control has opened is found below that control.
+        // A popup that a control has opened is a child of that control.
         if (widget->windowType() == Qt::Popup && widget->isVisible() &&
             widget->parentWidget() == nullptr)
             popovers.append(widget);

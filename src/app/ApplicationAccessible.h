@@ -7,12 +7,12 @@ class QWidget;
 
 namespace quorvane {
 
-/// The program as assistive technology sees it: with the popover among its windows. Qt leaves out
-/// every popup, and one that belongs to no other window would then be nowhere to be found.
+/// The program as assistive technology sees it, with the popover among its windows. Qt lists no
+/// popup there; one that has no parent window could not be found at all.
 class ApplicationAccessible final : public QAccessibleApplication {
 public:
-    /// Makes Qt use this class; to be called before there is an application object, which Qt may
-    /// publish at once.
+    /// Makes Qt use this class. Call it before the application object is made, which Qt may publish
+    /// at once.
     static void install();
 
     [[nodiscard]] int childCount() const override;

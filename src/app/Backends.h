@@ -9,9 +9,9 @@
 
 namespace quorvane {
 
-/// The desktop services for this session: by the forced name ("x11", "null"; anything else is as
-/// if nothing were forced), else by the kind of display that Qt found. Where a backend cannot be
-/// had, the services that do nothing.
+/// The desktop services for this session: those of the backend named by `forced` ("x11", "null";
+/// any other text chooses none), else those that suit the platform plugin that Qt runs on. If that
+/// backend is not available, services that do nothing.
 [[nodiscard]] PlatformServices
 makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue);
 

@@ -17,7 +17,7 @@ MainMenu::MainMenu(const Callbacks& callbacks)
     m_application->addSeparator();
     m_quit = m_application->addAction(tr("Quit Quorvane"), this, callbacks.quit);
     m_quit->setShortcut(Qt::CTRL | Qt::Key_Q);
-    // What a window has opened is a window of its own, where these keys hold as well.
+    // The keys work in the popups of a window as well, which are windows of their own.
     m_quit->setShortcutContext(Qt::ApplicationShortcut);
     addEdit(tr("Undo"), Qt::CTRL | Qt::Key_Z, "undo");
     addEdit(tr("Redo"), Qt::CTRL | Qt::SHIFT | Qt::Key_Z, "redo");
@@ -35,7 +35,7 @@ void MainMenu::attachTo(QWidget& window) {
     auto* bar = new QMenuBar(&window);
     for (auto* menu : menus())
         bar->addMenu(menu);
-    // A bar that no desktop takes would show in the window.
+    // A bar that the desktop does not show would be shown in the window.
     if (!bar->isNativeMenuBar())
         delete bar;
 }
@@ -46,13 +46,13 @@ std::vector<QMenu*> MainMenu::menus() const {
 
 void MainMenu::addEdit(const QString& title, const QKeySequence& keys, const char* method) {
     auto* action = m_edit->addAction(title, this, [method] {
-        // Whatever has the focus answers, or nothing does: a chip knows no such method.
+        // Only text fields have these methods; any other focused control is left alone.
         auto* focused = QApplication::focusWidget();
         if (focused != nullptr &&
             focused->metaObject()->indexOfMethod(QByteArray(method).append("()").constData()) >= 0)
             QMetaObject::invokeMethod(focused, method);
     });
-    // The field with the focus has these keys itself; here they are for show.
+    // Text fields handle these keys themselves; the menu only shows them.
     action->setShortcut(keys);
     action->setShortcutContext(Qt::WidgetShortcut);
 }

@@ -14,8 +14,8 @@ class QWidget;
 
 namespace quorvane {
 
-/// The program's menus, for desktops that show the menus of whatever is in front in a bar of their
-/// own. Elsewhere they are not shown; quitting by its keys works all the same.
+/// The program's menus, for desktops that show the menus of the active window in a bar of their
+/// own. Elsewhere they are not shown, but the keys of Quit work all the same.
 class MainMenu final : public QObject {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ public:
     explicit MainMenu(const Callbacks& callbacks);
     ~MainMenu() override;
 
-    /// Gives the menus to a window; each of the program's windows has them.
+    /// Adds the menus to a window; to be called for each of the program's windows.
     void attachTo(QWidget& window);
 
     [[nodiscard]] std::vector<QMenu*> menus() const;

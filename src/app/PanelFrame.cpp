@@ -20,10 +20,11 @@ namespace {
 
 const auto frameName = u"PanelV2"_s;
 
-// A drag moves the panel many times a second; the file is written once it rests.
+// A drag moves the panel many times a second; the file is written when it has stopped.
 constexpr Seconds saveDelay{0.5};
 
-// More changes of height than this do not pass before the desktop reports the first of them.
+// The window manager reports a frame some time after it was requested; until then others may have
+// been requested.
 constexpr std::size_t rememberedRequests = 8;
 
 } // namespace
@@ -32,8 +33,8 @@ PanelFrame::PanelFrame(Panel& panel, Dependencies dependencies)
     : m_panel(panel),
       m_dependencies(dependencies) {
     connect(&panel, &Panel::fittingHeightChanged, this, &PanelFrame::fit);
-    connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitOnceThePointerIsGone);
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelFrame::noteScreenGone);
+    connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitAfterPointerLeft);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelFrame::handleScreenRemoved);
 }
 
 void PanelFrame::restore() {
@@ -56,7 +57,12 @@ void PanelFrame::moveOntoScreen() {
 }
 
 void PanelFrame::follow() {
-    connect(&m_panel, &Panel::frameChanged, this, &PanelFrame::noteChange, Qt::UniqueConnection);
+    connect(
+        &m_panel,
+        &Panel::frameChanged,
+        this,
+        &PanelFrame::handleFrameChanged,
+        Qt::UniqueConnection);
 }
 
 void PanelFrame::saveNow() {
@@ -78,25 +84,27 @@ void PanelFrame::fit() {
     const int height =
         std::max(panelplacement::contentHeight(m_panel.fittingHeight()), m_userHeight.value_or(0));
     const auto fitting = panelplacement::resized(frame, height, area);
-    // What the pointer is on stays under it: the part that does not fit scrolls for so long.
+    // The control under the pointer must not move away from it. Until the pointer has left, what
+    // does not fit scrolls.
     m_heldInPlace = fitting.top() != frame.top() && m_panel.underMouse();
     request(m_heldInPlace ? panelplacement::resizedInPlace(frame, height, area) : fitting);
 }
 
-void PanelFrame::fitOnceThePointerIsGone() {
+void PanelFrame::fitAfterPointerLeft() {
     if (m_heldInPlace)
         fit();
 }
 
-void PanelFrame::noteScreenGone(QScreen* gone) {
-    // What is hidden is looked after when it shows again.
+void PanelFrame::handleScreenRemoved(QScreen* removed) {
+    // A hidden panel is moved onto a screen when it shows again.
     const bool isLost =
         m_panel.isVisible() &&
-        !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas(gone));
+        !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas(removed));
     if (!isLost)
         return;
-    // A window manager may by then have pulled a corner of it onto another screen.
-    m_rescue = m_dependencies.queue.after(Seconds(0), [this] { centre(); });
+    // Decided now: once the screens are updated, a window manager may have moved a corner of the
+    // panel onto another one.
+    m_recentring = m_dependencies.queue.after(Seconds(0), [this] { centre(); });
 }
 
 void PanelFrame::centre() {
@@ -104,7 +112,7 @@ void PanelFrame::centre() {
     request(panelplacement::centred(m_panel.size(), area));
 }
 
-void PanelFrame::noteChange() {
+void PanelFrame::handleFrameChanged() {
     const auto frame = m_panel.geometry();
     if (std::ranges::count(m_requested, frame) > 0)
         return;

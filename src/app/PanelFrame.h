@@ -18,13 +18,13 @@ namespace quorvane {
 
 class Panel;
 
-/// Where the panel stands and how high it is: at the place and height that the user gave it, as
-/// high as its content needs, on a screen.
+/// Keeps the panel where the user put it and on a screen, and at least as high as its content needs
+/// and as the user made it.
 class PanelFrame final : public QObject {
     Q_OBJECT
 
 public:
-    /// What the frame depends on; all must outlive it.
+    /// All must outlive the frame.
     struct Dependencies {
         WindowFrameStore& frames;
         MainQueue& queue;
@@ -33,34 +33,35 @@ public:
 
     PanelFrame(Panel& panel, Dependencies dependencies);
 
-    /// The stored frame, else one around the content in the middle of the screen.
+    /// Applies the stored frame, else one that fits the content in the middle of the screen.
     void restore();
 
-    /// Into the middle of the screen, if no screen shows any of it.
+    /// Moves the panel into the middle of the screen if no screen shows any part of it.
     void moveOntoScreen();
 
-    /// What moves the panel from now on is the user, and worth keeping. Any number of calls.
+    /// Takes changes of the frame that it did not request for the user's from now on, and saves
+    /// them. Harmless when called again.
     void follow();
 
-    /// Saves what is not saved yet.
+    /// Saves a change that is due to be saved.
     void saveNow();
 
 private:
     void request(const QRect& frame);
     void fit();
-    void fitOnceThePointerIsGone();
-    void noteChange();
-    void noteScreenGone(QScreen* gone);
+    void fitAfterPointerLeft();
+    void handleFrameChanged();
+    void handleScreenRemoved(QScreen* removed);
     void centre();
     void save();
 
     Panel& m_panel;
     Dependencies m_dependencies;
-    std::optional<int> m_userHeight;  ///< less than that only the user gives it
-    std::deque<QRect> m_requested;    ///< the latest of ours, which the desktop reports back late
-    std::optional<Deadline> m_saving; ///< there is a frame that is not saved yet
-    std::optional<Deadline> m_rescue; ///< its screen is gone
-    bool m_heldInPlace = false;       ///< it is to grow once the pointer has left
+    std::optional<int> m_userHeight;      ///< the least height; only the user makes the panel lower
+    std::deque<QRect> m_requested;        ///< the latest, which the window manager reports later
+    std::optional<Deadline> m_saving;     ///< pending while a change is not saved yet
+    std::optional<Deadline> m_recentring; ///< pending after its screen was removed
+    bool m_heldInPlace = false;           ///< it grows once the pointer has left
 };
 
 } // namespace quorvane

@@ -12,7 +12,7 @@ namespace quorvane {
 
 namespace {
 
-// One for each screen is enough; there is no telling which ones are still needed.
+// The last click on each screen is needed; few desktops have more than eight screens.
 constexpr std::size_t rememberedClicks = 8;
 
 QRect pointRect(QPoint point) {

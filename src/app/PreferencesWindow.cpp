@@ -17,7 +17,7 @@ constexpr QSize contentSize{400, 540};
 } // namespace
 
 PreferencesWindow::PreferencesWindow(QWidget* content)
-    // Without a button to minimise it: no taskbar shows the windows of an accessory.
+    // It cannot be minimised: without an entry in the taskbar it could not be brought back.
     : QWidget(
           nullptr,
           Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |

@@ -10,7 +10,7 @@ class PreferencesWindow final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Takes over the content.
+    /// Takes ownership of the content.
     explicit PreferencesWindow(QWidget* content);
 
 protected:

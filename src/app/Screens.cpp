@@ -7,10 +7,10 @@
 
 namespace quorvane::screens {
 
-std::vector<QRect> availableAreas(const QScreen* going) {
+std::vector<QRect> availableAreas(const QScreen* excluded) {
     std::vector<QRect> areas;
     for (const auto* screen : QGuiApplication::screens()) {
-        if (screen != going)
+        if (screen != excluded)
             areas.push_back(screen->availableGeometry());
     }
     return areas;

@@ -9,16 +9,17 @@
 
 class QScreen;
 
-/// The screens as windows of this program see them; never without one.
+/// The screens on which this program places its windows.
 namespace quorvane::screens {
 
-/// What docks and bars leave free of each screen, but for the one that is going away.
-[[nodiscard]] std::vector<QRect> availableAreas(const QScreen* going = nullptr);
+/// The part of each screen that docks and bars leave free; `excluded` is left out, for a screen
+/// that is about to be removed.
+[[nodiscard]] std::vector<QRect> availableAreas(const QScreen* excluded = nullptr);
 
-/// Where the user is: the screen of the focused window, else of the pointer.
+/// The screen of the focused window, else of the pointer, else the primary one.
 [[nodiscard]] const QScreen& mainScreen(const Workspace& workspace);
 
-/// The screen at that place, else the main one.
+/// The screen that contains the point, else the main one.
 [[nodiscard]] const QScreen& screenAround(QPoint place, const Workspace& workspace);
 
 } // namespace quorvane::screens

@@ -7,25 +7,25 @@
 
 namespace quorvane {
 
-/// The interface as a popover at the icon in the menu bar. It closes at a press outside, and takes
-/// the keys without becoming the desktop's active window.
+/// The window of the popover at the tray icon. It closes at a press outside, and receives the keys
+/// by a grab, without becoming the desktop's active window.
 class StatusPopover final : public QWidget {
     Q_OBJECT
 
 public:
     enum class Background { Composited, Plain };
 
-    /// Takes over the content, whose layout decides the height.
+    /// Takes ownership of the content, whose layout decides the height.
     StatusPopover(QWidget* content, Background background);
 
-    /// At least the least height of a panel, in points.
+    /// What the content needs, at least the panel's minimum, in points.
     [[nodiscard]] int contentHeight() const;
 
-    /// Shows it below the anchor, or above where there is no room, inside the available area.
+    /// Shows it below the anchor, or above if there is no room below, inside the available area.
     void showAt(const PopoverAnchor::Place& place);
 
 Q_SIGNALS:
-    /// It is on the screen as it is now.
+    /// Its present state has been painted.
     void painted();
 
     /// A press outside has closed it.

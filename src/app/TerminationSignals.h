@@ -10,14 +10,16 @@ class QSocketNotifier;
 
 namespace quorvane {
 
-/// Turns the signals by which a session or a terminal ends a process (SIGTERM, SIGINT, SIGHUP) into
-/// a call on the main loop. Make it before any thread starts: threads inherit the mask.
+/// Receives the signals by which a session or a terminal ends a process (SIGTERM, SIGINT, SIGHUP)
+/// in the event loop. Construct it before any thread starts: it blocks the signals' default effect,
+/// and only threads that start later inherit that.
 class TerminationSignals final : public QObject {
 public:
     TerminationSignals();
     ~TerminationSignals() override;
 
-    /// Needs an application. The signals that came before arrive then.
+    /// Calls the handler for signals to come, and for those that came since construction. Needs an
+    /// application object.
     void onSignal(std::function<void()> handler);
 
 private:

@@ -25,7 +25,7 @@ void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
     application.setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
-    // Windows show it; Qt's reader of SVG images is a plugin of the library that we link anyway.
+    // Qt reads SVG with a plugin that comes with Qt Svg, which we link anyway.
     application.setWindowIcon(QIcon(u":/icons/org.quorvane.Quorvane.svg"_s));
     application.setQuitOnLastWindowClosed(false);
 }
@@ -42,7 +42,8 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
     WindowFrameStore windowFrames(folders.windowsFile(), files);
     auto platform = makePlatformServices(
         qEnvironmentVariable("QUORVANE_BACKEND"), QGuiApplication::platformName(), mainQueue);
-    const AppearanceFollower look(*platform.appearance, AppearanceFollower::paletteSource());
+    const AppearanceFollower appearanceFollower(
+        *platform.appearance, AppearanceFollower::paletteSource());
 
     AppDelegate delegate(
         {clock,
@@ -54,7 +55,7 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
          mainQueue,
          platform});
     mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
-    // Through the queue as well: what the bus brings before the launch has to come after it.
+    // Through the queue as well, so that requests from the bus run after the launch.
     instance.onReopen([&] { mainQueue.async([&] { delegate.surfaceMainUIForReopen(); }); });
     instance.onAction(
         [&](const QString& name) { mainQueue.async([&, name] { delegate.performAction(name); }); });
@@ -71,7 +72,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     configure(application);
     DBusApplicationInstance instance;
-    // The model writes settings when it is made: a second process must not come that far.
+    // The constructor of the model writes settings, which a second process must not do.
     if (instance.claim() == ApplicationInstance::Role::Second)
         return 0;
     return run(application, signals, instance);

@@ -5,25 +5,25 @@
 
 namespace quorvane {
 
-/// The detached window: floats above others, has no chrome, and moves by its background.
+/// The detached window: floats above others, has no frame, and is moved by its background.
 class Panel final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Takes over the content, whose layout decides the height.
+    /// Takes ownership of the content, whose layout decides the height.
     explicit Panel(QWidget* content);
 
     /// What the content needs, in points.
     [[nodiscard]] int fittingHeight() const;
 
 Q_SIGNALS:
-    /// The panel is on the screen as it is now.
+    /// Its present state has been painted.
     void painted();
 
     /// The user or the window manager moved or sized the panel.
     void frameChanged();
 
-    /// The content needs another height than before.
+    /// The height that the content needs has changed.
     void fittingHeightChanged();
 
     void pointerLeft();
