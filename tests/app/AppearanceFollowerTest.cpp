@@ -26,7 +26,7 @@ protected:
         QApplication::setStyle(u"fusion"_s);
     }
 
-    static QColor ground() { return QApplication::palette().color(QPalette::Window); }
+    static QColor background() { return QApplication::palette().color(QPalette::Window); }
 
     static int animationDuration() {
         return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration);
@@ -39,24 +39,24 @@ TEST_F(AppearanceFollowerTest, StylesOwnPaletteComesFromNoDesktop) {
     EXPECT_EQ(AppearanceFollower::paletteSource(), PaletteFrom::Desktop);
 }
 
-TEST_F(AppearanceFollowerTest, WithoutAPreferenceTheHouseIsLight) {
+TEST_F(AppearanceFollowerTest, WithoutAPreferenceThePaletteIsLight) {
     const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
-    EXPECT_EQ(ground(), QColor(0xf6f6f8));
+    EXPECT_EQ(background(), QColor(0xf6f6f8));
 }
 
-TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastShowAtOnceAndGoAgain) {
+TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastAreFollowedAtOnce) {
     const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
     desktop.change({.scheme = Scheme::Dark});
-    EXPECT_EQ(ground(), QColor(0x1d1e21));
+    EXPECT_EQ(background(), QColor(0x1d1e21));
     EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x4666ea));
     desktop.change({.scheme = Scheme::Light, .accent = DesktopAppearance::Accent{0.6, 0, 0}});
-    EXPECT_EQ(ground(), QColor(0xf6f6f8));
+    EXPECT_EQ(background(), QColor(0xf6f6f8));
     EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x990000));
     desktop.change({.wantsMoreContrast = true});
-    EXPECT_EQ(ground(), QColor(Qt::white));
+    EXPECT_EQ(background(), QColor(Qt::white));
     EXPECT_EQ(Theme::of(QApplication::palette()).border, QColor(Qt::black));
     desktop.change({.scheme = Scheme::Dark, .wantsMoreContrast = true});
-    EXPECT_EQ(ground(), QColor(Qt::black));
+    EXPECT_EQ(background(), QColor(Qt::black));
     desktop.change({});
     EXPECT_EQ(QApplication::palette(), builtInPalette(ColorScheme::Light));
 }
@@ -66,7 +66,7 @@ TEST_F(AppearanceFollowerTest, PaletteOfADesktopIsLeftToQt) {
     QApplication::setPalette(given);
     const AppearanceFollower follower(desktop, PaletteFrom::Desktop);
     desktop.change({.scheme = Scheme::Dark, .wantsMoreContrast = true});
-    EXPECT_EQ(ground(), given.color(QPalette::Window));
+    EXPECT_EQ(background(), given.color(QPalette::Window));
 }
 
 TEST_F(AppearanceFollowerTest, MotionStopsAndComesBackWhileTheProgramRuns) {
@@ -81,17 +81,17 @@ TEST_F(AppearanceFollowerTest, MotionStopsAndComesBackWhileTheProgramRuns) {
     EXPECT_EQ(animationDuration(), usual);
 }
 
-TEST_F(AppearanceFollowerTest, AStyleThatTheDesktopExchangesIsLetGo) {
+TEST_F(AppearanceFollowerTest, StyleThatTheDesktopReplacesIsNoLongerUsed) {
     const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
     QApplication::setStyle(u"windows"_s);
     desktop.change({.scheme = Scheme::Dark, .wantsLessMotion = true});
-    EXPECT_EQ(ground(), QColor(0x1d1e21));
+    EXPECT_EQ(background(), QColor(0x1d1e21));
 }
 
-TEST_F(AppearanceFollowerTest, NothingIsFollowedAfterTheEnd) {
+TEST_F(AppearanceFollowerTest, NothingIsFollowedAfterDestruction) {
     { const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn); }
     desktop.change({.scheme = Scheme::Dark});
-    EXPECT_EQ(ground(), QColor(0xf6f6f8));
+    EXPECT_EQ(background(), QColor(0xf6f6f8));
 }
 
 } // namespace

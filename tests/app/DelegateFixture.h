@@ -28,7 +28,7 @@
 
 namespace quorvane {
 
-/// A delegate in a world of fakes, on a virtual clock, at 2024-03-09T22:05:00Z in New York.
+/// A delegate over fake services and a virtual clock, at 2024-03-09T22:05:00Z in New York.
 class DelegateFixture : public testing::Test {
 protected:
     static constexpr KeyPress shortcut{2, modifier::control | modifier::shift | modifier::command};
@@ -117,6 +117,7 @@ protected:
     FakeEventTaps* taps = nullptr;
     FakePasteboard* pasteboard = nullptr;
     FakeWorkspace* workspace = nullptr;
+    FakeKeyboardLayout* keyboardLayout = nullptr;
     FakeStatusBar* statusBar = nullptr;
     FakeAppearance* appearance = nullptr;
     PlatformServices platform;
@@ -127,11 +128,13 @@ private:
         auto eventTaps = std::make_unique<FakeEventTaps>(log);
         auto board = std::make_unique<FakePasteboard>(log, queue);
         auto space = std::make_unique<FakeWorkspace>(log);
+        auto layout = std::make_unique<FakeKeyboardLayout>();
         taps = eventTaps.get();
         pasteboard = board.get();
         auto desktop = std::make_unique<FakeAppearance>();
         auto bar = std::make_unique<FakeStatusBar>(log);
         workspace = space.get();
+        keyboardLayout = layout.get();
         appearance = desktop.get();
         statusBar = bar.get();
         return {
@@ -140,7 +143,7 @@ private:
             std::make_unique<FakeKeyPoster>(log),
             std::move(board),
             std::move(space),
-            std::make_unique<FakeKeyboardLayout>(),
+            std::move(layout),
             std::make_unique<FakeWindowTraits>(log),
             std::move(desktop),
             std::make_unique<FakeSoftwareCentre>(log),

@@ -59,13 +59,13 @@ TEST_F(MainMenuTest, HasItsEntriesInOrder) {
             u"Select All|Ctrl+A"_s}));
 }
 
-TEST_F(MainMenuTest, IsNotShownWhereNoDesktopTakesIt) {
+TEST_F(MainMenuTest, IsNotShownInTheWindow) {
     QWidget window;
     mainMenu.attachTo(window);
     EXPECT_EQ(window.findChild<QMenuBar*>(), nullptr);
 }
 
-TEST_F(MainMenuTest, QuitsByItsKeysAllTheSame) {
+TEST_F(MainMenuTest, QuitKeysWorkWithoutAShownMenu) {
     QWidget window;
     mainMenu.attachTo(window);
     window.show();
@@ -77,7 +77,7 @@ TEST_F(MainMenuTest, QuitsByItsKeysAllTheSame) {
     EXPECT_EQ(updateChecks, 1);
 }
 
-TEST_F(MainMenuTest, EditingIsTheFocusedFieldsMatter) {
+TEST_F(MainMenuTest, EditEntriesActOnTheFocusedField) {
     QWidget window;
     auto* field = new QLineEdit(&window);
     auto* button = new QPushButton(&window);

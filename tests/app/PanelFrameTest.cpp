@@ -32,7 +32,7 @@ protected:
         layOut();
     }
 
-    /// A change of layout goes from the content to its panel on the turn after its own.
+    /// A change of layout reaches the panel one event-loop iteration after the content.
     static void layOut() {
         QApplication::sendPostedEvents();
         QApplication::sendPostedEvents();
@@ -89,7 +89,7 @@ TEST_F(PanelFrameTest, GrowthMovesThePanelUpRatherThanOffItsScreen) {
     EXPECT_EQ(panel.geometry(), QRect(20, area.bottom() + 1 - 450, 504, 450));
 }
 
-TEST_F(PanelFrameTest, WhatThePointerIsOnStaysUntilThePointerHasLeft) {
+TEST_F(PanelFrameTest, PanelDoesNotMoveUnderThePointer) {
     show();
     const int top = area.bottom() + 1 - panel.height() - 10;
     panel.move(20, top);
@@ -100,7 +100,7 @@ TEST_F(PanelFrameTest, WhatThePointerIsOnStaysUntilThePointerHasLeft) {
     EXPECT_EQ(panel.geometry(), QRect(20, area.bottom() + 1 - 450, 504, 450));
 }
 
-TEST_F(PanelFrameTest, HeightThatTheUserGaveIsAFloor) {
+TEST_F(PanelFrameTest, HeightThatTheUserChoseIsTheMinimum) {
     show();
     panel.resize(504, 500);
     setContentHeight(420);
@@ -111,7 +111,7 @@ TEST_F(PanelFrameTest, HeightThatTheUserGaveIsAFloor) {
     EXPECT_EQ(panel.height(), 500);
 }
 
-TEST_F(PanelFrameTest, HeightOfTheContentIsNoFloor) {
+TEST_F(PanelFrameTest, HeightOfTheContentIsNoMinimum) {
     show();
     setContentHeight(450);
     panel.move(20, 20);
@@ -119,7 +119,7 @@ TEST_F(PanelFrameTest, HeightOfTheContentIsNoFloor) {
     EXPECT_EQ(panel.height(), 400);
 }
 
-TEST_F(PanelFrameTest, LateReportOfAnEarlierHeightIsNotTheUsers) {
+TEST_F(PanelFrameTest, LateReportOfARequestedHeightIsNotTakenForTheUsers) {
     show();
     setContentHeight(450);
     setContentHeight(400);
@@ -132,14 +132,14 @@ TEST_F(PanelFrameTest, LateReportOfAnEarlierHeightIsNotTheUsers) {
     EXPECT_EQ(frames.frame(u"PanelV2"_s), std::nullopt);
 }
 
-TEST_F(PanelFrameTest, StoredHeightIsTheUsers) {
+TEST_F(PanelFrameTest, StoredHeightIsTheMinimum) {
     frames.setFrame(u"PanelV2"_s, QRect(30, 40, 504, 480));
     show();
     setContentHeight(420);
     EXPECT_EQ(panel.geometry(), QRect(30, 40, 504, 480));
 }
 
-TEST_F(PanelFrameTest, WhatTheUserMovesIsSavedOnceItRests) {
+TEST_F(PanelFrameTest, FrameIsSavedWhenTheUserStopsMovingThePanel) {
     show();
     panel.move(20, 30);
     queue.advance(400ms);

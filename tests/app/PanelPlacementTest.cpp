@@ -6,7 +6,7 @@
 namespace quorvane::panelplacement {
 namespace {
 
-TEST(PanelPlacement, ContentBelowTheFloorGetsTheFloor) {
+TEST(PanelPlacement, HeightIsAtLeastTheMinimum) {
     EXPECT_EQ(contentHeight(0), 300);
     EXPECT_EQ(contentHeight(299), 300);
     EXPECT_EQ(contentHeight(300), 300);
@@ -50,7 +50,7 @@ TEST(PanelPlacement, GrowingInPlaceEndsAtTheEdgeOfTheScreen) {
     EXPECT_EQ(resizedInPlace({10, 500, 504, 300}, 400, screen), QRect(10, 500, 504, 400));
 }
 
-TEST(PanelPlacement, PanelThatHangsOverTheEdgeStaysWhereTheUserPutIt) {
+TEST(PanelPlacement, PanelBeyondTheEdgeStaysWhereTheUserPutIt) {
     const QRect screen(0, 0, 800, 600);
     EXPECT_EQ(resized({10, 500, 504, 300}, 400, screen), QRect(10, 500, 504, 400));
 }

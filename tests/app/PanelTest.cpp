@@ -34,7 +34,7 @@ TEST_F(PanelTest, CloseOnlyHides) {
     EXPECT_TRUE(panel.isVisible());
 }
 
-TEST_F(PanelTest, TellsWhenItsContentNeedsAnotherHeight) {
+TEST_F(PanelTest, ReportsAChangedFittingHeight) {
     panel.show();
     QSignalSpy spy(&panel, &Panel::fittingHeightChanged);
     auto* tall = new QWidget;

@@ -20,27 +20,27 @@ protected:
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
 };
 
-TEST_F(PopoverAnchorTest, IsTheIconWhereItsPlaceIsKnown) {
+TEST_F(PopoverAnchorTest, IsTheIconWhereItsFrameIsKnown) {
     anchor.noteClick({5, 5});
     const QRect icon(100, 0, 22, 22);
     EXPECT_EQ(anchor.place(icon).anchor, icon);
     EXPECT_EQ(anchor.place(icon).available, area);
 }
 
-TEST_F(PopoverAnchorTest, IsThePointerForAClickAndForTheShortcutAfterIt) {
+TEST_F(PopoverAnchorTest, IsThePlaceOfTheClickAlsoForTheShortcutAfterIt) {
     anchor.noteClick({50, 5});
     EXPECT_EQ(anchor.place(std::nullopt).anchor, QRect(50, 5, 1, 1));
     anchor.clickHandled();
     EXPECT_EQ(anchor.place(std::nullopt).anchor, QRect(50, 5, 1, 1));
 }
 
-TEST_F(PopoverAnchorTest, ClickOnAScreenThatIsGoneDoesNotCount) {
+TEST_F(PopoverAnchorTest, ClickOnARemovedScreenDoesNotCount) {
     anchor.noteClick({area.right() + 1000, 5});
     anchor.clickHandled();
     EXPECT_EQ(anchor.place(std::nullopt).anchor.topLeft(), area.topRight());
 }
 
-TEST_F(PopoverAnchorTest, WithoutAnythingKnownItIsTheCornerOfTheBar) {
+TEST_F(PopoverAnchorTest, WithoutFrameOrClickIsTheCornerAtTheBar) {
     const QRect screen(100, 100, 800, 600);
     const auto corner = [&](const QRect& available) {
         return PopoverAnchor::corner(screen, available, Qt::LeftToRight);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "DelegateFixture.h"
+#include "PresentationFixture.h"
 
 #include <support/WidgetSearch.h>
 
 #include <QAbstractButton>
-#include <QScreen>
+#include <QLabel>
 #include <QTest>
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace quorvane {
 namespace {
@@ -14,41 +16,18 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using testing::Contains;
-using testing::ElementsAre;
 using testing::Not;
 
 const RunningApplication editor{42, u"editor"_s};
 const RunningApplication browser{43, u"browser"_s};
 
-class PresentationTest : public DelegateFixture {
+class PresentationTest : public PresentationFixture {
 protected:
-    /// Launched in that mode, shown, and everything that start-up put off done.
-    void launchAs(PresentationMode mode) {
-        defaults.setString(DateTimeModel::presentationModeKey.toString(), rawValue(mode));
-        makeDelegate();
-        statusBar->hasButton = bar.hasButton;
-        statusBar->frame = bar.frame;
-        launch();
-        queue.run();
+    static bool showsLabel(const QWidget& window, const QString& text) {
+        const auto labels = window.findChildren<QLabel*>();
+        return std::ranges::any_of(
+            labels, [&](const QLabel* label) { return label->text() == text; });
     }
-
-    /// What the bar is like when the program starts.
-    struct Bar {
-        bool hasButton = true;
-        std::optional<QRect> frame = QRect(600, 0, 22, 22);
-    } bar;
-
-    void setMode(PresentationMode mode) {
-        delegate->model().setPresentationMode(mode);
-        queue.run();
-    }
-
-    void clickIcon() {
-        statusBar->click(StatusItem::Click::Left);
-        queue.run();
-    }
-
-    static void pressOutside() { QTest::mouseClick(popover(), Qt::LeftButton, {}, {-20, -20}); }
 };
 
 TEST_F(PresentationTest, LaunchShowsTheInterfaceInItsMode) {
@@ -116,37 +95,6 @@ TEST_F(PresentationTest, ReopenShowsWhatIsShownAlreadyAndKeepsWhatIsRemembered) 
     EXPECT_THAT(calls(), Contains("frontmostApplication"));
 }
 
-TEST_F(PresentationTest, PressOutsideClosesThePopover) {
-    launchAs(PresentationMode::Popover);
-    pressOutside();
-    EXPECT_FALSE(isShown(popover()));
-}
-
-TEST_F(PresentationTest, ClickOnTheIconThatClosedThePopoverDoesNotReopenIt) {
-    launchAs(PresentationMode::Popover);
-    pressOutside();
-    queue.advance(299ms);
-    clickIcon();
-    EXPECT_FALSE(isShown(popover()));
-    clickIcon();
-    EXPECT_TRUE(isShown(popover()));
-}
-
-TEST_F(PresentationTest, ClickAWhileAfterAPressOutsideOpens) {
-    launchAs(PresentationMode::Popover);
-    pressOutside();
-    queue.advance(300ms);
-    clickIcon();
-    EXPECT_TRUE(isShown(popover()));
-}
-
-TEST_F(PresentationTest, ShortcutOpensRightAfterAPressOutside) {
-    launchAs(PresentationMode::Popover);
-    pressOutside();
-    pressShortcut();
-    EXPECT_TRUE(isShown(popover()));
-}
-
 TEST_F(PresentationTest, CloseButtonAndEscapeHideEither) {
     for (const auto mode : {PresentationMode::Popover, PresentationMode::Window}) {
         launchAs(mode);
@@ -160,17 +108,6 @@ TEST_F(PresentationTest, CloseButtonAndEscapeHideEither) {
     }
 }
 
-TEST_F(PresentationTest, PreferencesHideEither) {
-    for (const auto mode : {PresentationMode::Popover, PresentationMode::Window}) {
-        launchAs(mode);
-        delegate->showPreferences();
-        EXPECT_FALSE(isShown(popover()));
-        EXPECT_FALSE(isShown(panel()));
-        EXPECT_TRUE(isShown(preferences()));
-        EXPECT_EQ(calls().back(), "activate preferences");
-    }
-}
-
 TEST_F(PresentationTest, UpdateCheckTakesThePopoverAwayAndLeavesThePanel) {
     launchAs(PresentationMode::Popover);
     delegate->checkForUpdates();
@@ -178,16 +115,6 @@ TEST_F(PresentationTest, UpdateCheckTakesThePopoverAwayAndLeavesThePanel) {
     launchAs(PresentationMode::Window);
     delegate->checkForUpdates();
     EXPECT_TRUE(isShown(panel()));
-}
-
-TEST_F(PresentationTest, PreferencesCannotBeMinimisedOutOfSight) {
-    launchAs(PresentationMode::Window);
-    delegate->showPreferences();
-    const auto flags = preferences()->windowFlags();
-    EXPECT_TRUE(flags.testFlag(Qt::WindowTitleHint));
-    EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
-    EXPECT_FALSE(flags.testFlag(Qt::WindowMinimizeButtonHint));
-    EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
 }
 
 TEST_F(PresentationTest, ModeChangeWhileShownShowsTheOther) {
@@ -227,6 +154,24 @@ TEST_F(PresentationTest, SwitchInTheHeaderLeadsToTheOtherMode) {
     qobject_cast<QAbstractButton*>(toPanel)->click();
     queue.run();
     EXPECT_TRUE(isShown(panel()));
+}
+
+TEST_F(PresentationTest, KeyCapsFollowTheKeyboardLayout) {
+    launchAs(PresentationMode::Window);
+    keyboardLayout->setKey(2, u"d");
+    queue.run();
+    EXPECT_TRUE(showsLabel(*panel(), u"D"_s));
+    // The panel is discarded, the popover and the preferences are there.
+    setMode(PresentationMode::Popover);
+    delegate->showPreferences();
+    keyboardLayout->setKey(2, u"e");
+    queue.run();
+    EXPECT_TRUE(showsLabel(*popover(), u"E"_s));
+    EXPECT_TRUE(preferences()->findChild<ShortcutRecorder*>()->keys().contains(u"E"_s));
+    setMode(PresentationMode::Window);
+    keyboardLayout->setKey(2, u"f");
+    queue.run();
+    EXPECT_TRUE(preferences()->findChild<ShortcutRecorder*>()->keys().contains(u"F"_s));
 }
 
 TEST_F(PresentationTest, PlaceOfADiscardedPanelIsKept) {
@@ -284,62 +229,6 @@ TEST_F(PresentationTest, BothIconsOffTheSecondStartShowsTheInterface) {
     EXPECT_TRUE(isShown(panel()));
 }
 
-TEST_F(PresentationTest, DockSwitchLeavesPanelAndPreferencesInFront) {
-    launchAs(PresentationMode::Window);
-    delegate->showPreferences();
-    pressShortcut();
-    ASSERT_TRUE(isShown(preferences()));
-    for (const bool visible : {true, false}) {
-        log.clear();
-        delegate->model().setShowInDock(visible);
-        queue.run();
-        if (visible)
-            EXPECT_THAT(
-                calls(),
-                ElementsAre(
-                    "policy regular",
-                    "activate preferences",
-                    "orderFront preferences",
-                    "orderFront panel"));
-        else
-            EXPECT_THAT(
-                calls(),
-                ElementsAre("policy accessory", "orderFront preferences", "orderFront panel"));
-    }
-}
-
-TEST_F(PresentationTest, DockSwitchWithNothingVisibleActivatesNothing) {
-    launchAs(PresentationMode::Window);
-    pressShortcut();
-    log.clear();
-    delegate->model().setShowInDock(true);
-    queue.run();
-    EXPECT_THAT(calls(), ElementsAre("policy regular"));
-}
-
-TEST_F(PresentationTest, PopoverHangsCentredBelowTheIcon) {
-    bar.frame = QRect(300, 0, 22, 22);
-    launchAs(PresentationMode::Popover);
-    EXPECT_EQ(popover()->geometry().center().x(), QRect(300, 0, 22, 22).center().x());
-    EXPECT_EQ(popover()->y(), 22 + 6);
-    EXPECT_EQ(popover()->width(), 504);
-}
-
-TEST_F(PresentationTest, PopoverOfAnIconBelowStandsAboveIt) {
-    const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
-    bar.frame = QRect(screen.right() - 30, screen.bottom() - 22, 22, 22);
-    launchAs(PresentationMode::Popover);
-    EXPECT_EQ(popover()->geometry().bottom(), bar.frame->top() - 6 - 1);
-    EXPECT_EQ(popover()->geometry().right(), screen.right() - 8);
-}
-
-TEST_F(PresentationTest, PopoverWithoutAKnownIconStandsInTheCorner) {
-    bar.frame = std::nullopt;
-    launchAs(PresentationMode::Popover);
-    const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
-    EXPECT_EQ(popover()->geometry().topRight(), screen.topRight() + QPoint(-8, 8));
-}
-
 TEST_F(PresentationTest, QuitByItsKeysFromEveryWindow) {
     launchAs(PresentationMode::Window);
     ASSERT_TRUE(QTest::qWaitForWindowActive(panel()));
@@ -353,16 +242,6 @@ TEST_F(PresentationTest, QuitByItsKeysFromEveryWindow) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(preferences()));
     QTest::keyClick(preferences(), Qt::Key_Q, Qt::ControlModifier);
     EXPECT_EQ(calls().back(), "handOver");
-}
-
-TEST_F(PresentationTest, EscapeClosesThePreferencesAndKeepsThem) {
-    launchAs(PresentationMode::Window);
-    delegate->showPreferences();
-    auto* window = preferences();
-    QTest::keyClick(window, Qt::Key_Escape);
-    EXPECT_FALSE(isShown(window));
-    delegate->showPreferences();
-    EXPECT_EQ(preferences(), window);
 }
 
 } // namespace

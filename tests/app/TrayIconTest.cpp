@@ -10,7 +10,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
-class StatusItemTest : public DelegateFixture {
+class TrayIconTest : public DelegateFixture {
 protected:
     static QStringList titles(const StatusMenu& menu) {
         QStringList titles;
@@ -23,14 +23,14 @@ protected:
         u"Preferences…"_s, u"Check for Updates…"_s, u"-"_s, u"Quit Quorvane"_s};
 };
 
-TEST_F(StatusItemTest, RightClickOpensTheMenuAndTheNextLeftClickTogglesAgain) {
+TEST_F(TrayIconTest, RightClickOpensTheMenuAndTheNextLeftClickTogglesAgain) {
     launch();
     queue.run();
     log.clear();
     statusBar->click(StatusItem::Click::Right);
     EXPECT_EQ(titles(statusBar->attachedMenu()), menuTitles);
     EXPECT_THAT(calls(), ElementsAre("click", "attachMenu", "performClick"));
-    // While it is attached a click opens it again.
+    // While the menu is attached, any click opens it again.
     statusBar->click(StatusItem::Click::Left);
     EXPECT_TRUE(isShown(panel()));
     queue.run();
@@ -39,7 +39,7 @@ TEST_F(StatusItemTest, RightClickOpensTheMenuAndTheNextLeftClickTogglesAgain) {
     EXPECT_FALSE(isShown(panel()));
 }
 
-TEST_F(StatusItemTest, MenuThatADesktopShowsByItselfIsTheSame) {
+TEST_F(TrayIconTest, PublishedMenuIsTheSame) {
     launch();
     EXPECT_EQ(titles(statusBar->publishedMenu), menuTitles);
     EXPECT_EQ(statusBar->publishedMenu[0].keys, QKeySequence(u"Ctrl+,"_s));
@@ -47,7 +47,7 @@ TEST_F(StatusItemTest, MenuThatADesktopShowsByItselfIsTheSame) {
     EXPECT_EQ(statusBar->publishedMenu[3].keys, QKeySequence(u"Ctrl+Q"_s));
 }
 
-TEST_F(StatusItemTest, MenuLeadsToPreferencesUpdatesAndTheEnd) {
+TEST_F(TrayIconTest, MenuOpensPreferencesAndUpdatesAndQuits) {
     launch();
     log.clear();
     statusBar->publishedMenu[0].run();
@@ -58,9 +58,9 @@ TEST_F(StatusItemTest, MenuLeadsToPreferencesUpdatesAndTheEnd) {
     EXPECT_EQ(calls().back(), "handOver");
 }
 
-TEST_F(StatusItemTest, MenuThatOutlivesTheDelegateDoesNothing) {
+TEST_F(TrayIconTest, MenuThatOutlivesTheDelegateDoesNothing) {
     launch();
-    // The bar goes with the delegate's platform; the menu is what a desktop might still hold.
+    // A desktop may hold the menu longer than the program holds the icon.
     const auto menu = statusBar->publishedMenu;
     delegate.reset();
     log.clear();
@@ -71,7 +71,7 @@ TEST_F(StatusItemTest, MenuThatOutlivesTheDelegateDoesNothing) {
     EXPECT_TRUE(calls().empty());
 }
 
-TEST_F(StatusItemTest, StoredSwitchIsAppliedOnTheTurnAfterTheLaunch) {
+TEST_F(TrayIconTest, StoredSwitchIsAppliedOnTheEventLoopIterationAfterTheLaunch) {
     defaults.setBool(u"showInMenuBar"_s, false);
     makeDelegate();
     launch();
@@ -83,7 +83,7 @@ TEST_F(StatusItemTest, StoredSwitchIsAppliedOnTheTurnAfterTheLaunch) {
     EXPECT_TRUE(statusBar->isItemVisible());
 }
 
-TEST_F(StatusItemTest, ItemThatCouldNotBeMadeIsMadeOnDemand) {
+TEST_F(TrayIconTest, ItemThatCouldNotBeMadeIsMadeOnDemand) {
     statusBar->makesItems = false;
     launch();
     queue.run();
@@ -93,7 +93,7 @@ TEST_F(StatusItemTest, ItemThatCouldNotBeMadeIsMadeOnDemand) {
     EXPECT_TRUE(statusBar->isItemVisible());
 }
 
-TEST_F(StatusItemTest, PictureFollowsThePalette) {
+TEST_F(TrayIconTest, PictureFollowsThePalette) {
     launch();
     log.clear();
     QPalette dark;

@@ -6,6 +6,7 @@ import struct
 import time
 
 from harness.case import DesktopCase
+from harness.delays import UNTIL_PASTE
 from harness.keys import INSERT
 from harness.offer import Offer, plain_text
 
@@ -88,10 +89,10 @@ class Clipboard(DesktopCase):
         slowest_answer = 0.0
         while editor.text() != text:
             asked = time.monotonic()
-            self.assertLess(asked - began, 0.2 + _LONGEST_SAVE, "the owner was not cut off")
+            self.assertLess(asked - began, UNTIL_PASTE + _LONGEST_SAVE, "the owner was not cut off")
             tree.children()
             slowest_answer = max(slowest_answer, time.monotonic() - asked)
-        self.assertGreater(time.monotonic() - began, 0.2 + _SILENCE, "the owner was not waited for")
+        self.assertGreater(time.monotonic() - began, UNTIL_PASTE + _SILENCE, "the owner was not waited for")
         # Questions follow close on each other: a freeze would hold one up for nearly all its time.
         self.assertLess(slowest_answer, _SILENCE - 0.05)
         self.clipboard.wait_empty()

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "DelegateFixture.h"
+
+#include <QScreen>
+#include <gmock/gmock.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+class PanelPresentationTest : public DelegateFixture {};
+
+TEST_F(PanelPresentationTest, FollowsToAnotherVirtualDesktopWhileVisible) {
+    launch();
+    log.clear();
+    workspace->changeSpace();
+    EXPECT_THAT(calls(), ElementsAre("orderFront panel"));
+    pressShortcut();
+    log.clear();
+    workspace->changeSpace();
+    EXPECT_TRUE(calls().empty());
+}
+
+TEST_F(PanelPresentationTest, IsAtItsPlaceAgainAfterARestart) {
+    launch();
+    const auto height = panel()->height();
+    panel()->move(40, 30);
+    queue.advance(1s);
+    makeDelegate();
+    launch();
+    EXPECT_EQ(panel()->geometry(), QRect(40, 30, 504, height));
+}
+
+TEST_F(PanelPresentationTest, StoredWidthIsCorrected) {
+    frames().setFrame(u"PanelV2"_s, QRect(20, 10, 900, 450));
+    launch();
+    EXPECT_EQ(panel()->geometry(), QRect(20, 10, 504, 450));
+}
+
+TEST_F(PanelPresentationTest, IsCentredIfOffEveryScreen) {
+    frames().setFrame(u"PanelV2"_s, QRect(9000, 9000, 504, 400));
+    launch();
+    const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(panel()->geometry().center().x(), screen.center().x());
+    EXPECT_TRUE(screen.intersects(panel()->geometry()));
+}
+
+TEST_F(PanelPresentationTest, FirstOneIsCentredAndAtLeast300High) {
+    launch();
+    EXPECT_EQ(panel()->width(), 504);
+    EXPECT_GE(panel()->height(), 300);
+    const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(panel()->geometry().center().x(), screen.center().x());
+}
+
+TEST_F(PanelPresentationTest, FrameThatTheUserDidNotChooseIsNotSaved) {
+    launch();
+    queue.advance(1s);
+    delegate->terminate();
+    EXPECT_EQ(frames().frame(u"PanelV2"_s), std::nullopt);
+}
+
+TEST_F(PanelPresentationTest, QuitSavesAFrameThatIsNotYetSaved) {
+    launch();
+    panel()->move(60, 50);
+    delegate->terminate();
+    EXPECT_EQ(frames().frame(u"PanelV2"_s)->topLeft(), QPoint(60, 50));
+}
+
+} // namespace
+} // namespace quorvane

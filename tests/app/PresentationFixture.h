@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DelegateFixture.h"
+
+namespace quorvane {
+
+/// A delegate that can be launched in either mode.
+class PresentationFixture : public DelegateFixture {
+protected:
+    /// Launched in that mode, shown, and with the tasks that start-up queued done.
+    void launchAs(PresentationMode mode) {
+        defaults.setString(DateTimeModel::presentationModeKey.toString(), rawValue(mode));
+        makeDelegate();
+        statusBar->hasButton = bar.hasButton;
+        statusBar->frame = bar.frame;
+        launch();
+        queue.run();
+    }
+
+    /// What the bar is like when the program starts.
+    struct Bar {
+        bool hasButton = true;
+        std::optional<QRect> frame = QRect(600, 0, 22, 22);
+    } bar;
+
+    void setMode(PresentationMode mode) {
+        delegate->model().setPresentationMode(mode);
+        queue.run();
+    }
+
+    void clickIcon() {
+        statusBar->click(StatusItem::Click::Left);
+        queue.run();
+    }
+};
+
+} // namespace quorvane
