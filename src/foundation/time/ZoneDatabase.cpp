@@ -87,8 +87,10 @@ QTimeZone ZoneDatabase::dataOf(const QString& identifier) const {
     auto name = identifier.toUtf8();
     QTimeZone zone(name);
     // Debian, for one, keeps the files of old names in a package of their own, but the names in the
-    // index: a name that a user has stored goes on to mean its zone.
-    for (int links = 0; !zone.isValid() && links < maximumLinks; ++links) {
+    // index: a name that a user has stored goes on to mean its zone. From some release after 6.4
+    // on, Qt itself takes another zone for one without a file, by a table that differs from the
+    // index.
+    for (int links = 0; zone.id() != name && links < maximumLinks; ++links) {
         const auto* link = entry(name);
         if (link == nullptr || link->target.isEmpty())
             break;
