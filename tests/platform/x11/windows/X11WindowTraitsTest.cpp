@@ -128,7 +128,7 @@ TEST_F(PanelOnX11, ShowsThoughItWasHiddenBeforeTheManagerHadMappedIt) {
 
 TEST_F(PanelOnX11, StaysInSightOnAnotherDesktop) {
     showPanel();
-    ASSERT_TRUE(waitUntil([this] { return isOnAllDesktops(); }));
+    ASSERT_TRUE(waitUntil([this] { return isAboveOthersOnAllDesktops(); }));
     ASSERT_TRUE(m_manager.showDesktop(1));
     EXPECT_TRUE(isViewable(m_panel));
     ASSERT_TRUE(m_manager.showDesktop(0));
@@ -150,7 +150,8 @@ TEST_F(PanelOnX11, StaysOutOfTheTaskbarOfAnAccessory) {
     m_traits.setActivationPolicy(ActivationPolicy::Accessory);
     for (int round = 0; round < 2; ++round) {
         showPanel();
-        EXPECT_TRUE(waitUntil([this] { return staysOutOfTaskbar(m_panel); })) << "round " << round;
+        EXPECT_TRUE(waitUntil([this] { return isViewable(m_panel) && staysOutOfTaskbar(m_panel); }))
+            << "round " << round;
         m_panel.hide();
     }
 }
@@ -159,7 +160,7 @@ TEST_F(PanelOnX11, LeavesWindowsOutOfTheTaskbarOfAnAccessoryAndInThatOfARegularP
     QWidget window;
     m_traits.setActivationPolicy(ActivationPolicy::Accessory);
     window.show();
-    EXPECT_TRUE(waitUntil([&] { return staysOutOfTaskbar(window); }));
+    EXPECT_TRUE(waitUntil([&] { return isViewable(window) && staysOutOfTaskbar(window); }));
     m_traits.setActivationPolicy(ActivationPolicy::Regular);
     EXPECT_TRUE(waitUntil([&] { return showsInTaskbar(window); }));
     m_traits.setActivationPolicy(ActivationPolicy::Accessory);
