@@ -4,13 +4,16 @@
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
-set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
 find_program(QUORVANE_CCACHE ccache)
 if(QUORVANE_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${QUORVANE_CCACHE})
+    # What it asks for to store what was compiled with precompiled headers; in its other modes it
+    # would read them once more itself.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_DEPEND=1
+        ${QUORVANE_CCACHE})
 endif()
 
 add_library(quorvane_options INTERFACE)
