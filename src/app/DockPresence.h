@@ -20,7 +20,7 @@ public:
 
     explicit DockPresence(Dependencies dependencies) : m_dependencies(dependencies) {}
 
-    /// For windows to come; those that are there stay as they stand.
+    /// Adds the entries or removes them; changes no order or focus.
     void applyActivationPolicy(bool showInDock);
 
     /// The user has changed the switch: visible windows stay in front. When the entries appear, one

@@ -35,7 +35,7 @@ public:
     /// `insertiondelay::beforeRestore` later, whether or not the keys reached anything. Without the
     /// accessibility right it does none of this: it lets the desktop ask the user for the right.
     ///
-    /// Insertions may overlap: each saves what the pasteboard holds when it begins.
+    /// Insertions may overlap: each saves what the pasteboard holds just before it pastes.
     /// At debug level the log (quorvane.insert) tells the types and sizes of what was saved and put
     /// back.
     void insert(const QString& text);
