@@ -142,14 +142,14 @@ void typePattern(benchmark::State& state) {
          u"Asia/Singapore"_s,
          u"Australia/Sydney"_s,
          u"Asia/Kolkata"_s});
-    builtIn.model().setFormatPreset(DateFormatPreset::Custom);
-    builtIn.model().setCustomFormatString(u"EEEE d MMMM yyyy HH:mm zzz"_s);
-    builtIn.model().setMultiZoneLayout(MultiZoneLayout::Lines);
-    builtIn.open();
-    auto& pattern = patternOf(builtIn.panel());
+    fixture.model().setFormatPreset(DateFormatPreset::Custom);
+    fixture.model().setCustomFormatString(u"EEEE d MMMM yyyy HH:mm zzz"_s);
+    fixture.model().setMultiZoneLayout(MultiZoneLayout::Lines);
+    fixture.open();
+    auto& pattern = patternOf(fixture.panel());
     pattern.setFocus();
     settle();
-    PaintWatch watch(*previewOf(builtIn.panel()).viewport());
+    PaintWatch watch(*previewOf(fixture.panel()).viewport());
     std::vector<double> samples;
     bool isLonger = false;
     for ([[maybe_unused]] const auto round : state) {
@@ -173,8 +173,8 @@ void openPanel(benchmark::State& state) {
     for ([[maybe_unused]] const auto round : state) {
         PanelFixture fixture({u"America/New_York"_s});
         const auto start = SteadyClock::now();
-        builtIn.open();
-        PaintWatch watch(*previewOf(builtIn.panel()).viewport());
+        fixture.open();
+        PaintWatch watch(*previewOf(fixture.panel()).viewport());
         const double sample = watch.untilPainted(start);
         state.SetIterationTime(sample / 1000);
         samples.push_back(sample);
@@ -203,9 +203,9 @@ LongOutput longOutput(std::int64_t kind) {
 void showLongOutput(benchmark::State& state) {
     const auto output = longOutput(state.range(0));
     PanelFixture fixture({u"America/New_York"_s});
-    builtIn.open();
+    fixture.open();
     settle();
-    auto& preview = previewOf(builtIn.panel());
+    auto& preview = previewOf(fixture.panel());
     PaintWatch watch(*preview.viewport());
     std::vector<double> samples;
     for ([[maybe_unused]] const auto round : state) {
