@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <model/ComposedOutput.h>
-#include <model/FormatSingle.h>
+#include <composition/ComposedOutput.h>
+#include <composition/FormatSingle.h>
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/ComposedOutput.h>
+#include <composition/ComposedOutput.h>
 
 #include <QStringList>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "RawTexts.h"
-
-#include <model/DateFormatPreset.h>
+#include <composition/DateFormatPreset.h>
+#include <composition/RawTexts.h>
 
 namespace quorvane {
 

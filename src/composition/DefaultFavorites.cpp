@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "DefaultFavorites.h"
+#include <composition/DefaultFavorites.h>
 
 namespace quorvane {
 

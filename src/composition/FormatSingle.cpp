@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/FormatSingle.h>
+#include <composition/FormatSingle.h>
 
 #include <cmath>
 #include <cstdlib>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "RawTexts.h"
-
-#include <model/MultiZoneLayout.h>
+#include <composition/MultiZoneLayout.h>
+#include <composition/RawTexts.h>
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "PresetList.h"
+#include <composition/PresetList.h>
 
 #include <algorithm>
 #include <unordered_set>

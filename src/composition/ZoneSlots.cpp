@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ZoneSlots.h"
+#include <composition/ZoneSlots.h>
 
 #include <unordered_set>
 

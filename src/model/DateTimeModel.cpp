@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "DefaultFavorites.h"
-#include "PresetList.h"
-#include "ZoneSlots.h"
-
-#include <model/ComposedOutput.h>
+#include <composition/ComposedOutput.h>
+#include <composition/DefaultFavorites.h>
+#include <composition/FormatSingle.h>
+#include <composition/PresetList.h>
+#include <composition/ZoneSlots.h>
 #include <model/DateTimeModel.h>
-#include <model/FormatSingle.h>
 
 #include <utility>
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "RawTexts.h"
-
+#include <composition/RawTexts.h>
 #include <model/PresentationMode.h>
 
 namespace quorvane {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Samples.h"
 
-#include <model/ComposedOutput.h>
+#include <composition/ComposedOutput.h>
 
 #include <QStringList>
 #include <gtest/gtest.h>

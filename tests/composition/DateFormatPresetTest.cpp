@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/DateFormatPreset.h>
+#include <composition/DateFormatPreset.h>
 
 #include <QStringList>
 #include <gtest/gtest.h>

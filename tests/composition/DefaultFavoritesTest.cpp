@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "DefaultFavorites.h"
-
 #include "Samples.h"
+
+#include <composition/DefaultFavorites.h>
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

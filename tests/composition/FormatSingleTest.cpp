@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Samples.h"
 
-#include <model/FormatSingle.h>
+#include <composition/FormatSingle.h>
 
 #include <gtest/gtest.h>
 

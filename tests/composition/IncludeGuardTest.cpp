@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/IncludeGuard.h>
+#include <composition/IncludeGuard.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <model/MultiZoneLayout.h>
+#include <composition/MultiZoneLayout.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "PresetList.h"
-
 #include "Samples.h"
+
+#include <composition/PresetList.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

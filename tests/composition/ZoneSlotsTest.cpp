@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ZoneSlots.h"
-
 #include "Samples.h"
+
+#include <composition/ZoneSlots.h>
 
 #include <gtest/gtest.h>
 

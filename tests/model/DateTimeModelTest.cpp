@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Samples.h"
+#include "../composition/Samples.h"
 
 #include <model/DateTimeModel.h>
 

@@ -2,7 +2,7 @@
 #include "PresetNames.h"
 #include "VectorKinds.h"
 
-#include <model/ComposedOutput.h>
+#include <composition/ComposedOutput.h>
 
 #include <testing/FixedCurrentZone.h>
 

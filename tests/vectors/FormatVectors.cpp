@@ -2,7 +2,7 @@
 #include "PresetNames.h"
 #include "VectorKinds.h"
 
-#include <model/FormatSingle.h>
+#include <composition/FormatSingle.h>
 
 #include <time/DateText.h>
 

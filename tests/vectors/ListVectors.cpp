@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "DefaultFavorites.h"
-#include "PresetList.h"
 #include "PresetNames.h"
 #include "VectorKinds.h"
-#include "ZoneSlots.h"
 
-#include <model/IncludeGuard.h>
+#include <composition/DefaultFavorites.h>
+#include <composition/IncludeGuard.h>
+#include <composition/PresetList.h>
+#include <composition/ZoneSlots.h>
 
 namespace quorvane {
 

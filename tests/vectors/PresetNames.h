@@ -3,7 +3,7 @@
 
 #include "VectorRow.h"
 
-#include <model/DateFormatPreset.h>
+#include <composition/DateFormatPreset.h>
 
 namespace quorvane {
 

@@ -4,8 +4,8 @@
 #include "PanelMetrics.h"
 #include "SectionLabel.h"
 
+#include <composition/IncludeGuard.h>
 #include <controls/CheckBox.h>
-#include <model/IncludeGuard.h>
 #include <timezones/ZoneTexts.h>
 
 #include <QHBoxLayout>

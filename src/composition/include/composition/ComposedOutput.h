@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <model/FormatSingle.h>
-#include <model/MultiZoneLayout.h>
+#include <composition/FormatSingle.h>
+#include <composition/MultiZoneLayout.h>
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <model/DateFormatPreset.h>
+#include <composition/DateFormatPreset.h>
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <model/FormatSingle.h>
+#include <composition/FormatSingle.h>
 
 #include <vector>
 

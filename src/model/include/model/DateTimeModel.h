@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <composition/DateFormatPreset.h>
+#include <composition/MultiZoneLayout.h>
 #include <hotkey/HotKeyCombo.h>
-#include <model/DateFormatPreset.h>
-#include <model/MultiZoneLayout.h>
 #include <model/PresentationMode.h>
 
 #include <QObject>
@@ -107,13 +107,14 @@ public:
     /// What the preview shows, Copy copies and Insert inserts; computed at each call.
     [[nodiscard]] QString formattedOutput() const;
 
-    /// See PresetList.h; the sample is the start in the first selected zone, else the current one.
+    /// See composition/PresetList.h; the sample is the start in the first selected zone, else the
+    /// current one.
     [[nodiscard]] std::vector<DateFormatPreset> availableFormatPresets() const;
 
     /// Changes the preset to the first available one if it is no longer available.
     void reconcileFormatPreset();
 
-    /// See ZoneSlots.h.
+    /// See composition/ZoneSlots.h.
     [[nodiscard]] std::vector<TimeZone> timeZoneSlots() const;
 
 Q_SIGNALS:
