@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <composition/ZoneSlots.h>
 
-#include <unordered_set>
+#include <algorithm>
+#include <iterator>
 
 namespace quorvane {
 
@@ -9,18 +10,10 @@ std::vector<TimeZone> timeZoneSlots(
     const QStringList& favorites,
     const std::vector<TimeZone>& selected,
     const ZoneDatabase& database) {
-    std::vector<TimeZone> slots;
-    std::unordered_set<QString> favoriteIdentifiers;
-    for (const auto& identifier : favorites) {
-        if (auto zone = database.zone(identifier)) {
-            slots.push_back(*std::move(zone));
-            favoriteIdentifiers.insert(identifier);
-        }
-    }
-    for (const auto& zone : selected) {
-        if (!favoriteIdentifiers.contains(zone.identifier()))
-            slots.push_back(zone);
-    }
+    auto slots = database.zones(favorites);
+    std::ranges::copy_if(selected, std::back_inserter(slots), [&](const TimeZone& zone) {
+        return !favorites.contains(zone.identifier());
+    });
     return slots;
 }
 

@@ -24,12 +24,7 @@ std::vector<TimeZone> offeredZones(const ZoneDatabase& database) {
     auto identifiers = database.zonesByCountry();
     identifiers << u"UTC"_s << u"Etc/GMT+12"_s;
     identifiers.removeDuplicates();
-    std::vector<TimeZone> zones;
-    for (const auto& identifier : identifiers) {
-        if (auto zone = database.zone(identifier))
-            zones.push_back(*std::move(zone));
-    }
-    return zones;
+    return database.zones(identifiers);
 }
 
 } // namespace

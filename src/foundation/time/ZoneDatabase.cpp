@@ -25,7 +25,7 @@ void forEachLine(QByteArrayView text, Take take) {
     }
 }
 
-/// The field at `index` of a line whose fields are parted by `separator`.
+/// The field at `index` of a line whose fields are separated by `separator`.
 QByteArrayView field(QByteArrayView line, char separator, int index) {
     for (; index > 0; --index) {
         const auto end = line.indexOf(separator);
@@ -98,6 +98,15 @@ QTimeZone ZoneDatabase::dataOf(const QString& identifier) const {
         zone = QTimeZone(name);
     }
     return zone;
+}
+
+std::vector<TimeZone> ZoneDatabase::zones(const QStringList& identifiers) const {
+    std::vector<TimeZone> named;
+    for (const auto& identifier : identifiers) {
+        if (auto each = zone(identifier))
+            named.push_back(*std::move(each));
+    }
+    return named;
 }
 
 TimeZone ZoneDatabase::utc() {

@@ -7,7 +7,6 @@
 #include <picker/TimeZonePickerView.h>
 #include <picker/ZoneList.h>
 #include <picker/ZoneListKeys.h>
-#include <timezones/FavoriteZones.h>
 #include <timezones/ZoneSelection.h>
 
 #include <QHBoxLayout>
@@ -54,7 +53,7 @@ TimeZonePickerView::TimeZonePickerView(
     : QWidget(parent),
       m_selection(std::move(selectedTimeZones)),
       m_clock(surroundings.clock),
-      m_favorites(favoriteZones(favoriteIdentifiers, surroundings.zones)),
+      m_favorites(surroundings.zones.zones(favoriteIdentifiers)),
       m_search(
           TimeZoneCatalogue(surroundings.zones, surroundings.clock.now()), surroundings.locale),
       m_field(new SearchField(tr("Search by name, city, or abbreviation"), this)),

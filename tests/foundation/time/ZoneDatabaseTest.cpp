@@ -52,6 +52,21 @@ TEST(ZoneDatabase, KnowsZonesAndLinksByTheirExactNames) {
     }
 }
 
+TEST(ZoneDatabase, NamedZonesKeepTheirOrderAndWhatNamesNoneIsDropped) {
+    const ZoneDatabase zones;
+    QStringList named;
+    for (const auto& zone : zones.zones(
+             {u"Europe/Paris"_s,
+              u"Foo/Bar"_s,
+              u"Asia/Calcutta"_s,
+              QString(),
+              u"america/new_york"_s,
+              u"America/New_York"_s}))
+        named.append(zone.identifier());
+    EXPECT_EQ(named, (QStringList{u"Europe/Paris"_s, u"Asia/Calcutta"_s, u"America/New_York"_s}));
+    EXPECT_TRUE(zones.zones({}).empty());
+}
+
 TEST(ZoneDatabase, WithoutAnIndexOnlyUtcIsKnown) {
     const QTemporaryDir empty;
     const ZoneDatabase zones(empty.path());

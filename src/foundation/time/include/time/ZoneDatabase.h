@@ -32,6 +32,10 @@ public:
     /// The name of the file that holds the data of such a zone; empty if there is none.
     [[nodiscard]] QString dataFileOf(const QString& identifier) const;
 
+    /// The zones that the identifiers name, in their order; what names none is dropped. Links are
+    /// zones of their own and keep their name.
+    [[nodiscard]] std::vector<TimeZone> zones(const QStringList& identifiers) const;
+
     [[nodiscard]] static TimeZone utc();
 
     /// The zones of the table by country (zone.tab), in its order, under their present names. Read
