@@ -1,24 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include <composition/RawTexts.h>
+#include <composition/CaseOf.h>
 #include <model/PresentationMode.h>
 
 namespace quorvane {
 
-namespace {
-
-constexpr RawTexts<PresentationMode, allPresentationModes.size()> rawTexts{{
-    {PresentationMode::Popover, u"Popover"},
-    {PresentationMode::Window, u"Window"},
-}};
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 QString rawValue(PresentationMode mode) {
-    return textOf(rawTexts, mode);
+    switch (mode) {
+    case PresentationMode::Popover:
+        return u"Popover"_s;
+    case PresentationMode::Window:
+        return u"Window"_s;
+    }
+    return {};
 }
 
 std::optional<PresentationMode> presentationMode(QStringView rawValue) {
-    return caseOf(rawTexts, rawValue);
+    return caseOf(allPresentationModes, rawValue);
 }
 
 } // namespace quorvane

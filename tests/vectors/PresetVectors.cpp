@@ -3,7 +3,6 @@
 #include "VectorKinds.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace quorvane {
@@ -12,36 +11,44 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct PresetName {
-    DateFormatPreset preset;
-    QLatin1StringView name;
-};
-
-constexpr std::array names{
-    PresetName{DateFormatPreset::LongForm, "longForm"_L1},
-    PresetName{DateFormatPreset::MediumForm, "mediumForm"_L1},
-    PresetName{DateFormatPreset::ShortForm, "shortForm"_L1},
-    PresetName{DateFormatPreset::Iso8601, "iso8601"_L1},
-    PresetName{DateFormatPreset::Rfc2822, "rfc2822"_L1},
-    PresetName{DateFormatPreset::DateOnly, "dateOnly"_L1},
-    PresetName{DateFormatPreset::TimeOnly, "timeOnly"_L1},
-    PresetName{DateFormatPreset::WithDayOfWeek, "withDayOfWeek"_L1},
-    PresetName{DateFormatPreset::UnixTimestamp, "unixTimestamp"_L1},
-    PresetName{DateFormatPreset::Custom, "custom"_L1},
-};
+QLatin1StringView nameOf(DateFormatPreset preset) {
+    switch (preset) {
+    case DateFormatPreset::LongForm:
+        return "longForm"_L1;
+    case DateFormatPreset::MediumForm:
+        return "mediumForm"_L1;
+    case DateFormatPreset::ShortForm:
+        return "shortForm"_L1;
+    case DateFormatPreset::Iso8601:
+        return "iso8601"_L1;
+    case DateFormatPreset::Rfc2822:
+        return "rfc2822"_L1;
+    case DateFormatPreset::DateOnly:
+        return "dateOnly"_L1;
+    case DateFormatPreset::TimeOnly:
+        return "timeOnly"_L1;
+    case DateFormatPreset::WithDayOfWeek:
+        return "withDayOfWeek"_L1;
+    case DateFormatPreset::UnixTimestamp:
+        return "unixTimestamp"_L1;
+    case DateFormatPreset::Custom:
+        return "custom"_L1;
+    }
+    return {};
+}
 
 } // namespace
 
 QString presetName(DateFormatPreset preset) {
-    return std::ranges::find(names, preset, &PresetName::preset)->name;
+    return nameOf(preset);
 }
 
 DateFormatPreset presetIn(const VectorRow& row, const char* field) {
     const auto name = row.text(field);
-    const auto found = std::ranges::find(names, name, &PresetName::name);
-    if (found == names.end())
+    const auto found = std::ranges::find(allDateFormatPresets, name, presetName);
+    if (found == allDateFormatPresets.end())
         throw MalformedRow("no such preset: " + name.toStdString());
-    return found->preset;
+    return *found;
 }
 
 Comparison checkPreset(const VectorRow& row) {

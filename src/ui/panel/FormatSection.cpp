@@ -27,7 +27,7 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
       m_presetChoice(
           *m_preset,
           {},
-          [](const DateFormatPreset& preset) { return rawValue(preset); },
+          [](const DateFormatPreset& preset) { return translatedLabel(preset); },
           {[&model] { return model.formatPreset(); },
            [&model](DateFormatPreset preset) {
                model.setFormatPreset(preset);
@@ -35,7 +35,7 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
       m_layoutChoice(
           *m_layout,
           {allMultiZoneLayouts.begin(), allMultiZoneLayouts.end()},
-          [](const MultiZoneLayout& layout) { return rawValue(layout); },
+          [](const MultiZoneLayout& layout) { return translatedLabel(layout); },
           {[&model] { return model.multiZoneLayout(); },
            [&model](MultiZoneLayout layout) {
                model.setMultiZoneLayout(layout);

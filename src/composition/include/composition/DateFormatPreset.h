@@ -36,10 +36,13 @@ inline constexpr std::array allDateFormatPresets{
     DateFormatPreset::Custom,
 };
 
-/// The label, which is also the preset's identity.
+/// The preset's identity: the same in every language, for what is compared or stored.
 [[nodiscard]] QString rawValue(DateFormatPreset preset);
 
-/// The preset with exactly this label; case matters.
+/// The preset with exactly this raw value; case matters. For callers that store or name presets.
 [[nodiscard]] std::optional<DateFormatPreset> dateFormatPreset(QStringView rawValue);
+
+/// What a list calls the preset, in the language of the interface.
+[[nodiscard]] QString translatedLabel(DateFormatPreset preset);
 
 } // namespace quorvane

@@ -17,10 +17,10 @@ enum class PresentationMode {
 inline constexpr std::array allPresentationModes{
     PresentationMode::Popover, PresentationMode::Window};
 
-/// The label, which is also the mode's identity and its stored form.
+/// The mode's identity and its stored form. Nothing shows it to the user.
 [[nodiscard]] QString rawValue(PresentationMode mode);
 
-/// The mode with exactly this label; case matters.
+/// The mode with exactly this raw value; case matters.
 [[nodiscard]] std::optional<PresentationMode> presentationMode(QStringView rawValue);
 
 } // namespace quorvane
