@@ -168,8 +168,7 @@ InterfaceCallbacks AppDelegate::interfaceCallbacks() {
 PreferencesWindowController::Callbacks AppDelegate::preferencesCallbacks() {
     return {
         [this] { return m_shortcut.activity(); },
-        [self = QPointer(this), &defaults = m_dependencies.defaults](HotKeyCombo combo) {
-            combo.save(defaults);
+        [self = QPointer(this)](HotKeyCombo combo) {
             if (!self)
                 return;
             self->m_model.setHotKey(combo);

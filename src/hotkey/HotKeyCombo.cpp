@@ -84,16 +84,16 @@ QStringList modifierGlyphs(std::uint32_t modifiers) {
 }
 
 HotKeyCombo HotKeyCombo::load(const DefaultsStore& store) {
-    const auto keyCode = store.integerForKey(keyCodeKey.toString());
+    const auto keyCode = setting::hotKeyCode.storedIn(store);
     if (!keyCode)
         return {};
-    const auto modifiers = store.integerForKey(modifiersKey.toString()).value_or(0);
+    const auto modifiers = setting::hotKeyModifiers.storedIn(store).value_or(0);
     return {checkedUInt32(*keyCode), checkedUInt32(modifiers)};
 }
 
 void HotKeyCombo::save(DefaultsStore& store) const {
-    store.setInteger(keyCodeKey.toString(), keyCode);
-    store.setInteger(modifiersKey.toString(), modifiers);
+    setting::hotKeyCode.store(store, keyCode);
+    setting::hotKeyModifiers.store(store, modifiers);
 }
 
 QJsonObject HotKeyCombo::encoded() const {

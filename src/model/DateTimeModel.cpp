@@ -1,31 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include <composition/ComposedOutput.h>
-#include <composition/DefaultFavorites.h>
 #include <composition/FormatSingle.h>
 #include <composition/PresetList.h>
 #include <composition/ZoneSlots.h>
 #include <model/DateTimeModel.h>
 
+#include <settings/SettingsTable.h>
 #include <utility>
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr Seconds initialSpan = std::chrono::hours(1);
-
-} // namespace
-
 DateTimeModel::DateTimeModel(const Surroundings& surroundings, QObject* parent)
     : QObject(parent),
       m_surroundings(surroundings),
-      m_startDate(surroundings.clock.now()),
-      m_endDate(surroundings.clock.now() + initialSpan),
-      m_selectedTimeZones{surroundings.currentZone.current()},
-      m_customFormatString(u"yyyy-MM-dd HH:mm zzz"_s) {
-    loadSettings();
+      m_composition(
+          Composition::startingAt(surroundings.clock.now(), surroundings.currentZone.current())),
+      m_preferences(Preferences::load(
+          surroundings.defaults, surroundings.currentZone.current(), surroundings.zones)) {
+    // Those of a first start stay when the user moves to another zone.
+    setFavoriteTimeZoneIdentifiers(QStringList(m_preferences.favoriteTimeZoneIdentifiers));
 }
 
 template <typename T>
@@ -35,69 +28,72 @@ void DateTimeModel::assign(T& field, T value) {
 }
 
 void DateTimeModel::setStartDate(Instant instant) {
-    assign(m_startDate, instant);
+    assign(m_composition.startDate, instant);
 }
 
 void DateTimeModel::setEndDate(Instant instant) {
-    assign(m_endDate, instant);
+    assign(m_composition.endDate, instant);
 }
 
 void DateTimeModel::setIsRange(bool isRange) {
-    assign(m_isRange, isRange);
+    assign(m_composition.isRange, isRange);
 }
 
 void DateTimeModel::setIncludeDate(bool include) {
-    assign(m_includeDate, include);
+    assign(m_composition.includeDate, include);
 }
 
 void DateTimeModel::setIncludeTime(bool include) {
-    assign(m_includeTime, include);
+    assign(m_composition.includeTime, include);
 }
 
 void DateTimeModel::setSelectedTimeZones(std::vector<TimeZone> zones) {
-    assign(m_selectedTimeZones, std::move(zones));
+    assign(m_composition.selectedTimeZones, std::move(zones));
 }
 
 void DateTimeModel::setFormatPreset(DateFormatPreset preset) {
-    assign(m_formatPreset, preset);
+    assign(m_composition.formatPreset, preset);
 }
 
 void DateTimeModel::setCustomFormatString(const QString& pattern) {
-    assign(m_customFormatString, pattern);
+    assign(m_composition.customFormatString, pattern);
 }
 
 void DateTimeModel::setMultiZoneLayout(MultiZoneLayout layout) {
-    assign(m_multiZoneLayout, layout);
+    assign(m_composition.multiZoneLayout, layout);
 }
 
 void DateTimeModel::setFavoriteTimeZoneIdentifiers(const QStringList& identifiers) {
-    assign(m_favoriteTimeZoneIdentifiers, identifiers);
-    m_surroundings.defaults.setStringArray(favoritesKey, m_favoriteTimeZoneIdentifiers);
+    assign(m_preferences.favoriteTimeZoneIdentifiers, identifiers);
+    setting::favoriteZones.store(
+        m_surroundings.defaults, m_preferences.favoriteTimeZoneIdentifiers);
 }
 
 void DateTimeModel::setHotKey(HotKeyCombo combo) {
-    assign(m_hotKey, combo);
+    assign(m_preferences.hotKey, combo);
+    m_preferences.hotKey.save(m_surroundings.defaults);
 }
 
 void DateTimeModel::setShowInMenuBar(bool show) {
     Q_EMIT objectWillChange();
     Q_EMIT showInMenuBarWillChange(show);
-    m_showInMenuBar = show;
-    m_surroundings.defaults.setBool(showInMenuBarKey, m_showInMenuBar);
+    m_preferences.showInMenuBar = show;
+    setting::showInMenuBar.store(m_surroundings.defaults, m_preferences.showInMenuBar);
 }
 
 void DateTimeModel::setShowInDock(bool show) {
     Q_EMIT objectWillChange();
     Q_EMIT showInDockWillChange(show);
-    m_showInDock = show;
-    m_surroundings.defaults.setBool(showInDockKey, m_showInDock);
+    m_preferences.showInDock = show;
+    setting::showInDock.store(m_surroundings.defaults, m_preferences.showInDock);
 }
 
 void DateTimeModel::setPresentationMode(PresentationMode mode) {
     Q_EMIT objectWillChange();
     Q_EMIT presentationModeWillChange(mode);
-    m_presentationMode = mode;
-    m_surroundings.defaults.setString(presentationModeKey, rawValue(m_presentationMode));
+    m_preferences.presentationMode = mode;
+    setting::presentationMode.store(
+        m_surroundings.defaults, rawValue(m_preferences.presentationMode));
 }
 
 QString
@@ -107,54 +103,45 @@ DateTimeModel::formatSingle(Instant instant, const TimeZone& zone, DateFormatPre
 
 QString DateTimeModel::formattedOutput() const {
     const OutputRequest request{
-        .preset = m_formatPreset,
+        .preset = m_composition.formatPreset,
         .settings = formatSettings(),
-        .zones = m_selectedTimeZones,
-        .start = m_startDate,
-        .end = m_isRange ? std::optional(m_endDate) : std::nullopt,
-        .layout = m_multiZoneLayout};
+        .zones = m_composition.selectedTimeZones,
+        .start = m_composition.startDate,
+        .end = m_composition.isRange ? std::optional(m_composition.endDate) : std::nullopt,
+        .layout = m_composition.multiZoneLayout};
     return composedOutput(request, m_surroundings.currentZone);
 }
 
 std::vector<DateFormatPreset> DateTimeModel::availableFormatPresets() const {
-    return quorvane::availableFormatPresets(m_startDate, sampleZone(), formatSettings());
+    return quorvane::availableFormatPresets(
+        m_composition.startDate, sampleZone(), formatSettings());
 }
 
 void DateTimeModel::reconcileFormatPreset() {
-    const auto reconciled = reconciledFormatPreset(m_formatPreset, availableFormatPresets());
-    if (reconciled != m_formatPreset)
+    const auto reconciled =
+        reconciledFormatPreset(m_composition.formatPreset, availableFormatPresets());
+    if (reconciled != m_composition.formatPreset)
         setFormatPreset(reconciled);
 }
 
 std::vector<TimeZone> DateTimeModel::timeZoneSlots() const {
     return quorvane::timeZoneSlots(
-        m_favoriteTimeZoneIdentifiers, m_selectedTimeZones, m_surroundings.zones);
-}
-
-void DateTimeModel::loadSettings() {
-    const auto& defaults = m_surroundings.defaults;
-    m_hotKey = HotKeyCombo::load(defaults);
-    m_showInMenuBar = !defaults.hasValue(showInMenuBarKey) || defaults.boolForKey(showInMenuBarKey);
-    m_showInDock = defaults.boolForKey(showInDockKey);
-    const auto storedMode = defaults.stringForKey(presentationModeKey).value_or(QString());
-    m_presentationMode = quorvane::presentationMode(storedMode).value_or(PresentationMode::Window);
-    setFavoriteTimeZoneIdentifiers(storedFavorites());
-}
-
-QStringList DateTimeModel::storedFavorites() const {
-    auto stored = m_surroundings.defaults.stringArrayForKey(favoritesKey);
-    if (stored)
-        return *std::move(stored);
-    return defaultFavoriteIdentifiers(m_surroundings.currentZone.current(), m_surroundings.zones);
+        m_preferences.favoriteTimeZoneIdentifiers,
+        m_composition.selectedTimeZones,
+        m_surroundings.zones);
 }
 
 TimeZone DateTimeModel::sampleZone() const {
-    return m_selectedTimeZones.empty() ? m_surroundings.currentZone.current()
-                                       : m_selectedTimeZones.front();
+    return m_composition.selectedTimeZones.empty() ? m_surroundings.currentZone.current()
+                                                   : m_composition.selectedTimeZones.front();
 }
 
 FormatSettings DateTimeModel::formatSettings() const {
-    return {m_includeDate, m_includeTime, m_customFormatString, m_surroundings.locale};
+    return {
+        m_composition.includeDate,
+        m_composition.includeTime,
+        m_composition.customFormatString,
+        m_surroundings.locale};
 }
 
 } // namespace quorvane

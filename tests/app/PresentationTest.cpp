@@ -203,8 +203,7 @@ TEST_F(PresentationTest, HidingTheIconLeavesThePanelAlone) {
 
 TEST_F(PresentationTest, LaunchWithAHiddenIconInPopoverModeEndsWithNothingVisible) {
     defaults.setBool(u"showInMenuBar"_s, false);
-    defaults.setString(
-        DateTimeModel::presentationModeKey.toString(), rawValue(PresentationMode::Popover));
+    defaults.setString(setting::presentationMode.key, rawValue(PresentationMode::Popover));
     makeDelegate();
     launch();
     EXPECT_TRUE(isShown(popover()));

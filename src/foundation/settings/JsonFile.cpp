@@ -37,8 +37,13 @@ JsonFile::JsonFile(QString path, FileWriter& writer) : m_path(std::move(path)), 
 }
 
 void JsonFile::setValue(const QString& key, const QJsonValue& value) {
+    if (m_values.value(key) == value && !m_lacksChanges)
+        return;
     m_values.insert(key, value);
-    if (m_isWritable && !write())
+    if (!m_isWritable)
+        return;
+    m_lacksChanges = !write();
+    if (m_lacksChanges)
         qCWarning(lcSettings) << "could not write" << m_path;
 }
 

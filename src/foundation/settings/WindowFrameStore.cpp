@@ -2,25 +2,18 @@
 #include <QJsonObject>
 
 #include <cmath>
+#include <settings/SettingsTable.h>
 #include <settings/WindowFrameStore.h>
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr auto xKey = "x"_L1;
-constexpr auto yKey = "y"_L1;
-constexpr auto widthKey = "width"_L1;
-constexpr auto heightKey = "height"_L1;
+namespace key = windowframesetting;
 
-// The coordinates of X11 and Wayland windows are 16 bits wide, so that every sum stays in range.
-constexpr double greatestCoordinate = 32767;
-
-std::optional<int> coordinate(const QJsonObject& stored, QLatin1StringView key) {
-    const auto value = stored.value(key);
-    if (!value.isDouble() || std::abs(value.toDouble()) > greatestCoordinate)
+std::optional<int> coordinate(const QJsonObject& stored, QLatin1StringView name) {
+    const auto value = stored.value(name);
+    if (!value.isDouble() || std::abs(value.toDouble()) > key::greatestCoordinate)
         return std::nullopt;
     return qRound(value.toDouble());
 }
@@ -33,10 +26,10 @@ WindowFrameStore::WindowFrameStore(QString path, FileWriter& writer)
 
 std::optional<QRect> WindowFrameStore::frame(const QString& autosaveName) const {
     const auto stored = m_file.value(autosaveName).toObject();
-    const auto x = coordinate(stored, xKey);
-    const auto y = coordinate(stored, yKey);
-    const auto width = coordinate(stored, widthKey);
-    const auto height = coordinate(stored, heightKey);
+    const auto x = coordinate(stored, key::x);
+    const auto y = coordinate(stored, key::y);
+    const auto width = coordinate(stored, key::width);
+    const auto height = coordinate(stored, key::height);
     if (!x || !y || !width || !height || *width <= 0 || *height <= 0)
         return std::nullopt;
     return QRect(*x, *y, *width, *height);
@@ -46,10 +39,10 @@ void WindowFrameStore::setFrame(const QString& autosaveName, const QRect& frame)
     m_file.setValue(
         autosaveName,
         QJsonObject{
-            {xKey, frame.x()},
-            {yKey, frame.y()},
-            {widthKey, frame.width()},
-            {heightKey, frame.height()}});
+            {key::x, frame.x()},
+            {key::y, frame.y()},
+            {key::width, frame.width()},
+            {key::height, frame.height()}});
 }
 
 } // namespace quorvane

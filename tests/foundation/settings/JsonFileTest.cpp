@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -102,12 +103,20 @@ TEST_F(JsonFileTest, MakesMissingFoldersForTheirOwnerOnly) {
     }
 }
 
-TEST_F(JsonFileTest, WritesAlsoWhatIsEqual) {
+TEST_F(JsonFileTest, EqualValueLeavesTheFileAsItIs) {
+    const QByteArray json = R"({"a":[1,"x"],"beyond64Bits":12345678901234567890})";
+    put(json);
     JsonFile file(path(), m_writer);
-    file.setValue(u"a"_s, 1);
-    ASSERT_TRUE(QFile::remove(path()));
-    file.setValue(u"a"_s, 1);
-    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}}));
+    file.setValue(u"a"_s, QJsonArray{1, u"x"_s});
+    EXPECT_EQ(bytesAt(path()), json);
+    file.setValue(u"a"_s, QJsonArray{1, u"y"_s});
+    EXPECT_NE(bytesAt(path()), json);
+}
+
+TEST_F(JsonFileTest, FirstValueIsWrittenWhateverItIs) {
+    JsonFile file(path(), m_writer);
+    file.setValue(u"a"_s, QJsonValue::Null);
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, QJsonValue::Null}}));
 }
 
 TEST_F(JsonFileTest, LinkedFileStaysLinked) {
@@ -189,6 +198,15 @@ TEST_P(JsonFileFaultTest, FailedWriteLeavesTheOldFileAndGoesWithTheNextChange) {
     m_writer.recover();
     file.setValue(u"b"_s, 2);
     EXPECT_EQ(stored(), (QJsonObject{{u"kept"_s, true}, {u"a"_s, 1}, {u"b"_s, 2}}));
+}
+
+TEST_P(JsonFileFaultTest, EqualValueIsWrittenIfTheFileLacksIt) {
+    JsonFile file(path(), m_writer);
+    m_writer.fail(GetParam());
+    file.setValue(u"a"_s, 1);
+    m_writer.recover();
+    file.setValue(u"a"_s, 1);
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}}));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -42,7 +42,7 @@ TEST_F(FavoritesListTest, StarringAppendsAndUnstarringRemovesThatOneAlone) {
             u"Europe/Paris"_s,
             u"America/New_York"_s,
             u"Europe/London"_s}));
-    EXPECT_EQ(defaults.stringArrayForKey(DateTimeModel::favoritesKey), favorites());
+    EXPECT_EQ(defaults.stringArrayForKey(setting::favoriteZones.key), favorites());
     EXPECT_TRUE(isStarred(u"London"_s));
     pressRow(u"Paris"_s);
     queue.run();

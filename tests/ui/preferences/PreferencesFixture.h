@@ -43,7 +43,7 @@ protected:
         layout.setKey(2, u"d");
         layout.setKey(40, u"k");
         defaults.setStringArray(
-            DateTimeModel::favoritesKey,
+            setting::favoriteZones.key,
             {QStringLiteral("Asia/Tokyo"),
              QStringLiteral("Nowhere/Atlantis"),
              QStringLiteral("Europe/Paris"),

@@ -149,7 +149,7 @@ TEST_F(PreferencesViewTest, SwitchesWriteTheModelAtOnce) {
     EXPECT_FALSE(box(dock).isChecked());
     QTest::mouseClick(&box(dock), Qt::LeftButton);
     EXPECT_TRUE(model->showInDock());
-    EXPECT_TRUE(defaults.boolForKey(DateTimeModel::showInDockKey));
+    EXPECT_TRUE(defaults.boolForKey(setting::showInDock.key));
     QTest::keyClick(&box(menuBar), Qt::Key_Space);
     EXPECT_FALSE(model->showInMenuBar());
 }

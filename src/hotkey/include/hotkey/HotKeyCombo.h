@@ -11,7 +11,7 @@
 
 #include <cstdint>
 #include <optional>
-#include <settings/DefaultsStore.h>
+#include <settings/SettingsTable.h>
 #include <variant>
 
 namespace quorvane {
@@ -39,12 +39,10 @@ inline constexpr std::uint32_t control = 0x1000;
 
 /// The global shortcut: a key by its position and a set of modifiers.
 struct HotKeyCombo {
-    /// Control, Shift and Command with the key that carries D on an ANSI keyboard.
-    static constexpr std::uint32_t defaultKeyCode = keycode::d;
-    static constexpr std::uint32_t defaultModifiers = 0x1300;
-
-    static constexpr QStringView keyCodeKey = u"hotKeyCode";
-    static constexpr QStringView modifiersKey = u"hotKeyModifiers";
+    static constexpr auto defaultKeyCode =
+        static_cast<std::uint32_t>(setting::hotKeyCode.defaultValue);
+    static constexpr auto defaultModifiers =
+        static_cast<std::uint32_t>(setting::hotKeyModifiers.defaultValue);
 
     /// What a coded form lacks or holds wrongly, for the caller of decode().
     struct DecodingError {

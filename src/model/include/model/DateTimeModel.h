@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <composition/DateFormatPreset.h>
-#include <composition/MultiZoneLayout.h>
-#include <hotkey/HotKeyCombo.h>
-#include <model/PresentationMode.h>
+#include <model/Composition.h>
+#include <model/Preferences.h>
 
 #include <QObject>
 #include <QString>
@@ -24,8 +22,9 @@ struct FormatSettings;
 /// What the user composes, and the settings that survive a restart: the single source of truth of
 /// the whole program.
 ///
-/// Every assignment announces itself before the new value is in place, and every persisted field is
-/// written once it is, also when the new value equals the old one. Nothing is written at the end.
+/// Every assignment announces itself before the new value is in place, and every preference is
+/// given to the store once it is, also when the new value equals the old one: an observer sees the
+/// model change first, then the store. Nothing is stored at the end.
 class DateTimeModel final : public QObject {
     Q_OBJECT
 
@@ -39,46 +38,45 @@ public:
         UserLocale locale;
     };
 
-    static constexpr QLatin1StringView favoritesKey{"favoriteTZs"};
-    static constexpr QLatin1StringView showInMenuBarKey{"showInMenuBar"};
-    static constexpr QLatin1StringView showInDockKey{"showInDock"};
-    static constexpr QLatin1StringView presentationModeKey{"presentationMode"};
-
     /// Reads the settings, and writes the favourites back. A stored shortcut that is out of range
     /// stops the process.
     explicit DateTimeModel(const Surroundings& surroundings, QObject* parent = nullptr);
 
-    [[nodiscard]] Instant startDate() const { return m_startDate; }
+    [[nodiscard]] Instant startDate() const { return m_composition.startDate; }
 
-    [[nodiscard]] Instant endDate() const { return m_endDate; }
+    [[nodiscard]] Instant endDate() const { return m_composition.endDate; }
 
-    [[nodiscard]] bool isRange() const { return m_isRange; }
+    [[nodiscard]] bool isRange() const { return m_composition.isRange; }
 
-    [[nodiscard]] bool includeDate() const { return m_includeDate; }
+    [[nodiscard]] bool includeDate() const { return m_composition.includeDate; }
 
-    [[nodiscard]] bool includeTime() const { return m_includeTime; }
+    [[nodiscard]] bool includeTime() const { return m_composition.includeTime; }
 
     [[nodiscard]] const std::vector<TimeZone>& selectedTimeZones() const {
-        return m_selectedTimeZones;
+        return m_composition.selectedTimeZones;
     }
 
-    [[nodiscard]] DateFormatPreset formatPreset() const { return m_formatPreset; }
+    [[nodiscard]] DateFormatPreset formatPreset() const { return m_composition.formatPreset; }
 
-    [[nodiscard]] const QString& customFormatString() const { return m_customFormatString; }
+    [[nodiscard]] const QString& customFormatString() const {
+        return m_composition.customFormatString;
+    }
 
-    [[nodiscard]] MultiZoneLayout multiZoneLayout() const { return m_multiZoneLayout; }
+    [[nodiscard]] MultiZoneLayout multiZoneLayout() const { return m_composition.multiZoneLayout; }
 
     [[nodiscard]] const QStringList& favoriteTimeZoneIdentifiers() const {
-        return m_favoriteTimeZoneIdentifiers;
+        return m_preferences.favoriteTimeZoneIdentifiers;
     }
 
-    [[nodiscard]] HotKeyCombo hotKey() const { return m_hotKey; }
+    [[nodiscard]] HotKeyCombo hotKey() const { return m_preferences.hotKey; }
 
-    [[nodiscard]] bool showInMenuBar() const { return m_showInMenuBar; }
+    [[nodiscard]] bool showInMenuBar() const { return m_preferences.showInMenuBar; }
 
-    [[nodiscard]] bool showInDock() const { return m_showInDock; }
+    [[nodiscard]] bool showInDock() const { return m_preferences.showInDock; }
 
-    [[nodiscard]] PresentationMode presentationMode() const { return m_presentationMode; }
+    [[nodiscard]] PresentationMode presentationMode() const {
+        return m_preferences.presentationMode;
+    }
 
     void setStartDate(Instant instant);
     /// May be before the start.
@@ -90,13 +88,14 @@ public:
     void setFormatPreset(DateFormatPreset preset);
     void setCustomFormatString(const QString& pattern);
     void setMultiZoneLayout(MultiZoneLayout layout);
-    /// Persisted; identifiers need not name a zone.
+
+    // The preferences, which are stored.
+    /// Identifiers need not name a zone.
     void setFavoriteTimeZoneIdentifiers(const QStringList& identifiers);
-    /// Not persisted here: whoever changes the shortcut saves it together with the monitor's.
     void setHotKey(HotKeyCombo combo);
-    void setShowInMenuBar(bool show);                ///< persisted
-    void setShowInDock(bool show);                   ///< persisted
-    void setPresentationMode(PresentationMode mode); ///< persisted
+    void setShowInMenuBar(bool show);
+    void setShowInDock(bool show);
+    void setPresentationMode(PresentationMode mode);
 
     [[nodiscard]] const UserLocale& locale() const { return m_surroundings.locale; }
 
@@ -130,27 +129,13 @@ private:
     template <typename T>
     void assign(T& field, T value);
 
-    void loadSettings();
-    [[nodiscard]] QStringList storedFavorites() const;
     [[nodiscard]] TimeZone sampleZone() const;
     [[nodiscard]] FormatSettings formatSettings() const;
 
     Surroundings m_surroundings;
 
-    Instant m_startDate;
-    Instant m_endDate;
-    bool m_isRange = false;
-    bool m_includeDate = true;
-    bool m_includeTime = true;
-    std::vector<TimeZone> m_selectedTimeZones;
-    DateFormatPreset m_formatPreset = DateFormatPreset::LongForm;
-    QString m_customFormatString;
-    MultiZoneLayout m_multiZoneLayout = MultiZoneLayout::Inline;
-    QStringList m_favoriteTimeZoneIdentifiers;
-    HotKeyCombo m_hotKey;
-    bool m_showInMenuBar = true;
-    bool m_showInDock = false;
-    PresentationMode m_presentationMode = PresentationMode::Window;
+    Composition m_composition;
+    Preferences m_preferences;
 };
 
 } // namespace quorvane

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include <model/Composition.h>
+
+#include <utility>
+
+namespace quorvane {
+
+namespace {
+
+constexpr Seconds initialSpan = std::chrono::hours(1);
+
+} // namespace
+
+Composition Composition::startingAt(Instant now, TimeZone zone) {
+    Composition composition;
+    composition.startDate = now;
+    composition.endDate = now + initialSpan;
+    composition.selectedTimeZones.push_back(std::move(zone));
+    return composition;
+}
+
+} // namespace quorvane

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <composition/DateFormatPreset.h>
+#include <composition/MultiZoneLayout.h>
+
+#include <QString>
+
+#include <time/Instant.h>
+#include <time/TimeZone.h>
+#include <vector>
+
+namespace quorvane {
+
+/// What the user composes. It ends with the run.
+struct Composition {
+    Instant startDate;
+    Instant endDate; ///< may be before the start
+    bool isRange = false;
+    bool includeDate = true;
+    bool includeTime = true;
+    std::vector<TimeZone> selectedTimeZones; ///< in the order of selection
+    DateFormatPreset formatPreset = DateFormatPreset::LongForm;
+    QString customFormatString = QStringLiteral("yyyy-MM-dd HH:mm zzz");
+    MultiZoneLayout multiZoneLayout = MultiZoneLayout::Inline;
+
+    /// That of a new run: an hour from `now`, in `zone`.
+    [[nodiscard]] static Composition startingAt(Instant now, TimeZone zone);
+};
+
+} // namespace quorvane

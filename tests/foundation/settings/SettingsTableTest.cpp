@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <settings/SettingsTable.h>
+#include <testing/MemoryDefaults.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(SettingsTable, EveryRowHasItsKeyAndDefault) {
+    const MemoryDefaults empty;
+    EXPECT_EQ(setting::favoriteZones.key, "favoriteTZs"_L1);
+    EXPECT_EQ(setting::favoriteZones.storedIn(empty), std::nullopt);
+    EXPECT_EQ(setting::showInMenuBar.key, "showInMenuBar"_L1);
+    EXPECT_TRUE(setting::showInMenuBar.valueIn(empty));
+    EXPECT_EQ(setting::showInDock.key, "showInDock"_L1);
+    EXPECT_FALSE(setting::showInDock.valueIn(empty));
+    EXPECT_EQ(setting::presentationMode.key, "presentationMode"_L1);
+    EXPECT_EQ(setting::presentationMode.valueIn(empty), u"Window"_s);
+    EXPECT_EQ(setting::hotKeyCode.key, "hotKeyCode"_L1);
+    EXPECT_EQ(setting::hotKeyCode.valueIn(empty), 2);
+    EXPECT_EQ(setting::hotKeyModifiers.key, "hotKeyModifiers"_L1);
+    EXPECT_EQ(setting::hotKeyModifiers.valueIn(empty), 4864); // Control, Shift and Command
+}
+
+TEST(SettingsTable, WindowFramesHaveTheirKeys) {
+    EXPECT_EQ(windowframesetting::x, "x"_L1);
+    EXPECT_EQ(windowframesetting::y, "y"_L1);
+    EXPECT_EQ(windowframesetting::width, "width"_L1);
+    EXPECT_EQ(windowframesetting::height, "height"_L1);
+    EXPECT_EQ(windowframesetting::greatestCoordinate, 32767.0);
+}
+
+TEST(SettingsTable, WhatIsStoredComesBackInItsType) {
+    MemoryDefaults defaults;
+    setting::favoriteZones.store(defaults, {u"UTC"_s});
+    setting::showInMenuBar.store(defaults, false);
+    setting::presentationMode.store(defaults, u"Popover"_s);
+    setting::hotKeyCode.store(defaults, 9);
+    EXPECT_EQ(setting::favoriteZones.storedIn(defaults), QStringList{u"UTC"_s});
+    EXPECT_FALSE(setting::showInMenuBar.valueIn(defaults));
+    EXPECT_EQ(setting::presentationMode.valueIn(defaults), u"Popover"_s);
+    EXPECT_EQ(setting::hotKeyCode.valueIn(defaults), 9);
+}
+
+} // namespace
+} // namespace quorvane
