@@ -12,12 +12,13 @@ namespace quorvane {
 
 namespace {
 
-bool isBlank(QChar character) {
+bool isSpaceOrTab(QChar character) {
     return character == u' ' || character == u'\t';
 }
 
-/// Clocks are put forward and back on whole minutes, so that names are the same from here on to the
-/// instant. A zone keeps the last offset that it was asked for: keystrokes of one minute share it.
+/// Clocks change on whole minutes only, so a zone has the same abbreviation at the start of the
+/// minute as at the instant. Asking for the start lets all keystrokes within a minute use the
+/// offset that DatabaseTimeZone computed for the first of them.
 Instant startOfMinute(Instant instant) {
     constexpr double minute = 60;
     return {std::floor(instant.secondsSince1970 / minute) * minute};
@@ -30,9 +31,9 @@ QString lowerCase(const std::optional<QString>& name) {
 } // namespace
 
 QString normalisedQuery(QStringView query) {
-    while (!query.isEmpty() && isBlank(query.front()))
+    while (!query.isEmpty() && isSpaceOrTab(query.front()))
         query = query.sliced(1);
-    while (!query.isEmpty() && isBlank(query.back()))
+    while (!query.isEmpty() && isSpaceOrTab(query.back()))
         query.chop(1);
     return query.toString().toLower();
 }
@@ -62,8 +63,8 @@ ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidat
     const auto matches = [&](std::size_t index) {
         const auto& [zone, searchText] = m_catalogue.entries()[index];
         return text.isEmpty() || aliased.contains(zone.identifier()) || searchText.contains(text) ||
-               lowerCase(names.abbreviation(*named(index).zone)).contains(text) ||
-               named(index).genericName.contains(text);
+               lowerCase(names.abbreviation(*namesOf(index).zone)).contains(text) ||
+               namesOf(index).genericName.contains(text);
     };
     std::vector<TimeZone> zones;
     for (std::size_t index = 0; index < m_catalogue.entries().size(); ++index) {
@@ -74,13 +75,13 @@ ZoneSearch::found(const QString& query, Instant now, const Candidate& isCandidat
     return zones;
 }
 
-const ZoneSearch::Named& ZoneSearch::named(std::size_t index) const {
-    if (m_named.empty()) {
+const ZoneSearch::EntryNames& ZoneSearch::namesOf(std::size_t index) const {
+    if (m_entryNames.empty()) {
         const ZoneNames names(m_catalogue.instant(), m_locale);
         for (const auto& [zone, searchText] : m_catalogue.entries())
-            m_named.push_back({icuTimeZone(zone), lowerCase(names.genericName(zone))});
+            m_entryNames.push_back({icuTimeZone(zone), lowerCase(names.genericName(zone))});
     }
-    return m_named[index];
+    return m_entryNames[index];
 }
 
 } // namespace quorvane

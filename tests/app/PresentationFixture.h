@@ -3,6 +3,8 @@
 
 #include "DelegateFixture.h"
 
+#include <settings/SettingsTable.h>
+
 namespace quorvane {
 
 /// A delegate that can be launched in either mode.
@@ -10,7 +12,7 @@ class PresentationFixture : public DelegateFixture {
 protected:
     /// Launched in that mode, shown, and with the tasks that start-up queued done.
     void launchAs(PresentationMode mode) {
-        defaults.setString(DateTimeModel::presentationModeKey.toString(), rawValue(mode));
+        defaults.setString(setting::presentationMode.key, rawValue(mode));
         makeDelegate();
         statusBar->hasButton = bar.hasButton;
         statusBar->frame = bar.frame;

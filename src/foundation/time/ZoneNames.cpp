@@ -50,9 +50,4 @@ zoneAbbreviation(const TimeZone& zone, Instant instant, const UserLocale& locale
     return ZoneNames(instant, locale).abbreviation(zone);
 }
 
-std::optional<QString>
-genericZoneName(const TimeZone& zone, Instant instant, const UserLocale& locale) {
-    return ZoneNames(instant, locale).genericName(zone);
-}
-
 } // namespace quorvane

@@ -61,9 +61,9 @@ TEST(ZoneNames, GenericNameIsTheSameAllYear) {
     const auto german = UserLocale::named(u"de_DE"_s);
     for (const auto instant : {winter, summer}) {
         const auto losAngeles = zone(u"America/Los_Angeles"_s);
-        EXPECT_EQ(genericZoneName(losAngeles, instant, english), u"Pacific Time"_s);
+        EXPECT_EQ(ZoneNames(instant, english).genericName(losAngeles), u"Pacific Time"_s);
         EXPECT_EQ(
-            genericZoneName(zone(u"Europe/Berlin"_s), instant, german),
+            ZoneNames(instant, german).genericName(zone(u"Europe/Berlin"_s)),
             u"Mitteleuropäische Zeit"_s);
     }
 }
@@ -71,7 +71,7 @@ TEST(ZoneNames, GenericNameIsTheSameAllYear) {
 TEST(ZoneNames, ZoneWithLawNewerThanIcusDataStillHasItsGenericName) {
     const auto english = UserLocale::named(u"en_US"_s);
     EXPECT_EQ(
-        genericZoneName(zone(u"Asia/Almaty"_s), summer, english),
+        ZoneNames(summer, english).genericName(zone(u"Asia/Almaty"_s)),
         byIcuRelease<QString>({{72, u"East Kazakhstan Time"_s}, {76, u"Kazakhstan Time"_s}}));
 }
 
@@ -79,7 +79,7 @@ TEST(ZoneNames, ZoneThatIcuDoesNotKnowHasAnAbbreviationButNoGenericName) {
     const auto english = UserLocale::named(u"en_US"_s);
     const auto coyhaique = zone(u"America/Coyhaique"_s);
     EXPECT_EQ(zoneAbbreviation(coyhaique, summer, english), u"GMT-4"_s);
-    EXPECT_EQ(genericZoneName(coyhaique, summer, english), std::nullopt);
+    EXPECT_EQ(ZoneNames(summer, english).genericName(coyhaique), std::nullopt);
 }
 
 TEST(ZoneNames, ZoneThatIcuHasLearntHasTheNamesOfItsRelease) {
@@ -89,7 +89,7 @@ TEST(ZoneNames, ZoneThatIcuHasLearntHasTheNamesOfItsRelease) {
         zoneAbbreviation(juarez, summer, english),
         byIcuRelease<QString>({{72, u"GMT-6"_s}, {76, u"MDT"_s}}));
     EXPECT_EQ(
-        genericZoneName(juarez, summer, english),
+        ZoneNames(summer, english).genericName(juarez),
         byIcuRelease<std::optional<QString>>({{72, std::nullopt}, {76, u"Mountain Time"_s}}));
 }
 

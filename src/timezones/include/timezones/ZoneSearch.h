@@ -14,8 +14,8 @@
 
 namespace quorvane {
 
-/// What is searched for: without spaces and tabs around it, in lower case. Line feeds are no
-/// blanks: they are part of the query.
+/// The query without leading and trailing spaces and tabs, in lower case. Line feeds stay: they are
+/// part of the query.
 [[nodiscard]] QString normalisedQuery(QStringView query);
 
 /// Finds zones of a catalogue by what the user types. A zone is found by an alias, its identifier,
@@ -38,23 +38,22 @@ public:
 private:
     using Candidate = std::function<bool(const TimeZone& zone)>;
 
-    /// What an entry is asked for its names with.
-    struct Named {
-        std::unique_ptr<icu::TimeZone> zone;
-        QString genericName; ///< in lower case; empty for none
+    /// What is needed for the names of an entry of the catalogue.
+    struct EntryNames {
+        std::unique_ptr<icu::TimeZone> zone; ///< gives the abbreviation, which depends on "now"
+        QString genericName;                 ///< in lower case; empty for none
     };
 
     [[nodiscard]] std::vector<TimeZone>
     found(const QString& query, Instant now, const Candidate& isCandidate) const;
-    [[nodiscard]] const Named& named(std::size_t index) const;
+    [[nodiscard]] const EntryNames& namesOf(std::size_t index) const;
 
     TimeZoneCatalogue m_catalogue;
     UserLocale m_locale;
 
-    /// One for each entry. They make up nine tenths of the cost of a search and cannot change while
-    /// catalogue and locale do not. Made for the first query that needs them, as most lists are
-    /// opened and closed without one.
-    mutable std::vector<Named> m_named;
+    /// One for each entry of the catalogue, made at the first query that needs them: making them is
+    /// nine tenths of the cost of a search, and most lists are opened and closed without one.
+    mutable std::vector<EntryNames> m_entryNames;
 };
 
 } // namespace quorvane

@@ -19,7 +19,8 @@ public:
     /// POSIX, no variable at all, and what ICU does not know give en_US.
     [[nodiscard]] static UserLocale fromEnvironment(const Environment& environment);
 
-    /// en_US_POSIX, whose texts never change: for formats that machines read.
+    /// en_US_POSIX, whose texts never change: for formats that machines read. Not for weeks: its
+    /// first day of the week is not the user's.
     [[nodiscard]] static UserLocale posix();
 
     [[nodiscard]] const icu::Locale& icuLocale() const { return m_locale; }

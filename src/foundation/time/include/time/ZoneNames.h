@@ -37,10 +37,8 @@ private:
     std::unique_ptr<icu::TimeZoneFormat> m_format; ///< null if ICU has no data
 };
 
-/// As above, for a single zone.
+/// The abbreviation of a single zone.
 [[nodiscard]] std::optional<QString>
 zoneAbbreviation(const TimeZone& zone, Instant instant, const UserLocale& locale);
-[[nodiscard]] std::optional<QString>
-genericZoneName(const TimeZone& zone, Instant instant, const UserLocale& locale);
 
 } // namespace quorvane
