@@ -3,7 +3,10 @@
 
 #include <gmock/gmock.h>
 
+#include <string>
 #include <time/ZoneDatabase.h>
+#include <utility>
+#include <vector>
 
 namespace quorvane {
 namespace {
@@ -34,6 +37,31 @@ TEST(TimeZoneAliases, AnyPartOfAnAliasMatches) {
 TEST(TimeZoneAliases, TextsAreTakenAsTheyAre) {
     EXPECT_THAT(TimeZoneAliases::identifiersMatching(u"NYC"_s), IsEmpty());
     EXPECT_THAT(TimeZoneAliases::identifiersMatching(u" nyc"_s), IsEmpty());
+}
+
+const std::vector<std::pair<std::string, std::string>> aliases{
+    {"washington", "America/New_York"},   {"washington dc", "America/New_York"},
+    {"dc", "America/New_York"},           {"boston", "America/New_York"},
+    {"philadelphia", "America/New_York"}, {"miami", "America/New_York"},
+    {"atlanta", "America/New_York"},      {"nyc", "America/New_York"},
+    {"seattle", "America/Los_Angeles"},   {"san francisco", "America/Los_Angeles"},
+    {"sf", "America/Los_Angeles"},        {"san diego", "America/Los_Angeles"},
+    {"portland", "America/Los_Angeles"},  {"las vegas", "America/Los_Angeles"},
+    {"vegas", "America/Los_Angeles"},     {"la", "America/Los_Angeles"},
+    {"dallas", "America/Chicago"},        {"houston", "America/Chicago"},
+    {"austin", "America/Chicago"},        {"london uk", "Europe/London"},
+    {"paris france", "Europe/Paris"},     {"frankfurt", "Europe/Berlin"},
+    {"munich", "Europe/Berlin"},          {"milan", "Europe/Rome"},
+    {"beijing", "Asia/Shanghai"},         {"shenzhen", "Asia/Shanghai"},
+    {"mumbai", "Asia/Kolkata"},           {"delhi", "Asia/Kolkata"},
+    {"bangalore", "Asia/Kolkata"},        {"bengaluru", "Asia/Kolkata"},
+};
+
+TEST(TimeZoneAliases, AreTheseAndNoOthers) {
+    std::vector<std::pair<std::string, std::string>> rows;
+    for (const auto& alias : TimeZoneAliases::map)
+        rows.emplace_back(alias.name.data(), alias.identifier.data());
+    EXPECT_EQ(rows, aliases);
 }
 
 TEST(TimeZoneAliases, EveryAliasNamesAKnownZoneInLowerCase) {
