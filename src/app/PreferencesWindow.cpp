@@ -8,8 +8,6 @@
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QSize contentSize{400, 540};
@@ -23,7 +21,7 @@ PreferencesWindow::PreferencesWindow(QWidget* content)
           Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
               Qt::WindowCloseButtonHint) {
     setAttribute(Qt::WA_QuitOnClose, false);
-    setWindowTitle(u"Quorvane Preferences"_s);
+    setWindowTitle(tr("Quorvane Preferences"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
