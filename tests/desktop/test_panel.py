@@ -111,6 +111,24 @@ class PanelAlone(DesktopCase):
     def zone(self, description: str) -> Accessible:
         return self.tree.find_described("push button", description)
 
+    def test_panel_is_dragged_by_its_background(self) -> None:
+        window = self.quorvane.wait_active()
+        left, top, width, height = self.session.windows.frame(window)
+        # In the margin, level with the preview.
+        x, y = left + 6, self.tree.find_role("text", "Preview").extents[1] + 4
+        self.mouse.press_at(x, y)
+        self.addCleanup(self.mouse.release)
+
+        def follows() -> bool:
+            # The window manager sees what moves once it has taken the pointer over.
+            self.mouse.move_to(x + 60, y + 40)
+            self.mouse.move_to(x + 90, y + 70)
+            return self.session.windows.frame(window)[:2] != (left, top)
+
+        wait_until(follows, "the panel to follow the pointer")
+        self.mouse.release()
+        self.assertEqual(self.session.windows.frame(window)[2:], (width, height))
+
 
 class PanelHeard(DesktopCase):
     """What the panel says by itself."""

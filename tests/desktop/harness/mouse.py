@@ -33,6 +33,22 @@ class Mouse:
         xtest.fake_input(self._display, X.ButtonRelease, button)
         self._display.sync()
 
+    def move_to(self, x: int, y: int) -> None:
+        """Moves the pointer, with whatever button is held."""
+        xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
+        self._display.sync()
+
+    def press_at(self, x: int, y: int) -> None:
+        """Presses the left button there and holds it."""
+        self.move_to(x, y)
+        xtest.fake_input(self._display, X.ButtonPress, _LEFT)
+        self._display.sync()
+
+    def release(self) -> None:
+        """Lets go of the left button."""
+        xtest.fake_input(self._display, X.ButtonRelease, _LEFT)
+        self._display.sync()
+
     def right_click_at(self, x: int, y: int) -> None:
         """The same with the right button."""
         self.click_at(x, y, _RIGHT)
