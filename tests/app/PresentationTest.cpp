@@ -49,7 +49,7 @@ TEST_F(PresentationTest, WithoutABarThePopoverFallsBackToThePanel) {
     launchAs(PresentationMode::Popover);
     EXPECT_EQ(delegate->effectivePresentationMode(), PresentationMode::Window);
     EXPECT_TRUE(isShown(panel()));
-    statusBar->setHasButton(true);
+    statusBar->hasButton = true;
     EXPECT_EQ(delegate->effectivePresentationMode(), PresentationMode::Popover);
 }
 

@@ -212,7 +212,7 @@ TEST_F(PanelOnX11WithoutManager, IsAskedToBeOnAllDesktopsOnceItIsMapped) {
         const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(event);
         if (message.window == panel && message.type == witness->atom("_NET_WM_DESKTOP")) {
             isAsked = isMapped && message.data.data32[0] == 0xffffffff &&
-                      message.data.data32[1] == fromPager;
+                      message.data.data32[1] == sourcePager;
         }
     });
     showPanel();
