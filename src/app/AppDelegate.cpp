@@ -196,7 +196,7 @@ std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
     auto& platform = m_dependencies.platform;
     return std::make_unique<PopoverView>(
         m_model,
-        PopoverView::Services{
+        PopoverView::Dependencies{
             *platform.pasteboard,
             *platform.keyboardLayout,
             m_dependencies.zones,

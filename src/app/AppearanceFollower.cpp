@@ -25,7 +25,7 @@ QColor color(const DesktopAppearance::Accent& accent) {
 QPalette paletteFor(const DesktopAppearance& appearance) {
     return builtInPalette(
         schemeFor(appearance),
-        appearance.wantsMoreContrast ? Contrast::High : Contrast::Normal,
+        appearance.wantsMoreContrast ? ContrastLevel::High : ContrastLevel::Normal,
         appearance.accent ? std::optional(color(*appearance.accent)) : std::nullopt);
 }
 

@@ -40,7 +40,7 @@ void PreferencesWindowController::setupWindow() {
         return;
     m_view = new PreferencesView(
         m_dependencies.model,
-        PreferencesView::Services{
+        PreferencesView::Dependencies{
             m_dependencies.keyboardLayout,
             m_dependencies.zones,
             m_dependencies.mainQueue,

@@ -128,7 +128,7 @@ PreferencesView& PreferencesBoard::addWindow(const QString& note, Icons icons) {
     sample.model.setShowInDock(icons == Icons::Everywhere);
     sample.view = std::make_unique<PreferencesView>(
         sample.model,
-        PreferencesView::Services{
+        PreferencesView::Dependencies{
             sample.layout,
             sample::zones(),
             sample.queue,

@@ -40,7 +40,7 @@ UserLocale locale() {
     return UserLocale::named(u"en_US"_s);
 }
 
-EntrySurroundings entrySurroundings() {
+EntryDependencies entryDependencies() {
     return {clock(), currentZone(), locale(), {}};
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 #include <model/DateTimeModel.h>
 
 #include <time/ZoneDatabase.h>
@@ -17,7 +17,7 @@ inline constexpr Instant daysLater{1795550400}; ///< 2026-11-24T20:00:00Z
 [[nodiscard]] const Clock& clock();
 [[nodiscard]] const CurrentZone& currentZone();
 [[nodiscard]] UserLocale locale();
-[[nodiscard]] EntrySurroundings entrySurroundings();
+[[nodiscard]] EntryDependencies entryDependencies();
 
 /// Identifiers that name no zone are left out.
 void selectZones(DateTimeModel& model, const QStringList& identifiers);

@@ -74,7 +74,7 @@ StatesBoard::StatesBoard(ColorScheme scheme, QWidget* parent)
           {[] { return sample::now; },
            [](Instant) {
            }}),
-      m_surroundings(sample::entrySurroundings()) {
+      m_dependencies(sample::entryDependencies()) {
     setPalette(builtInPalette(scheme));
     setFixedSize(boardSize);
     const std::array heads{u"rest"_s, u"hover"_s, u"press"_s, u"focus"_s};
@@ -105,7 +105,7 @@ void StatesBoard::paintEvent(QPaintEvent* /*event*/) {
 
 void StatesBoard::addChips() {
     const auto zone = ZoneDatabase::utc();
-    addRow(u"date chip"_s, [this](State) { return new DateField(m_day, {}, m_surroundings); });
+    addRow(u"date chip"_s, [this](State) { return new DateField(m_day, {}, m_dependencies); });
     addRow(u"selected zone"_s, [&](State) { return new TimeZoneChip(zone, u"EST"_s, [] {}); });
     addRow(u"suggested zone"_s, [&](State) {
         return new FavoriteSuggestionChip(zone, u"Tokyo"_s, [] {});

@@ -3,7 +3,7 @@
 
 #include <controls/Theme.h>
 #include <entry/DateBinding.h>
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 
 #include <QWidget>
 
@@ -40,7 +40,7 @@ private:
     [[nodiscard]] int rowCenter() const;
 
     DateBinding m_day;
-    EntrySurroundings m_surroundings;
+    EntryDependencies m_dependencies;
     int m_rows = 0;
 };
 

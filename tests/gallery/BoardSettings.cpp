@@ -33,8 +33,8 @@ std::vector<BoardSetting> boardSettings() {
     return {
         {.name = u"light"_s},
         {.name = u"dark"_s, .scheme = ColorScheme::Dark},
-        {.name = u"contrast"_s, .contrast = Contrast::High},
-        {.name = u"contrast-dark"_s, .scheme = ColorScheme::Dark, .contrast = Contrast::High},
+        {.name = u"contrast"_s, .contrast = ContrastLevel::High},
+        {.name = u"contrast-dark"_s, .scheme = ColorScheme::Dark, .contrast = ContrastLevel::High},
         {.name = u"light@1x"_s, .scale = 1},
         {.name = u"light@1.25x"_s, .scale = 1.25},
         {.name = u"light@1.5x"_s, .scale = 1.5},

@@ -19,7 +19,7 @@ namespace quorvane {
 struct BoardSetting {
     QString name; ///< what the pictures' names end with
     ColorScheme scheme = ColorScheme::Light;
-    Contrast contrast = Contrast::Normal;
+    ContrastLevel contrast = ContrastLevel::Normal;
     double scale = 2; ///< device pixels for a point
     int bodyPixels = 13;
     Qt::LayoutDirection direction = Qt::LeftToRight;

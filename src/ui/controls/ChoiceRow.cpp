@@ -20,11 +20,11 @@ ChoiceRow::ChoiceRow(const QString& title, bool isChosen, QWidget* parent)
 }
 
 QSize ChoiceRow::sizeHint() const {
-    return {2 * horizontalPadding + slotWidth + slotGap + titleWidth(), height};
+    return {2 * horizontalPadding + slotWidth + slotGap + titleWidth(), rowHeight};
 }
 
 void ChoiceRow::paintContent(QPainter& painter, const Theme& theme) {
-    const QRect slot(horizontalPadding, 0, slotWidth, height);
+    const QRect slot(horizontalPadding, 0, slotWidth, rowHeight);
     if (isChecked())
         paintSymbol(painter, Symbol::Checkmark, markStyle, placed(slot), theme.accentText);
     constexpr int titleStart = horizontalPadding + slotWidth + slotGap;

@@ -29,13 +29,13 @@ CommandRow::CommandRow(
 QSize CommandRow::sizeHint() const {
     const int symbol = static_cast<int>(symbolStyle.size);
     const int keys = m_keys.isEmpty() ? 0 : keysDistance + keysWidth();
-    return {2 * horizontalPadding + symbol + symbolGap + titleWidth() + keys, height};
+    return {2 * horizontalPadding + symbol + symbolGap + titleWidth() + keys, rowHeight};
 }
 
 void CommandRow::paintContent(QPainter& painter, const Theme& theme) {
     const int symbol = static_cast<int>(symbolStyle.size);
     const auto color = hasFocus() || isDown() ? theme.text : theme.secondaryText;
-    const QRect symbolPlace(horizontalPadding, 0, symbol, height);
+    const QRect symbolPlace(horizontalPadding, 0, symbol, rowHeight);
     paintSymbol(painter, m_symbol, symbolStyle, placed(symbolPlace), color);
     const int titleStart = horizontalPadding + symbol + symbolGap;
     const auto rest = rect().adjusted(titleStart, 0, -horizontalPadding, 0);

@@ -11,7 +11,7 @@ class MenuRow : public PressableControl {
     Q_OBJECT
 
 public:
-    static constexpr int height = 30;
+    static constexpr int rowHeight = 30;
 
     MenuRow(const QString& title, QWidget* parent);
 

@@ -44,7 +44,7 @@ SearchField::SearchField(const QString& prompt, QWidget* parent)
 }
 
 QSize SearchField::sizeHint() const {
-    return {TextField::sizeHint().width(), height};
+    return {TextField::sizeHint().width(), fieldHeight};
 }
 
 void SearchField::setTrailingRoom(int points) {
@@ -60,9 +60,9 @@ bool SearchField::event(QEvent* event) {
 }
 
 void SearchField::paintSurface(QPainter& painter) {
-    const auto theme = Theme::of(surroundings());
+    const auto theme = Theme::of(surroundingPalette());
     fillRounded(painter, rect(), ChipSurface::cornerRadius, theme.subtleFill);
-    const QRect lens(sidePadding, 0, lensSize, QWidget::height());
+    const QRect lens(sidePadding, 0, lensSize, height());
     paintSymbol(
         painter,
         Symbol::Magnifyingglass,
@@ -82,8 +82,7 @@ void SearchField::adoptLayout() {
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     setPadding(
         mirrored ? clearSide + clearGap : lensSide, mirrored ? lensSide : clearSide + clearGap);
-    const QRect clear(
-        width() - clearSide, (QWidget::height() - clearSize) / 2, clearSize, clearSize);
+    const QRect clear(width() - clearSide, (height() - clearSize) / 2, clearSize, clearSize);
     m_clear->setGeometry(QStyle::visualRect(layoutDirection(), rect(), clear));
 }
 

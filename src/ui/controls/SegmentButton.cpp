@@ -2,7 +2,7 @@
 #include "SegmentButton.h"
 
 #include <controls/ChipSurface.h>
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
 

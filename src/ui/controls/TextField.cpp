@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChipSurface.h>
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextField.h>
 
@@ -46,7 +46,7 @@ void TextField::paintEvent(QPaintEvent* event) {
                 painter,
                 rect(),
                 ChipSurface::cornerRadius,
-                Theme::of(surroundings()).accentText,
+                Theme::of(surroundingPalette()).accentText,
                 focusFrameWidth);
     }
     QLineEdit::paintEvent(event);
@@ -96,16 +96,16 @@ void TextField::centerText() {
 
 void TextField::paintSurface(QPainter& painter) {
     ChipSurface::paint(
-        painter, rect(), Theme::of(surroundings()), PressableControl::VisualState::Normal);
+        painter, rect(), Theme::of(surroundingPalette()), PressableControl::VisualState::Normal);
 }
 
-const QPalette& TextField::surroundings() const {
+const QPalette& TextField::surroundingPalette() const {
     return parentWidget() != nullptr ? parentWidget()->palette() : palette();
 }
 
 void TextField::adoptColors() {
     const QScopedValueRollback adopting(m_adopting, true);
-    const auto theme = Theme::of(surroundings());
+    const auto theme = Theme::of(surroundingPalette());
     QPalette own;
     // The surface is ours; a style that fills a line edit must not paint over it.
     own.setColor(QPalette::Base, Qt::transparent);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/Theme.h>
 
 #include <algorithm>
@@ -212,9 +212,10 @@ Theme highContrastTheme(const QPalette& palette) {
 }
 
 /// What decides a theme, and nothing else.
-QPalette seedPalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
+QPalette
+seedPalette(ColorScheme scheme, ContrastLevel contrast, const std::optional<QColor>& accent) {
     const auto& builtIn = Theme::builtIn(scheme);
-    const bool isHigh = contrast == Contrast::High;
+    const bool isHigh = contrast == ContrastLevel::High;
     const bool isDark = scheme == ColorScheme::Dark;
     const QColor strongest = isDark ? Qt::white : Qt::black;
     const QColor faintest = isDark ? Qt::black : Qt::white;
@@ -251,7 +252,7 @@ Theme Theme::of(const QPalette& palette) {
 }
 
 QPalette
-builtInPalette(ColorScheme scheme, Contrast contrast, const std::optional<QColor>& accent) {
+builtInPalette(ColorScheme scheme, ContrastLevel contrast, const std::optional<QColor>& accent) {
     const auto theme = Theme::of(seedPalette(scheme, contrast, accent));
     QPalette palette(theme.controlBackground, theme.windowBackground);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})

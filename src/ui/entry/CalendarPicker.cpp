@@ -23,11 +23,11 @@ constexpr int headerGap = 4;
 } // namespace
 
 CalendarPicker::CalendarPicker(
-    DateBinding date, MinDate minDate, const EntrySurroundings& surroundings, QWidget* parent)
+    DateBinding date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
     : QWidget(parent),
       m_date(std::move(date)),
       m_minDate(std::move(minDate)),
-      m_surroundings(surroundings),
+      m_dependencies(dependencies),
       m_title(new QLabel(this)),
       m_grid(new CalendarGrid(this)) {
     m_title->setTextFormat(Qt::PlainText);
@@ -46,7 +46,7 @@ void CalendarPicker::refresh() {
 }
 
 void CalendarPicker::keyPressEvent(QKeyEvent* event) {
-    const auto day = dayAfterKey(m_cursor, *event, layoutDirection(), m_surroundings.locale);
+    const auto day = dayAfterKey(m_cursor, *event, layoutDirection(), m_dependencies.locale);
     if (!day) {
         QWidget::keyPressEvent(event);
         return;
@@ -83,7 +83,7 @@ void CalendarPicker::layOut() {
 }
 
 void CalendarPicker::turnPage(int months) {
-    showCursor(movedByMonths(m_cursor, months, m_surroundings.locale));
+    showCursor(movedByMonths(m_cursor, months, m_dependencies.locale));
     mark();
 }
 
@@ -98,7 +98,7 @@ void CalendarPicker::pick(CivilDay day) {
 void CalendarPicker::showCursor(CivilDay day) {
     const bool hadFocus = focusWidget() != nullptr && m_grid->isAncestorOf(focusWidget());
     m_cursor = day;
-    const auto month = monthGrid(day, m_surroundings.locale);
+    const auto month = monthGrid(day, m_dependencies.locale);
     m_title->setText(month.title);
     m_grid->showMonth(month, day);
     setFocusProxy(m_grid->dayAt(day));
@@ -108,7 +108,7 @@ void CalendarPicker::showCursor(CivilDay day) {
 
 void CalendarPicker::mark() {
     m_grid->mark(
-        {civilDay(m_surroundings.clock.now(), zone()), m_chosen.value_or(m_cursor), earliestDay()});
+        {civilDay(m_dependencies.clock.now(), zone()), m_chosen.value_or(m_cursor), earliestDay()});
 }
 
 void CalendarPicker::followFont() {

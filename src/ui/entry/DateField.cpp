@@ -7,17 +7,17 @@
 namespace quorvane {
 
 DateField::DateField(
-    DateBinding date, MinDate minDate, const EntrySurroundings& surroundings, QWidget* parent)
-    : FieldChip(Symbol::Calendar, surroundings.popoverEffects, parent),
+    DateBinding date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
+    : FieldChip(Symbol::Calendar, dependencies.popoverEffects, parent),
       m_date(std::move(date)),
       m_minDate(std::move(minDate)),
-      m_surroundings(surroundings) {
+      m_dependencies(dependencies) {
     refresh();
 }
 
 void DateField::refresh() {
     showText(
-        dateChipText(m_date.get(), m_surroundings.currentZone.current(), m_surroundings.locale));
+        dateChipText(m_date.get(), m_dependencies.currentZone.current(), m_dependencies.locale));
     if (m_calendar)
         m_calendar->refresh();
 }
@@ -27,7 +27,7 @@ QWidget* DateField::makeContent() {
         m_date.set(date);
         refresh();
     };
-    m_calendar = new CalendarPicker({m_date.get, set}, m_minDate, m_surroundings);
+    m_calendar = new CalendarPicker({m_date.get, set}, m_minDate, m_dependencies);
     return m_calendar;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "NumberField.h"
 
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>

@@ -8,16 +8,16 @@
 
 namespace quorvane {
 
-TimeField::TimeField(DateBinding date, const EntrySurroundings& surroundings, QWidget* parent)
-    : FieldChip(Symbol::Clock, surroundings.popoverEffects, parent),
+TimeField::TimeField(DateBinding date, const EntryDependencies& dependencies, QWidget* parent)
+    : FieldChip(Symbol::Clock, dependencies.popoverEffects, parent),
       m_date(std::move(date)),
-      m_surroundings(surroundings) {
+      m_dependencies(dependencies) {
     refresh();
 }
 
 void TimeField::refresh() {
     showText(
-        timeChipText(m_date.get(), m_surroundings.currentZone.current(), m_surroundings.locale));
+        timeChipText(m_date.get(), m_dependencies.currentZone.current(), m_dependencies.locale));
 }
 
 QWidget* TimeField::makeContent() {
@@ -25,7 +25,7 @@ QWidget* TimeField::makeContent() {
         m_date.set(date);
         refresh();
     };
-    return new TimePickerPopover({m_date.get, set}, m_surroundings.currentZone);
+    return new TimePickerPopover({m_date.get, set}, m_dependencies.currentZone);
 }
 
 } // namespace quorvane

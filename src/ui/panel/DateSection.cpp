@@ -29,10 +29,10 @@ void tick(CheckBox* box, bool isChecked) {
 } // namespace
 
 DateSection::DateSection(
-    DateTimeModel& model, const EntrySurroundings& surroundings, QWidget* parent)
+    DateTimeModel& model, const EntryDependencies& dependencies, QWidget* parent)
     : Section(tr("When"), Symbol::Calendar, parent),
       m_model(model),
-      m_surroundings(surroundings),
+      m_dependencies(dependencies),
       m_includeDate(new CheckBox(tr("Date"), this)),
       m_includeTime(new CheckBox(tr("Time"), this)),
       m_isRange(new CheckBox(tr("to"), this)),
@@ -77,15 +77,15 @@ void DateSection::focusStart() {
 
 QString DateSection::localTimeZoneLabel() const {
     return zoneLabel(
-        m_surroundings.currentZone.current(), m_surroundings.clock.now(), m_surroundings.locale);
+        m_dependencies.currentZone.current(), m_dependencies.clock.now(), m_dependencies.locale);
 }
 
 DateSection::DateTimePair DateSection::dateTimePair(
     const DateBinding& selection, const MinDate& minDate, const PairNames& names) {
     DateTimePair pair{
         new QWidget(this),
-        new DateField(selection, minDate, m_surroundings),
-        new TimeField(selection, m_surroundings)};
+        new DateField(selection, minDate, m_dependencies),
+        new TimeField(selection, m_dependencies)};
     pair.date->setAccessibleDescription(names.date);
     pair.time->setAccessibleDescription(names.time);
     auto* row = new QHBoxLayout(pair.row);

@@ -5,7 +5,7 @@
 
 #include <entry/DateBinding.h>
 #include <entry/DateField.h>
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 #include <entry/TimeField.h>
 #include <model/DateTimeModel.h>
 
@@ -18,7 +18,7 @@ class DateSection final : public Section {
     Q_OBJECT
 
 public:
-    DateSection(DateTimeModel& model, const EntrySurroundings& surroundings, QWidget* parent);
+    DateSection(DateTimeModel& model, const EntryDependencies& dependencies, QWidget* parent);
 
     /// Shows the model, the zone and the day as they are now.
     void refresh();
@@ -49,7 +49,7 @@ private:
     void refresh(const DateTimePair& pair);
 
     DateTimeModel& m_model;
-    EntrySurroundings m_surroundings;
+    EntryDependencies m_dependencies;
     CheckBox* m_includeDate;
     CheckBox* m_includeTime;
     CheckBox* m_isRange;

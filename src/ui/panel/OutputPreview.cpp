@@ -3,7 +3,7 @@
 #include "OutputLayout.h"
 #include "OutputParts.h"
 
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/OverlayScrollBar.h>
 #include <controls/Theme.h>

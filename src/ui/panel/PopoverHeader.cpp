@@ -33,16 +33,17 @@ constexpr int buttonOverhang = 8; ///< the last button's ink ends with the colum
 
 } // namespace
 
-PopoverHeader::PopoverHeader(Actions actions, const PopoverEffects& effects, QWidget* parent)
+PopoverHeader::PopoverHeader(Callbacks callbacks, const PopoverEffects& effects, QWidget* parent)
     : QWidget(parent),
       m_caps(new QHBoxLayout),
       m_presentation(new IconButton(IconButton::Kind::Header, Symbol::Macwindow, {}, this)) {
     setFixedHeight(headerHeight);
     auto* more =
-        new MenuButton(Symbol::Ellipsis, tr("More"), std::move(actions.menu), effects, this);
+        new MenuButton(Symbol::Ellipsis, tr("More"), std::move(callbacks.menu), effects, this);
     auto* close = new IconButton(IconButton::Kind::Close, Symbol::Xmark, tr("Close"), this);
-    connect(m_presentation, &IconButton::clicked, this, std::move(actions.togglePresentationMode));
-    connect(close, &IconButton::clicked, this, std::move(actions.close));
+    connect(
+        m_presentation, &IconButton::clicked, this, std::move(callbacks.togglePresentationMode));
+    connect(close, &IconButton::clicked, this, std::move(callbacks.close));
     setPresentationMode(PresentationMode::Popover);
     layOut({m_presentation, more, close});
 }

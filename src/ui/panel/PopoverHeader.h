@@ -22,13 +22,13 @@ class PopoverHeader final : public QWidget {
     Q_OBJECT
 
 public:
-    struct Actions {
+    struct Callbacks {
         std::function<void()> togglePresentationMode;
         std::function<void()> close;
         std::vector<Command> menu;
     };
 
-    PopoverHeader(Actions actions, const PopoverEffects& effects, QWidget* parent);
+    PopoverHeader(Callbacks callbacks, const PopoverEffects& effects, QWidget* parent);
 
     /// One cap for each label, in order; its name, of as many, is for those who do not see it.
     void setKeys(const QStringList& labels, const QStringList& names);

@@ -27,18 +27,18 @@ const QKeySequence quitKeys(Qt::CTRL | Qt::Key_Q);
 
 } // namespace
 
-PopoverView::PopoverView(DateTimeModel& model, Services services, Callbacks callbacks)
+PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callbacks callbacks)
     : m_model(model),
-      m_services(std::move(services)),
+      m_dependencies(std::move(dependencies)),
       m_callbacks(std::move(callbacks)),
-      m_refresh(m_services.mainQueue, [this] { refresh(); }),
+      m_refresh(m_dependencies.mainQueue, [this] { refresh(); }),
       m_header(makeHeader()),
-      m_dateSection(new DateSection(model, entrySurroundings(), this)),
-      m_timeZoneSection(
-          new TimeZoneSection(model, {m_services.zones, m_services.clock, model.locale()}, this)),
-      m_formatSection(new FormatSection(model, m_services.popoverEffects, this)),
-      m_previewSection(new PreviewSection(m_services.mainQueue, this)),
-      m_actionBar(new ActionBar(m_services.mainQueue, this)) {
+      m_dateSection(new DateSection(model, entryDependencies(), this)),
+      m_timeZoneSection(new TimeZoneSection(
+          model, {m_dependencies.zones, m_dependencies.clock, model.locale()}, this)),
+      m_formatSection(new FormatSection(model, m_dependencies.popoverEffects, this)),
+      m_previewSection(new PreviewSection(m_dependencies.mainQueue, this)),
+      m_actionBar(new ActionBar(m_dependencies.mainQueue, this)) {
     layOut();
     addShortcuts();
     connectControls();
@@ -48,7 +48,7 @@ PopoverView::PopoverView(DateTimeModel& model, Services services, Callbacks call
 PopoverView::~PopoverView() = default;
 
 void PopoverView::performCopy() {
-    copyText(m_services.pasteboard, m_model.formattedOutput());
+    copyText(m_dependencies.pasteboard, m_model.formattedOutput());
     m_actionBar->copyButton().confirm();
 }
 
@@ -71,8 +71,12 @@ void PopoverView::showEvent(QShowEvent* event) {
         m_dateSection->focusStart();
 }
 
-EntrySurroundings PopoverView::entrySurroundings() const {
-    return {m_services.clock, m_services.currentZone, m_model.locale(), m_services.popoverEffects};
+EntryDependencies PopoverView::entryDependencies() const {
+    return {
+        m_dependencies.clock,
+        m_dependencies.currentZone,
+        m_model.locale(),
+        m_dependencies.popoverEffects};
 }
 
 PopoverHeader* PopoverView::makeHeader() {
@@ -97,7 +101,7 @@ PopoverHeader* PopoverView::makeHeader() {
            [this] {
                m_callbacks.onQuit();
            }}}},
-        m_services.popoverEffects,
+        m_dependencies.popoverEffects,
         this);
 }
 
@@ -146,8 +150,8 @@ void PopoverView::connectControls() {
 void PopoverView::refresh() {
     const auto hotKey = m_model.hotKey();
     m_header->setKeys(
-        hotKey.displayKeys(m_services.keyboardLayout),
-        spokenKeys(hotKey, m_services.keyboardLayout));
+        hotKey.displayKeys(m_dependencies.keyboardLayout),
+        spokenKeys(hotKey, m_dependencies.keyboardLayout));
     m_header->setPresentationMode(m_model.presentationMode());
     m_dateSection->refresh();
     m_timeZoneSection->refresh();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChipSurface.h>
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 
 #include <QPainter>

@@ -32,10 +32,10 @@ void discard(ZoneChip* chip) {
 } // namespace
 
 TimeZoneSection::TimeZoneSection(
-    DateTimeModel& model, const TimeZonePickerView::Surroundings& surroundings, QWidget* parent)
+    DateTimeModel& model, const TimeZonePickerView::Dependencies& dependencies, QWidget* parent)
     : Section(tr("Time Zones"), Symbol::Globe, parent),
       m_model(model),
-      m_surroundings(surroundings),
+      m_dependencies(dependencies),
       m_add(new IconButton(IconButton::Kind::Section, Symbol::Plus, tr("Add time zone"), this)),
       m_flow(new FlowLayout(panelmetrics::chipSpacing)) {
     label().addTrailing(m_add, SectionLabel::End::BeyondColumn);
@@ -91,7 +91,7 @@ void TimeZoneSection::showTimeZonePicker() {
              m_model.setSelectedTimeZones(std::move(zones));
          }},
         m_model.favoriteTimeZoneIdentifiers(),
-        m_surroundings);
+        m_dependencies);
     m_picker = new Sheet(window(), picker);
     connect(picker, &TimeZonePickerView::done, m_picker, &Sheet::close);
     m_picker->open();
@@ -131,7 +131,7 @@ ZoneChip* TimeZoneSection::takeOrMakeChip(const Slot& slot) {
 }
 
 QString TimeZoneSection::shortName(const TimeZone& zone) const {
-    return zoneLabel(zone, m_surroundings.clock.now(), m_surroundings.locale);
+    return zoneLabel(zone, m_dependencies.clock.now(), m_dependencies.locale);
 }
 
 void TimeZoneSection::add(const TimeZone& zone) {

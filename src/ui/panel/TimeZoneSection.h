@@ -25,7 +25,7 @@ class TimeZoneSection final : public Section {
 public:
     TimeZoneSection(
         DateTimeModel& model,
-        const TimeZonePickerView::Surroundings& surroundings,
+        const TimeZonePickerView::Dependencies& dependencies,
         QWidget* parent);
 
     /// Shows the model's zones, with the labels that they have now. Chips that stay keep their
@@ -57,7 +57,7 @@ private:
     void remove(const TimeZone& zone);
 
     DateTimeModel& m_model;
-    TimeZonePickerView::Surroundings m_surroundings;
+    TimeZonePickerView::Dependencies m_dependencies;
     IconButton* m_add;
     FlowLayout* m_flow;
     std::vector<ZoneChip*> m_chips;

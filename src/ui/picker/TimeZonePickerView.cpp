@@ -48,18 +48,18 @@ QWidget* makeHead(TextButton* done) {
 TimeZonePickerView::TimeZonePickerView(
     Selection selectedTimeZones,
     const QStringList& favoriteIdentifiers,
-    const Surroundings& surroundings,
+    const Dependencies& dependencies,
     QWidget* parent)
     : QWidget(parent),
       m_selection(std::move(selectedTimeZones)),
-      m_clock(surroundings.clock),
-      m_favorites(surroundings.zones.zones(favoriteIdentifiers)),
+      m_clock(dependencies.clock),
+      m_favorites(dependencies.zones.zones(favoriteIdentifiers)),
       m_search(
-          TimeZoneCatalogue(surroundings.zones, surroundings.clock.now()), surroundings.locale),
+          TimeZoneCatalogue(dependencies.zones, dependencies.clock.now()), dependencies.locale),
       m_field(new SearchField(tr("Search by name, city, or abbreviation"), this)),
       m_model(new ZoneListModel(
-          surroundings.clock,
-          surroundings.locale,
+          dependencies.clock,
+          dependencies.locale,
           [this](const TimeZone& zone) { return isSelected(zone); },
           this)),
       m_list(new ZoneList(this)),

@@ -4,7 +4,7 @@
 #include "StarMark.h"
 #include "WrappedText.h"
 
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <picker/ZoneList.h>
 #include <picker/ZoneListModel.h>

@@ -16,23 +16,23 @@
 namespace quorvane {
 
 PreferencesView::PreferencesView(
-    DateTimeModel& model, Services services, OnHotKeyChange onHotKeyChange, QWidget* parent)
+    DateTimeModel& model, Dependencies dependencies, OnHotKeyChange onHotKeyChange, QWidget* parent)
     : QWidget(parent),
       m_model(model),
-      m_services(std::move(services)),
+      m_dependencies(std::move(dependencies)),
       m_onHotKeyChange(std::move(onHotKeyChange)),
       m_editingCombo(model.hotKey()),
-      m_refresh(m_services.mainQueue, [this] { refresh(); }),
+      m_refresh(m_dependencies.mainQueue, [this] { refresh(); }),
       m_shortcut(new ShortcutSection(
           {[this] { return m_editingCombo; },
            [this](HotKeyCombo combo) {
                change(combo);
            }},
-          m_services.keyboardLayout,
-          m_services.mainQueue,
+          m_dependencies.keyboardLayout,
+          m_dependencies.mainQueue,
           this)),
       m_icons(new IconsSection(model, this)),
-      m_favorites(new FavoritesSection(model, m_services.zones, m_services.clock, this)) {
+      m_favorites(new FavoritesSection(model, m_dependencies.zones, m_dependencies.clock, this)) {
     setFixedWidth(preferencesmetrics::width);
     layOut();
     connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });
@@ -100,7 +100,7 @@ void PreferencesView::change(HotKeyCombo combo) {
 }
 
 void PreferencesView::refresh() {
-    m_shortcut->recorder().setActivity(m_services.shortcutActivity());
+    m_shortcut->recorder().setActivity(m_dependencies.shortcutActivity());
     m_icons->refresh();
     m_favorites->refresh();
 }

@@ -27,10 +27,10 @@ bool isEscape(const QKeyEvent& event) {
 
 } // namespace
 
-KeyCapture::KeyCapture(MainQueue& queue, Intents intents, QWidget* parent)
+KeyCapture::KeyCapture(MainQueue& queue, Callbacks callbacks, QWidget* parent)
     : RoleWidget(QAccessible::HotkeyField, parent),
       m_queue(queue),
-      m_intents(std::move(intents)),
+      m_callbacks(std::move(callbacks)),
       m_held(std::make_unique<HeldModifiers>()),
       m_repeats(std::make_unique<RepeatedKeys>()) {
     // Keys are what is wanted here, not what an input method would compose of them.
@@ -105,7 +105,7 @@ void KeyCapture::keyDown(const QKeyEvent& event) {
     if (!m_isRecording || event.isAutoRepeat())
         return;
     if (const auto flags = m_held->afterPress(event)) {
-        m_intents.onModifiers(*flags);
+        m_callbacks.onModifiers(*flags);
         return;
     }
     if (isEscape(event)) {
@@ -118,23 +118,23 @@ void KeyCapture::keyDown(const QKeyEvent& event) {
     if (!keyCode || modifiers == 0)
         return;
     m_repeats->swallowRepeatsOf(event);
-    m_intents.onCombo({*keyCode, modifiers});
+    m_callbacks.onCombo({*keyCode, modifiers});
 }
 
 void KeyCapture::keyUp(const QKeyEvent& event) {
     if (!m_isRecording || event.isAutoRepeat())
         return;
     if (const auto flags = m_held->afterRelease(event))
-        m_intents.onModifiers(*flags);
+        m_callbacks.onModifiers(*flags);
 }
 
 void KeyCapture::reportModifiers(ModifierFlags flags) {
     m_held->forget();
-    m_intents.onModifiers(flags);
+    m_callbacks.onModifiers(flags);
 }
 
 void KeyCapture::cancel() {
-    m_intents.onCancel();
+    m_callbacks.onCancel();
 }
 
 } // namespace quorvane

@@ -91,7 +91,7 @@ void ShortcutRecorder::refresh() {
 }
 
 QSize ShortcutRecorder::sizeHint() const {
-    return {RoleWidget::sizeHint().width(), height};
+    return {RoleWidget::sizeHint().width(), recorderHeight};
 }
 
 void ShortcutRecorder::paintEvent(QPaintEvent* /*event*/) {

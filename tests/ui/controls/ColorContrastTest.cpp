@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@ namespace quorvane {
 namespace {
 
 // Ratios by the definition of WCAG 2.1, as published checkers print them.
-TEST(Contrast, RatioIsThatOfTheGuidelines) {
+TEST(ColorContrast, RatioIsThatOfTheGuidelines) {
     struct Row {
         QColor a;
         QColor b;
@@ -28,18 +28,18 @@ TEST(Contrast, RatioIsThatOfTheGuidelines) {
         EXPECT_NEAR(contrastRatio(row.a, row.b), row.ratio, 0.005) << row.a.name().toStdString();
 }
 
-TEST(Contrast, BlendingIsWhatOneSees) {
+TEST(ColorContrast, BlendingIsWhatOneSees) {
     EXPECT_EQ(blended(withOpacity(Qt::black, 0.4), Qt::white).name(), QColor(0x999999).name());
     EXPECT_EQ(blended(withOpacity(Qt::red, 0), Qt::blue), QColor(Qt::blue));
     EXPECT_EQ(blended(Qt::red, Qt::blue), QColor(Qt::red));
     EXPECT_EQ(blended(withOpacity(Qt::white, 0.2), Qt::black).name(), QColor(0x333333).name());
 }
 
-TEST(Contrast, ColorThatIsReadableStays) {
+TEST(ColorContrast, ColorThatIsReadableStays) {
     EXPECT_EQ(pushedToContrast(0x767676, Qt::white, 4.5), QColor(0x767676));
 }
 
-TEST(Contrast, PushedColorReachesTheRatioAndKeepsItsHue) {
+TEST(ColorContrast, PushedColorReachesTheRatioAndKeepsItsHue) {
     const QColor colors[] = {0xffff00, 0x3daee9, 0x00ff00, 0xffc0cb, 0x202060};
     const QColor grounds[] = {Qt::white, Qt::black, 0xf6f6f8, 0x2a2b2f, 0x777777};
     for (const auto& color : colors) {
@@ -53,12 +53,12 @@ TEST(Contrast, PushedColorReachesTheRatioAndKeepsItsHue) {
     }
 }
 
-TEST(Contrast, ExtremesMoveAwayFromTheirOwnEnd) {
+TEST(ColorContrast, ExtremesMoveAwayFromTheirOwnEnd) {
     for (const QColor color : {QColor(Qt::black), QColor(Qt::white)})
         EXPECT_GE(contrastRatio(pushedToContrast(color, color, 4.5), color), 4.5);
 }
 
-TEST(Contrast, WhereNoLightnessReachesTheRatioTheEndIsTaken) {
+TEST(ColorContrast, WhereNoLightnessReachesTheRatioTheEndIsTaken) {
     EXPECT_EQ(pushedToContrast(Qt::red, 0x777777, 21), QColor(Qt::black));
     EXPECT_EQ(pushedToContrast(Qt::red, 0x606060, 21), QColor(Qt::white));
 }

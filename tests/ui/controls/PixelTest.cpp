@@ -3,7 +3,7 @@
 
 #include <controls/ActionButton.h>
 #include <controls/CheckBox.h>
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/SegmentedChip.h>
 #include <support/Pixels.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/Theme.h>
 
 #include <gtest/gtest.h>
@@ -180,7 +180,7 @@ class ThemeOfHighContrast
     : public testing::TestWithParam<std::tuple<ColorScheme, std::optional<QRgb>>> {
 protected:
     ColorScheme scheme = std::get<0>(GetParam());
-    QPalette palette = builtInPalette(scheme, Contrast::High, accent());
+    QPalette palette = builtInPalette(scheme, ContrastLevel::High, accent());
     Theme theme = Theme::of(palette);
 
     static std::optional<QColor> accent() {
@@ -269,7 +269,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Theme, HousesAccentIsTheUsersWhereThereIsOne) {
     for (const auto scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-        const auto theme = Theme::of(builtInPalette(scheme, Contrast::Normal, QColor(0x1c71d8)));
+        const auto theme =
+            Theme::of(builtInPalette(scheme, ContrastLevel::Normal, QColor(0x1c71d8)));
         EXPECT_EQ(theme.accent, QColor(0x1c71d8));
         EXPECT_EQ(theme.windowBackground, Theme::builtIn(scheme).windowBackground);
         EXPECT_EQ(theme.secondaryText, Theme::builtIn(scheme).secondaryText);
@@ -279,7 +280,8 @@ TEST(Theme, HousesAccentIsTheUsersWhereThereIsOne) {
 
 TEST(Theme, SelectedTextOfTheHouseIsReadableOnAnyAccent) {
     for (const QRgb accent : {0xff3daee9, 0xfff6d32d, 0xffffffff, 0xff000000}) {
-        const auto palette = builtInPalette(ColorScheme::Light, Contrast::Normal, QColor(accent));
+        const auto palette =
+            builtInPalette(ColorScheme::Light, ContrastLevel::Normal, QColor(accent));
         EXPECT_GE(
             contrastRatio(
                 palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)),

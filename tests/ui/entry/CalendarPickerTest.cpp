@@ -21,7 +21,7 @@ protected:
 
     void open(const char* locale = "en_US") {
         chip = std::make_unique<DateField>(
-            binding(), [this] { return minimum; }, surroundings(locale), &window);
+            binding(), [this] { return minimum; }, dependencies(locale), &window);
         chip->move(20, 20);
         chip->show();
         showWindow();

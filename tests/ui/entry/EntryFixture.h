@@ -2,7 +2,7 @@
 #pragma once
 
 #include <entry/DateBinding.h>
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 #include <support/WidgetSearch.h>
 
 #include <QAbstractButton>
@@ -41,7 +41,7 @@ protected:
             }};
     }
 
-    EntrySurroundings surroundings(const char* locale = "en_US") {
+    EntryDependencies dependencies(const char* locale = "en_US") {
         return {clock, currentZone, UserLocale::named(QString::fromUtf8(locale)), {}};
     }
 

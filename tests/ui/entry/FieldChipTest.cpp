@@ -12,8 +12,8 @@ using namespace std::chrono_literals;
 
 class FieldChipTest : public EntryFixture {
 protected:
-    DateField dateChip{binding(), {}, surroundings(), &window};
-    TimeField timeChip{binding(), surroundings(), &window};
+    DateField dateChip{binding(), {}, dependencies(), &window};
+    TimeField timeChip{binding(), dependencies(), &window};
 
     FieldChipTest() {
         dateChip.move(20, 20);

@@ -83,7 +83,7 @@ const View views[] = {
      [](World& world) {
          return std::make_unique<PopoverView>(
              world.model,
-             PopoverView::Services{
+             PopoverView::Dependencies{
                  world.pasteboard,
                  world.layout,
                  world.zones,
@@ -98,7 +98,7 @@ const View views[] = {
          return std::make_unique<CalendarPicker>(
              world.date,
              nullptr,
-             EntrySurroundings{world.clock, world.currentZone, world.locale, {}});
+             EntryDependencies{world.clock, world.currentZone, world.locale, {}});
      }},
     {"Time",
      [](World& world) {
@@ -112,7 +112,7 @@ const View views[] = {
                  [](const std::vector<TimeZone>&) {
                  }},
              QStringList{u"Asia/Tokyo"_s},
-             TimeZonePickerView::Surroundings{world.zones, world.clock, world.locale});
+             TimeZonePickerView::Dependencies{world.zones, world.clock, world.locale});
      }},
     {"Fields", makeFields},
 };
@@ -154,9 +154,9 @@ TEST_P(LivePalette, AViewThatLivedThroughTheChangeLooksLikeOneMadeAfterIt) {
     const auto light = picture(*old);
     const QPalette changes[] = {
         builtInPalette(ColorScheme::Dark),
-        builtInPalette(ColorScheme::Dark, Contrast::Normal, QColor(0xe95420)),
-        builtInPalette(ColorScheme::Light, Contrast::High),
-        builtInPalette(ColorScheme::Dark, Contrast::High),
+        builtInPalette(ColorScheme::Dark, ContrastLevel::Normal, QColor(0xe95420)),
+        builtInPalette(ColorScheme::Light, ContrastLevel::High),
+        builtInPalette(ColorScheme::Dark, ContrastLevel::High),
         builtInPalette(ColorScheme::Light)};
     for (const auto& palette : changes) {
         QApplication::setPalette(palette);

@@ -56,7 +56,7 @@ protected:
     void openView() {
         view = std::make_unique<PreferencesView>(
             *model,
-            PreferencesView::Services{
+            PreferencesView::Dependencies{
                 layout,
                 zones,
                 queue,

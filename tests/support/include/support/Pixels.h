@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <support/ControlWindow.h>
 
 #include <gtest/gtest.h>

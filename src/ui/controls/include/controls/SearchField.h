@@ -12,7 +12,7 @@ class SearchField final : public TextField {
     Q_OBJECT
 
 public:
-    static constexpr int height = 32;
+    static constexpr int fieldHeight = 32;
 
     explicit SearchField(const QString& prompt, QWidget* parent = nullptr);
 

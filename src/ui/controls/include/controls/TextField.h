@@ -27,7 +27,7 @@ protected:
     virtual void paintSurface(QPainter& painter);
 
     /// The palette that the field stands in: its own holds what the line of text needs.
-    [[nodiscard]] const QPalette& surroundings() const;
+    [[nodiscard]] const QPalette& surroundingPalette() const;
 
 private:
     void adoptColors();

@@ -11,7 +11,7 @@ namespace quorvane {
 
 enum class ColorScheme { Light, Dark };
 
-enum class Contrast { Normal, High };
+enum class ContrastLevel { Normal, High };
 
 /// Every colour of the interface. Views ask for it when they paint, so that a change of the
 /// palette shows at once.
@@ -70,7 +70,7 @@ struct Theme {
 /// darkened or lightened until what stands on it can be read.
 [[nodiscard]] QPalette builtInPalette(
     ColorScheme scheme,
-    Contrast contrast = Contrast::Normal,
+    ContrastLevel contrast = ContrastLevel::Normal,
     const std::optional<QColor>& accent = std::nullopt);
 
 /// Whether text is lighter than what it stands on.

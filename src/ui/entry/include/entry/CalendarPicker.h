@@ -3,7 +3,7 @@
 
 #include <entry/CalendarGrid.h>
 #include <entry/DateBinding.h>
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 
 #include <QWidget>
 
@@ -27,7 +27,7 @@ public:
     CalendarPicker(
         DateBinding date,
         MinDate minDate,
-        const EntrySurroundings& surroundings,
+        const EntryDependencies& dependencies,
         QWidget* parent = nullptr);
 
     /// Shows date, minimum, zone and today as they are now. The page turns only if the date's day
@@ -46,7 +46,7 @@ private:
     void mark();
     void followFont();
 
-    [[nodiscard]] TimeZone zone() const { return m_surroundings.currentZone.current(); }
+    [[nodiscard]] TimeZone zone() const { return m_dependencies.currentZone.current(); }
 
     [[nodiscard]] CivilDay chosenDay() const { return civilDay(m_date.get(), zone()); }
 
@@ -54,7 +54,7 @@ private:
 
     DateBinding m_date;
     MinDate m_minDate;
-    EntrySurroundings m_surroundings;
+    EntryDependencies m_dependencies;
     QLabel* m_title;
     CalendarGrid* m_grid;
     std::optional<CivilDay> m_chosen; ///< as last shown

@@ -3,7 +3,7 @@
 
 #include <entry/CalendarPicker.h>
 #include <entry/DateBinding.h>
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 #include <entry/FieldChip.h>
 
 #include <QPointer>
@@ -18,7 +18,7 @@ public:
     DateField(
         DateBinding date,
         MinDate minDate,
-        const EntrySurroundings& surroundings,
+        const EntryDependencies& dependencies,
         QWidget* parent = nullptr);
 
     /// Shows date, minimum, zone and today as they are now, in an open calendar too.
@@ -30,7 +30,7 @@ protected:
 private:
     DateBinding m_date;
     MinDate m_minDate;
-    EntrySurroundings m_surroundings;
+    EntryDependencies m_dependencies;
     QPointer<CalendarPicker> m_calendar;
 };
 

@@ -11,7 +11,7 @@ namespace quorvane {
 
 /// What the entry of dates and times needs to know of the system. What is referred to must outlive
 /// the views.
-struct EntrySurroundings {
+struct EntryDependencies {
     const Clock& clock;             ///< marks today
     const CurrentZone& currentZone; ///< days and times are those of this zone
     UserLocale locale;

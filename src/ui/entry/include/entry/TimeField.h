@@ -2,7 +2,7 @@
 #pragma once
 
 #include <entry/DateBinding.h>
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 #include <entry/FieldChip.h>
 
 namespace quorvane {
@@ -12,7 +12,7 @@ class TimeField final : public FieldChip {
     Q_OBJECT
 
 public:
-    TimeField(DateBinding date, const EntrySurroundings& surroundings, QWidget* parent = nullptr);
+    TimeField(DateBinding date, const EntryDependencies& dependencies, QWidget* parent = nullptr);
 
     /// Shows date and zone as they are now. What is being typed in an open popover stays.
     void refresh();
@@ -22,7 +22,7 @@ protected:
 
 private:
     DateBinding m_date;
-    EntrySurroundings m_surroundings;
+    EntryDependencies m_dependencies;
 };
 
 } // namespace quorvane

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <entry/EntrySurroundings.h>
+#include <entry/EntryDependencies.h>
 #include <model/DateTimeModel.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Pasteboard.h>
@@ -28,7 +28,7 @@ class PopoverView final : public QWidget {
 
 public:
     /// What the view works with; all must outlive it.
-    struct Services {
+    struct Dependencies {
         Pasteboard& pasteboard;
         const KeyboardLayout& keyboardLayout;
         const ZoneDatabase& zones;
@@ -47,7 +47,7 @@ public:
         std::function<void()> onQuit;
     };
 
-    PopoverView(DateTimeModel& model, Services services, Callbacks callbacks);
+    PopoverView(DateTimeModel& model, Dependencies dependencies, Callbacks callbacks);
     ~PopoverView() override;
 
     /// Shows everything anew on a later turn, for changes that the model does not announce.
@@ -64,7 +64,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    [[nodiscard]] EntrySurroundings entrySurroundings() const;
+    [[nodiscard]] EntryDependencies entryDependencies() const;
     [[nodiscard]] PopoverHeader* makeHeader();
     void layOut();
     void addShortcuts();
@@ -75,7 +75,7 @@ private:
     [[nodiscard]] bool downstreamDisabled() const;
 
     DateTimeModel& m_model;
-    Services m_services;
+    Dependencies m_dependencies;
     Callbacks m_callbacks;
     CoalescedRefresh m_refresh;
 

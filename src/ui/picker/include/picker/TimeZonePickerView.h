@@ -28,7 +28,7 @@ public:
     };
 
     /// What is referred to must outlive the view.
-    struct Surroundings {
+    struct Dependencies {
         const ZoneDatabase& zones;
         const Clock& clock;
         UserLocale locale;
@@ -38,7 +38,7 @@ public:
     TimeZonePickerView(
         Selection selectedTimeZones,
         const QStringList& favoriteIdentifiers,
-        const Surroundings& surroundings,
+        const Dependencies& dependencies,
         QWidget* parent = nullptr);
 
     /// The catalogue in its order, by the search text.

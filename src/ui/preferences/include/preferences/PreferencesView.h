@@ -26,7 +26,7 @@ class PreferencesView final : public QWidget {
 
 public:
     /// What the view works with; all must outlive it.
-    struct Services {
+    struct Dependencies {
         const KeyboardLayout& keyboardLayout;
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
@@ -40,7 +40,7 @@ public:
 
     PreferencesView(
         DateTimeModel& model,
-        Services services,
+        Dependencies dependencies,
         OnHotKeyChange onHotKeyChange,
         QWidget* parent = nullptr);
     ~PreferencesView() override;
@@ -73,7 +73,7 @@ private:
     void refresh();
 
     DateTimeModel& m_model;
-    Services m_services;
+    Dependencies m_dependencies;
     OnHotKeyChange m_onHotKeyChange;
     HotKeyCombo m_editingCombo;
     CoalescedRefresh m_refresh;

@@ -27,7 +27,7 @@ class KeyCapture final : public RoleWidget {
 
 public:
     /// What the keys mean. Nothing is called while nothing is recorded.
-    struct Intents {
+    struct Callbacks {
         /// A key with at least one of Shift, Control, Option and Command.
         std::function<void(HotKeyCombo)> onCombo;
         /// Which modifiers are held has changed; lock keys included.
@@ -39,7 +39,7 @@ public:
     };
 
     /// `queue` must outlive it.
-    KeyCapture(MainQueue& queue, Intents intents, QWidget* parent);
+    KeyCapture(MainQueue& queue, Callbacks callbacks, QWidget* parent);
     ~KeyCapture() override;
 
     [[nodiscard]] bool isRecording() const { return m_isRecording; }
@@ -65,7 +65,7 @@ private:
     void cancel();
 
     MainQueue& m_queue;
-    Intents m_intents;
+    Callbacks m_callbacks;
     QPointer<QWidget> m_nextFocus;
     std::unique_ptr<HeldModifiers> m_held;
     std::unique_ptr<RepeatedKeys> m_repeats;

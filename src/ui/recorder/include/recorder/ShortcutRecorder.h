@@ -22,7 +22,7 @@ class ShortcutRecorder final : public RoleWidget {
     Q_OBJECT
 
 public:
-    static constexpr int height = 32;
+    static constexpr int recorderHeight = 32;
 
     /// The shortcut is the caller's own. `set` is called as soon as one is recorded.
     struct Binding {
