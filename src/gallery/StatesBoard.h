@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Binding.h>
 #include <controls/Theme.h>
-#include <entry/DateBinding.h>
 #include <entry/EntryDependencies.h>
 
 #include <QWidget>
@@ -39,7 +39,7 @@ private:
     void addControl(QWidget* control, int column, State state);
     [[nodiscard]] int rowCenter() const;
 
-    DateBinding m_day;
+    Binding<Instant> m_day;
     EntryDependencies m_dependencies;
     int m_rows = 0;
 };

@@ -50,7 +50,7 @@ void Sheet::open() {
     m_content->setFocus(Qt::PopupFocusReason);
 }
 
-void Sheet::close() {
+void Sheet::dismiss() {
     hide();
     if (m_focusBefore)
         m_focusBefore->setFocus(Qt::PopupFocusReason);
@@ -76,13 +76,13 @@ void Sheet::paintEvent(QPaintEvent* /*event*/) {
 
 void Sheet::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
-        close();
+        dismiss();
     else
         QWidget::keyPressEvent(event);
 }
 
 void Sheet::mousePressEvent(QMouseEvent* event) {
-    // What lies below is out of reach.
+    // What lies below takes no input while the sheet is open.
     event->accept();
 }
 

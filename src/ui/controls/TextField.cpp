@@ -85,9 +85,9 @@ void TextField::centerText() {
     // Small letters stand in the middle, as in the other controls; QLineEdit itself centres what
     // the font keeps free for its highest and lowest glyphs, far from even in many a fixed font.
     const auto metrics = fontMetrics();
-    const double baseline = std::ceil((QWidget::height() + QFontMetricsF(font()).xHeight()) / 2);
+    const double baseline = std::ceil((height() + QFontMetricsF(font()).xHeight()) / 2);
     const int top = static_cast<int>(baseline) - metrics.ascent();
-    const int lowering = 2 * top - (QWidget::height() - metrics.height() + 1);
+    const int lowering = 2 * top - (height() - metrics.height() + 1);
     auto margins = textMargins();
     margins.setTop(std::max(lowering, 0));
     margins.setBottom(std::max(-lowering, 0));

@@ -23,7 +23,7 @@ constexpr int headerGap = 4;
 } // namespace
 
 CalendarPicker::CalendarPicker(
-    DateBinding date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
+    Binding<Instant> date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
     : QWidget(parent),
       m_date(std::move(date)),
       m_minDate(std::move(minDate)),

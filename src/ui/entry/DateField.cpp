@@ -7,7 +7,7 @@
 namespace quorvane {
 
 DateField::DateField(
-    DateBinding date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
+    Binding<Instant> date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
     : FieldChip(Symbol::Calendar, dependencies.popoverEffects, parent),
       m_date(std::move(date)),
       m_minDate(std::move(minDate)),

@@ -8,7 +8,7 @@
 
 namespace quorvane {
 
-TimeField::TimeField(DateBinding date, const EntryDependencies& dependencies, QWidget* parent)
+TimeField::TimeField(Binding<Instant> date, const EntryDependencies& dependencies, QWidget* parent)
     : FieldChip(Symbol::Clock, dependencies.popoverEffects, parent),
       m_date(std::move(date)),
       m_dependencies(dependencies) {

@@ -29,7 +29,7 @@ constexpr int colonPixels = 26;
 } // namespace
 
 TimePickerPopover::TimePickerPopover(
-    DateBinding date, const CurrentZone& currentZone, QWidget* parent)
+    Binding<Instant> date, const CurrentZone& currentZone, QWidget* parent)
     : QWidget(parent),
       m_date(std::move(date)),
       m_currentZone(currentZone),

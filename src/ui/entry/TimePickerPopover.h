@@ -5,7 +5,7 @@
 #include "NumberField.h"
 #include "TimeEntry.h"
 
-#include <entry/DateBinding.h>
+#include <controls/Binding.h>
 
 #include <QWidget>
 
@@ -25,7 +25,8 @@ class TimePickerPopover final : public QWidget {
 public:
     enum class Field { Hour, Minute };
 
-    TimePickerPopover(DateBinding date, const CurrentZone& currentZone, QWidget* parent = nullptr);
+    TimePickerPopover(
+        Binding<Instant> date, const CurrentZone& currentZone, QWidget* parent = nullptr);
 
     /// The number field that has the keyboard's focus.
     [[nodiscard]] std::optional<Field> focus() const;
@@ -50,7 +51,7 @@ private:
     void installKeyMonitor();
     [[nodiscard]] LocalKeyMonitor::Verdict handleKey(std::uint32_t keyCode);
 
-    DateBinding m_date;
+    Binding<Instant> m_date;
     const CurrentZone& m_currentZone;
     NumberField* m_hour;
     NumberField* m_minute;

@@ -81,7 +81,7 @@ QString DateSection::localTimeZoneLabel() const {
 }
 
 DateSection::DateTimePair DateSection::dateTimePair(
-    const DateBinding& selection, const MinDate& minDate, const PairNames& names) {
+    const Binding<Instant>& selection, const MinDate& minDate, const PairNames& names) {
     DateTimePair pair{
         new QWidget(this),
         new DateField(selection, minDate, m_dependencies),

@@ -3,7 +3,7 @@
 
 #include "Section.h"
 
-#include <entry/DateBinding.h>
+#include <controls/Binding.h>
 #include <entry/DateField.h>
 #include <entry/EntryDependencies.h>
 #include <entry/TimeField.h>
@@ -43,7 +43,7 @@ private:
     };
 
     [[nodiscard]] DateTimePair
-    dateTimePair(const DateBinding& selection, const MinDate& minDate, const PairNames& names);
+    dateTimePair(const Binding<Instant>& selection, const MinDate& minDate, const PairNames& names);
     void layOut();
     void connectBoxes();
     void refresh(const DateTimePair& pair);

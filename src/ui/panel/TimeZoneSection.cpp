@@ -93,7 +93,7 @@ void TimeZoneSection::showTimeZonePicker() {
         m_model.favoriteTimeZoneIdentifiers(),
         m_dependencies);
     m_picker = new Sheet(window(), picker);
-    connect(picker, &TimeZonePickerView::done, m_picker, &Sheet::close);
+    connect(picker, &TimeZonePickerView::done, m_picker, &Sheet::dismiss);
     m_picker->open();
 }
 

@@ -46,7 +46,7 @@ QWidget* makeHead(TextButton* done) {
 } // namespace
 
 TimeZonePickerView::TimeZonePickerView(
-    Selection selectedTimeZones,
+    Binding<std::vector<TimeZone>> selectedTimeZones,
     const QStringList& favoriteIdentifiers,
     const Dependencies& dependencies,
     QWidget* parent)

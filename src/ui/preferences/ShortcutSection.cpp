@@ -17,10 +17,7 @@ constexpr int labelGap = 12;
 } // namespace
 
 ShortcutSection::ShortcutSection(
-    ShortcutRecorder::Binding combo,
-    const KeyboardLayout& layout,
-    MainQueue& queue,
-    QWidget* parent)
+    Binding<HotKeyCombo> combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent)
     : PreferencesSection(tr("Keyboard Shortcut"), parent),
       m_recorder(new ShortcutRecorder(std::move(combo), layout, queue, this)) {
     const auto name = tr("Invoke Quorvane");

@@ -14,7 +14,7 @@ class ShortcutSection final : public PreferencesSection {
 public:
     /// `layout` and `queue` must outlive the section.
     ShortcutSection(
-        ShortcutRecorder::Binding combo,
+        Binding<HotKeyCombo> combo,
         const KeyboardLayout& layout,
         MainQueue& queue,
         QWidget* parent);

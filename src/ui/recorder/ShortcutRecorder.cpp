@@ -30,7 +30,7 @@ const auto ellipsis = u"…"_s;
 } // namespace
 
 ShortcutRecorder::ShortcutRecorder(
-    Binding combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent)
+    Binding<HotKeyCombo> combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent)
     : RoleWidget(QAccessible::Grouping, parent),
       m_combo(std::move(combo)),
       m_keyboardLayout(layout),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <entry/DateBinding.h>
+#include <controls/Binding.h>
 #include <entry/EntryDependencies.h>
 #include <support/WidgetSearch.h>
 
@@ -32,7 +32,7 @@ protected:
 
     EntryFixture() { window.resize(600, 400); }
 
-    DateBinding binding() {
+    Binding<Instant> binding() {
         return {
             [this] { return date; },
             [this](Instant written) {

@@ -42,7 +42,7 @@ struct World {
     MemoryDefaults defaults;
     UserLocale locale = UserLocale::named(u"en_US"_s);
     DateTimeModel model{{clock, defaults, currentZone, zones, locale}};
-    DateBinding date{
+    Binding<Instant> date{
         [this] { return clock.now(); },
         [](Instant) {
         }};
@@ -107,7 +107,7 @@ const View views[] = {
     {"Zones",
      [](World& world) {
          return std::make_unique<TimeZonePickerView>(
-             TimeZonePickerView::Selection{
+             Binding<std::vector<TimeZone>>{
                  [&world] { return world.selection; },
                  [](const std::vector<TimeZone>&) {
                  }},

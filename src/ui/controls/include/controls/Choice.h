@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Binding.h>
 #include <controls/ChoiceWidget.h>
 
 #include <algorithm>
@@ -13,16 +14,11 @@ namespace quorvane {
 template <typename Item>
 class Choice {
 public:
-    struct Binding {
-        std::function<Item()> get;
-        std::function<void(Item)> set;
-    };
-
     using Title = std::function<QString(const Item&)>;
 
     /// `widget` must outlive the choice's last refresh; what the user chooses goes to the binding
     /// for as long as both live.
-    Choice(ChoiceWidget& widget, std::vector<Item> items, Title title, Binding binding)
+    Choice(ChoiceWidget& widget, std::vector<Item> items, Title title, Binding<Item> binding)
         : m_widget(widget),
           m_items(std::move(items)),
           m_title(std::move(title)),
@@ -64,7 +60,7 @@ private:
     ChoiceWidget& m_widget;
     std::vector<Item> m_items;
     Title m_title;
-    Binding m_binding;
+    Binding<Item> m_binding;
     QMetaObject::Connection m_connection;
 };
 

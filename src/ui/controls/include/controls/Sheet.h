@@ -7,9 +7,9 @@
 
 namespace quorvane {
 
-/// A surface over its window's content, which is dimmed and out of reach until the sheet is closed.
-/// Escape closes it; the focus then goes back to where it was. One object is one opening: it
-/// deletes itself after it has closed.
+/// A surface over its window's content, which is dimmed and takes no input until the sheet is
+/// dismissed. Escape dismisses it; the focus then goes back to where it was. Create a new one each
+/// time; it deletes itself on close.
 class Sheet final : public QWidget {
     Q_OBJECT
 
@@ -18,7 +18,8 @@ public:
     Sheet(QWidget* parent, QWidget* content);
 
     void open();
-    void close();
+    /// Hides it, gives the focus back and deletes it.
+    void dismiss();
 
     [[nodiscard]] QWidget* content() const { return m_content; }
 

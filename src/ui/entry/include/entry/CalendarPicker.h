@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Binding.h>
 #include <entry/CalendarGrid.h>
-#include <entry/DateBinding.h>
 #include <entry/EntryDependencies.h>
 
 #include <QWidget>
@@ -25,7 +25,7 @@ class CalendarPicker final : public QWidget {
 
 public:
     CalendarPicker(
-        DateBinding date,
+        Binding<Instant> date,
         MinDate minDate,
         const EntryDependencies& dependencies,
         QWidget* parent = nullptr);
@@ -52,7 +52,7 @@ private:
 
     [[nodiscard]] std::optional<CivilDay> earliestDay() const;
 
-    DateBinding m_date;
+    Binding<Instant> m_date;
     MinDate m_minDate;
     EntryDependencies m_dependencies;
     QLabel* m_title;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Binding.h>
 #include <entry/CalendarPicker.h>
-#include <entry/DateBinding.h>
 #include <entry/EntryDependencies.h>
 #include <entry/FieldChip.h>
 
@@ -16,7 +16,7 @@ class DateField final : public FieldChip {
 
 public:
     DateField(
-        DateBinding date,
+        Binding<Instant> date,
         MinDate minDate,
         const EntryDependencies& dependencies,
         QWidget* parent = nullptr);
@@ -28,7 +28,7 @@ protected:
     [[nodiscard]] QWidget* makeContent() override;
 
 private:
-    DateBinding m_date;
+    Binding<Instant> m_date;
     MinDate m_minDate;
     EntryDependencies m_dependencies;
     QPointer<CalendarPicker> m_calendar;

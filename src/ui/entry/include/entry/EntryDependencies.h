@@ -9,8 +9,9 @@
 
 namespace quorvane {
 
-/// What the entry of dates and times needs to know of the system. What is referred to must outlive
-/// the views.
+/// What the entry of dates and times needs to know of the system. Views keep a copy: they follow
+/// clock and zone, which must outlive them, and keep the locale and the effects they were made
+/// with.
 struct EntryDependencies {
     const Clock& clock;             ///< marks today
     const CurrentZone& currentZone; ///< days and times are those of this zone

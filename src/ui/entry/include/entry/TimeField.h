@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <entry/DateBinding.h>
+#include <controls/Binding.h>
 #include <entry/EntryDependencies.h>
 #include <entry/FieldChip.h>
 
@@ -12,7 +12,8 @@ class TimeField final : public FieldChip {
     Q_OBJECT
 
 public:
-    TimeField(DateBinding date, const EntryDependencies& dependencies, QWidget* parent = nullptr);
+    TimeField(
+        Binding<Instant> date, const EntryDependencies& dependencies, QWidget* parent = nullptr);
 
     /// Shows date and zone as they are now. What is being typed in an open popover stays.
     void refresh();
@@ -21,7 +22,7 @@ protected:
     [[nodiscard]] QWidget* makeContent() override;
 
 private:
-    DateBinding m_date;
+    Binding<Instant> m_date;
     EntryDependencies m_dependencies;
 };
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Binding.h>
 #include <picker/ZoneListModel.h>
 #include <timezones/ZoneSearch.h>
 
 #include <QWidget>
 
-#include <functional>
 #include <time/Clock.h>
 
 namespace quorvane {
@@ -21,12 +21,6 @@ class TimeZonePickerView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The selection is the caller's own.
-    struct Selection {
-        std::function<std::vector<TimeZone>()> get;
-        std::function<void(std::vector<TimeZone>)> set;
-    };
-
     /// What is referred to must outlive the view.
     struct Dependencies {
         const ZoneDatabase& zones;
@@ -36,7 +30,7 @@ public:
 
     /// Identifiers of favourites that name no zone are left out.
     TimeZonePickerView(
-        Selection selectedTimeZones,
+        Binding<std::vector<TimeZone>> selectedTimeZones,
         const QStringList& favoriteIdentifiers,
         const Dependencies& dependencies,
         QWidget* parent = nullptr);
@@ -61,7 +55,7 @@ private:
     [[nodiscard]] std::vector<ZoneListModel::Section> sections() const;
     [[nodiscard]] bool isSelected(const TimeZone& zone) const;
 
-    Selection m_selection;
+    Binding<std::vector<TimeZone>> m_selection;
     const Clock& m_clock;
     std::vector<TimeZone> m_favorites;
     ZoneSearch m_search;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/Binding.h>
 #include <controls/RoleWidget.h>
 #include <hotkey/HotKeyCombo.h>
 
 #include <QStringList>
 
 #include <array>
-#include <functional>
 #include <loop/MainQueue.h>
 
 namespace quorvane {
@@ -24,12 +24,6 @@ class ShortcutRecorder final : public RoleWidget {
 public:
     static constexpr int recorderHeight = 32;
 
-    /// The shortcut is the caller's own. `set` is called as soon as one is recorded.
-    struct Binding {
-        std::function<HotKeyCombo()> get;
-        std::function<void(HotKeyCombo)> set;
-    };
-
     /// Whether presses of the shortcut reach the program.
     enum class Activity {
         Active,
@@ -37,9 +31,13 @@ public:
         Unavailable    ///< this desktop lets no program have one
     };
 
-    /// `layout` and `queue` must outlive the recorder.
+    /// A new shortcut is set as soon as it is recorded. `layout` and `queue` must outlive the
+    /// recorder.
     ShortcutRecorder(
-        Binding combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent = nullptr);
+        Binding<HotKeyCombo> combo,
+        const KeyboardLayout& layout,
+        MainQueue& queue,
+        QWidget* parent = nullptr);
 
     [[nodiscard]] HotKeyCombo combo() const { return m_combo.get(); }
 
@@ -73,7 +71,7 @@ private:
     void refreshCaps();
     void refreshTexts();
 
-    Binding m_combo;
+    Binding<HotKeyCombo> m_combo;
     const KeyboardLayout& m_keyboardLayout;
     Activity m_activity = Activity::Active;
     bool m_isRecording = false;
