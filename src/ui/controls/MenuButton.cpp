@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "CommandMenu.h"
+#include "CommandRow.h"
+#include "RowMenu.h"
 
 #include <controls/MenuButton.h>
 
@@ -9,6 +10,18 @@
 
 namespace quorvane {
 
+namespace {
+
+std::vector<MenuRow*> makeRows(const std::vector<Command>& commands) {
+    std::vector<MenuRow*> rows;
+    rows.reserve(commands.size());
+    for (const auto& command : commands)
+        rows.push_back(new CommandRow(command.symbol, command.title, command.keys, nullptr));
+    return rows;
+}
+
+} // namespace
+
 MenuButton::MenuButton(
     Symbol symbol,
     const QString& name,
@@ -17,52 +30,30 @@ MenuButton::MenuButton(
     QWidget* parent)
     : IconButton(Kind::Header, symbol, name, parent),
       m_commands(std::move(commands)),
-      m_effects(std::move(effects)) {
-    connect(this, &MenuButton::clicked, this, &MenuButton::toggle);
+      m_menu(*this, std::move(effects), [this] { return makeMenu(); }) {
+    m_menu.setAccessibleName(accessibleName());
+    m_menu.setAlignment(PopoverAlignment::RightEdges);
+    connect(this, &MenuButton::clicked, &m_menu, &PopoverOpener::toggle);
 }
 
 void MenuButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Down || event->key() == Qt::Key_F4)
-        open();
+        m_menu.open();
     else
         IconButton::keyPressEvent(event);
 }
 
-void MenuButton::toggle() {
-    if (m_popover)
-        m_popover->close();
-    else
-        open();
-}
-
-void MenuButton::open() {
-    auto* menu = new CommandMenu(m_commands);
-    m_popover = new AnchoredPopover(this, menu, m_effects);
-    m_popover->setAccessibleName(accessibleName());
-    m_popover->setLayoutDirection(layoutDirection());
-    m_popover->setAlignment(PopoverAlignment::RightEdges);
-    connect(menu, &CommandMenu::chosen, this, &MenuButton::run);
-    connect(m_popover, &AnchoredPopover::closed, this, [this] {
-        m_popover = nullptr;
-        announceExpansion();
-    });
-    m_popover->open();
-    announceExpansion();
+QWidget* MenuButton::makeMenu() {
+    auto* menu = new RowMenu(QAccessible::PopupMenu, makeRows(m_commands), 0, nullptr);
+    connect(menu, &RowMenu::chosen, this, &MenuButton::run);
+    return menu;
 }
 
 void MenuButton::run(int index) {
     // The command may take down the window that the menu stands in, and this button with it.
     const auto command = m_commands[static_cast<std::size_t>(index)].run;
-    m_popover->close();
+    m_menu.close();
     command();
-}
-
-void MenuButton::announceExpansion() {
-    update();
-    QAccessible::State changed;
-    changed.expanded = true;
-    QAccessibleStateChangeEvent event(this, changed);
-    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace quorvane

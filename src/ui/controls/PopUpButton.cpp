@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quorvane {
 
@@ -21,23 +22,27 @@ constexpr SymbolStyle chevronStyle{10, SymbolStyle::bold};
 
 } // namespace
 
-PopUpButton::PopUpButton(QWidget* parent) : PressableControl(parent) {
+PopUpButton::PopUpButton(
+    PopoverEffects effects, PopoverOpener::MakeContent makeList, QWidget* parent)
+    : PressableControl(parent),
+      m_list(*this, std::move(effects), std::move(makeList)) {
+    connect(this, &PopUpButton::clicked, &m_list, &PopoverOpener::toggle);
+    connect(this, &PopUpButton::valueChanged, this, &PopUpButton::announceValue);
 }
 
 void PopUpButton::setTitle(const QString& title, const QStringList& titles) {
+    if (titles != m_titles) {
+        m_titles = titles;
+        updateGeometry();
+    }
+    if (title == text())
+        return;
     setText(title);
-    m_titles = titles;
-    updateGeometry();
-    QAccessibleValueChangeEvent change(this, title);
-    QAccessible::updateAccessibility(&change);
+    Q_EMIT valueChanged(title);
 }
 
-void PopUpButton::setOpened(QWidget* surface) {
-    m_opened = surface;
-    update();
-    QAccessible::State changed;
-    changed.expanded = true;
-    QAccessibleStateChangeEvent change(this, changed);
+void PopUpButton::announceValue(const QString& title) {
+    QAccessibleValueChangeEvent change(this, title);
     QAccessible::updateAccessibility(&change);
 }
 
@@ -55,7 +60,7 @@ double PopUpButton::cornerRadius() const {
 }
 
 void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
-    const auto frame = m_opened ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
+    const auto frame = m_list.isOpen() ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
     ChipSurface::paint(painter, rect(), theme, visualState(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     const auto inner = rect().adjusted(padding, 0, -padding, 0);

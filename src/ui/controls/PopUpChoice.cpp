@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ChoiceMenu.h"
+#include "ChoiceRow.h"
 #include "PopUpButton.h"
+#include "RowMenu.h"
 
 #include <controls/ChipSurface.h>
 #include <controls/PopUpChoice.h>
@@ -10,23 +11,34 @@
 
 namespace quorvane {
 
+namespace {
+
+std::vector<MenuRow*> makeRows(const QStringList& titles, std::optional<int> selected) {
+    std::vector<MenuRow*> rows;
+    rows.reserve(static_cast<std::size_t>(titles.size()));
+    for (int index = 0; index < titles.size(); ++index)
+        rows.push_back(new ChoiceRow(titles[index], index == selected, nullptr));
+    return rows;
+}
+
+} // namespace
+
 PopUpChoice::PopUpChoice(PopoverEffects effects, QWidget* parent)
     : ChoiceWidget(parent),
-      m_effects(std::move(effects)),
-      m_button(new PopUpButton(this)) {
+      m_button(new PopUpButton(
+          std::move(effects), [this] { return makeList(); }, this)) {
     setFixedHeight(ChipSurface::height);
     setFocusProxy(m_button);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_button);
     m_button->installEventFilter(this);
-    connect(m_button, &PopUpButton::clicked, this, &PopUpChoice::toggle);
 }
 
 void PopUpChoice::setChoices(const QStringList& titles, std::optional<int> selected) {
     // A list that is open shows other titles than one would choose from.
-    if (m_popover && titles != m_titles)
-        m_popover->close();
+    if (titles != m_titles)
+        m_button->list().close();
     m_titles = titles;
     const bool isOneOfThem = selected && *selected >= 0 && *selected < titles.size();
     m_selected = isOneOfThem ? selected : std::nullopt;
@@ -37,26 +49,19 @@ void PopUpChoice::setLabel(const QString& label) {
     m_button->setAccessibleName(label);
 }
 
-void PopUpChoice::toggle() {
-    if (m_popover)
-        m_popover->close();
-    else
-        open();
+void PopUpChoice::open() {
+    m_button->list().open();
 }
 
-void PopUpChoice::open() {
-    auto* menu = new ChoiceMenu(m_titles, m_selected);
-    m_popover = new AnchoredPopover(m_button, menu, m_effects);
-    connect(menu, &ChoiceMenu::chosen, this, [this](int index) {
-        m_popover->close();
+QWidget* PopUpChoice::makeList() {
+    // The keyboard starts at the selected title, without one at the first.
+    auto* menu = new RowMenu(
+        QAccessible::List, makeRows(m_titles, m_selected), m_selected.value_or(0), nullptr);
+    connect(menu, &RowMenu::chosen, this, [this](int index) {
+        m_button->list().close();
         choose(index);
     });
-    connect(m_popover, &AnchoredPopover::closed, this, [this] {
-        m_popover = nullptr;
-        m_button->setOpened(nullptr);
-    });
-    m_button->setOpened(m_popover);
-    m_popover->open();
+    return menu;
 }
 
 bool PopUpChoice::eventFilter(QObject* watched, QEvent* event) {

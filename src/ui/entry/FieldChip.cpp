@@ -20,9 +20,9 @@ constexpr SymbolStyle iconStyle{12, SymbolStyle::semibold};
 FieldChip::FieldChip(Symbol icon, PopoverEffects effects, QWidget* parent)
     : PressableControl(parent),
       m_icon(icon),
-      m_effects(std::move(effects)) {
+      m_popover(*this, std::move(effects), [this] { return makeContent(); }) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(this, &FieldChip::clicked, this, &FieldChip::toggle);
+    connect(this, &FieldChip::clicked, &m_popover, &PopoverOpener::toggle);
 }
 
 QSize FieldChip::sizeHint() const {
@@ -44,7 +44,7 @@ double FieldChip::cornerRadius() const {
 }
 
 void FieldChip::paintControl(QPainter& painter, const Theme& theme) {
-    const auto frame = m_popover ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
+    const auto frame = m_popover.isOpen() ? ChipSurface::Frame::Open : ChipSurface::Frame::Plain;
     ChipSurface::paint(painter, rect(), theme, visualState(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     contentRow(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
@@ -52,36 +52,7 @@ void FieldChip::paintControl(QPainter& painter, const Theme& theme) {
 
 void FieldChip::hideEvent(QHideEvent* event) {
     PressableControl::hideEvent(event);
-    if (m_popover)
-        m_popover->close();
-}
-
-void FieldChip::toggle() {
-    if (m_popover)
-        m_popover->close();
-    else
-        open();
-}
-
-void FieldChip::open() {
-    m_popover = new AnchoredPopover(this, makeContent(), m_effects);
-    m_popover->setLayoutDirection(layoutDirection());
-    connect(m_popover, &AnchoredPopover::closed, this, &FieldChip::noteClosed);
-    m_popover->open();
-    announceExpansion();
-}
-
-void FieldChip::noteClosed() {
-    m_popover = nullptr;
-    announceExpansion();
-}
-
-void FieldChip::announceExpansion() {
-    update();
-    QAccessible::State changed;
-    changed.expanded = true;
-    QAccessibleStateChangeEvent event(this, changed);
-    QAccessible::updateAccessibility(&event);
+    m_popover.close();
 }
 
 ContentRow FieldChip::contentRow(const Theme& theme) const {

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/AnchoredPopover.h>
 #include <controls/Command.h>
 #include <controls/IconButton.h>
-
-#include <QPointer>
+#include <controls/PopoverOpener.h>
 
 #include <vector>
 
@@ -28,22 +26,19 @@ public:
         return QAccessible::ButtonMenu;
     }
 
-    [[nodiscard]] std::optional<bool> isExpanded() const override { return !m_popover.isNull(); }
+    [[nodiscard]] std::optional<bool> isExpanded() const override { return m_menu.isOpen(); }
 
-    [[nodiscard]] QWidget* openedSurface() const override { return m_popover; }
+    [[nodiscard]] QWidget* openedSurface() const override { return m_menu.popover(); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void toggle();
-    void open();
+    [[nodiscard]] QWidget* makeMenu();
     void run(int index);
-    void announceExpansion();
 
     std::vector<Command> m_commands;
-    PopoverEffects m_effects;
-    QPointer<AnchoredPopover> m_popover;
+    PopoverOpener m_menu;
 };
 
 } // namespace quorvane

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/AnchoredPopover.h>
 #include <controls/ChoiceWidget.h>
-
-#include <QPointer>
+#include <controls/PopoverEffects.h>
 
 namespace quorvane {
 
@@ -25,25 +23,18 @@ public:
     void setChoices(const QStringList& titles, std::optional<int> selected) override;
     void setLabel(const QString& label) override;
 
-    [[nodiscard]] bool isOpen() const { return m_popover != nullptr; }
-
     void open();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-protected:
-    [[nodiscard]] PopUpButton& button() { return *m_button; }
-
 private:
-    void toggle();
+    [[nodiscard]] QWidget* makeList();
     void choose(int index);
     [[nodiscard]] bool handleKey(int key, Qt::KeyboardModifiers modifiers);
 
-    PopoverEffects m_effects;
     PopUpButton* m_button;
     QStringList m_titles;
     std::optional<int> m_selected;
-    QPointer<AnchoredPopover> m_popover;
 };
 
 } // namespace quorvane

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <controls/AnchoredPopover.h>
 #include <controls/ContentRow.h>
+#include <controls/PopoverOpener.h>
 #include <controls/PressableControl.h>
 #include <controls/Symbol.h>
-
-#include <QPointer>
 
 namespace quorvane {
 
@@ -20,9 +18,9 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
-    [[nodiscard]] std::optional<bool> isExpanded() const override { return !m_popover.isNull(); }
+    [[nodiscard]] std::optional<bool> isExpanded() const override { return m_popover.isOpen(); }
 
-    [[nodiscard]] QWidget* openedSurface() const override { return m_popover; }
+    [[nodiscard]] QWidget* openedSurface() const override { return m_popover.popover(); }
 
     /// Shows another value.
     void showText(const QString& text);
@@ -36,15 +34,10 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void toggle();
-    void open();
-    void noteClosed();
-    void announceExpansion();
     [[nodiscard]] ContentRow contentRow(const Theme& theme) const;
 
     Symbol m_icon;
-    PopoverEffects m_effects;
-    QPointer<AnchoredPopover> m_popover;
+    PopoverOpener m_popover;
 };
 
 } // namespace quorvane
