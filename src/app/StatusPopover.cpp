@@ -3,10 +3,8 @@
 
 #include "PanelPlacement.h"
 
-#include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
 #include <controls/PopoverPlacement.h>
-#include <controls/PopoverShadow.h>
 #include <controls/Theme.h>
 
 #include <QMouseEvent>
@@ -29,13 +27,12 @@ constexpr int screenMargin = 8;
 StatusPopover::StatusPopover(QWidget* content, Background background)
     : QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
       m_content(content),
-      m_background(background) {
+      m_surface(background == Background::Composited, cornerRadius) {
     setAttribute(Qt::WA_QuitOnClose, false);
-    setAttribute(Qt::WA_TranslucentBackground, m_background == Background::Composited);
+    setAttribute(Qt::WA_TranslucentBackground, m_surface.isComposited());
     setWindowTitle(u"Quorvane"_s);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(
-        m_background == Background::Composited ? popoverShadowMargins : QMargins());
+    layout->setContentsMargins(m_surface.margins());
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
     new FocusRing(this);
@@ -61,7 +58,7 @@ bool StatusPopover::event(QEvent* event) {
 }
 
 void StatusPopover::mousePressEvent(QMouseEvent* event) {
-    if (surface().contains(event->position().toPoint()))
+    if (m_surface.placeIn(rect()).contains(event->position().toPoint()))
         return;
     Q_EMIT dismissed();
     close();
@@ -70,20 +67,8 @@ void StatusPopover::mousePressEvent(QMouseEvent* event) {
 void StatusPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
-    if (m_background == Background::Composited) {
-        paintPopoverShadow(painter, surface(), cornerRadius, theme);
-        fillRounded(painter, surface(), cornerRadius, theme.windowBackground);
-        frameRounded(painter, surface(), cornerRadius, theme.border, 1);
-    } else {
-        painter.fillRect(rect(), theme.windowBackground);
-        frameRounded(painter, rect(), 0, theme.border, 1);
-    }
+    m_surface.paint(painter, rect(), theme, {theme.windowBackground, theme.border});
     Q_EMIT painted();
-}
-
-QRect StatusPopover::surface() const {
-    return m_background == Background::Composited ? rect().marginsRemoved(popoverShadowMargins)
-                                                  : rect();
 }
 
 void StatusPopover::fit() {
@@ -94,9 +79,7 @@ void StatusPopover::fit() {
     anchor.moveCenter(m_place.anchor.center());
     const auto placed =
         popoverPlacement(anchor, size, m_place.available, PopoverAlignment::LeftEdges);
-    setGeometry(
-        m_background == Background::Composited ? placed.marginsAdded(popoverShadowMargins)
-                                               : placed);
+    setGeometry(placed.marginsAdded(m_surface.margins()));
 }
 
 } // namespace quorvane

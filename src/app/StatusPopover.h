@@ -3,6 +3,8 @@
 
 #include "PopoverAnchor.h"
 
+#include <controls/PopoverSurface.h>
+
 #include <QWidget>
 
 namespace quorvane {
@@ -37,11 +39,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] QRect surface() const;
     void fit();
 
     QWidget* m_content;
-    Background m_background;
+    PopoverSurface m_surface;
     PopoverAnchor::Place m_place;
 };
 

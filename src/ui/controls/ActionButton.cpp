@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <controls/AccentFill.h>
 #include <controls/ActionButton.h>
 #include <controls/ChipSurface.h>
 #include <controls/ContentRow.h>

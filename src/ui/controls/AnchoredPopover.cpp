@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <controls/AnchoredPopover.h>
-#include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
-#include <controls/PopoverShadow.h>
 #include <controls/Theme.h>
 
 #include <QCloseEvent>
@@ -27,11 +25,11 @@ AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const Popove
     : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
       m_anchor(anchor),
       m_content(content),
-      m_composited(effects.isComposited && effects.isComposited()) {
+      m_surface(effects.isComposited && effects.isComposited(), cornerRadius) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_TranslucentBackground, m_composited);
+    setAttribute(Qt::WA_TranslucentBackground, m_surface.isComposited());
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(m_composited ? popoverShadowMargins : QMargins());
+    layout->setContentsMargins(m_surface.margins());
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(content);
     setFocusProxy(content->focusProxy() != nullptr ? content->focusProxy() : content);
@@ -51,7 +49,7 @@ void AnchoredPopover::open() {
 }
 
 bool AnchoredPopover::eventFilter(QObject* watched, QEvent* event) {
-    // A popover stands where its anchor does, and does not outlive the sight of it.
+    // A popover moves with its anchor, and closes when that is no longer visible.
     if (watched != this && event->type() == QEvent::Hide)
         close();
     else if (watched != this && event->type() == QEvent::Move && isVisible())
@@ -85,14 +83,7 @@ void AnchoredPopover::resizeEvent(QResizeEvent* event) {
 void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
-    if (m_composited) {
-        paintPopoverShadow(painter, surface(), cornerRadius, theme);
-        fillRounded(painter, surface(), cornerRadius, theme.popoverBackground);
-        frameRounded(painter, surface(), cornerRadius, theme.popoverBorder, 1);
-        return;
-    }
-    painter.fillRect(rect(), theme.popoverBackground);
-    frameRounded(painter, surface(), 0, theme.border, 1);
+    m_surface.paint(painter, rect(), theme, {theme.popoverBackground, theme.popoverBorder});
 }
 
 void AnchoredPopover::closeEvent(QCloseEvent* event) {
@@ -103,7 +94,7 @@ void AnchoredPopover::closeEvent(QCloseEvent* event) {
 }
 
 QRect AnchoredPopover::surface() const {
-    return m_composited ? rect().marginsRemoved(popoverShadowMargins) : rect();
+    return m_surface.placeIn(rect());
 }
 
 QRect AnchoredPopover::anchorRect() const {
@@ -112,7 +103,7 @@ QRect AnchoredPopover::anchorRect() const {
 
 void AnchoredPopover::fadeIn() {
     const int styleDuration = style()->styleHint(QStyle::SH_Widget_Animation_Duration);
-    if (!m_composited || styleDuration == 0)
+    if (!m_surface.isComposited() || styleDuration == 0)
         return;
     auto* fade = new QPropertyAnimation(this, "windowOpacity", this);
     fade->setDuration(fadeMilliseconds);

@@ -43,7 +43,7 @@ FocusRing::FocusRing(QWidget* window) : QWidget(window), m_window(window) {
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
     hide();
-    // The reason for a focus reaches only the widget that gets it.
+    // Only the widget that gets the focus is told the reason.
     qApp->installEventFilter(this);
 }
 

@@ -5,7 +5,8 @@
 
 namespace quorvane {
 
-/// A chip, as wide as its titles need, that opens a list to choose from.
+/// The pop-up of the chips: as wide as its titles need, where MacPopUpButton fills its place. For a
+/// choice between other chips; no view shows one at present.
 class MenuChip final : public PopUpChoice {
     Q_OBJECT
 

@@ -84,4 +84,16 @@ QColor overlayFor(PressableControl::VisualState state, const Theme& theme) {
     return Qt::transparent;
 }
 
+QColor accentFill(PressableControl::VisualState state, const Theme& theme) {
+    switch (state) {
+    case PressableControl::VisualState::Hover:
+        return theme.accentHover;
+    case PressableControl::VisualState::Pressed:
+        return theme.accentPressed;
+    case PressableControl::VisualState::Normal:
+        break;
+    }
+    return theme.accent;
+}
+
 } // namespace quorvane

@@ -28,7 +28,7 @@ SegmentButton::SegmentButton(const QString& title, QWidget* control) : Pressable
 }
 
 QSize SegmentButton::sizeHint() const {
-    // As wide as the bolder of its two looks, so that selecting moves nothing.
+    // As wide as with the bolder of its two weights, so that selecting moves nothing.
     const QFontMetricsF metrics(textFont(font(), TextStyle::Callout, QFont::DemiBold));
     const int label = static_cast<int>(std::ceil(metrics.horizontalAdvance(text())));
     return {label + 2 * (labelPadding + inset), ChipSurface::height};

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <controls/DevicePixels.h>
-#include <controls/PopoverShadow.h>
+#include <controls/PopoverSurface.h>
 #include <controls/Sheet.h>
 #include <controls/Theme.h>
 
@@ -69,9 +68,8 @@ void Sheet::paintEvent(QPaintEvent* /*event*/) {
     const auto theme = Theme::of(palette());
     painter.setOpacity(progress());
     painter.fillRect(rect(), theme.scrim);
-    paintPopoverShadow(painter, surface(), cornerRadius, theme);
-    fillRounded(painter, surface(), cornerRadius, theme.popoverBackground);
-    frameRounded(painter, surface(), cornerRadius, theme.border, 1);
+    paintRaisedSurface(
+        painter, surface(), cornerRadius, theme, {theme.popoverBackground, theme.border});
 }
 
 void Sheet::keyPressEvent(QKeyEvent* event) {

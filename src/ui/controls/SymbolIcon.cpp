@@ -14,7 +14,7 @@ namespace quorvane {
 
 namespace {
 
-/// On either side of the ink, on the drawings' own grid of 16 by 16. A share of the size, not of
+/// On either side of the stroke, on the drawings' own grid of 16 by 16. A share of the size, not of
 /// the device's pixels: some desktops take the largest picture and scale it down. With less, the
 /// smallest icon cannot be read by its halo alone.
 constexpr double haloWidth = 0.75;

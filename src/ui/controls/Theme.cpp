@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "ThemeCache.h"
+
 #include <controls/ColorContrast.h>
 #include <controls/Theme.h>
 
@@ -13,7 +15,7 @@ constexpr double wellReadable = 7.0; ///< WCAG 2.1, 1.4.6, level AAA
 constexpr double chosenTint = 0.15;
 constexpr double chosenEdgeOpacity = 0.25;
 constexpr double suggestedEdgeOpacity = 0.3;
-/// Between text and ground; black on white has 21, and nobody who did not mean it comes near.
+/// Between text and background; black on white has 21, and no palette comes near it by chance.
 constexpr double highContrast = 20.0;
 
 QColor darkTint(double opacity) {
@@ -118,7 +120,7 @@ QColor readableOn(QColor color, const std::array<QColor, 3>& backgrounds, double
     return color;
 }
 
-/// Grounds and text as the desktop has them.
+/// Backgrounds and text as the desktop has them.
 void adoptBackgrounds(Theme& theme, const QPalette& palette) {
     theme.windowBackground = active(palette, QPalette::Window);
     theme.controlBackground = active(palette, QPalette::Base);
@@ -131,9 +133,9 @@ void adoptBackgrounds(Theme& theme, const QPalette& palette) {
     theme.disabledText = blended(withOpacity(theme.text, 0.4), theme.windowBackground);
 }
 
-/// `color` with enough contrast on `ground` under a tint of itself.
+/// `color` with enough contrast on `background` under a tint of itself.
 QColor readableOnItsOwnTint(QColor color, const QColor& background, double ratio = readable) {
-    // The tint darkens or lightens with its ink: that takes some rounds to come to rest.
+    // The tint darkens or lightens with the colour: that takes some rounds to settle.
     for (QColor before; before != color;) {
         before = color;
         const auto tinted = blended(withOpacity(color, chosenTint), background);
@@ -143,7 +145,7 @@ QColor readableOnItsOwnTint(QColor color, const QColor& background, double ratio
 }
 
 /// The accent of the desktop, made to carry text: white where a darker tone of it still is that
-/// colour, dark ink for yellow, lime and their like, which have no dark tone.
+/// colour, dark text for yellow, lime and their like, which have no dark tone.
 void adoptAccent(Theme& theme, const QColor& accent) {
     const bool isBright = contrastRatio(Qt::white, accent) < 2;
     theme.onAccent = isBright ? QColor(0x14161c) : QColor(Qt::white);
@@ -160,7 +162,7 @@ bool hasHighContrast(const QPalette& palette) {
            contrastRatio(text, active(palette, QPalette::Base)) >= highContrast;
 }
 
-/// Inks that are read well on all grounds, in every state of a control.
+/// Foreground colours that are read well on all backgrounds, in every state of a control.
 void strengthenForegrounds(Theme& theme, const QColor& accent) {
     const std::array backgrounds{
         theme.windowBackground,
@@ -174,7 +176,7 @@ void strengthenForegrounds(Theme& theme, const QColor& accent) {
     theme.dangerHover = withOpacity(theme.danger, chosenTint / 2);
     theme.dangerPressed = withOpacity(theme.danger, chosenTint);
     theme.accentText = readableOnItsOwnTint(accent, theme.controlBackground, wellReadable);
-    // What stands on a fill is the ground that shows through it, in light and in dark.
+    // What stands on a fill has the background's colour, in light and in dark.
     theme.onAccent = theme.controlBackground;
     theme.accent = pushedToContrast(accent, theme.onAccent, wellReadable);
     theme.accentHover = blended(withOpacity(theme.text, 0.2), theme.accent);
@@ -227,18 +229,10 @@ seedPalette(ColorScheme scheme, ContrastLevel contrast, const std::optional<QCol
     return palette;
 }
 
-} // namespace
-
-const Theme& Theme::builtIn(ColorScheme scheme) {
-    static const Theme light = lightTheme();
-    static const Theme dark = darkTheme();
-    return scheme == ColorScheme::Dark ? dark : light;
-}
-
-Theme Theme::of(const QPalette& palette) {
+Theme derivedTheme(const QPalette& palette) {
     if (hasHighContrast(palette))
         return highContrastTheme(palette);
-    Theme theme = builtIn(colorScheme(palette));
+    Theme theme = Theme::builtIn(colorScheme(palette));
     const bool sameBackgrounds = active(palette, QPalette::Window) == theme.windowBackground &&
                                  active(palette, QPalette::Base) == theme.controlBackground &&
                                  active(palette, QPalette::WindowText) == theme.text;
@@ -249,6 +243,20 @@ Theme Theme::of(const QPalette& palette) {
     if (!sameAccent || !sameBackgrounds)
         adoptAccent(theme, accent);
     return theme;
+}
+
+} // namespace
+
+const Theme& Theme::builtIn(ColorScheme scheme) {
+    static const Theme light = lightTheme();
+    static const Theme dark = darkTheme();
+    return scheme == ColorScheme::Dark ? dark : light;
+}
+
+Theme Theme::of(const QPalette& palette) {
+    // Asked at each paint and each measurement, by one thread.
+    static ThemeCache cache(derivedTheme);
+    return cache.theme(palette);
 }
 
 QPalette

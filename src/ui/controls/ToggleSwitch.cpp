@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <controls/AccentFill.h>
 #include <controls/DevicePixels.h>
 #include <controls/ToggleSwitch.h>
 

@@ -2,7 +2,6 @@
 #include "CalendarDayAccessible.h"
 #include "CalendarKeys.h"
 
-#include <controls/AccentFill.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
 #include <entry/CalendarDay.h>

@@ -3,6 +3,7 @@
 
 #include <controls/PopoverEffects.h>
 #include <controls/PopoverPlacement.h>
+#include <controls/PopoverSurface.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -11,8 +12,8 @@ namespace quorvane {
 
 /// A small surface that stands at a control for as long as the user works in it. Escape, a press
 /// outside, and whatever hides its anchor's window close it; a press on the anchor itself closes it
-/// and is not passed on, so that the anchor does not open it again. On closing the focus is the
-/// anchor's. One object is one opening: it deletes itself after it has closed.
+/// and is not passed on, so that the anchor does not open it again. On closing the focus goes back
+/// to the anchor. Create a new one each time; it deletes itself on close.
 class AnchoredPopover final : public QWidget {
     Q_OBJECT
 
@@ -47,7 +48,7 @@ private:
 
     QPointer<QWidget> m_anchor;
     QWidget* m_content;
-    bool m_composited;
+    PopoverSurface m_surface;
     PopoverAlignment m_alignment = PopoverAlignment::LeftEdges;
 };
 

@@ -7,7 +7,7 @@ class QPainter;
 
 namespace quorvane {
 
-/// The framed surface of whatever takes a press: measures and look, no content.
+/// The framed surface of whatever takes a press: its measures and how it is painted, no content.
 struct ChipSurface {
     static constexpr int height = 30;
     static constexpr int horizontalPadding = 10;
@@ -16,8 +16,8 @@ struct ChipSurface {
 
     enum class Frame { Plain, Open };
 
-    /// Fill, the look's overlay and the frame; while what the chip opens is open, the frame is in
-    /// the accent's ink.
+    /// The fill, the visual state's overlay and the frame. While what the chip opens is open, the
+    /// frame has the accent's colour.
     static void paint(
         QPainter& painter,
         const QRectF& rect,

@@ -14,8 +14,8 @@ namespace quorvane {
 /// `color` with another opacity, 0 to 1.
 [[nodiscard]] QColor withOpacity(QColor color, double opacity);
 
-/// `color` moved in lightness, hue kept, away from `ground` until it has `ratio` against it. Black
-/// or white where no lightness reaches that.
+/// `color` moved in lightness, hue kept, away from `background` until it has `ratio` against it.
+/// Black or white where no lightness reaches that.
 [[nodiscard]] QColor pushedToContrast(QColor color, const QColor& background, double ratio);
 
 } // namespace quorvane

@@ -5,8 +5,8 @@
 
 namespace quorvane {
 
-/// Shows a widget, with everything in it, at less than full opacity: the window's own ground, laid
-/// over it. Exact on the plain ground of a window alone; and what lies below costs no layer.
+/// Shows a widget, with everything in it, at less than full opacity: the window's own background
+/// colour, laid over it. Exact only on a window's plain background; what lies below costs no layer.
 class DimmingOverlay final : public QWidget {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     /// Over the whole of `dimmed`, whose child it becomes; off at first.
     explicit DimmingOverlay(QWidget* dimmed);
 
-    /// What is left of the widget, 0 to 1; 1 takes the veil off.
+    /// What is left of the widget, 0 to 1; 1 takes the overlay away.
     void setOpacity(double opacity);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

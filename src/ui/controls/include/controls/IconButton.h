@@ -7,7 +7,7 @@
 namespace quorvane {
 
 /// A button that shows a symbol only. Its name, which is its tooltip as well, says what it does.
-/// One that has something open looks pressed.
+/// One that has something open is shown as pressed.
 class IconButton : public PressableControl {
     Q_OBJECT
 

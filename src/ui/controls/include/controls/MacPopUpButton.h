@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// The pop-up button of a form: as wide as its place.
+/// The pop-up button of a form, as wide as its place: chooses the date format in the panel.
 class MacPopUpButton final : public PopUpChoice {
     Q_OBJECT
 

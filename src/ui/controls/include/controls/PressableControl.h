@@ -55,7 +55,10 @@ protected:
     void changeEvent(QEvent* event) override;
 };
 
-/// What the look lays over a control's fill: nothing at rest.
+/// What is laid over a control's fill in that visual state: nothing in the normal one.
 [[nodiscard]] QColor overlayFor(PressableControl::VisualState state, const Theme& theme);
+
+/// The accent as a control's fill in that visual state: a darker one instead of an overlay.
+[[nodiscard]] QColor accentFill(PressableControl::VisualState state, const Theme& theme);
 
 } // namespace quorvane

@@ -7,7 +7,8 @@ namespace quorvane {
 
 class IconButton;
 
-/// A text field to search with: quiet, with a lens before the text and a button that clears it.
+/// A text field to search with: without a frame, with a lens before the text and a button that
+/// clears it.
 class SearchField final : public TextField {
     Q_OBJECT
 

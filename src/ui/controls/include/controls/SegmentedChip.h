@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// A row of mutually exclusive segments in the look of a chip.
+/// A row of mutually exclusive segments drawn as a chip.
 class SegmentedChip final : public SegmentedRow {
     Q_OBJECT
 

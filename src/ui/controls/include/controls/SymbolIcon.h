@@ -9,13 +9,14 @@
 
 namespace quorvane {
 
-/// What a symbol is drawn with where nobody tells the colour of the ground.
+/// What a symbol is drawn with where the colour of the background is unknown.
 struct SymbolColors {
     QColor color;
-    QColor halo; ///< thinly around the ink; it alone shows on a ground like it
+    QColor
+        halo; ///< thinly around the symbol; all that shows on a background of the symbol's colour
 
     /// In the palette's text colour, whose opposite is the halo: on a bar that follows the
-    /// desktop's light or dark, only the ink is seen; on one of the other tone, its outline.
+    /// desktop's light or dark, only the symbol is seen; on one of the other tone, its outline.
     [[nodiscard]] static SymbolColors of(const QPalette& palette);
 };
 

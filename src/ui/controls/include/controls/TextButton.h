@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// A button that is a word in the accent's ink.
+/// A button that is a word in the accent's colour.
 class TextButton final : public PressableControl {
     Q_OBJECT
 

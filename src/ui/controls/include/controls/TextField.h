@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// One line of text in the look of a chip; the frame shows the focus.
+/// One line of text on a chip's surface; the frame shows the focus.
 class TextField : public QLineEdit {
     Q_OBJECT
 

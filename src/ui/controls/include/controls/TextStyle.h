@@ -19,8 +19,8 @@ enum class TextStyle { Title, Headline, Body, Callout, Caption };
 /// In a fixed size, for what is drawn inside a fixed frame (key caps, the digits of a clock).
 [[nodiscard]] QFont fixedSizeFont(QFont body, int pixels, QFont::Weight weight);
 
-/// Where the ink of a text is when it is drawn at the origin. A font's metrics say less: there ink
-/// always reaches down to the base line.
+/// What a text covers when it is drawn at the origin. A font's metrics say less: there every text
+/// extends down to the base line.
 [[nodiscard]] QRectF foregroundOf(const QString& text, const QFont& font);
 
 } // namespace quorvane

@@ -14,7 +14,7 @@ enum class ColorScheme { Light, Dark };
 enum class ContrastLevel { Normal, High };
 
 /// Every colour of the interface. Views ask for it when they paint, so that a change of the
-/// palette shows at once.
+/// palette shows at once; for a palette that has not changed the answer is kept.
 struct Theme {
     QColor windowBackground;  ///< panel, preferences
     QColor controlBackground; ///< whatever takes a press or text
@@ -28,7 +28,7 @@ struct Theme {
     QColor accentHover;
     QColor accentPressed;
     QColor onAccent;
-    QColor accentText; ///< the accent as ink, and as the tint of what is chosen
+    QColor accentText; ///< the accent as a foreground colour, and as the tint of what is chosen
 
     QColor selectedBorder;  ///< of a chosen zone
     QColor suggestedBorder; ///< of a suggested one
@@ -53,21 +53,23 @@ struct Theme {
 
     QColor keyCapBorder;
     QColor keyCapShadow;
-    QColor keyCapHighlight;       ///< transparent on light grounds
+    QColor keyCapHighlight;       ///< transparent on light backgrounds
     QColor scrim;                 ///< over what a sheet covers
     std::array<QColor, 6> shadow; ///< of a popover, from its edge outwards
 
-    /// The colours that go with a palette. Of the house's own palettes they are the house's; of
-    /// another one, whatever it gives is kept and the rest is derived from it with enough contrast.
+    /// The colours that go with a palette. Of the built-in palettes they are the built-in theme's;
+    /// of another one, whatever it gives is kept and the rest is derived from it with enough
+    /// contrast.
     /// A palette of black on white, or of white on black, asks for high contrast: all text then has
-    /// 7:1, and every edge is as strong as text.
+    /// 7:1, and every edge is as strong as text. For the thread of the interface alone.
     [[nodiscard]] static Theme of(const QPalette& palette);
 
+    /// The theme for desktops that bring no colours of their own.
     [[nodiscard]] static const Theme& builtIn(ColorScheme scheme);
 };
 
-/// The house's own palette, for desktops that give none; with the user's accent, if there is one,
-/// darkened or lightened until what stands on it can be read.
+/// The built-in theme's palette, for desktops that give none; with the user's accent, if there is
+/// one, darkened or lightened until what stands on it can be read.
 [[nodiscard]] QPalette builtInPalette(
     ColorScheme scheme,
     ContrastLevel contrast = ContrastLevel::Normal,
