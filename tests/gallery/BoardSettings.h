@@ -15,7 +15,7 @@
 
 namespace quorvane {
 
-/// What a desktop and its user decide about the look of everything.
+/// What a desktop and its user decide about how everything is painted.
 struct BoardSetting {
     QString name; ///< what the pictures' names end with
     ColorScheme scheme = ColorScheme::Light;

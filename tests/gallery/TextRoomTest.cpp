@@ -117,7 +117,7 @@ Space spaceAround(const QImage& with, const QImage& without) {
     int last = -1;
     for (int y = 0; y < with.height(); ++y) {
         for (int x = 0; x < with.width(); ++x) {
-            // Half of an edge pixel's ink counts.
+            // Half of an edge pixel's colour counts.
             const int change = std::abs(qGray(with.pixel(x, y)) - qGray(without.pixel(x, y)));
             if (change > 70) {
                 first = std::min(first, y);

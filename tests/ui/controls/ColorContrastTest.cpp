@@ -41,13 +41,13 @@ TEST(ColorContrast, ColorThatIsReadableStays) {
 
 TEST(ColorContrast, PushedColorReachesTheRatioAndKeepsItsHue) {
     const QColor colors[] = {0xffff00, 0x3daee9, 0x00ff00, 0xffc0cb, 0x202060};
-    const QColor grounds[] = {Qt::white, Qt::black, 0xf6f6f8, 0x2a2b2f, 0x777777};
+    const QColor backgrounds[] = {Qt::white, Qt::black, 0xf6f6f8, 0x2a2b2f, 0x777777};
     for (const auto& color : colors) {
-        for (const auto& ground : grounds) {
+        for (const auto& background : backgrounds) {
             // In eight bits, which is what a screen shows.
-            const QColor pushed(pushedToContrast(color, ground, 4.5).rgb());
-            EXPECT_GE(contrastRatio(pushed, ground), 4.5)
-                << color.name().toStdString() << " on " << ground.name().toStdString();
+            const QColor pushed(pushedToContrast(color, background, 4.5).rgb());
+            EXPECT_GE(contrastRatio(pushed, background), 4.5)
+                << color.name().toStdString() << " on " << background.name().toStdString();
             EXPECT_NEAR(pushed.hslHue(), color.hslHue(), 6); // as near as dark tones come
         }
     }

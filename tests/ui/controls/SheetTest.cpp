@@ -56,7 +56,7 @@ TEST_F(SheetTest, TabStaysInside) {
     EXPECT_EQ(window.focusWidget(), done);
 }
 
-TEST_F(SheetTest, WhatLiesBelowIsOutOfReach) {
+TEST_F(SheetTest, WhatLiesBelowTakesNoInput) {
     const QSignalSpy clicks(&below, &TextButton::clicked);
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {5, 5});
     EXPECT_TRUE(sheet->isVisible());

@@ -45,34 +45,34 @@ TEST(SymbolIcon, IsReadOnBarsOfEitherToneWhateverTheDesktopsIs) {
     for (const auto scheme : schemes) {
         for (const auto bar : {u"#ffffff", u"#f6f6f8", u"#1d1e21", u"#000000"}) {
             for (const int size : barSizes) {
-                const QColor ground{QString::fromUtf16(bar)};
-                EXPECT_GT(visibleShare(shown(icon(scheme), size, ground), ground), 0.1)
-                    << ground.name().toStdString() << ' ' << size;
+                const QColor background{QString::fromUtf16(bar)};
+                EXPECT_GT(visibleShare(shown(icon(scheme), size, background), background), 0.1)
+                    << background.name().toStdString() << ' ' << size;
             }
         }
     }
 }
 
-TEST(SymbolIcon, OnABarOfTheDesktopsToneOnlyTheInkIsSeen) {
+TEST(SymbolIcon, OnABarOfTheDesktopsToneOnlyTheSymbolIsSeen) {
     for (const auto scheme : schemes) {
-        const auto ink = SymbolColors::of(builtInPalette(scheme));
+        const auto colors = SymbolColors::of(builtInPalette(scheme));
         for (const int size : barSizes) {
             QImage plain(size, size, QImage::Format_RGB32);
-            plain.fill(ink.halo);
+            plain.fill(colors.halo);
             QPainter painter(&plain);
             paintSymbol(
                 painter,
                 Symbol::CalendarBadgeClock,
                 {static_cast<double>(size)},
                 plain.rect(),
-                ink.color);
+                colors.color);
             painter.end();
-            EXPECT_EQ(shown(icon(scheme), size, ink.halo), plain) << size;
+            EXPECT_EQ(shown(icon(scheme), size, colors.halo), plain) << size;
         }
     }
 }
 
-TEST(SymbolIcon, InkIsThePalettesTextAndTheHaloItsOpposite) {
+TEST(SymbolIcon, SymbolIsInThePalettesTextColorAndTheHaloItsOpposite) {
     const auto light = SymbolColors::of(builtInPalette(ColorScheme::Light));
     EXPECT_EQ(light.color, Theme::builtIn(ColorScheme::Light).text);
     EXPECT_EQ(light.halo, QColor(Qt::white));
@@ -98,7 +98,7 @@ TEST(SymbolIcon, OffersTheSizesThatBarsAskFor) {
     EXPECT_FALSE(icon(ColorScheme::Dark).isNull());
 }
 
-/// For people: each size on each bar, ink of the bar's tone above, of the other one below.
+/// For people: each size on each bar, symbols of the bar's tone above, of the other one below.
 TEST(SymbolIcon, Board) {
     const std::array bars{u"#ffffff"_s, u"#f6f6f8"_s, u"#8a8f98"_s, u"#3b6ea5"_s, u"#1d1e21"_s};
     constexpr QSize cell(220, 64);

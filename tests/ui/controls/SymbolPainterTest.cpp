@@ -65,7 +65,7 @@ TEST(SymbolPainter, EverySymbolIsDrawnAtEverySizeInTheColorAskedFor) {
     }
 }
 
-TEST(SymbolPainter, HeavierWeightHasMoreInk) {
+TEST(SymbolPainter, HeavierWeightCoversMore) {
     for (const auto symbol : {Symbol::Plus, Symbol::Xmark, Symbol::ChevronDown}) {
         const auto coverage = [&](double weight) {
             const auto image = painted(symbol, {16, weight}, 2, Qt::black);

@@ -63,10 +63,10 @@ TEST_P(TextFits, InKeyCapsThatKeepTheirSize) {
 double inkEnd(QWidget& control, int width, double scale) {
     control.setFixedWidth(width);
     const auto image = picture(control, scale);
-    const QRgb ground = image.pixel(image.width() - 1, image.height() / 2);
+    const QRgb background = image.pixel(image.width() - 1, image.height() / 2);
     for (int x = image.width() - 1; x > 0; --x)
         for (int y = 0; y < image.height(); ++y)
-            if (image.pixel(x, y) != ground)
+            if (image.pixel(x, y) != background)
                 return (x + 1) / scale;
     return 0;
 }

@@ -66,13 +66,13 @@ TEST_F(FieldChipTest, TellsWhetherItIsExpanded) {
     EXPECT_FALSE(stateOf(dateChip).expanded);
 }
 
-TEST_F(FieldChipTest, ItsFrameIsInTheAccentsInkWhileItIsOpen) {
-    const auto ink = Theme::of(window.palette()).accentText.rgb();
-    EXPECT_NE(frameColor(dateChip), ink);
+TEST_F(FieldChipTest, ItsFrameHasTheAccentsColorWhileItIsOpen) {
+    const auto accent = Theme::of(window.palette()).accentText.rgb();
+    EXPECT_NE(frameColor(dateChip), accent);
     clickOn(dateChip);
-    EXPECT_EQ(frameColor(dateChip), ink);
+    EXPECT_EQ(frameColor(dateChip), accent);
     press(Qt::Key_Escape);
-    EXPECT_NE(frameColor(dateChip), ink);
+    EXPECT_NE(frameColor(dateChip), accent);
 }
 
 TEST_F(FieldChipTest, EscapeClosesAndGivesTheFocusBack) {

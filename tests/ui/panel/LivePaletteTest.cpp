@@ -148,7 +148,7 @@ protected:
     }
 };
 
-TEST_P(LivePalette, AViewThatLivedThroughTheChangeLooksLikeOneMadeAfterIt) {
+TEST_P(LivePalette, AViewThatLivedThroughTheChangePaintsAsOneMadeAfterIt) {
     QApplication::setPalette(builtInPalette(ColorScheme::Light));
     const auto old = open();
     const auto light = picture(*old);

@@ -274,7 +274,7 @@ QImage pictureOf(QWidget& widget) {
 }
 
 TEST_F(OutputPreviewTest, SelectionHasNoStripesBetweenItsRows) {
-    show(u"    \n    \n    "_s); // no ink: any change of colour is a stripe
+    show(u"    \n    \n    "_s); // nothing is drawn: any change of colour is a stripe
     QTest::keySequence(preview, QKeySequence::SelectAll);
     next->setFocus(); // no caret
     const auto picture = pictureOf(*preview);

@@ -212,9 +212,9 @@ TEST_F(PopoverViewTest, WithoutAZoneForTheTimeNothingCanBeDelivered) {
 }
 
 TEST_F(PopoverViewTest, WhatCannotBeUsedIsDimmedAsOne) {
-    const auto ground = Theme::of(view.palette()).windowBackground;
+    const auto background = Theme::of(view.palette()).windowBackground;
     const auto foregroundOf = [&](QWidget& widget) {
-        // The darkest pixel is the ink of text or symbol, however it is smoothed.
+        // The darkest pixel is that of text or symbol, however it is smoothed.
         const auto image = widget.grab().toImage();
         int darkest = 255;
         for (int y = 0; y < image.height(); ++y) {
@@ -229,7 +229,7 @@ TEST_F(PopoverViewTest, WhatCannotBeUsedIsDimmedAsOne) {
     const int copyColor = foregroundOf(copy);
     model.setSelectedTimeZones({});
     queue.run();
-    const int white = qGray(ground.rgb());
+    const int white = qGray(background.rgb());
     EXPECT_NEAR(foregroundOf(format), white + (formatColor - white) * 0.4, 3);
     EXPECT_NEAR(foregroundOf(copy), white + (copyColor - white) * 0.5, 3);
 }

@@ -33,7 +33,7 @@ protected:
     QRect placeOf(const QString& text) { return placeOf(*label(text)); }
 };
 
-TEST_F(PreferencesLayoutTest, HasTheMeasuresOfTheLook) {
+TEST_F(PreferencesLayoutTest, HasTheMeasuresOfTheDesign) {
     settle();
     EXPECT_EQ(view->width(), 400);
     EXPECT_EQ(placeOf(u"Keyboard Shortcut"_s).topLeft(), QPoint(10, 10));

@@ -70,7 +70,7 @@ TEST_F(KeyCaptureTest, GivesUpTheFocusOnALaterTurn) {
     EXPECT_EQ(window.focusWidget(), nullptr);
 }
 
-TEST_F(KeyCaptureTest, GivesTheFocusToItsHeir) {
+TEST_F(KeyCaptureTest, GivesTheFocusToTheNextFocus) {
     capture->setNextFocus(field);
     startRecording();
     capture->setIsRecording(false);
@@ -92,7 +92,7 @@ TEST_F(KeyCaptureTest, WithoutAWindowNothingHappens) {
     EXPECT_EQ(unshown.focusWidget(), nullptr);
 }
 
-TEST_F(KeyCaptureTest, DestroyedBeforeItsTurnItIsForgotten) {
+TEST_F(KeyCaptureTest, DestroyedBeforeItTakesTheFocusItIsForgotten) {
     capture->setIsRecording(true);
     delete capture;
     queue.run();
@@ -229,29 +229,29 @@ TEST_F(KeyCaptureTest, RepeatsOfTheKeyThatEndedTheRecordingReachNobody) {
         void keyReleaseEvent(QKeyEvent*) override { ++released; }
     };
 
-    auto* heir = new Witness(&window);
-    heir->setFocusPolicy(Qt::StrongFocus);
-    heir->show();
-    capture->setNextFocus(heir);
+    auto* next = new Witness(&window);
+    next->setFocusPolicy(Qt::StrongFocus);
+    next->show();
+    capture->setNextFocus(next);
     startRecording();
     keyboard.press(escape);
     capture->setIsRecording(false);
     queue.run();
-    ASSERT_EQ(window.focusWidget(), heir);
+    ASSERT_EQ(window.focusWidget(), next);
     keyboard.repeat(escape);
     keyboard.repeat(escape);
-    EXPECT_EQ(heir->pressed, 0);
-    EXPECT_EQ(heir->released, 0);
+    EXPECT_EQ(next->pressed, 0);
+    EXPECT_EQ(next->released, 0);
     keyboard.release(escape);
     keyboard.press(escape);
-    EXPECT_EQ(heir->pressed, 1);
+    EXPECT_EQ(next->pressed, 1);
     keyboard.repeat(escape);
-    EXPECT_EQ(heir->pressed, 2);
+    EXPECT_EQ(next->pressed, 2);
 }
 
 TEST_F(KeyCaptureTest, NothingIsToldOnceTheRecordingHasEnded) {
     startRecording();
-    capture->setIsRecording(false); // the focus goes on a later turn
+    capture->setIsRecording(false); // the focus goes in a later event-loop iteration
     keyboard.type(d, {control});
     keyboard.type(escape);
     EXPECT_TRUE(combos.empty());

@@ -277,7 +277,7 @@ TEST_F(ShortcutRecorderTest, LabelsFollowTheLayout) {
     EXPECT_EQ(shown().back(), u"E"_s);
 }
 
-TEST_F(ShortcutRecorderTest, HasTheMeasuresOfTheLook) {
+TEST_F(ShortcutRecorderTest, HasTheMeasuresOfTheDesign) {
     recorder->layout()->activate();
     EXPECT_EQ(recorder->size().height(), 32);
     EXPECT_EQ(caps().front()->x(), 5);

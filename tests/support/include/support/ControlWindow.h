@@ -11,7 +11,7 @@
 
 namespace quorvane {
 
-/// A window in the house's palette whose controls stand in a column, shown and active.
+/// A window in the built-in palette whose controls stand in a column, shown and active.
 class ControlWindow : public QWidget {
 public:
     explicit ControlWindow(ColorScheme scheme = ColorScheme::Light) {
