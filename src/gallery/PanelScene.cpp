@@ -6,11 +6,11 @@
 
 #include <QLayout>
 
+#include <panel/PanelMetrics.h>
+
 namespace quorvane {
 
 namespace {
-
-constexpr int panelWidth = 504;
 
 DateTimeModel& prepared(DateTimeModel& model, const PanelScene::Preparation& prepare) {
     if (prepare)
@@ -46,7 +46,8 @@ PanelScene::PanelScene(MainQueue& queue, const Preparation& prepare, const UserL
 
 void PanelScene::show(QPoint corner) {
     m_view.ensurePolished();
-    m_view.setGeometry({corner, QSize(panelWidth, m_view.layout()->heightForWidth(panelWidth))});
+    m_view.setGeometry(
+        {corner, QSize(panelmetrics::width, m_view.layout()->heightForWidth(panelmetrics::width))});
     m_view.show();
 }
 

@@ -11,6 +11,7 @@
 #include <controls/SearchField.h>
 #include <controls/TextStyle.h>
 #include <picker/ZoneList.h>
+#include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>
 
@@ -30,15 +31,15 @@ constexpr int margin = 32;
 constexpr int noteHeight = 16;
 constexpr int noteGap = 12;
 constexpr int titleHeight = 36;
-constexpr QSize contentSize{400, 540};
 constexpr double windowRadius = 12;
 constexpr int closeInset = 4;
 constexpr int windows = 3;
 constexpr QSize boardSize{
-    margin + windows * (contentSize.width() + margin),
-    2 * margin + noteHeight + noteGap + titleHeight + contentSize.height()};
+    margin + windows * (preferencesmetrics::size.width() + margin),
+    2 * margin + noteHeight + noteGap + titleHeight + preferencesmetrics::size.height()};
 
-/// Drops everything: a picture has no later turn, and no window of it keeps the focus.
+/// Drops everything: a picture has no later event-loop iteration, and no window of it keeps the
+/// focus.
 class NoQueue final : public MainQueue {
 public:
     void async(Task /*task*/) override {}
@@ -138,7 +139,8 @@ PreferencesView& PreferencesBoard::addWindow(const QString& note, Icons icons) {
             }},
         [](HotKeyCombo) {},
         this);
-    sample.view->setGeometry(QRect(frame.topLeft() + QPoint(0, titleHeight), contentSize));
+    sample.view->setGeometry(
+        QRect(frame.topLeft() + QPoint(0, titleHeight), preferencesmetrics::size));
     auto* close = new IconButton(IconButton::Kind::Close, Symbol::Xmark, u"Close"_s, this);
     close->move(
         frame.right() + 1 - closeInset - close->sizeHint().width(), frame.top() + closeInset);
@@ -150,12 +152,12 @@ PreferencesView& PreferencesBoard::addWindow(const QString& note, Icons icons) {
 }
 
 QRect PreferencesBoard::frameOf(std::size_t index) const {
-    const int left = margin + static_cast<int>(index) * (contentSize.width() + margin);
+    const int left = margin + static_cast<int>(index) * (preferencesmetrics::size.width() + margin);
     return {
         left,
         margin + noteHeight + noteGap,
-        contentSize.width(),
-        titleHeight + contentSize.height()};
+        preferencesmetrics::size.width(),
+        titleHeight + preferencesmetrics::size.height()};
 }
 
 } // namespace quorvane

@@ -17,7 +17,7 @@ qint64 wrapped(qint64 number, qint64 modulus) {
     return (number % modulus + modulus) % modulus;
 }
 
-/// `number + step`, wrapped before it is added: typed numbers reach to the limits of 64 bits.
+/// `number + step`, wrapped before it is added: typed numbers go up to the limits of 64 bits.
 qint64 steppedAround(qint64 number, qint64 step, qint64 modulus) {
     return wrapped(wrapped(number, modulus) + wrapped(step, modulus), modulus);
 }

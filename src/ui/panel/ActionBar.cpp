@@ -2,13 +2,14 @@
 #include "ActionBar.h"
 
 #include "CopyButton.h"
-#include "PanelMetrics.h"
 
 #include <controls/DimmingOverlay.h>
 #include <controls/Theme.h>
 
 #include <QHBoxLayout>
 #include <QPainter>
+
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

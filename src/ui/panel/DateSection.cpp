@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DateSection.h"
 
-#include "PanelMetrics.h"
 #include "SectionLabel.h"
 
 #include <composition/IncludeGuard.h>
@@ -11,6 +10,8 @@
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

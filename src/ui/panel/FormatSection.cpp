@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "FormatSection.h"
 
-#include "OutputFont.h"
-
 #include <controls/MacPopUpButton.h>
 #include <controls/MacSegmentedControl.h>
 #include <controls/TextField.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
+#include <panel/OutputPreview.h>
 
 namespace quorvane {
 

@@ -12,6 +12,8 @@
 
 namespace quorvane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double rowHeightPerSize = 1.5;
@@ -25,6 +27,24 @@ void discardRows(QTextBlock block) {
 }
 
 } // namespace
+
+QString documentText(QString output) {
+    constexpr QChar zeroWidthSpace(0x200b);
+    return output.replace(u"\r\n"_s, QString(zeroWidthSpace) + u'\n');
+}
+
+qsizetype firstPartLength(const QString& text, qsizetype size) {
+    if (size >= text.size())
+        return text.size();
+    return text.at(size).isLowSurrogate() ? size + 1 : size;
+}
+
+qsizetype nextPartLength(const QString& text, qsizetype shown, qsizetype size) {
+    if (shown + size >= text.size())
+        return text.size() - shown;
+    const auto feed = text.indexOf(u'\n', shown + size);
+    return (feed < 0 ? text.size() : feed + 1) - shown;
+}
 
 OutputLayout::OutputLayout(QTextDocument* document) : QPlainTextDocumentLayout(document) {
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "OutputFont.h"
 #include "OutputLayout.h"
-#include "OutputParts.h"
 
 #include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/OverlayScrollBar.h>
+#include <controls/TextStyle.h>
 #include <controls/Theme.h>
 
+#include <QFontDatabase>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -38,6 +38,12 @@ constexpr qsizetype laterPart = 2000;
 constexpr Seconds pauseBeforeRest{0.15};
 
 } // namespace
+
+QFont outputFont(const QFont& body) {
+    auto font = textFont(body, TextStyle::Callout);
+    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    return font;
+}
 
 OutputPreview::OutputPreview(MainQueue& queue, QWidget* parent)
     : QPlainTextEdit(parent),

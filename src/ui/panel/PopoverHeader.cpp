@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverHeader.h"
 
-#include "PanelMetrics.h"
-
 #include <controls/IconButton.h>
 #include <controls/KeyCap.h>
 #include <controls/MenuButton.h>
@@ -15,6 +13,7 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <panel/PanelMetrics.h>
 #include <utility>
 
 namespace quorvane {
@@ -29,7 +28,7 @@ constexpr int titleGap = 8;
 constexpr int capsGap = 12;
 constexpr int capSpacing = 4;
 constexpr int buttonSpacing = 4;
-constexpr int buttonOverhang = 8; ///< the last button's ink ends with the column
+constexpr int buttonOverhang = 8; ///< what the last button paints ends with the column
 
 } // namespace
 

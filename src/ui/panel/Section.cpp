@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Section.h"
 
-#include "PanelMetrics.h"
 #include "SectionLabel.h"
 
 #include <controls/DimmingOverlay.h>
 
 #include <QVBoxLayout>
+
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

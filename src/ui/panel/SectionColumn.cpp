@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "SectionColumn.h"
 
-#include "PanelMetrics.h"
-
 #include <controls/OverlayScrollBar.h>
 
 #include <QEvent>
 #include <QVBoxLayout>
+
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 
@@ -23,7 +23,7 @@ SectionColumn::SectionColumn(QWidget* parent) : QScrollArea(parent) {
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     new OverlayScrollBar(this);
-    // The ground is the window's.
+    // The background is the window's.
     viewport()->setAutoFillBackground(false);
     column->setAutoFillBackground(false);
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SectionLabel.h"
 
-#include "PanelMetrics.h"
-
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
@@ -12,6 +10,8 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
+
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

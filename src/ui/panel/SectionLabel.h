@@ -10,7 +10,7 @@ class QLabel;
 
 namespace quorvane {
 
-/// The first line of a section: its symbol and name, perhaps a quiet note, and at its end whatever
+/// The first line of a section: its symbol and name, perhaps a note, and at its end whatever
 /// belongs to the section as a whole.
 class SectionLabel final : public QWidget {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 
     enum class End {
         WithColumn,
-        BeyondColumn ///< so that a symbol's ink ends with the column
+        BeyondColumn ///< by the overhang, so that what a symbol paints ends with the column
     };
 
     void addTrailing(QWidget* widget, End end = End::WithColumn);

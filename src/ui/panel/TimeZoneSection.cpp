@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TimeZoneSection.h"
 
-#include "PanelMetrics.h"
 #include "SectionLabel.h"
 
 #include <controls/IconButton.h>
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <panel/FavoriteSuggestionChip.h>
+#include <panel/PanelMetrics.h>
 #include <panel/TimeZoneChip.h>
 
 namespace quorvane {

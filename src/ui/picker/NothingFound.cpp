@@ -14,7 +14,7 @@ namespace {
 
 constexpr int top = 96;
 constexpr int lensSize = 24;
-constexpr double lensStroke = 1.25; ///< large, it would look heavier than the text below
+constexpr double lensStroke = 1.25; ///< large, it would seem heavier than the text below
 constexpr int textGap = 8;
 constexpr int sideMargin = 40;
 

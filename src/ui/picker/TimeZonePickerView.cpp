@@ -23,7 +23,7 @@ namespace {
 constexpr int headHeight = 44;
 constexpr int topPadding = 4;
 constexpr int sideMargin = 16;
-constexpr int doneOverhang = 8; ///< the button's padding ends beyond the column
+constexpr int doneOverhang = 8; ///< the button's text ends with the column
 constexpr int listGap = 8;
 constexpr int lineWidth = 1;
 

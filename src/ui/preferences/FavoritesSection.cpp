@@ -3,7 +3,6 @@
 
 #include "FavoriteListModel.h"
 #include "FavoriteRowDelegate.h"
-#include "PreferencesMetrics.h"
 #include "StarredFilter.h"
 #include "WrappedText.h"
 
@@ -12,6 +11,7 @@
 #include <picker/NothingFound.h>
 #include <picker/ZoneList.h>
 #include <picker/ZoneListKeys.h>
+#include <preferences/PreferencesMetrics.h>
 
 #include <QGridLayout>
 #include <QScrollBar>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "IconsSection.h"
 
-#include "PreferencesMetrics.h"
 #include "WrappedText.h"
 
 #include <model/DateTimeModel.h>
+#include <preferences/PreferencesMetrics.h>
 
 #include <QVBoxLayout>
 
@@ -12,8 +12,8 @@ namespace quorvane {
 
 namespace {
 
-/// Ends as far beyond its ink as the switches do, so that what follows keeps its distance from
-/// either.
+/// Has the overhang of the switches below it, so that what follows is as far from the text as from
+/// a switch.
 QWidget* makeNote(const QString& text, QWidget* parent) {
     auto* note = new QWidget(parent);
     auto* column = new QVBoxLayout(note);

@@ -13,7 +13,7 @@ class IconsSection final : public PreferencesSection {
     Q_OBJECT
 
 public:
-    /// How far the section reaches beyond its ink, at its lower end.
+    /// How far the section extends beyond what it paints, at its lower end.
     static constexpr int overhang = SwitchRow::overhang;
 
     IconsSection(DateTimeModel& model, QWidget* parent);

@@ -1,19 +1,35 @@
 // SPDX-License-Identifier: MIT
-#include "Divider.h"
 #include "FavoritesSection.h"
 #include "IconsSection.h"
-#include "PreferencesMetrics.h"
 #include "ShortcutSection.h"
 
 #include <controls/SearchField.h>
+#include <controls/Theme.h>
+#include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 
+#include <QPainter>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace quorvane {
+
+namespace {
+
+/// A line between two sections.
+class Divider final : public QWidget {
+public:
+    explicit Divider(QWidget* parent) : QWidget(parent) { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).fillRect(rect(), Theme::of(palette()).divider);
+    }
+};
+
+} // namespace
 
 PreferencesView::PreferencesView(
     DateTimeModel& model, Dependencies dependencies, OnHotKeyChange onHotKeyChange, QWidget* parent)
@@ -33,7 +49,7 @@ PreferencesView::PreferencesView(
           this)),
       m_icons(new IconsSection(model, this)),
       m_favorites(new FavoritesSection(model, m_dependencies.zones, m_dependencies.clock, this)) {
-    setFixedWidth(preferencesmetrics::width);
+    setFixedWidth(preferencesmetrics::size.width());
     layOut();
     connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });
     refresh();
@@ -77,7 +93,7 @@ void PreferencesView::showEvent(QShowEvent* event) {
 
 void PreferencesView::layOut() {
     using namespace preferencesmetrics;
-    // Switches reach beyond their ink, and so does their section below.
+    // Switches are taller than what they paint, and so their section extends below it.
     constexpr int afterSwitches = dividerSpacing - IconsSection::overhang;
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, 0);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ShortcutSection.h"
 
-#include "PreferencesMetrics.h"
 #include "WrappedText.h"
+
+#include <preferences/PreferencesMetrics.h>
 
 #include <QHBoxLayout>
 

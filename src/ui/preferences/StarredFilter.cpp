@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "StarredFilter.h"
 
-#include "StarMark.h"
-
 #include <controls/CheckBox.h>
 
 #include <QEvent>
@@ -19,6 +17,12 @@ constexpr int starSize = 12;
 constexpr int endPadding = 8;
 
 } // namespace
+
+void paintStarred(QPainter& painter, double size, const QRectF& rect, const Theme& theme) {
+    constexpr double edge = 1;
+    paintSymbol(painter, Symbol::StarFill, {size, edge}, rect, theme.star);
+    paintSymbol(painter, Symbol::Star, {size, edge}, rect, theme.starBorder);
+}
 
 StarredFilter::StarredFilter(QWidget* parent) : QWidget(parent), m_box(new CheckBox({}, this)) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

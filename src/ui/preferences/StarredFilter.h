@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/SymbolPainter.h>
+#include <controls/Theme.h>
+
 #include <QWidget>
 
 namespace quorvane {
 
 class CheckBox;
+
+/// A favourite's star: yellow with a darker edge.
+void paintStarred(QPainter& painter, double size, const QRectF& rect, const Theme& theme);
 
 /// A checkbox that a star stands for, at the end of the search field: favourites only.
 class StarredFilter final : public QWidget {

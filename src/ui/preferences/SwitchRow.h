@@ -16,7 +16,8 @@ class SwitchRow final : public QWidget {
     Q_OBJECT
 
 public:
-    /// How far the row reaches beyond its ink, above and below: the switch is a target of 24.
+    /// How far the row extends beyond what it paints, above and below: the switch takes presses on
+    /// a height of 24.
     static constexpr int overhang = 3;
 
     SwitchRow(const QString& label, QWidget* parent);

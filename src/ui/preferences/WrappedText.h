@@ -14,7 +14,7 @@ namespace quorvane {
 /// The height of a line of text in a style, for a widget whose font is `body`.
 [[nodiscard]] int lineHeight(const QFont& body, TextStyle style);
 
-/// A label in one of the house's styles that breaks into lines where its room ends, and follows
+/// A label in one of the text styles that breaks into lines where its room ends, and follows
 /// the desktop's font while it is shown.
 class WrappedText final : public QLabel {
     Q_OBJECT

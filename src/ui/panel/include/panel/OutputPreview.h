@@ -3,6 +3,7 @@
 
 #include <controls/FocusShaped.h>
 
+#include <QFont>
 #include <QPlainTextEdit>
 
 #include <loop/Deadline.h>
@@ -12,6 +13,10 @@
 namespace quorvane {
 
 class OutputLayout;
+
+/// The desktop's fixed font in the size of a callout: for output, and for the patterns that it
+/// follows.
+[[nodiscard]] QFont outputFont(const QFont& body);
 
 /// The output as it will be delivered: selectable, never editable, as tall as its rows up to forty,
 /// beyond which it scrolls. Takes what height is left over.

@@ -50,7 +50,8 @@ public:
     PopoverView(DateTimeModel& model, Dependencies dependencies, Callbacks callbacks);
     ~PopoverView() override;
 
-    /// Shows everything anew on a later turn, for changes that the model does not announce.
+    /// Shows everything anew in a later event-loop iteration, for changes that the model does not
+    /// announce.
     void refreshSoon() { m_refresh.schedule(); }
 
     /// Puts the output on the pasteboard and says so on the button for a while.

@@ -60,8 +60,8 @@ public:
     /// Stars the zone as the last of the favourites, or removes it from them.
     void toggleFavorite(const TimeZone& zone);
 
-    /// Shows everything anew on a later turn, for changes that the model does not announce: of the
-    /// keyboard layout, and of who holds the shortcut.
+    /// Shows everything anew in a later event-loop iteration, for changes that the model does not
+    /// announce: of the keyboard layout, and of who holds the shortcut.
     void refreshSoon() { m_refresh.schedule(); }
 
 protected:

@@ -44,7 +44,7 @@ public:
 
     [[nodiscard]] bool isRecording() const { return m_isRecording; }
 
-    /// Takes the focus, or gives it up, on a later turn of the main loop: after the views that show
+    /// Takes the focus, or gives it up, in a later event-loop iteration: after the views that show
     /// the recording have changed.
     void setIsRecording(bool isRecording);
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The measures of the panel, in points.
+/// What the panel's parts, its windows and the gallery agree on: its width and the distances that
+/// more than one section keeps. In points.
 namespace quorvane::panelmetrics {
 
+/// Of the content, in the popover as in the window of its own; the height follows from it.
+inline constexpr int width = 504;
 inline constexpr int sideMargin = 18;
-/// How far a control may reach beyond the column, so that its ink ends with it.
+/// How far a control may extend beyond the column, so that what it paints ends with the column.
 inline constexpr int overhang = 4;
 inline constexpr int sectionSpacing = 14;
 inline constexpr int labelHeight = 24;

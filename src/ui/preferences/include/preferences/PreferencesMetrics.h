@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSize>
+
 /// The measures of the preferences, in points.
 namespace quorvane::preferencesmetrics {
 
-inline constexpr int width = 400;
+inline constexpr QSize size{400, 540}; ///< of the whole content
 inline constexpr int margin = 10;
 inline constexpr int dividerSpacing = 14; ///< on either side of a divider
 inline constexpr int rowSpacing = 8;
