@@ -6,6 +6,7 @@
 #include <QImage>
 #include <benchmark/benchmark.h>
 
+#include <panel/PanelMetrics.h>
 #include <time/Clock.h>
 
 namespace quorvane {
@@ -13,7 +14,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr QSize panelSize{504, 488};
+constexpr QSize panelSize{panelmetrics::width, 488};
 
 TimeZonePickerView* makePicker(const ZoneDatabase& zones, const Clock& clock) {
     return new TimeZonePickerView(

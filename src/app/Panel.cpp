@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <panel/PanelMetrics.h>
 #include <utility>
 
 namespace quorvane {
@@ -28,7 +29,7 @@ Panel::Panel(QWidget* content)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
-    setFixedWidth(panelplacement::contentWidth);
+    setFixedWidth(panelmetrics::width);
     setMinimumHeight(panelplacement::minimumContentHeight);
     new FocusRing(this);
     m_fittingHeight = fittingHeight();

@@ -10,6 +10,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <panel/PanelMetrics.h>
 #include <utility>
 
 namespace quorvane {
@@ -46,7 +47,7 @@ void PanelFrame::restore() {
     }
     const auto area = screens::mainScreen(m_dependencies.workspace).availableGeometry();
     const QSize size(
-        panelplacement::contentWidth,
+        panelmetrics::width,
         std::min(panelplacement::contentHeight(m_panel.fittingHeight()), area.height()));
     request(panelplacement::centred(size, area));
 }

@@ -5,13 +5,14 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <panel/PanelMetrics.h>
 
 namespace quorvane::panelplacement {
 
 int fittingHeight(QWidget& content) {
     content.ensurePolished();
     const auto* layout = content.layout();
-    return layout != nullptr && layout->hasHeightForWidth() ? layout->heightForWidth(contentWidth)
+    return layout != nullptr && layout->hasHeightForWidth() ? layout->heightForWidth(panelmetrics::width)
                                                             : content.sizeHint().height();
 }
 
@@ -30,7 +31,7 @@ QRect centred(QSize size, const QRect& available) {
 std::optional<QRect> restored(const std::optional<QRect>& stored) {
     if (!stored)
         return std::nullopt;
-    return QRect(stored->topLeft(), QSize(contentWidth, stored->height()));
+    return QRect(stored->topLeft(), QSize(panelmetrics::width, stored->height()));
 }
 
 bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas) {

@@ -13,10 +13,9 @@ namespace quorvane {
 /// Size and place of panel and popover. All rectangles in points of the virtual desktop.
 namespace panelplacement {
 
-inline constexpr int contentWidth = 504;
 inline constexpr int minimumContentHeight = 300;
 
-/// The height that the content's layout asks for at `contentWidth`.
+/// The height that the content's layout asks for at the panel's width.
 [[nodiscard]] int fittingHeight(QWidget& content);
 
 /// The height for content that needs `fittingHeight`.

@@ -2,17 +2,12 @@
 #include "PreferencesWindow.h"
 
 #include <controls/FocusRing.h>
+#include <preferences/PreferencesMetrics.h>
 
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace quorvane {
-
-namespace {
-
-constexpr QSize contentSize{400, 540};
-
-} // namespace
 
 PreferencesWindow::PreferencesWindow(QWidget* content)
     // It cannot be minimised: without an entry in the taskbar it could not be brought back.
@@ -25,8 +20,8 @@ PreferencesWindow::PreferencesWindow(QWidget* content)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
-    setFixedWidth(contentSize.width());
-    resize(contentSize);
+    setFixedWidth(preferencesmetrics::size.width());
+    resize(preferencesmetrics::size);
     new FocusRing(this);
 }
 

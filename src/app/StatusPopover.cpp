@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 
@@ -73,7 +74,7 @@ void StatusPopover::paintEvent(QPaintEvent* /*event*/) {
 
 void StatusPopover::fit() {
     const int availableHeight = m_place.available.height() - 2 * screenMargin;
-    const QSize size(panelplacement::contentWidth, std::min(contentHeight(), availableHeight));
+    const QSize size(panelmetrics::width, std::min(contentHeight(), availableHeight));
     // Centred at the anchor, as far as the edges of the screen allow.
     QRect anchor(QPoint(), QSize(size.width(), m_place.anchor.height()));
     anchor.moveCenter(m_place.anchor.center());

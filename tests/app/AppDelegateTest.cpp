@@ -5,6 +5,8 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
+#include <panel/PanelMetrics.h>
+
 namespace quorvane {
 namespace {
 

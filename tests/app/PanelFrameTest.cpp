@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+#include <panel/PanelMetrics.h>
 #include <settings/DiskFileWriter.h>
 #include <testing/CallLog.h>
 #include <testing/FakeWorkspace.h>
@@ -68,9 +69,9 @@ TEST_F(PanelFrameTest, HeightFollowsTheContentInBothDirections) {
     show();
     const auto top = panel.y();
     setContentHeight(450);
-    EXPECT_EQ(panel.geometry(), QRect(panel.x(), top, 504, 450));
+    EXPECT_EQ(panel.geometry(), QRect(panel.x(), top, panelmetrics::width, 450));
     setContentHeight(350);
-    EXPECT_EQ(panel.geometry(), QRect(panel.x(), top, 504, 350));
+    EXPECT_EQ(panel.geometry(), QRect(panel.x(), top, panelmetrics::width, 350));
     setContentHeight(10);
     EXPECT_EQ(panel.height(), 300);
 }
@@ -86,7 +87,7 @@ TEST_F(PanelFrameTest, GrowthMovesThePanelUpRatherThanOffItsScreen) {
     show();
     panel.move(20, area.bottom() + 1 - panel.height());
     setContentHeight(450);
-    EXPECT_EQ(panel.geometry(), QRect(20, area.bottom() + 1 - 450, 504, 450));
+    EXPECT_EQ(panel.geometry(), QRect(20, area.bottom() + 1 - 450, panelmetrics::width, 450));
 }
 
 TEST_F(PanelFrameTest, PanelDoesNotMoveUnderThePointer) {
@@ -95,14 +96,14 @@ TEST_F(PanelFrameTest, PanelDoesNotMoveUnderThePointer) {
     panel.move(20, top);
     setPointerOverPanel(true);
     setContentHeight(450);
-    EXPECT_EQ(panel.geometry(), QRect(20, top, 504, 410));
+    EXPECT_EQ(panel.geometry(), QRect(20, top, panelmetrics::width, 410));
     setPointerOverPanel(false);
-    EXPECT_EQ(panel.geometry(), QRect(20, area.bottom() + 1 - 450, 504, 450));
+    EXPECT_EQ(panel.geometry(), QRect(20, area.bottom() + 1 - 450, panelmetrics::width, 450));
 }
 
 TEST_F(PanelFrameTest, HeightThatTheUserChoseIsTheMinimum) {
     show();
-    panel.resize(504, 500);
+    panel.resize(panelmetrics::width, 500);
     setContentHeight(420);
     EXPECT_EQ(panel.height(), 500);
     setContentHeight(520);
@@ -124,8 +125,8 @@ TEST_F(PanelFrameTest, LateReportOfARequestedHeightIsNotTakenForTheUsers) {
     setContentHeight(450);
     setContentHeight(400);
     // The desktop answers both changes only now.
-    panel.resize(504, 450);
-    panel.resize(504, 400);
+    panel.resize(panelmetrics::width, 450);
+    panel.resize(panelmetrics::width, 400);
     setContentHeight(380);
     EXPECT_EQ(panel.height(), 380);
     queue.advance(1s);
@@ -133,10 +134,10 @@ TEST_F(PanelFrameTest, LateReportOfARequestedHeightIsNotTakenForTheUsers) {
 }
 
 TEST_F(PanelFrameTest, StoredHeightIsTheMinimum) {
-    frames.setFrame(u"PanelV2"_s, QRect(30, 40, 504, 480));
+    frames.setFrame(u"PanelV2"_s, QRect(30, 40, panelmetrics::width, 480));
     show();
     setContentHeight(420);
-    EXPECT_EQ(panel.geometry(), QRect(30, 40, 504, 480));
+    EXPECT_EQ(panel.geometry(), QRect(30, 40, panelmetrics::width, 480));
 }
 
 TEST_F(PanelFrameTest, FrameIsSavedWhenTheUserStopsMovingThePanel) {
@@ -147,7 +148,7 @@ TEST_F(PanelFrameTest, FrameIsSavedWhenTheUserStopsMovingThePanel) {
     queue.advance(400ms);
     EXPECT_EQ(frames.frame(u"PanelV2"_s), std::nullopt);
     queue.advance(100ms);
-    EXPECT_EQ(frames.frame(u"PanelV2"_s), QRect(25, 35, 504, 400));
+    EXPECT_EQ(frames.frame(u"PanelV2"_s), QRect(25, 35, panelmetrics::width, 400));
 }
 
 } // namespace

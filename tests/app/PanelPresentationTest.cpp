@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DelegateFixture.h"
 
+#include <panel/PanelMetrics.h>
+
 #include <QScreen>
 #include <gmock/gmock.h>
 
@@ -31,17 +33,17 @@ TEST_F(PanelPresentationTest, IsAtItsPlaceAgainAfterARestart) {
     queue.advance(1s);
     makeDelegate();
     launch();
-    EXPECT_EQ(panel()->geometry(), QRect(40, 30, 504, height));
+    EXPECT_EQ(panel()->geometry(), QRect(40, 30, panelmetrics::width, height));
 }
 
 TEST_F(PanelPresentationTest, StoredWidthIsCorrected) {
     frames().setFrame(u"PanelV2"_s, QRect(20, 10, 900, 450));
     launch();
-    EXPECT_EQ(panel()->geometry(), QRect(20, 10, 504, 450));
+    EXPECT_EQ(panel()->geometry(), QRect(20, 10, panelmetrics::width, 450));
 }
 
 TEST_F(PanelPresentationTest, IsCentredIfOffEveryScreen) {
-    frames().setFrame(u"PanelV2"_s, QRect(9000, 9000, 504, 400));
+    frames().setFrame(u"PanelV2"_s, QRect(9000, 9000, panelmetrics::width, 400));
     launch();
     const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(panel()->geometry().center().x(), screen.center().x());
@@ -50,7 +52,7 @@ TEST_F(PanelPresentationTest, IsCentredIfOffEveryScreen) {
 
 TEST_F(PanelPresentationTest, FirstOneIsCentredAndAtLeast300High) {
     launch();
-    EXPECT_EQ(panel()->width(), 504);
+    EXPECT_EQ(panel()->width(), panelmetrics::width);
     EXPECT_GE(panel()->height(), 300);
     const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_EQ(panel()->geometry().center().x(), screen.center().x());

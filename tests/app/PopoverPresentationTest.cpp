@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PresentationFixture.h"
 
+#include <panel/PanelMetrics.h>
+
 #include <QScreen>
 #include <QTest>
 
@@ -50,7 +52,7 @@ TEST_F(PopoverPresentationTest, IsCentredBelowTheIcon) {
     launchAs(PresentationMode::Popover);
     EXPECT_EQ(popover()->geometry().center().x(), QRect(300, 0, 22, 22).center().x());
     EXPECT_EQ(popover()->y(), 22 + 6);
-    EXPECT_EQ(popover()->width(), 504);
+    EXPECT_EQ(popover()->width(), panelmetrics::width);
 }
 
 TEST_F(PopoverPresentationTest, IsAboveAnIconAtTheLowerEdge) {

@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 namespace {

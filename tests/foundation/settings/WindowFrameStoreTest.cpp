@@ -23,9 +23,9 @@ private:
 };
 
 TEST_F(WindowFrameStoreTest, FrameIsReadByTheNextRunUnderItsName) {
-    store().setFrame(u"Panel"_s, {-1200, 40, 504, 612});
+    store().setFrame(u"Panel"_s, {-1200, 40, 500, 612});
     store().setFrame(u"Preferences"_s, {0, 0, 1, 1});
-    EXPECT_EQ(store().frame(u"Panel"_s), QRect(-1200, 40, 504, 612));
+    EXPECT_EQ(store().frame(u"Panel"_s), QRect(-1200, 40, 500, 612));
     EXPECT_EQ(store().frame(u"Preferences"_s), QRect(0, 0, 1, 1));
     EXPECT_EQ(store().frame(u"panel"_s), std::nullopt);
 }

@@ -22,7 +22,7 @@ protected:
     QPointer<Sheet> sheet;
 
     SheetTest() {
-        window.setFixedSize(504, 488);
+        window.setFixedSize(500, 488);
         EXPECT_TRUE(window.open());
         below.setFocus(Qt::TabFocusReason);
         content->setFocusProxy(field);
@@ -35,7 +35,7 @@ TEST_F(SheetTest, CoversItsWindowAndTakesTheFocus) {
     EXPECT_EQ(sheet->geometry(), window.rect());
     EXPECT_EQ(window.focusWidget(), field);
     EXPECT_TRUE(QTest::qWaitFor([this] { return content->y() == 40; }));
-    EXPECT_EQ(content->geometry(), QRect(32, 40, 440, 432));
+    EXPECT_EQ(content->geometry(), QRect(30, 40, 440, 432));
     EXPECT_EQ(window.childAt(5, 5), sheet);
 }
 
@@ -64,7 +64,7 @@ TEST_F(SheetTest, WhatLiesBelowTakesNoInput) {
 }
 
 TEST_F(SheetTest, GrowsAndShrinksWithItsWindow) {
-    window.setFixedSize(504, 600);
+    window.setFixedSize(500, 600);
     EXPECT_EQ(sheet->geometry(), window.rect());
     EXPECT_EQ(content->height(), 460);
 }

@@ -17,6 +17,7 @@
 #include <functional>
 #include <memory>
 #include <ostream>
+#include <panel/PanelMetrics.h>
 #include <panel/PopoverView.h>
 #include <testing/CallLog.h>
 #include <testing/FakeKeyboardLayout.h>
@@ -125,7 +126,7 @@ protected:
 
     std::unique_ptr<QWidget> open() {
         auto view = GetParam().make(world);
-        view->resize(504, 640);
+        view->resize(panelmetrics::width, 640);
         view->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(view.get()));
         return view;

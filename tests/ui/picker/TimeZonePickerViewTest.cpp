@@ -42,7 +42,7 @@ protected:
 
     TimeZonePickerViewTest() {
         window.setPalette(builtInPalette(ColorScheme::Light));
-        window.setFixedSize(504, 488);
+        window.setFixedSize(500, 488);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

@@ -3,6 +3,7 @@
 
 #include <controls/FocusRing.h>
 #include <controls/Theme.h>
+#include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
@@ -73,7 +74,7 @@ protected:
         font.setPixelSize(13);
         view->setFont(font);
         view->setPalette(builtInPalette(ColorScheme::Light));
-        view->resize(400, 540);
+        view->resize(preferencesmetrics::size);
         new FocusRing(view.get());
         keyboard = std::make_unique<PhysicalKeyboard>(*view);
         view->show();

@@ -35,7 +35,8 @@ protected:
 
 TEST_F(PreferencesLayoutTest, HasTheMeasuresOfTheDesign) {
     settle();
-    EXPECT_EQ(view->width(), 400);
+    EXPECT_EQ(preferencesmetrics::size, QSize(400, 540));
+    EXPECT_EQ(view->width(), preferencesmetrics::size.width());
     EXPECT_EQ(placeOf(u"Keyboard Shortcut"_s).topLeft(), QPoint(10, 10));
     const auto recorder = placeOf(*view->findChild<ShortcutRecorder*>());
     EXPECT_EQ(recorder.top(), 10 + 16 + 8);
@@ -73,7 +74,7 @@ TEST_F(PreferencesLayoutTest, ListTakesTheHeightThatThereIs) {
     settle();
     EXPECT_EQ(list().height(), before + 100);
     EXPECT_EQ(view->minimumWidth(), view->maximumWidth());
-    EXPECT_LE(view->minimumSizeHint().height(), 540);
+    EXPECT_LE(view->minimumSizeHint().height(), preferencesmetrics::size.height());
 }
 
 TEST_F(PreferencesLayoutTest, NothingOverlapsInSmallAndLargeFonts) {
