@@ -19,8 +19,6 @@ public:
 
     CopyButton(MainQueue& queue, QWidget* parent);
 
-    [[nodiscard]] bool copyConfirmed() const { return m_copyConfirmed; }
-
     /// Each call ends the confirmation `confirmation` later, also one that a later call began.
     void confirm();
 

@@ -69,13 +69,6 @@ bool FavoritesSection::showStarredOnly() const {
     return m_filter->isOn();
 }
 
-std::vector<TimeZone> FavoritesSection::allTimeZones() const {
-    std::vector<TimeZone> zones;
-    for (const auto& entry : m_search.catalogue().entries())
-        zones.push_back(entry.zone);
-    return zones;
-}
-
 std::vector<TimeZone> FavoritesSection::filtered() const {
     return showStarredOnly()
                ? m_search.filteredStarred(

@@ -28,17 +28,19 @@ public:
 
     [[nodiscard]] SearchField& field() const { return *m_field; }
 
-    [[nodiscard]] QString searchText() const;
-    [[nodiscard]] bool showStarredOnly() const;
-    [[nodiscard]] std::vector<TimeZone> allTimeZones() const;
-    [[nodiscard]] std::vector<TimeZone> filtered() const;
-
-    void toggleFavorite(const TimeZone& zone);
-
     /// Shows which zones are favourites now, with the list as it was scrolled.
     void refresh();
 
 private:
+    [[nodiscard]] QString searchText() const;
+    [[nodiscard]] bool showStarredOnly() const;
+
+    /// What the list shows: the catalogue in its order, by filter and search text.
+    [[nodiscard]] std::vector<TimeZone> filtered() const;
+
+    /// Stars the zone as the last of the favourites, or removes it from them.
+    void toggleFavorite(const TimeZone& zone);
+
     void layOut();
     void search();
     void showFiltered();

@@ -63,26 +63,6 @@ PreferencesView::~PreferencesView() {
     hide();
 }
 
-QString PreferencesView::searchText() const {
-    return m_favorites->searchText();
-}
-
-bool PreferencesView::showStarredOnly() const {
-    return m_favorites->showStarredOnly();
-}
-
-std::vector<TimeZone> PreferencesView::allTimeZones() const {
-    return m_favorites->allTimeZones();
-}
-
-std::vector<TimeZone> PreferencesView::filtered() const {
-    return m_favorites->filtered();
-}
-
-void PreferencesView::toggleFavorite(const TimeZone& zone) {
-    m_favorites->toggleFavorite(zone);
-}
-
 void PreferencesView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (event->spontaneous())

@@ -45,20 +45,8 @@ public:
         QWidget* parent = nullptr);
     ~PreferencesView() override;
 
-    [[nodiscard]] QString searchText() const;
-    [[nodiscard]] bool showStarredOnly() const;
-
     /// What the recorder shows: the model's shortcut when the view opens, then what is recorded.
     [[nodiscard]] HotKeyCombo editingCombo() const { return m_editingCombo; }
-
-    /// The whole catalogue, as it was ordered when the view was made.
-    [[nodiscard]] std::vector<TimeZone> allTimeZones() const;
-
-    /// What the list shows: the catalogue in its order, by filter and search text.
-    [[nodiscard]] std::vector<TimeZone> filtered() const;
-
-    /// Stars the zone as the last of the favourites, or removes it from them.
-    void toggleFavorite(const TimeZone& zone);
 
     /// Shows everything anew in a later event-loop iteration, for changes that the model does not
     /// announce: of the keyboard layout, and of who holds the shortcut.
