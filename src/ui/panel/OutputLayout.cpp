@@ -117,7 +117,7 @@ QRectF OutputLayout::blockBoundingRect(const QTextBlock& block) const {
     return {0, 0, static_cast<double>(m_width), layout.lineCount() * rowHeight() + below};
 }
 
-// Unlike the base class's, this one lays nothing out: whoever looks at a paragraph does.
+// Unlike the base class's, this one lays nothing out: whoever paints or measures a paragraph does.
 void OutputLayout::documentChanged(int from, int /*charsRemoved*/, int charsAdded) {
     auto block = document()->findBlock(from);
     for (; block.isValid() && block.position() <= from + charsAdded; block = block.next())

@@ -21,7 +21,7 @@ namespace quorvane {
 [[nodiscard]] qsizetype nextPartLength(const QString& text, qsizetype shown, qsizetype size);
 
 /// Lays plain text out in rows of one height, whatever fonts its characters fall back to. Only the
-/// paragraphs that somebody looks at are laid out.
+/// paragraphs that are painted or measured are laid out.
 class OutputLayout final : public QPlainTextDocumentLayout {
     Q_OBJECT
 

@@ -34,7 +34,7 @@ constexpr int tabWidth = 8;               // characters
 /// More than the rows that can show; laying this much out takes a fraction of a frame.
 constexpr qsizetype firstPart = 4000;
 constexpr qsizetype laterPart = 2000;
-/// Longer than between two keystrokes, so that typing never waits for what is out of sight.
+/// Longer than between two keystrokes, so that typing never waits for what does not show yet.
 constexpr Seconds pauseBeforeRest{0.15};
 
 } // namespace
