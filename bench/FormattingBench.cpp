@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <composition/ComposedOutput.h>
 #include <composition/FormatSingle.h>
-
-#include <benchmark/benchmark.h>
-
 #include <time/CurrentZone.h>
 #include <time/DateText.h>
 #include <time/ZoneDatabase.h>
+
+#include <benchmark/benchmark.h>
+
 #include <utility>
 
 namespace quorvane {

@@ -1,5 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <app/Panel.h>
+#include <loop/QtMainQueue.h>
+#include <panel/OutputPreview.h>
+#include <panel/PopoverView.h>
+#include <testing/CallLog.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 #include <QApplication>
 #include <QEventLoop>
@@ -10,16 +19,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <loop/QtMainQueue.h>
 #include <memory>
-#include <panel/OutputPreview.h>
-#include <panel/PopoverView.h>
-#include <testing/CallLog.h>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/FakePasteboard.h>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/MemoryDefaults.h>
 #include <vector>
 
 namespace quorvane {

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <controls/SearchField.h>
 #include <controls/Sheet.h>
+#include <panel/PanelMetrics.h>
 #include <picker/TimeZonePickerView.h>
+#include <time/Clock.h>
 
 #include <QImage>
 #include <benchmark/benchmark.h>
-
-#include <panel/PanelMetrics.h>
-#include <time/Clock.h>
 
 namespace quorvane {
 namespace {

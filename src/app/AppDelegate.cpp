@@ -4,13 +4,13 @@
 #include "MainMenu.h"
 
 #include <delivery/CopyText.h>
+#include <panel/SparkleUpdater.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <algorithm>
 #include <array>
-#include <panel/SparkleUpdater.h>
 #include <utility>
 
 namespace quorvane {

@@ -11,6 +11,9 @@
 #include "TrayIcon.h"
 
 #include <platform/PlatformServices.h>
+#include <settings/DefaultsStore.h>
+#include <time/CurrentZone.h>
+#include <time/UserLocale.h>
 #include <timezones/ZoneWarmUp.h>
 
 #include <QObject>
@@ -18,9 +21,6 @@
 
 #include <functional>
 #include <memory>
-#include <settings/DefaultsStore.h>
-#include <time/CurrentZone.h>
-#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
 #include <platform/PlatformServices.h>
 
 #include <QString>
-
-#include <loop/MainQueue.h>
 
 namespace quorvane {
 

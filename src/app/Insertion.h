@@ -2,11 +2,10 @@
 #pragma once
 
 #include <delivery/TextInserter.h>
-
-#include <QString>
-
 #include <loop/DeadlineSet.h>
 #include <loop/MainQueue.h>
+
+#include <QString>
 
 namespace quorvane {
 

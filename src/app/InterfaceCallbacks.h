@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <panel/PopoverView.h>
+
 #include <functional>
 #include <memory>
-#include <panel/PopoverView.h>
 
 class QWidget;
 

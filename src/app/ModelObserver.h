@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
 
 #include <QObject>
 
 #include <functional>
-#include <loop/MainQueue.h>
 
 namespace quorvane {
 

@@ -5,6 +5,7 @@
 #include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
 #include <controls/Theme.h>
+#include <panel/PanelMetrics.h>
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -12,7 +13,6 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include <panel/PanelMetrics.h>
 #include <utility>
 
 namespace quorvane {

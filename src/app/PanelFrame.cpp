@@ -5,12 +5,12 @@
 #include "Screens.h"
 
 #include <app/Panel.h>
+#include <panel/PanelMetrics.h>
 
 #include <QGuiApplication>
 #include <QScreen>
 
 #include <algorithm>
-#include <panel/PanelMetrics.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/Deadline.h>
+#include <loop/MainQueue.h>
 #include <platform/Workspace.h>
+#include <settings/WindowFrameStore.h>
 
 #include <QObject>
 #include <QRect>
 
 #include <deque>
-#include <loop/Deadline.h>
-#include <loop/MainQueue.h>
 #include <optional>
-#include <settings/WindowFrameStore.h>
 
 class QScreen;
 

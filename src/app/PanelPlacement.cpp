@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlacement.h"
 
+#include <panel/PanelMetrics.h>
+
 #include <QLayout>
 #include <QWidget>
 
 #include <algorithm>
-#include <panel/PanelMetrics.h>
 
 namespace quorvane::panelplacement {
 
 int fittingHeight(QWidget& content) {
     content.ensurePolished();
     const auto* layout = content.layout();
-    return layout != nullptr && layout->hasHeightForWidth() ? layout->heightForWidth(panelmetrics::width)
-                                                            : content.sizeHint().height();
+    return layout != nullptr && layout->hasHeightForWidth()
+               ? layout->heightForWidth(panelmetrics::width)
+               : content.sizeHint().height();
 }
 
 int contentHeight(int fittingHeight) {

@@ -4,14 +4,14 @@
 #include "InterfaceCallbacks.h"
 #include "PanelFrame.h"
 
+#include <loop/MainQueue.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
+#include <settings/WindowFrameStore.h>
 
 #include <QPointer>
 
-#include <loop/MainQueue.h>
 #include <memory>
-#include <settings/WindowFrameStore.h>
 
 class QWindow;
 

@@ -4,13 +4,13 @@
 #include "InterfaceCallbacks.h"
 #include "PopoverAnchor.h"
 
+#include <loop/Deadline.h>
+#include <loop/MainQueue.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
 
 #include <QPointer>
 
-#include <loop/Deadline.h>
-#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
 

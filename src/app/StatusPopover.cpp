@@ -6,13 +6,13 @@
 #include <controls/FocusRing.h>
 #include <controls/PopoverPlacement.h>
 #include <controls/Theme.h>
+#include <panel/PanelMetrics.h>
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

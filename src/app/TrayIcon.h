@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
 #include <platform/StatusBar.h>
 
 #include <QObject>
 #include <QRect>
 
 #include <functional>
-#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
 

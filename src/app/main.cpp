@@ -5,16 +5,15 @@
 #include "Backends.h"
 #include "TerminationSignals.h"
 
-#include <platform_dbus/DBusApplicationInstance.h>
-
-#include <QApplication>
-#include <QIcon>
-
 #include <loop/QtMainQueue.h>
+#include <platform_dbus/DBusApplicationInstance.h>
 #include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
 #include <settings/UserFolders.h>
 #include <time/SystemCurrentZone.h>
+
+#include <QApplication>
+#include <QIcon>
 
 namespace {
 

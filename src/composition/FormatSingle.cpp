@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <composition/FormatSingle.h>
+#include <time/DateText.h>
+#include <time/ZoneNames.h>
 
 #include <cmath>
 #include <cstdlib>
-#include <time/DateText.h>
-#include <time/ZoneNames.h>
 
 namespace quorvane {
 

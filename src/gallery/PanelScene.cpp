@@ -2,11 +2,10 @@
 #include "PanelScene.h"
 
 #include <controls/FocusRing.h>
+#include <panel/PanelMetrics.h>
 #include <platform_null/NullServices.h>
 
 #include <QLayout>
-
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

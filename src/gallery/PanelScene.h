@@ -5,9 +5,8 @@
 #include "SampleKeyboard.h"
 #include "Samples.h"
 
-#include <platform/PlatformServices.h>
-
 #include <panel/PopoverView.h>
+#include <platform/PlatformServices.h>
 
 namespace quorvane {
 

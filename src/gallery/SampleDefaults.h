@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QVariantHash>
-
 #include <settings/DefaultsStore.h>
+
+#include <QVariantHash>
 
 namespace quorvane {
 

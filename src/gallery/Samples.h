@@ -3,7 +3,6 @@
 
 #include <entry/EntryDependencies.h>
 #include <model/DateTimeModel.h>
-
 #include <time/ZoneDatabase.h>
 
 /// What the boards show: one moment of one user in New York, always the same.

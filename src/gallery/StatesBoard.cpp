@@ -16,14 +16,14 @@
 #include <controls/TextStyle.h>
 #include <controls/ToggleSwitch.h>
 #include <entry/DateField.h>
+#include <panel/FavoriteSuggestionChip.h>
+#include <panel/TimeZoneChip.h>
+#include <time/ZoneDatabase.h>
 
 #include <QLabel>
 #include <QPainter>
 
 #include <array>
-#include <panel/FavoriteSuggestionChip.h>
-#include <panel/TimeZoneChip.h>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -2,10 +2,10 @@
 #include "Gallery.h"
 #include "PanelScene.h"
 
+#include <loop/QtMainQueue.h>
+
 #include <QApplication>
 #include <QScreen>
-
-#include <loop/QtMainQueue.h>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

@@ -4,8 +4,8 @@
 #include <composition/PresetList.h>
 #include <composition/ZoneSlots.h>
 #include <model/DateTimeModel.h>
-
 #include <settings/SettingsTable.h>
+
 #include <utility>
 
 namespace quorvane {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <composition/DefaultFavorites.h>
 #include <model/Preferences.h>
-
 #include <settings/SettingsTable.h>
 
 namespace quorvane {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <testing/FakePasteboard.h>
+
 #include <utility>
 
 namespace quorvane {

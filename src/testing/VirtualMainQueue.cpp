@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <cmath>
 #include <testing/VirtualMainQueue.h>
+
+#include <cmath>
 
 namespace quorvane {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TimeZoneAliases.h"
 
+#include <time/IcuTimeZone.h>
+#include <time/ZoneNames.h>
 #include <timezones/ZoneSearch.h>
 
 #include <cmath>
-#include <time/IcuTimeZone.h>
-#include <time/ZoneNames.h>
 #include <unordered_set>
 
 namespace quorvane {

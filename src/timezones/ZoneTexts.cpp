@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <time/ZoneNames.h>
 #include <timezones/ZoneTexts.h>
 
 #include <QStringList>
 
 #include <cstdlib>
-#include <time/ZoneNames.h>
 
 namespace quorvane {
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <time/ZoneNames.h>
 #include <timezones/ZoneWarmUp.h>
 
 #include <QStringList>
-
-#include <time/ZoneNames.h>
 
 namespace quorvane {
 

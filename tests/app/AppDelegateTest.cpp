@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "DelegateFixture.h"
 
+#include <panel/PanelMetrics.h>
+
 #include <QApplication>
 #include <QTest>
 #include <gmock/gmock.h>
-
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 namespace {

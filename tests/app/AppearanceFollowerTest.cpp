@@ -2,13 +2,12 @@
 #include "AppearanceFollower.h"
 
 #include <controls/Theme.h>
+#include <testing/FakeAppearance.h>
 
 #include <QApplication>
 #include <QStyle>
 #include <QStyleFactory>
 #include <gtest/gtest.h>
-
-#include <testing/FakeAppearance.h>
 
 namespace quorvane {
 namespace {

@@ -4,12 +4,6 @@
 #include "AppDelegate.h"
 
 #include <app/Panel.h>
-
-#include <QApplication>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <settings/DiskFileWriter.h>
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
@@ -25,6 +19,12 @@
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
 #include <testing/MemoryDefaults.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <memory>
 
 namespace quorvane {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "GlobalShortcut.h"
 
-#include <gtest/gtest.h>
-
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeEventTaps.h>
 #include <testing/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

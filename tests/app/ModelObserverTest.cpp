@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ModelObserver.h"
 
-#include <gmock/gmock.h>
-
-#include <memory>
-#include <string>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
 #include <testing/MemoryDefaults.h>
 #include <testing/VirtualMainQueue.h>
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <string>
 #include <vector>
 
 namespace quorvane {

@@ -2,17 +2,16 @@
 #include "PanelFrame.h"
 
 #include <app/Panel.h>
+#include <panel/PanelMetrics.h>
+#include <settings/DiskFileWriter.h>
+#include <testing/CallLog.h>
+#include <testing/FakeWorkspace.h>
 
 #include <QApplication>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
-
-#include <panel/PanelMetrics.h>
-#include <settings/DiskFileWriter.h>
-#include <testing/CallLog.h>
-#include <testing/FakeWorkspace.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlacement.h"
 
-#include <gtest/gtest.h>
-
 #include <panel/PanelMetrics.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane::panelplacement {
 namespace {

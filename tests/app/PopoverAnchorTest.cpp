@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverAnchor.h"
 
+#include <testing/CallLog.h>
+#include <testing/FakeWorkspace.h>
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <gtest/gtest.h>
-
-#include <testing/CallLog.h>
-#include <testing/FakeWorkspace.h>
 
 namespace quorvane {
 namespace {

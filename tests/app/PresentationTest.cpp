@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PresentationFixture.h"
 
+#include <panel/PanelMetrics.h>
 #include <support/WidgetSearch.h>
 
 #include <QAbstractButton>
@@ -9,7 +10,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PreviousFrontmostApp.h"
 
-#include <gmock/gmock.h>
-
 #include <testing/CallLog.h>
 #include <testing/FakeWorkspace.h>
 #include <testing/VirtualMainQueue.h>
+
+#include <gmock/gmock.h>
 
 namespace quorvane {
 namespace {

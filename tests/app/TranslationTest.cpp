@@ -4,16 +4,15 @@
 #include "VisibleTexts.h"
 
 #include <controls/PressableControl.h>
+#include <time/DateText.h>
+#include <time/MonthGrid.h>
+#include <time/ZoneNames.h>
 
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QSet>
 #include <QTest>
-
-#include <time/DateText.h>
-#include <time/MonthGrid.h>
-#include <time/ZoneNames.h>
 
 namespace quorvane {
 namespace {

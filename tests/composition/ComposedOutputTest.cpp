@@ -2,12 +2,12 @@
 #include "Samples.h"
 
 #include <composition/ComposedOutput.h>
+#include <testing/FixedCurrentZone.h>
 
 #include <QStringList>
 #include <gtest/gtest.h>
 
 #include <string>
-#include <testing/FixedCurrentZone.h>
 
 namespace quorvane {
 namespace {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <composition/FormatSingle.h>
-
 #include <time/UserLocale.h>
 #include <time/ZoneDatabase.h>
+
 #include <vector>
 
 namespace quorvane::samples {

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <delivery/CopyText.h>
-
-#include <gtest/gtest.h>
-
 #include <testing/CallLog.h>
 #include <testing/FakePasteboard.h>
 #include <testing/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "MergedItem.h"
 
-#include <gtest/gtest.h>
-
 #include <testing/FakePasteboard.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

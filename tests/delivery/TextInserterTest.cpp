@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <delivery/TextInserter.h>
-
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <testing/CallLog.h>
 #include <testing/CapturedLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeKeyPoster.h>
 #include <testing/FakePasteboard.h>
 #include <testing/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
 
 namespace quorvane {
 namespace {

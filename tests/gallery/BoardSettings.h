@@ -4,13 +4,13 @@
 #include "LongerTexts.h"
 
 #include <controls/Theme.h>
+#include <time/UserLocale.h>
 
 #include <QString>
 
 #include <cctype>
 #include <memory>
 #include <ostream>
-#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

@@ -7,6 +7,8 @@
 #include <controls/SegmentedRow.h>
 #include <controls/TextField.h>
 #include <entry/FieldChip.h>
+#include <panel/OutputPreview.h>
+#include <panel/ZoneChip.h>
 
 #include <QApplication>
 #include <QStyle>
@@ -14,8 +16,6 @@
 
 #include <algorithm>
 #include <map>
-#include <panel/OutputPreview.h>
-#include <panel/ZoneChip.h>
 
 namespace quorvane {
 namespace {

@@ -6,6 +6,7 @@
 #include <controls/KeyCap.h>
 #include <controls/SearchField.h>
 #include <entry/FieldChip.h>
+#include <panel/ZoneChip.h>
 
 #include <QApplication>
 #include <QBuffer>
@@ -16,7 +17,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <panel/ZoneChip.h>
 
 namespace quorvane {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <hotkey/HotKeyCombo.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/MemoryDefaults.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 namespace {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <hotkey/HotKeyMonitor.h>
-
-#include <gtest/gtest.h>
-
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeEventTaps.h>
 #include <testing/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -2,6 +2,11 @@
 #include "../composition/Samples.h"
 
 #include <model/DateTimeModel.h>
+#include <settings/DiskFileWriter.h>
+#include <settings/JsonDefaultsStore.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -10,12 +15,7 @@
 
 #include <functional>
 #include <memory>
-#include <settings/DiskFileWriter.h>
-#include <settings/JsonDefaultsStore.h>
 #include <string>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 namespace {

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TimeZoneAliases.h"
 
+#include <time/ZoneDatabase.h>
+
 #include <gmock/gmock.h>
 
 #include <string>
-#include <time/ZoneDatabase.h>
 #include <utility>
 #include <vector>
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Zones.h"
 
+#include <testing/VirtualMainQueue.h>
 #include <timezones/ZoneWarmUp.h>
 
 #include <gtest/gtest.h>
-
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

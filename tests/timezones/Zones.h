@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <initializer_list>
-#include <string>
 #include <time/UserLocale.h>
 #include <time/ZoneDatabase.h>
+
+#include <initializer_list>
+#include <string>
 #include <vector>
 
 namespace quorvane {

@@ -3,7 +3,6 @@
 #include "VectorKinds.h"
 
 #include <composition/ComposedOutput.h>
-
 #include <testing/FixedCurrentZone.h>
 
 namespace quorvane {

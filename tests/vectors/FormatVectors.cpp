@@ -3,7 +3,6 @@
 #include "VectorKinds.h"
 
 #include <composition/FormatSingle.h>
-
 #include <time/DateText.h>
 
 namespace quorvane {

@@ -3,12 +3,11 @@
 #include "VectorKinds.h"
 
 #include <hotkey/HotKeyCombo.h>
-
-#include <QTemporaryFile>
-
 #include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
 #include <testing/FakeKeyboardLayout.h>
+
+#include <QTemporaryFile>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/ZoneDatabase.h>
+
 #include <QString>
 #include <QTextStream>
-
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/UserLocale.h>
+#include <time/ZoneDatabase.h>
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 #include <stdexcept>
-#include <time/UserLocale.h>
-#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

@@ -2,6 +2,7 @@
 #include "TimeZoneAliases.h"
 #include "VectorKinds.h"
 
+#include <time/ZoneNames.h>
 #include <timezones/ZoneSearch.h>
 #include <timezones/ZoneSelection.h>
 #include <timezones/ZoneTexts.h>
@@ -9,7 +10,6 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
-#include <time/ZoneNames.h>
 
 namespace quorvane {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <loop/QtMainQueue.h>
+
 #include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
 #include <chrono>
-#include <loop/QtMainQueue.h>
 
 namespace quorvane {
 

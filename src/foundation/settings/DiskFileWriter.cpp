@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <settings/DiskFileWriter.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 #include <fcntl.h>
-#include <settings/DiskFileWriter.h>
 #include <stdio.h>
 #include <sys/stat.h>
 

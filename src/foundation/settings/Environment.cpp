@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <QtGlobal>
-
 #include <settings/Environment.h>
+
+#include <QtGlobal>
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "JsonCoercion.h"
 
-#include <QJsonArray>
-
 #include <settings/JsonDefaultsStore.h>
+
+#include <QJsonArray>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <settings/JsonFile.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLoggingCategory>
-
-#include <settings/JsonFile.h>
 
 namespace quorvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <QDir>
-
 #include <settings/UserFolders.h>
+
+#include <QDir>
 
 namespace quorvane {
 

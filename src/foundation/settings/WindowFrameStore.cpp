@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <settings/SettingsTable.h>
+#include <settings/WindowFrameStore.h>
+
 #include <QJsonObject>
 
 #include <cmath>
-#include <settings/SettingsTable.h>
-#include <settings/WindowFrameStore.h>
 
 namespace quorvane {
 

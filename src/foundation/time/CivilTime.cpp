@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <time/CivilTime.h>
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <time/CivilTime.h>
 
 namespace quorvane {
 

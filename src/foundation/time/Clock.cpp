@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <chrono>
 #include <time/Clock.h>
+
+#include <chrono>
 
 namespace quorvane {
 

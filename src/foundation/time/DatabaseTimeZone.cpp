@@ -3,11 +3,12 @@
 
 #include "IcuText.h"
 
+#include <time/IcuTimeZone.h>
+
 #include <unicode/gregocal.h>
 
 #include <algorithm>
 #include <chrono>
-#include <time/IcuTimeZone.h>
 
 namespace quorvane {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/TimeZone.h>
+
 #include <unicode/timezone.h>
 
 #include <limits>
 #include <memory>
-#include <time/TimeZone.h>
 
 namespace quorvane {
 

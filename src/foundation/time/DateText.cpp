@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "IcuText.h"
 
+#include <time/DateText.h>
+#include <time/IcuTimeZone.h>
+
 #include <unicode/datefmt.h>
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
 #include <memory>
-#include <time/DateText.h>
-#include <time/IcuTimeZone.h>
 
 namespace quorvane {
 

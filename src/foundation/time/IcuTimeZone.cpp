@@ -2,8 +2,9 @@
 #include "DatabaseTimeZone.h"
 #include "IcuText.h"
 
-#include <cmath>
 #include <time/IcuTimeZone.h>
+
+#include <cmath>
 
 namespace quorvane {
 

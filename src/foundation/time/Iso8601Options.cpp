@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <QStringList>
-
 #include <time/Iso8601Options.h>
+
+#include <QStringList>
 
 namespace quorvane {
 

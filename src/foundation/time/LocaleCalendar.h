@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/CivilTime.h>
+#include <time/UserLocale.h>
+
 #include <unicode/calendar.h>
 
 #include <memory>
-#include <time/CivilTime.h>
-#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -2,12 +2,13 @@
 #include "IcuText.h"
 #include "LocaleCalendar.h"
 
+#include <time/CalendarMoves.h>
+#include <time/MonthGrid.h>
+
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
 #include <algorithm>
-#include <time/CalendarMoves.h>
-#include <time/MonthGrid.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <time/SystemCurrentZone.h>
+
 #include <QFile>
 
 #include <algorithm>
 #include <array>
 #include <string_view>
-#include <time/SystemCurrentZone.h>
 
 namespace quorvane {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <time/TimeZone.h>
+
 #include <QDateTime>
 
 #include <algorithm>
 #include <cmath>
-#include <time/TimeZone.h>
 
 namespace quorvane {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <time/UserLocale.h>
+
 #include <QStringList>
 #include <unicode/resbund.h>
 
 #include <algorithm>
 #include <array>
-#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <time/ZoneDatabase.h>
+
 #include <QFile>
 
 #include <algorithm>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -2,6 +2,10 @@
 #include "TrayLog.h"
 
 #include <platform_tray/XEmbedHosts.h>
+#include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
+#include <x11_server/XcbReply.h>
+#include <x11_server/XcbRequests.h>
 
 #include <QGuiApplication>
 #include <xcb/xcb.h>
@@ -9,10 +13,6 @@
 
 #include <string>
 #include <utility>
-#include <x11_server/QtX11.h>
-#include <x11_server/X11Events.h>
-#include <x11_server/XcbReply.h>
-#include <x11_server/XcbRequests.h>
 
 namespace quorvane {
 

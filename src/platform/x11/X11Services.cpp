@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <platform_x11/X11Services.h>
-
 #include <x11_clipboard/X11Pasteboard.h>
 #include <x11_keyboard/X11AccessibilityRight.h>
 #include <x11_keyboard/X11EventTapService.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "CalendarKeys.h"
 
-#include <QKeyEvent>
-
 #include <time/CalendarMoves.h>
+
+#include <QKeyEvent>
 
 namespace quorvane {
 

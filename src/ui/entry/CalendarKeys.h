@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/CivilTime.h>
+#include <time/UserLocale.h>
+
 #include <QtGlobal>
 
 #include <optional>
-#include <time/CivilTime.h>
-#include <time/UserLocale.h>
 
 class QKeyEvent;
 

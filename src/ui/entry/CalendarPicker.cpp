@@ -4,12 +4,12 @@
 
 #include <controls/TextStyle.h>
 #include <entry/CalendarPicker.h>
+#include <time/CalendarMoves.h>
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <time/CalendarMoves.h>
 #include <utility>
 
 namespace quorvane {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <entry/DateField.h>
-
 #include <time/DateText.h>
+
 #include <utility>
 
 namespace quorvane {

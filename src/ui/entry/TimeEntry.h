@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/TimeZone.h>
+
 #include <QString>
 
 #include <optional>
-#include <time/TimeZone.h>
 
 namespace quorvane {
 

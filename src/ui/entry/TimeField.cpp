@@ -2,8 +2,8 @@
 #include "TimePickerPopover.h"
 
 #include <entry/TimeField.h>
-
 #include <time/DateText.h>
+
 #include <utility>
 
 namespace quorvane {

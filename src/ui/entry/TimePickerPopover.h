@@ -6,12 +6,12 @@
 #include "TimeEntry.h"
 
 #include <controls/Binding.h>
+#include <time/CurrentZone.h>
 
 #include <QWidget>
 
 #include <memory>
 #include <optional>
-#include <time/CurrentZone.h>
 
 namespace quorvane {
 

@@ -5,11 +5,10 @@
 
 #include <controls/DimmingOverlay.h>
 #include <controls/Theme.h>
+#include <panel/PanelMetrics.h>
 
 #include <QHBoxLayout>
 #include <QPainter>
-
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

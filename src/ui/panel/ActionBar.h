@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidget>
-
 #include <loop/MainQueue.h>
+
+#include <QWidget>
 
 namespace quorvane {
 

@@ -2,11 +2,10 @@
 #pragma once
 
 #include <controls/ActionButton.h>
-
-#include <QVariantAnimation>
-
 #include <loop/DeadlineSet.h>
 #include <loop/MainQueue.h>
+
+#include <QVariantAnimation>
 
 namespace quorvane {
 

@@ -5,13 +5,12 @@
 
 #include <composition/IncludeGuard.h>
 #include <controls/CheckBox.h>
+#include <panel/PanelMetrics.h>
 #include <timezones/ZoneTexts.h>
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChipSurface.h>
 #include <controls/DevicePixels.h>
+#include <panel/FavoriteSuggestionChip.h>
 
 #include <QPainter>
-
-#include <panel/FavoriteSuggestionChip.h>
 
 namespace quorvane {
 

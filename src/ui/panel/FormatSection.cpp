@@ -4,11 +4,10 @@
 #include <controls/MacPopUpButton.h>
 #include <controls/MacSegmentedControl.h>
 #include <controls/TextField.h>
+#include <panel/OutputPreview.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-
-#include <panel/OutputPreview.h>
 
 namespace quorvane {
 

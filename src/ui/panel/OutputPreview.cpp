@@ -6,6 +6,7 @@
 #include <controls/OverlayScrollBar.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <panel/OutputPreview.h>
 
 #include <QFontDatabase>
 #include <QMimeData>
@@ -18,7 +19,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <panel/OutputPreview.h>
 
 namespace quorvane {
 

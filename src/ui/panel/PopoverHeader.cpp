@@ -7,13 +7,13 @@
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <panel/PanelMetrics.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
 
-#include <panel/PanelMetrics.h>
 #include <utility>
 
 namespace quorvane {

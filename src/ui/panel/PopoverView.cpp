@@ -9,13 +9,13 @@
 #include "TimeZoneSection.h"
 
 #include <delivery/CopyText.h>
+#include <panel/PopoverView.h>
 #include <recorder/KeyNames.h>
 
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include <panel/PopoverView.h>
 #include <utility>
 
 namespace quorvane {

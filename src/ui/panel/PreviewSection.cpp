@@ -3,9 +3,9 @@
 
 #include "SectionLabel.h"
 
-#include <QVBoxLayout>
-
 #include <panel/OutputPreview.h>
+
+#include <QVBoxLayout>
 
 namespace quorvane {
 

@@ -4,10 +4,9 @@
 #include "SectionLabel.h"
 
 #include <controls/DimmingOverlay.h>
+#include <panel/PanelMetrics.h>
 
 #include <QVBoxLayout>
-
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

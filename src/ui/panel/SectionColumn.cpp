@@ -2,11 +2,10 @@
 #include "SectionColumn.h"
 
 #include <controls/OverlayScrollBar.h>
+#include <panel/PanelMetrics.h>
 
 #include <QEvent>
 #include <QVBoxLayout>
-
-#include <panel/PanelMetrics.h>
 
 namespace quorvane {
 

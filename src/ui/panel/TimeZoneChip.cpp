@@ -2,10 +2,9 @@
 #include <controls/ChipSurface.h>
 #include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
+#include <panel/TimeZoneChip.h>
 
 #include <QPainter>
-
-#include <panel/TimeZoneChip.h>
 
 namespace quorvane {
 

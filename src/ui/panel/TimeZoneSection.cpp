@@ -5,14 +5,14 @@
 
 #include <controls/IconButton.h>
 #include <controls/Sheet.h>
+#include <panel/FavoriteSuggestionChip.h>
+#include <panel/PanelMetrics.h>
+#include <panel/TimeZoneChip.h>
 #include <timezones/ZoneTexts.h>
 
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <panel/FavoriteSuggestionChip.h>
-#include <panel/PanelMetrics.h>
-#include <panel/TimeZoneChip.h>
 
 namespace quorvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <panel/UpdaterController.h>
+
 #include <QCoreApplication>
 #include <QMessageBox>
-
-#include <panel/UpdaterController.h>
 
 namespace quorvane {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <controls/ChipSurface.h>
 #include <controls/TextStyle.h>
+#include <panel/ZoneChip.h>
 
 #include <cmath>
-#include <panel/ZoneChip.h>
 
 namespace quorvane {
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <picker/TimeZoneRow.h>
-#include <timezones/ZoneTexts.h>
-
 #include <time/ZoneNames.h>
+#include <timezones/ZoneTexts.h>
 
 namespace quorvane {
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int rowHeight = 32;
 constexpr int headHeight = 28;
-constexpr int headDrop = 4;   ///< a head's text stands nearer to what it heads
+constexpr int headDrop = 5;   ///< a head's text stands nearer to what it heads
 constexpr int sectionGap = 4; ///< above every head but the first
 constexpr int markStart = 16;
 constexpr int markWidth = 16;

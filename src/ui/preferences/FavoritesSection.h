@@ -3,10 +3,9 @@
 
 #include "PreferencesSection.h"
 
-#include <timezones/ZoneSearch.h>
-
 #include <time/Clock.h>
 #include <time/ZoneDatabase.h>
+#include <timezones/ZoneSearch.h>
 
 namespace quorvane {
 

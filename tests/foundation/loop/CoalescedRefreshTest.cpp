@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <loop/CoalescedRefresh.h>
+#include <testing/VirtualMainQueue.h>
+
 #include <gtest/gtest.h>
 
-#include <loop/CoalescedRefresh.h>
 #include <optional>
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <loop/DeadlineSet.h>
+#include <testing/VirtualMainQueue.h>
+
 #include <gtest/gtest.h>
 
-#include <loop/DeadlineSet.h>
 #include <memory>
-#include <testing/VirtualMainQueue.h>
 #include <vector>
 
 namespace quorvane {

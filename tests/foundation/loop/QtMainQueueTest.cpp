@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <loop/QtMainQueue.h>
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
-#include <loop/QtMainQueue.h>
 #include <memory>
 #include <optional>
 #include <string>

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <loop/SlicedWork.h>
+#include <testing/VirtualMainQueue.h>
+
 #include <gmock/gmock.h>
 
-#include <loop/SlicedWork.h>
 #include <optional>
-#include <testing/VirtualMainQueue.h>
 #include <vector>
 
 namespace quorvane {

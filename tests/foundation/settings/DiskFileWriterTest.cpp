@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <settings/DiskFileWriter.h>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-
-#include <settings/DiskFileWriter.h>
 
 namespace quorvane {
 namespace {

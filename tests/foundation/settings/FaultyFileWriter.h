@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <settings/DiskFileWriter.h>
+
 #include <memory>
 #include <set>
-#include <settings/DiskFileWriter.h>
 
 namespace quorvane {
 

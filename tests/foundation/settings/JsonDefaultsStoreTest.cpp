@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <settings/DiskFileWriter.h>
+#include <settings/JsonDefaultsStore.h>
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <settings/DiskFileWriter.h>
-#include <settings/JsonDefaultsStore.h>
 
 namespace quorvane {
 namespace {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FaultyFileWriter.h"
 
+#include <settings/JsonFile.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -10,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <settings/JsonFile.h>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>

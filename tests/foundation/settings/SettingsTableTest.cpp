@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
-
 #include <settings/SettingsTable.h>
 #include <testing/MemoryDefaults.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <settings/UserFolders.h>
+
 #include <gtest/gtest.h>
 
 #include <map>
-#include <settings/UserFolders.h>
 #include <string>
 
 namespace quorvane {

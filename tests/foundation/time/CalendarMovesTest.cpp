@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
-
 #include <time/CalendarMoves.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <time/CivilTime.h>
+#include <time/ZoneDatabase.h>
+
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <time/CivilTime.h>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

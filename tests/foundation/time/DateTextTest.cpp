@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "IcuRelease.h"
 
+#include <time/DateText.h>
+#include <time/ZoneDatabase.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
-#include <time/DateText.h>
-#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

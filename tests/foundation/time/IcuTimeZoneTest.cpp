@@ -2,11 +2,11 @@
 #include "IcuRelease.h"
 #include "ZoneOracle.h"
 
-#include <gtest/gtest.h>
-#include <unicode/gregocal.h>
-
 #include <time/IcuTimeZone.h>
 #include <time/ZoneDatabase.h>
+
+#include <gtest/gtest.h>
+#include <unicode/gregocal.h>
 
 namespace quorvane {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
-
 #include <time/Iso8601Options.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "IcuRelease.h"
 
+#include <time/MonthGrid.h>
+
 #include <QProcess>
 #include <QStringList>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <time/MonthGrid.h>
 
 namespace quorvane {
 namespace {

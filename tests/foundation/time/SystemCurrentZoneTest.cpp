@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <time/SystemCurrentZone.h>
+
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <time/SystemCurrentZone.h>
 
 namespace quorvane {
 namespace {

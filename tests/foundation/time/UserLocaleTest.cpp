@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <time/UserLocale.h>
+
 #include <gtest/gtest.h>
 
 #include <map>
 #include <string>
-#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

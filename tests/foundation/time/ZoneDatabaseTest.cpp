@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ZoneOracle.h"
 
+#include <time/ZoneDatabase.h>
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -8,7 +10,6 @@
 #include <cmath>
 #include <limits>
 #include <set>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "IcuRelease.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
 #include <time/DateText.h>
 #include <time/IcuTimeZone.h>
 #include <time/ZoneDatabase.h>
 #include <time/ZoneNames.h>
+
+#include <gtest/gtest.h>
+
+#include <limits>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <platform_null/NullServices.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <gtest/gtest.h>
-
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 

@@ -2,13 +2,13 @@
 #include "TrayStatusItem.h"
 
 #include <controls/SymbolIcon.h>
+#include <loop/QtMainQueue.h>
 
 #include <QApplication>
 #include <QSocketNotifier>
 
 #include <cstdio>
 #include <iostream>
-#include <loop/QtMainQueue.h>
 #include <string>
 #include <unistd.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/KeyCap.h>
 #include <controls/SegmentedChip.h>
 #include <support/Pixels.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "ChoiceMenu.h"
 #include "ChoiceRow.h"
+#include "RowMenu.h"
 
 #include <controls/MacPopUpButton.h>
 #include <controls/TextStyle.h>
@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <vector>
 
 namespace quorvane {
 namespace {
@@ -23,14 +24,18 @@ class MenuMeasuresTest : public testing::Test {
 protected:
     ControlWindow window;
 
-    ChoiceMenu& show(const QStringList& titles) {
-        auto& menu = window.add(new ChoiceMenu(titles, 0));
+    /// A list with the first title chosen.
+    RowMenu& show(const QStringList& titles) {
+        std::vector<MenuRow*> rows;
+        for (const auto& title : titles)
+            rows.push_back(new ChoiceRow(title, rows.empty(), nullptr));
+        auto& menu = window.add(new RowMenu(QAccessible::List, rows, 0, nullptr));
         menu.resize(menu.sizeHint().expandedTo(menu.minimumSize()));
         EXPECT_TRUE(window.open());
         return menu;
     }
 
-    static ChoiceRow& row(ChoiceMenu& menu, qsizetype index) {
+    static ChoiceRow& row(RowMenu& menu, qsizetype index) {
         return *menu.findChildren<ChoiceRow*>().at(index);
     }
 

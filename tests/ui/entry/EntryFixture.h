@@ -4,6 +4,9 @@
 #include <controls/Binding.h>
 #include <entry/EntryDependencies.h>
 #include <support/WidgetSearch.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <time/ZoneDatabase.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -13,9 +16,6 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

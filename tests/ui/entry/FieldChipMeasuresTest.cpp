@@ -16,8 +16,8 @@ namespace {
 
 class FieldChipMeasuresTest : public EntryFixture {
 protected:
-    DateField day{binding(), {}, surroundings(), &window};
-    TimeField time{binding(), surroundings(), &window};
+    DateField day{binding(), {}, dependencies(), &window};
+    TimeField time{binding(), dependencies(), &window};
 };
 
 TEST_F(FieldChipMeasuresTest, SymbolIsFiveBeforeTheTextAndBothTenFromTheFrame) {

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TimeEntry.h"
 
+#include <time/ZoneDatabase.h>
+
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -2,7 +2,7 @@
 #include "EntryFixture.h"
 #include "TimePickerPopover.h"
 
-#include <controls/Contrast.h>
+#include <controls/ColorContrast.h>
 #include <controls/SegmentedChip.h>
 #include <controls/Theme.h>
 #include <entry/TimeField.h>
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 class TimePickerMeasuresTest : public EntryFixture {
 protected:
-    TimeField chip{binding(), surroundings(), &window};
+    TimeField chip{binding(), dependencies(), &window};
 
     TimePickerMeasuresTest() {
         QFont font(u"Inter"_s);

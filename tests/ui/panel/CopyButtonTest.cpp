@@ -3,6 +3,7 @@
 
 #include <support/ControlWindow.h>
 #include <support/SymbolSearch.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <QAnimationDriver>
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -5,7 +5,15 @@
 #include <controls/SearchField.h>
 #include <controls/Theme.h>
 #include <entry/CalendarPicker.h>
+#include <panel/PanelMetrics.h>
+#include <panel/PopoverView.h>
 #include <picker/TimeZonePickerView.h>
+#include <testing/CallLog.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 #include <QApplication>
 #include <QImage>
@@ -17,14 +25,6 @@
 #include <functional>
 #include <memory>
 #include <ostream>
-#include <panel/PanelMetrics.h>
-#include <panel/PopoverView.h>
-#include <testing/CallLog.h>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/FakePasteboard.h>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 namespace {

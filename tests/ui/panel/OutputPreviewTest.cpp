@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <controls/Theme.h>
+#include <panel/OutputPreview.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -13,8 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <panel/OutputPreview.h>
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

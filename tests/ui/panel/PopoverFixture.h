@@ -3,7 +3,14 @@
 
 #include "MenuRow.h"
 
+#include <panel/PopoverView.h>
 #include <support/WidgetSearch.h>
+#include <testing/CallLog.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FakePasteboard.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,14 +18,6 @@
 #include <QPlainTextEdit>
 #include <QTest>
 #include <gtest/gtest.h>
-
-#include <panel/PopoverView.h>
-#include <testing/CallLog.h>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/FakePasteboard.h>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 

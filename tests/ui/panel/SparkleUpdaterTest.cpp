@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
-#include <QMessageBox>
-#include <gtest/gtest.h>
-
 #include <panel/SparkleUpdater.h>
 #include <testing/CallLog.h>
 #include <testing/FakeSoftwareCentre.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <support/Pixels.h>
-
 #include <panel/FavoriteSuggestionChip.h>
 #include <panel/TimeZoneChip.h>
+#include <support/Pixels.h>
 #include <time/ZoneDatabase.h>
 
 namespace quorvane {

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <support/ControlWindow.h>
-
-#include <gtest/gtest.h>
-
 #include <panel/FavoriteSuggestionChip.h>
 #include <panel/TimeZoneChip.h>
+#include <support/ControlWindow.h>
 #include <time/ZoneDatabase.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

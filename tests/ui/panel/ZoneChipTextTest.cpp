@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <support/TextFits.h>
-
 #include <panel/FavoriteSuggestionChip.h>
 #include <panel/TimeZoneChip.h>
+#include <support/TextFits.h>
 #include <time/ZoneDatabase.h>
 
 namespace quorvane {

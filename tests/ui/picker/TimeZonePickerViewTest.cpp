@@ -3,6 +3,8 @@
 #include <controls/Theme.h>
 #include <picker/TimeZonePickerView.h>
 #include <support/WidgetSearch.h>
+#include <testing/FixedClock.h>
+#include <time/ZoneDatabase.h>
 
 #include <QLabel>
 #include <QLineEdit>
@@ -14,8 +16,6 @@
 #include <gtest/gtest.h>
 
 #include <set>
-#include <testing/FixedClock.h>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "FavoriteTZRow.h"
 
-#include <gtest/gtest.h>
-
 #include <time/ZoneDatabase.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

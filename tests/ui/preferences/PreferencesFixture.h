@@ -7,6 +7,11 @@
 #include <preferences/PreferencesView.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+#include <testing/MemoryDefaults.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -17,11 +22,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/MemoryDefaults.h>
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 

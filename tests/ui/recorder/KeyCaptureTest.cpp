@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <recorder/KeyCapture.h>
 #include <support/PhysicalKeyboard.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <QLineEdit>
 #include <QShortcut>
 #include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
-
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <platform/KeyCodes.h>
 #include <recorder/KeyNames.h>
+#include <testing/FakeKeyboardLayout.h>
 
 #include <gtest/gtest.h>
 
 #include <linux/input-event-codes.h>
-#include <testing/FakeKeyboardLayout.h>
 
 namespace quorvane {
 namespace {

@@ -7,14 +7,14 @@
 #include <recorder/ShortcutRecorder.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <QHBoxLayout>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/VirtualMainQueue.h>
 
 namespace quorvane {
 namespace {

@@ -3,11 +3,11 @@
 
 #include <composition/FormatSingle.h>
 #include <composition/MultiZoneLayout.h>
+#include <time/CurrentZone.h>
 
 #include <QString>
 
 #include <optional>
-#include <time/CurrentZone.h>
 #include <vector>
 
 namespace quorvane {

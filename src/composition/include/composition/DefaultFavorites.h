@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStringList>
-
 #include <time/ZoneDatabase.h>
+
+#include <QStringList>
 
 namespace quorvane {
 

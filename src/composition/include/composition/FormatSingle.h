@@ -2,12 +2,11 @@
 #pragma once
 
 #include <composition/DateFormatPreset.h>
-
-#include <QString>
-
 #include <time/Instant.h>
 #include <time/TimeZone.h>
 #include <time/UserLocale.h>
+
+#include <QString>
 
 namespace quorvane {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/ZoneDatabase.h>
+
 #include <QStringList>
 
-#include <time/ZoneDatabase.h>
 #include <vector>
 
 namespace quorvane {

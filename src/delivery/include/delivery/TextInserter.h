@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/DeadlineSet.h>
+#include <loop/MainQueue.h>
 #include <platform/AccessibilityRight.h>
 #include <platform/KeyPoster.h>
 #include <platform/Pasteboard.h>
 
 #include <QString>
 
-#include <loop/DeadlineSet.h>
-#include <loop/MainQueue.h>
 #include <map>
 #include <memory>
 

@@ -4,6 +4,7 @@
 #include <platform/KeyCodes.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/ModifierFlags.h>
+#include <settings/SettingsTable.h>
 
 #include <QJsonObject>
 #include <QString>
@@ -11,7 +12,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <settings/SettingsTable.h>
 #include <variant>
 
 namespace quorvane {

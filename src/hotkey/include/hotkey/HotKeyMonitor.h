@@ -2,11 +2,11 @@
 #pragma once
 
 #include <hotkey/HotKeyCombo.h>
+#include <loop/MainQueue.h>
 #include <platform/AccessibilityRight.h>
 #include <platform/EventTap.h>
 
 #include <functional>
-#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
 

@@ -3,11 +3,11 @@
 
 #include <composition/DateFormatPreset.h>
 #include <composition/MultiZoneLayout.h>
+#include <time/Instant.h>
+#include <time/TimeZone.h>
 
 #include <QString>
 
-#include <time/Instant.h>
-#include <time/TimeZone.h>
 #include <vector>
 
 namespace quorvane {

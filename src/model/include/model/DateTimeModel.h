@@ -3,16 +3,16 @@
 
 #include <model/Composition.h>
 #include <model/Preferences.h>
-
-#include <QObject>
-#include <QString>
-#include <QStringList>
-
 #include <settings/DefaultsStore.h>
 #include <time/Clock.h>
 #include <time/CurrentZone.h>
 #include <time/UserLocale.h>
 #include <time/ZoneDatabase.h>
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
 #include <vector>
 
 namespace quorvane {

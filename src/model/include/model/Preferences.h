@@ -3,11 +3,10 @@
 
 #include <hotkey/HotKeyCombo.h>
 #include <model/PresentationMode.h>
-
-#include <QStringList>
-
 #include <settings/DefaultsStore.h>
 #include <time/ZoneDatabase.h>
+
+#include <QStringList>
 
 namespace quorvane {
 

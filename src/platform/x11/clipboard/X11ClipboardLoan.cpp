@@ -2,14 +2,15 @@
 #include "X11LentData.h"
 #include "X11QtClipboard.h"
 
+#include <x11_clipboard/X11ClipboardLoan.h>
+#include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QWindow>
 
 #include <utility>
-#include <x11_clipboard/X11ClipboardLoan.h>
-#include <x11_server/QtX11.h>
-#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

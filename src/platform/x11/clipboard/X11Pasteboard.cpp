@@ -3,10 +3,10 @@
 #include "X11QtClipboard.h"
 
 #include <platform/PasteTarget.h>
-
-#include <utility>
 #include <x11_clipboard/X11Pasteboard.h>
 #include <x11_server/QtX11.h>
+
+#include <utility>
 
 namespace quorvane {
 

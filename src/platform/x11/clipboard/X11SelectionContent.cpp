@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <utility>
 #include <x11_clipboard/X11SelectionContent.h>
+
+#include <utility>
 
 namespace quorvane {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <x11_clipboard/X11SelectionDelivery.h>
+#include <x11_server/X11Events.h>
+
 #include <QLoggingCategory>
 
 #include <algorithm>
 #include <limits>
 #include <utility>
-#include <x11_clipboard/X11SelectionDelivery.h>
-#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <utility>
 #include <x11_clipboard/X11SelectionInbox.h>
 #include <x11_server/X11Events.h>
+
+#include <utility>
 
 namespace quorvane {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <x11_clipboard/X11SelectionOwner.h>
+#include <x11_server/X11Events.h>
+
 #include <QLoggingCategory>
 
 #include <cstring>
 #include <utility>
 #include <vector>
-#include <x11_clipboard/X11SelectionOwner.h>
-#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

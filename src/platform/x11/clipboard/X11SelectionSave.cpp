@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "X11SelectionTargets.h"
 
+#include <x11_clipboard/X11SelectionSave.h>
+
 #include <QLoggingCategory>
 
 #include <utility>
-#include <x11_clipboard/X11SelectionSave.h>
 
 namespace quorvane {
 

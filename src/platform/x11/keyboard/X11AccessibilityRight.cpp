@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 
+#include <x11_keyboard/X11AccessibilityRight.h>
+
 #include <xcb/xtest.h>
 
 #include <utility>
-#include <x11_keyboard/X11AccessibilityRight.h>
 
 namespace quorvane {
 

@@ -2,14 +2,14 @@
 #include "X11EventTap.h"
 
 #include <platform/KeyCodes.h>
+#include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <limits>
 #include <utility>
-#include <x11_server/QtX11.h>
-#include <x11_server/X11Events.h>
 
 namespace quorvane {
 

@@ -4,15 +4,15 @@
 #include "X11KeyGrab.h"
 #include "X11ModifierMap.h"
 
+#include <loop/CoalescedRefresh.h>
 #include <platform/EventTap.h>
+#include <x11_keyboard/X11PostedKeys.h>
+#include <x11_server/X11Connection.h>
 
 #include <QAbstractNativeEventFilter>
 
-#include <loop/CoalescedRefresh.h>
 #include <memory>
 #include <optional>
-#include <x11_keyboard/X11PostedKeys.h>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

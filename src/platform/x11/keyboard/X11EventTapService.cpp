@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "X11EventTap.h"
 
-#include <utility>
 #include <x11_keyboard/X11EventTapService.h>
+
+#include <utility>
 
 namespace quorvane {
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 
 #include <platform/PasteTarget.h>
+#include <x11_keyboard/X11AccessibilityRight.h>
+#include <x11_keyboard/X11KeyPoster.h>
+#include <x11_server/X11ServerGrab.h>
 
 #include <QLoggingCategory>
 #include <xcb/xtest.h>
@@ -8,9 +11,6 @@
 #include <algorithm>
 #include <climits>
 #include <utility>
-#include <x11_keyboard/X11AccessibilityRight.h>
-#include <x11_keyboard/X11KeyPoster.h>
-#include <x11_server/X11ServerGrab.h>
 
 namespace quorvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <platform/KeyCodes.h>
+#include <x11_keyboard/X11KeyboardLayout.h>
 
 #include <utility>
-#include <x11_keyboard/X11KeyboardLayout.h>
 
 namespace quorvane {
 

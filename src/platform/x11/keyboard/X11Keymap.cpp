@@ -11,10 +11,11 @@
 #include <xcb/xkb.h>
 #undef explicit
 
+#include <x11_keyboard/X11Keymap.h>
+
 #include <algorithm>
 #include <array>
 #include <utility>
-#include <x11_keyboard/X11Keymap.h>
 
 namespace quorvane {
 

@@ -2,13 +2,13 @@
 #pragma once
 
 #include <platform/ModifierFlags.h>
+#include <x11_server/X11Connection.h>
 
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <x11_server/QtX11.h>
+#include <x11_server/XcbRequests.h>
+
 #include <QGuiApplication>
 #include <QScreen>
 
 #include <cstdlib>
-#include <x11_server/QtX11.h>
-#include <x11_server/XcbRequests.h>
 
 namespace quorvane::qtx11 {
 

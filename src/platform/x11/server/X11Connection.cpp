@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <x11_server/X11Connection.h>
+#include <x11_server/XcbRequests.h>
+
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -6,8 +9,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <x11_server/X11Connection.h>
-#include <x11_server/XcbRequests.h>
 
 namespace quorvane {
 

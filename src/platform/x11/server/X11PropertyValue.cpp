@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <cstring>
 #include <x11_server/X11PropertyValue.h>
+
+#include <cstring>
 
 namespace quorvane {
 

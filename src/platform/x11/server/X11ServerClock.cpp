@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <x11_server/X11ServerClock.h>
+
 #include <xcb/sync.h>
 
 #include <string_view>
 #include <utility>
-#include <x11_server/X11ServerClock.h>
 
 namespace quorvane {
 

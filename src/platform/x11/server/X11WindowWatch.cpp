@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <utility>
 #include <x11_server/X11WindowWatch.h>
+
+#include <utility>
 
 namespace quorvane {
 

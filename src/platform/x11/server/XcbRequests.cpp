@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <cstdint>
 #include <x11_server/XcbReply.h>
 #include <x11_server/XcbRequests.h>
+
+#include <cstdint>
 
 namespace quorvane::xcbrequests {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <x11_server/QtX11.h>
+#include <x11_windows/X11UserTime.h>
+
 #include <QCoreApplication>
 #include <QInputEvent>
 
 #include <utility>
-#include <x11_server/QtX11.h>
-#include <x11_windows/X11UserTime.h>
 
 namespace quorvane {
 

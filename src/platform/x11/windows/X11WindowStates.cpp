@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <x11_server/X11PropertyValue.h>
 #include <x11_windows/X11WindowStates.h>
+
+#include <algorithm>
 
 namespace quorvane {
 

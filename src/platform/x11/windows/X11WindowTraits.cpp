@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <x11_server/QtX11.h>
+#include <x11_server/X11PropertyValue.h>
+#include <x11_windows/X11WindowTraits.h>
+
 #include <QGuiApplication>
 #include <QWindow>
 
 #include <utility>
-#include <x11_server/QtX11.h>
-#include <x11_server/X11PropertyValue.h>
-#include <x11_windows/X11WindowTraits.h>
 
 namespace quorvane {
 

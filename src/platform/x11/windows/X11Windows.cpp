@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-#include <utility>
 #include <x11_server/X11PropertyValue.h>
 #include <x11_windows/X11Windows.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace quorvane {
 

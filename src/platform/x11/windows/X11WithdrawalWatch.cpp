@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <x11_server/QtX11.h>
+#include <x11_server/X11Events.h>
+#include <x11_windows/X11WithdrawalWatch.h>
+
 #include <QGuiApplication>
 
 #include <algorithm>
 #include <utility>
-#include <x11_server/QtX11.h>
-#include <x11_server/X11Events.h>
-#include <x11_windows/X11WithdrawalWatch.h>
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <utility>
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Events.h>
 #include <x11_windows/X11Workspace.h>
+
+#include <utility>
 
 namespace quorvane {
 

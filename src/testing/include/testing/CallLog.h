@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <testing/VirtualMainQueue.h>
+
 #include <chrono>
 #include <ostream>
 #include <string>
-#include <testing/VirtualMainQueue.h>
 #include <vector>
 
 namespace quorvane {

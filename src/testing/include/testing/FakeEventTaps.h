@@ -2,9 +2,9 @@
 #pragma once
 
 #include <platform/EventTap.h>
+#include <testing/CallLog.h>
 
 #include <memory>
-#include <testing/CallLog.h>
 
 namespace quorvane {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <platform/StatusBar.h>
-
 #include <testing/CallLog.h>
+
 #include <utility>
 
 namespace quorvane {

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <platform/WindowTraits.h>
+#include <testing/CallLog.h>
 
 #include <QWindow>
-
-#include <testing/CallLog.h>
 
 namespace quorvane {
 

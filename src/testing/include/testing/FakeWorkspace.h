@@ -2,7 +2,6 @@
 #pragma once
 
 #include <platform/Workspace.h>
-
 #include <testing/CallLog.h>
 
 namespace quorvane {

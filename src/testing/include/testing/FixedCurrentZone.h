@@ -2,6 +2,7 @@
 #pragma once
 
 #include <time/CurrentZone.h>
+
 #include <utility>
 
 namespace quorvane {

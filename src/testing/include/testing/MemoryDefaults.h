@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <map>
 #include <settings/DefaultsStore.h>
+
+#include <map>
 #include <variant>
 #include <vector>
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
+
 #include <chrono>
 #include <cstdint>
-#include <loop/MainQueue.h>
 #include <map>
 #include <memory>
 #include <utility>

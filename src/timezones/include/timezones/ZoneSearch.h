@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/UserLocale.h>
 #include <timezones/TimeZoneCatalogue.h>
 
 #include <QString>
@@ -9,7 +10,6 @@
 
 #include <functional>
 #include <memory>
-#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <time/TimeZone.h>
+
 #include <vector>
 
 namespace quorvane {

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/TimeZone.h>
+#include <time/UserLocale.h>
+
 #include <QString>
 
 #include <optional>
-#include <time/TimeZone.h>
-#include <time/UserLocale.h>
 
 namespace quorvane {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
-#include <optional>
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Connection.h>
 #include <x11_server/X11HiddenWindow.h>
+
+#include <memory>
+#include <optional>
 
 namespace quorvane {
 

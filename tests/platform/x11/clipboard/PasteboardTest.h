@@ -6,11 +6,12 @@
 #include "support/ForeignWindow.h"
 #include "support/WaitUntil.h"
 
+#include <x11_clipboard/X11Pasteboard.h>
+
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <optional>
-#include <x11_clipboard/X11Pasteboard.h>
 
 namespace quorvane {
 

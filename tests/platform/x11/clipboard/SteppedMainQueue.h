@@ -3,6 +3,7 @@
 
 #include <loop/QtMainQueue.h>
 #include <testing/VirtualMainQueue.h>
+
 #include <utility>
 
 namespace quorvane {

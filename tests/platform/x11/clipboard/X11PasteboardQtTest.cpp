@@ -3,6 +3,8 @@
 #include "support/ForeignWindow.h"
 #include "support/Keyboard.h"
 
+#include <x11_server/QtX11.h>
+
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -11,7 +13,6 @@
 #include <QWindow>
 
 #include <linux/input-event-codes.h>
-#include <x11_server/QtX11.h>
 
 namespace quorvane {
 namespace {

@@ -3,8 +3,9 @@
 #include "support/PrivateDisplay.h"
 #include "support/X11Test.h"
 
-#include <linux/input-event-codes.h>
 #include <x11_keyboard/X11KeyPoster.h>
+
+#include <linux/input-event-codes.h>
 
 namespace quorvane {
 

@@ -2,9 +2,9 @@
 #include "support/X11Test.h"
 
 #include <platform/KeyCodes.h>
+#include <x11_keyboard/X11KeyboardLayout.h>
 
 #include <linux/input-event-codes.h>
-#include <x11_keyboard/X11KeyboardLayout.h>
 
 namespace quorvane {
 

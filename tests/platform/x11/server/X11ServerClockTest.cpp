@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/WaitUntil.h"
 
-#include <gtest/gtest.h>
-
 #include <x11_server/X11Events.h>
 #include <x11_server/X11HiddenWindow.h>
 #include <x11_server/X11ServerClock.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/ForeignWindow.h"
 
-#include <gtest/gtest.h>
-
 #include <x11_server/X11WindowWatch.h>
+
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/XcbReply.h>
+
 #include <QByteArray>
 #include <xcb/xcb.h>
 
 #include <cstdint>
 #include <memory>
 #include <vector>
-#include <x11_server/XcbReply.h>
 
 namespace quorvane {
 

@@ -2,6 +2,8 @@
 #include "support/Keyboard.h"
 
 #include <platform/KeyCodes.h>
+#include <x11_server/XcbReply.h>
+#include <x11_server/XcbRequests.h>
 
 #include <QProcess>
 #include <xcb/xcb.h>
@@ -10,8 +12,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <x11_server/XcbReply.h>
-#include <x11_server/XcbRequests.h>
 
 #define explicit explicit_
 #include <xcb/xkb.h>

@@ -5,12 +5,12 @@
 #include "support/X11Test.h"
 
 #include <platform/KeyCodes.h>
+#include <x11_keyboard/X11EventTapService.h>
 
 #include <linux/input-event-codes.h>
 #include <memory>
 #include <utility>
 #include <vector>
-#include <x11_keyboard/X11EventTapService.h>
 
 namespace quorvane {
 

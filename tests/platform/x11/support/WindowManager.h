@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QProcess>
-
 #include <x11_windows/X11Windows.h>
+
+#include <QProcess>
 
 namespace quorvane {
 

@@ -4,11 +4,12 @@
 #include "support/Keyboard.h"
 #include "support/WaitUntil.h"
 
+#include <loop/QtMainQueue.h>
+#include <x11_server/X11Connection.h>
+
 #include <gtest/gtest.h>
 
-#include <loop/QtMainQueue.h>
 #include <memory>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

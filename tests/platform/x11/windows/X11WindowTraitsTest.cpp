@@ -3,11 +3,12 @@
 #include "support/WindowManager.h"
 #include "support/X11Test.h"
 
+#include <x11_windows/X11WindowTraits.h>
+
 #include <QWidget>
 #include <QWindow>
 
 #include <algorithm>
-#include <x11_windows/X11WindowTraits.h>
 
 namespace quorvane {
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "support/X11Test.h"
 
+#include <x11_windows/X11WindowTraits.h>
+#include <x11_windows/X11Windows.h>
+
 #include <QWidget>
 #include <QWindow>
 
 #include <algorithm>
 #include <vector>
-#include <x11_windows/X11WindowTraits.h>
-#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

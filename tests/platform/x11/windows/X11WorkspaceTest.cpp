@@ -3,10 +3,11 @@
 #include "support/WindowManager.h"
 #include "support/X11Test.h"
 
+#include <x11_windows/X11Workspace.h>
+
 #include <QWidget>
 
 #include <linux/input-event-codes.h>
-#include <x11_windows/X11Workspace.h>
 
 namespace quorvane {
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <loop/MainQueue.h>
+
 #include <memory>
 
 namespace quorvane {

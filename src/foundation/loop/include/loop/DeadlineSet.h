@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <loop/MainQueue.h>
+
+#include <cstdint>
 #include <map>
 
 namespace quorvane {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <loop/Deadline.h>
 #include <loop/Seconds.h>
+
+#include <functional>
 
 namespace quorvane {
 

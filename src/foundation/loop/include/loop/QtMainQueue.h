@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
-
 #include <loop/MainQueue.h>
+
+#include <QObject>
 
 namespace quorvane {
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
+
 #include <chrono>
 #include <functional>
-#include <loop/MainQueue.h>
 #include <memory>
 
 namespace quorvane {

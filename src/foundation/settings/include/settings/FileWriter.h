@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <settings/FileReplacement.h>
+
 #include <QString>
 
 #include <memory>
-#include <settings/FileReplacement.h>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <settings/FileWriter.h>
+
 #include <QJsonObject>
 #include <QString>
-
-#include <settings/FileWriter.h>
 
 namespace quorvane {
 

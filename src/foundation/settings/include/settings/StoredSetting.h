@@ -2,6 +2,7 @@
 #pragma once
 
 #include <settings/DefaultsStore.h>
+
 #include <type_traits>
 
 namespace quorvane {

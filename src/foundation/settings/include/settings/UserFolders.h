@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
 #include <settings/Environment.h>
+
+#include <QString>
 
 namespace quorvane {
 

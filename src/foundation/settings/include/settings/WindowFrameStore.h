@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <settings/JsonFile.h>
+
 #include <QRect>
 #include <QString>
 
 #include <optional>
-#include <settings/JsonFile.h>
 
 namespace quorvane {
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <chrono>
 #include <time/TimeZone.h>
+
+#include <chrono>
 
 namespace quorvane {
 

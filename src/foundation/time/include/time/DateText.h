@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
 #include <time/Iso8601Options.h>
 #include <time/TimeZone.h>
 #include <time/UserLocale.h>
+
+#include <QString>
 
 namespace quorvane {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/TimeZone.h>
+
 #include <unicode/timezone.h>
 
 #include <memory>
-#include <time/TimeZone.h>
 
 namespace quorvane {
 

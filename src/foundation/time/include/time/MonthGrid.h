@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/CivilTime.h>
+#include <time/UserLocale.h>
+
 #include <QString>
 
 #include <array>
-#include <time/CivilTime.h>
-#include <time/UserLocale.h>
 #include <vector>
 
 namespace quorvane {

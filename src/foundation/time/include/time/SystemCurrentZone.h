@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
 #include <settings/Environment.h>
 #include <time/CurrentZone.h>
 #include <time/ZoneDatabase.h>
+
+#include <filesystem>
 
 namespace quorvane {
 

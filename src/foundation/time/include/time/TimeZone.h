@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/Instant.h>
+
 #include <QString>
 #include <QTimeZone>
-
-#include <time/Instant.h>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <settings/Environment.h>
+
 #include <QString>
 #include <unicode/locid.h>
-
-#include <settings/Environment.h>
 
 namespace quorvane {
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/TimeZone.h>
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
-#include <time/TimeZone.h>
 #include <unordered_map>
 #include <vector>
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <time/TimeZone.h>
+#include <time/UserLocale.h>
+
 #include <QString>
 #include <unicode/tzfmt.h>
 
 #include <memory>
 #include <optional>
-#include <time/TimeZone.h>
-#include <time/UserLocale.h>
 
 namespace quorvane {
 

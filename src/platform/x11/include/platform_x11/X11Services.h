@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform/PlatformServices.h>
-
 #include <loop/MainQueue.h>
+#include <platform/PlatformServices.h>
 
 namespace quorvane {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <settings/Environment.h>
+
 #include <QString>
 #include <QStringList>
-
-#include <settings/Environment.h>
 
 namespace quorvane {
 

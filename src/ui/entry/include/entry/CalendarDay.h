@@ -2,7 +2,6 @@
 #pragma once
 
 #include <controls/PressableControl.h>
-
 #include <time/MonthGrid.h>
 
 namespace quorvane {

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <entry/CalendarDay.h>
+#include <time/MonthGrid.h>
 
 #include <QWidget>
 
 #include <optional>
-#include <time/MonthGrid.h>
 #include <vector>
 
 namespace quorvane {

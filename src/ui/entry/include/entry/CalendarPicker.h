@@ -4,12 +4,12 @@
 #include <controls/Binding.h>
 #include <entry/CalendarGrid.h>
 #include <entry/EntryDependencies.h>
+#include <time/CivilTime.h>
 
 #include <QWidget>
 
 #include <functional>
 #include <optional>
-#include <time/CivilTime.h>
 
 class QLabel;
 

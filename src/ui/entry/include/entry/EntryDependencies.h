@@ -2,7 +2,6 @@
 #pragma once
 
 #include <controls/PopoverEffects.h>
-
 #include <time/Clock.h>
 #include <time/CurrentZone.h>
 #include <time/UserLocale.h>

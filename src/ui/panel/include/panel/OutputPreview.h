@@ -2,12 +2,12 @@
 #pragma once
 
 #include <controls/FocusShaped.h>
+#include <loop/Deadline.h>
+#include <loop/SlicedWork.h>
 
 #include <QFont>
 #include <QPlainTextEdit>
 
-#include <loop/Deadline.h>
-#include <loop/SlicedWork.h>
 #include <optional>
 
 namespace quorvane {

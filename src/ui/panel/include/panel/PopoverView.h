@@ -2,16 +2,16 @@
 #pragma once
 
 #include <entry/EntryDependencies.h>
+#include <loop/CoalescedRefresh.h>
+#include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Pasteboard.h>
+#include <time/ZoneDatabase.h>
 
 #include <QWidget>
 
 #include <functional>
-#include <loop/CoalescedRefresh.h>
-#include <loop/MainQueue.h>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

@@ -3,9 +3,9 @@
 
 #include <controls/ContentRow.h>
 #include <controls/PressableControl.h>
+#include <time/TimeZone.h>
 
 #include <functional>
-#include <time/TimeZone.h>
 
 namespace quorvane {
 

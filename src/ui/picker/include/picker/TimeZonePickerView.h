@@ -3,11 +3,10 @@
 
 #include <controls/Binding.h>
 #include <picker/ZoneListModel.h>
+#include <time/Clock.h>
 #include <timezones/ZoneSearch.h>
 
 #include <QWidget>
-
-#include <time/Clock.h>
 
 namespace quorvane {
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <picker/TimeZoneRow.h>
+#include <time/Clock.h>
 
 #include <QAbstractListModel>
 
 #include <functional>
-#include <time/Clock.h>
 #include <variant>
 #include <vector>
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/CoalescedRefresh.h>
+#include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
 #include <platform/KeyboardLayout.h>
 #include <recorder/ShortcutRecorder.h>
+#include <time/ZoneDatabase.h>
 
 #include <QWidget>
 
 #include <functional>
-#include <loop/CoalescedRefresh.h>
-#include <loop/MainQueue.h>
-#include <time/ZoneDatabase.h>
 
 namespace quorvane {
 

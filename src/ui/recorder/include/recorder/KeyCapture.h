@@ -3,11 +3,11 @@
 
 #include <controls/RoleWidget.h>
 #include <hotkey/HotKeyCombo.h>
+#include <loop/MainQueue.h>
 
 #include <QPointer>
 
 #include <functional>
-#include <loop/MainQueue.h>
 #include <memory>
 
 class QKeyEvent;

@@ -4,11 +4,11 @@
 #include <controls/Binding.h>
 #include <controls/RoleWidget.h>
 #include <hotkey/HotKeyCombo.h>
+#include <loop/MainQueue.h>
 
 #include <QStringList>
 
 #include <array>
-#include <loop/MainQueue.h>
 
 namespace quorvane {
 

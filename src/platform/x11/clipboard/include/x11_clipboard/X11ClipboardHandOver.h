@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <loop/MainQueue.h>
-#include <vector>
 #include <x11_clipboard/X11SelectionConversion.h>
+
+#include <functional>
+#include <vector>
 
 namespace quorvane {
 

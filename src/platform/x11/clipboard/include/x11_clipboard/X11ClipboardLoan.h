@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
+#include <x11_clipboard/X11SelectionOwner.h>
+
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 
-#include <loop/MainQueue.h>
 #include <memory>
 #include <optional>
-#include <x11_clipboard/X11SelectionOwner.h>
 
 class QWindow;
 

@@ -1,15 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform/Pasteboard.h>
-
-#include <QClipboard>
-
-#include <functional>
-#include <list>
 #include <loop/MainQueue.h>
-#include <memory>
-#include <optional>
+#include <platform/Pasteboard.h>
 #include <x11_clipboard/X11ClipboardHandOver.h>
 #include <x11_clipboard/X11ClipboardLoan.h>
 #include <x11_clipboard/X11PasteboardSave.h>
@@ -17,6 +10,13 @@
 #include <x11_clipboard/X11SelectionOwner.h>
 #include <x11_server/X11ServerClock.h>
 #include <x11_windows/X11Windows.h>
+
+#include <QClipboard>
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <optional>
 
 namespace quorvane {
 

@@ -2,10 +2,10 @@
 #pragma once
 
 #include <platform/Pasteboard.h>
+#include <x11_clipboard/X11SelectionSave.h>
 
 #include <memory>
 #include <optional>
-#include <x11_clipboard/X11SelectionSave.h>
 
 namespace quorvane {
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <platform/PasteboardContents.h>
+#include <x11_server/X11PropertyValue.h>
 
 #include <map>
 #include <optional>
 #include <vector>
-#include <x11_server/X11PropertyValue.h>
 
 namespace quorvane {
 

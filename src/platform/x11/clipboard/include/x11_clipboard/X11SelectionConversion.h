@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
-#include <optional>
 #include <x11_clipboard/X11SelectionInbox.h>
 #include <x11_server/X11PropertyValue.h>
+
+#include <functional>
+#include <optional>
 
 namespace quorvane {
 

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <loop/MainQueue.h>
-#include <map>
-#include <memory>
 #include <x11_server/X11PropertyValue.h>
 #include <x11_server/X11WindowWatch.h>
+
+#include <map>
+#include <memory>
 
 namespace quorvane {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+#include <x11_server/X11HiddenWindow.h>
+
 #include <memory>
 #include <set>
 #include <vector>
-#include <x11_server/X11Connection.h>
-#include <x11_server/X11HiddenWindow.h>
 
 namespace quorvane {
 

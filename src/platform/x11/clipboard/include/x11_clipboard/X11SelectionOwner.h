@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform/PasteboardContents.h>
-
-#include <functional>
 #include <loop/MainQueue.h>
-#include <memory>
-#include <optional>
+#include <platform/PasteboardContents.h>
 #include <x11_clipboard/X11SelectionContent.h>
 #include <x11_clipboard/X11SelectionDelivery.h>
 #include <x11_server/X11HiddenWindow.h>
 #include <x11_server/X11ServerClock.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
 
 namespace quorvane {
 

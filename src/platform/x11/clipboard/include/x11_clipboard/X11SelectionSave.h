@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
 #include <platform/PasteboardContents.h>
+#include <x11_clipboard/X11SelectionConversion.h>
+#include <x11_clipboard/X11SelectionInbox.h>
 
 #include <QStringList>
 
 #include <functional>
-#include <loop/MainQueue.h>
 #include <map>
 #include <memory>
-#include <x11_clipboard/X11SelectionConversion.h>
-#include <x11_clipboard/X11SelectionInbox.h>
 
 namespace quorvane {
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <platform/AccessibilityRight.h>
+#include <x11_server/X11Connection.h>
 
 #include <memory>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

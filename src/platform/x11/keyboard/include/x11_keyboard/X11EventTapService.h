@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <platform/EventTap.h>
-
 #include <loop/MainQueue.h>
-#include <memory>
+#include <platform/EventTap.h>
 #include <x11_keyboard/X11PostedKeys.h>
 #include <x11_server/X11Connection.h>
+
+#include <memory>
 
 namespace quorvane {
 

@@ -2,15 +2,15 @@
 #pragma once
 
 #include <platform/KeyPoster.h>
+#include <x11_keyboard/X11Keymap.h>
+#include <x11_keyboard/X11PostedKeys.h>
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11Windows.h>
 
 #include <initializer_list>
 #include <memory>
 #include <optional>
 #include <vector>
-#include <x11_keyboard/X11Keymap.h>
-#include <x11_keyboard/X11PostedKeys.h>
-#include <x11_server/X11Connection.h>
-#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <platform/KeyboardLayout.h>
+#include <x11_keyboard/X11Keymap.h>
 
 #include <memory>
-#include <x11_keyboard/X11Keymap.h>
 
 namespace quorvane {
 

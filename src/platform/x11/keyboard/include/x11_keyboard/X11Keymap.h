@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/CoalescedRefresh.h>
+#include <x11_server/X11Connection.h>
+
 #include <xkbcommon/xkbcommon.h>
 
 #include <cstdint>
 #include <functional>
-#include <loop/CoalescedRefresh.h>
 #include <memory>
 #include <optional>
 #include <string>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

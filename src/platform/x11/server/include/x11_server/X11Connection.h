@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/XcbReply.h>
+
 #include <QObject>
 #include <QString>
 #include <xcb/xcb.h>
@@ -10,7 +12,6 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
-#include <x11_server/XcbReply.h>
 
 class QSocketNotifier;
 

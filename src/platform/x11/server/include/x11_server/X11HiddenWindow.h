@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
 #include <x11_server/X11Connection.h>
+
+#include <memory>
 
 namespace quorvane {
 

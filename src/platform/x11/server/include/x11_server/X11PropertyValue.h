@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+
 #include <QByteArray>
 
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <vector>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

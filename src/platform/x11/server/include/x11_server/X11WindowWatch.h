@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+
 #include <cstdint>
 #include <memory>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

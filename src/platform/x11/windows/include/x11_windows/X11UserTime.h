@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+
 #include <QObject>
 
 #include <memory>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11Windows.h>
+
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <utility>
-#include <x11_server/X11Connection.h>
-#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

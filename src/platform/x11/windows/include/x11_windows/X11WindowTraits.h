@@ -2,15 +2,15 @@
 #pragma once
 
 #include <platform/WindowTraits.h>
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11WindowStates.h>
+#include <x11_windows/X11Windows.h>
+#include <x11_windows/X11WithdrawalWatch.h>
 
 #include <QObject>
 #include <QPointer>
 
 #include <memory>
-#include <x11_server/X11Connection.h>
-#include <x11_windows/X11WindowStates.h>
-#include <x11_windows/X11Windows.h>
-#include <x11_windows/X11WithdrawalWatch.h>
 
 namespace quorvane {
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+
 #include <QPoint>
 #include <QStringList>
 
@@ -10,7 +12,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-#include <x11_server/X11Connection.h>
 
 namespace quorvane {
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11Windows.h>
+
 #include <QAbstractNativeEventFilter>
 #include <QWindow>
 
 #include <functional>
 #include <memory>
-#include <x11_server/X11Connection.h>
-#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 

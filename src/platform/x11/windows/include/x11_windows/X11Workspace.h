@@ -2,13 +2,13 @@
 #pragma once
 
 #include <platform/Workspace.h>
+#include <x11_server/X11Connection.h>
+#include <x11_windows/X11UserTime.h>
+#include <x11_windows/X11Windows.h>
 
 #include <cstdint>
 #include <memory>
 #include <vector>
-#include <x11_server/X11Connection.h>
-#include <x11_windows/X11UserTime.h>
-#include <x11_windows/X11Windows.h>
 
 namespace quorvane {
 
