@@ -10,13 +10,13 @@
 
 namespace quorvane {
 
-DateTimeModel::DateTimeModel(const Surroundings& surroundings, QObject* parent)
+DateTimeModel::DateTimeModel(const Dependencies& dependencies, QObject* parent)
     : QObject(parent),
-      m_surroundings(surroundings),
+      m_dependencies(dependencies),
       m_composition(
-          Composition::startingAt(surroundings.clock.now(), surroundings.currentZone.current())),
+          Composition::startingAt(dependencies.clock.now(), dependencies.currentZone.current())),
       m_preferences(Preferences::load(
-          surroundings.defaults, surroundings.currentZone.current(), surroundings.zones)) {
+          dependencies.defaults, dependencies.currentZone.current(), dependencies.zones)) {
     // Those of a first start stay when the user moves to another zone.
     setFavoriteTimeZoneIdentifiers(QStringList(m_preferences.favoriteTimeZoneIdentifiers));
 }
@@ -66,26 +66,26 @@ void DateTimeModel::setMultiZoneLayout(MultiZoneLayout layout) {
 void DateTimeModel::setFavoriteTimeZoneIdentifiers(const QStringList& identifiers) {
     assign(m_preferences.favoriteTimeZoneIdentifiers, identifiers);
     setting::favoriteZones.store(
-        m_surroundings.defaults, m_preferences.favoriteTimeZoneIdentifiers);
+        m_dependencies.defaults, m_preferences.favoriteTimeZoneIdentifiers);
 }
 
 void DateTimeModel::setHotKey(HotKeyCombo combo) {
     assign(m_preferences.hotKey, combo);
-    m_preferences.hotKey.save(m_surroundings.defaults);
+    m_preferences.hotKey.save(m_dependencies.defaults);
 }
 
 void DateTimeModel::setShowInMenuBar(bool show) {
     Q_EMIT objectWillChange();
     Q_EMIT showInMenuBarWillChange(show);
     m_preferences.showInMenuBar = show;
-    setting::showInMenuBar.store(m_surroundings.defaults, m_preferences.showInMenuBar);
+    setting::showInMenuBar.store(m_dependencies.defaults, m_preferences.showInMenuBar);
 }
 
 void DateTimeModel::setShowInDock(bool show) {
     Q_EMIT objectWillChange();
     Q_EMIT showInDockWillChange(show);
     m_preferences.showInDock = show;
-    setting::showInDock.store(m_surroundings.defaults, m_preferences.showInDock);
+    setting::showInDock.store(m_dependencies.defaults, m_preferences.showInDock);
 }
 
 void DateTimeModel::setPresentationMode(PresentationMode mode) {
@@ -93,7 +93,7 @@ void DateTimeModel::setPresentationMode(PresentationMode mode) {
     Q_EMIT presentationModeWillChange(mode);
     m_preferences.presentationMode = mode;
     setting::presentationMode.store(
-        m_surroundings.defaults, rawValue(m_preferences.presentationMode));
+        m_dependencies.defaults, rawValue(m_preferences.presentationMode));
 }
 
 QString
@@ -109,7 +109,7 @@ QString DateTimeModel::formattedOutput() const {
         .start = m_composition.startDate,
         .end = m_composition.isRange ? std::optional(m_composition.endDate) : std::nullopt,
         .layout = m_composition.multiZoneLayout};
-    return composedOutput(request, m_surroundings.currentZone);
+    return composedOutput(request, m_dependencies.currentZone);
 }
 
 std::vector<DateFormatPreset> DateTimeModel::availableFormatPresets() const {
@@ -128,11 +128,11 @@ std::vector<TimeZone> DateTimeModel::timeZoneSlots() const {
     return quorvane::timeZoneSlots(
         m_preferences.favoriteTimeZoneIdentifiers,
         m_composition.selectedTimeZones,
-        m_surroundings.zones);
+        m_dependencies.zones);
 }
 
 TimeZone DateTimeModel::sampleZone() const {
-    return m_composition.selectedTimeZones.empty() ? m_surroundings.currentZone.current()
+    return m_composition.selectedTimeZones.empty() ? m_dependencies.currentZone.current()
                                                    : m_composition.selectedTimeZones.front();
 }
 
@@ -141,7 +141,7 @@ FormatSettings DateTimeModel::formatSettings() const {
         m_composition.includeDate,
         m_composition.includeTime,
         m_composition.customFormatString,
-        m_surroundings.locale};
+        m_dependencies.locale};
 }
 
 } // namespace quorvane

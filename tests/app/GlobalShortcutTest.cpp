@@ -52,9 +52,11 @@ TEST_F(GlobalShortcutTest, ActivityTellsWhetherPressesReachTheProgram) {
     shortcut.startHotKeyMonitor(first);
     EXPECT_EQ(shortcut.activity(), Activity::Active);
     taps.setHeldElsewhere(true);
+    EXPECT_EQ(shortcut.activity(), Activity::Active) << "a shortcut that is ours stays ours";
+    shortcut.change(second);
     EXPECT_EQ(shortcut.activity(), Activity::HeldElsewhere);
     taps.refuse(TapFailure{});
-    shortcut.change(second);
+    shortcut.change(first);
     EXPECT_EQ(shortcut.activity(), Activity::Unavailable);
 }
 

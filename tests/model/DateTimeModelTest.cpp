@@ -31,7 +31,7 @@ protected:
     [[nodiscard]] std::unique_ptr<DateTimeModel> makeModel() { return makeModel(m_defaults); }
 
     [[nodiscard]] std::unique_ptr<DateTimeModel> makeModel(DefaultsStore& defaults) {
-        return std::make_unique<DateTimeModel>(DateTimeModel::Surroundings{
+        return std::make_unique<DateTimeModel>(DateTimeModel::Dependencies{
             m_clock, defaults, m_currentZone, m_zones, locale("en_US")});
     }
 

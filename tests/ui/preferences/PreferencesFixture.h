@@ -49,7 +49,7 @@ protected:
              QStringLiteral("Nowhere/Atlantis"),
              QStringLiteral("Europe/Paris"),
              QStringLiteral("America/New_York")});
-        model = std::make_unique<DateTimeModel>(DateTimeModel::Surroundings{
+        model = std::make_unique<DateTimeModel>(DateTimeModel::Dependencies{
             clock, defaults, currentZone, zones, UserLocale::named(QStringLiteral("en_US"))});
         openView();
     }

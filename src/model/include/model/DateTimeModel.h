@@ -30,7 +30,7 @@ class DateTimeModel final : public QObject {
 
 public:
     /// What is referred to must outlive the model.
-    struct Surroundings {
+    struct Dependencies {
         const Clock& clock;
         DefaultsStore& defaults;
         const CurrentZone& currentZone;
@@ -40,7 +40,7 @@ public:
 
     /// Reads the settings, and writes the favourites back. A stored shortcut that is out of range
     /// stops the process.
-    explicit DateTimeModel(const Surroundings& surroundings, QObject* parent = nullptr);
+    explicit DateTimeModel(const Dependencies& dependencies, QObject* parent = nullptr);
 
     [[nodiscard]] Instant startDate() const { return m_composition.startDate; }
 
@@ -97,7 +97,7 @@ public:
     void setShowInDock(bool show);
     void setPresentationMode(PresentationMode mode);
 
-    [[nodiscard]] const UserLocale& locale() const { return m_surroundings.locale; }
+    [[nodiscard]] const UserLocale& locale() const { return m_dependencies.locale; }
 
     /// The instant in the zone under the preset, with the flags and the pattern as they are now.
     [[nodiscard]] QString
@@ -132,7 +132,7 @@ private:
     [[nodiscard]] TimeZone sampleZone() const;
     [[nodiscard]] FormatSettings formatSettings() const;
 
-    Surroundings m_surroundings;
+    Dependencies m_dependencies;
 
     Composition m_composition;
     Preferences m_preferences;
