@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <composition/ComposedOutput.h>
 #include <composition/FormatSingle.h>
+#include <testing/FixedCurrentZone.h>
 #include <time/CurrentZone.h>
 #include <time/DateText.h>
 #include <time/ZoneDatabase.h>
@@ -19,11 +20,6 @@ constexpr Instant instant{1710021900}; // 2024-03-09T22:05:00Z
 FormatSettings americanSettings() {
     return {true, true, u"yyyy-MM-dd HH:mm zzz"_s, UserLocale::named(u"en_US"_s)};
 }
-
-class NoCurrentZone final : public CurrentZone {
-public:
-    [[nodiscard]] TimeZone current() const override { return ZoneDatabase::utc(); }
-};
 
 /// The first zones by country, so that each has its own offset data.
 std::vector<TimeZone> someZones(std::size_t count) {
@@ -60,7 +56,7 @@ void composeOutput(benchmark::State& state) {
         .start = instant,
         .end = {},
         .layout = MultiZoneLayout::Lines};
-    const NoCurrentZone currentZone;
+    const FixedCurrentZone currentZone(ZoneDatabase::utc());
     for (auto _ : state)
         benchmark::DoNotOptimize(composedOutput(request, currentZone));
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "SampleDefaults.h"
-#include "SampleKeyboard.h"
 #include "Samples.h"
 
 #include <panel/PopoverView.h>
 #include <platform/PlatformServices.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/MemoryDefaults.h>
 
 namespace quorvane {
 
@@ -28,8 +28,8 @@ public:
     void show(QPoint corner);
 
 private:
-    SampleDefaults m_defaults;
-    SampleKeyboard m_keyboard;
+    MemoryDefaults m_defaults;
+    FakeKeyboardLayout m_keyboard = sample::keyboard();
     PlatformServices m_services;
     DateTimeModel m_model;
     PopoverView m_view;

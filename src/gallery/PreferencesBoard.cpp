@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesBoard.h"
 
-#include "SampleDefaults.h"
-#include "SampleKeyboard.h"
 #include "Samples.h"
 
 #include <controls/CheckBox.h>
@@ -14,6 +12,8 @@
 #include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>
+#include <testing/FakeKeyboardLayout.h>
+#include <testing/MemoryDefaults.h>
 
 #include <QCoreApplication>
 #include <QHoverEvent>
@@ -70,9 +70,9 @@ void hover(PreferencesView& view, const QString& city) {
 
 /// A user's settings and the view of them. The view goes first.
 struct PreferencesBoard::Sample {
-    SampleDefaults defaults;
+    MemoryDefaults defaults;
     NoQueue queue;
-    SampleKeyboard layout;
+    FakeKeyboardLayout layout = sample::keyboard();
     DateTimeModel model{
         {sample::clock(), defaults, sample::currentZone(), sample::zones(), sample::locale()}};
     std::unique_ptr<PreferencesView> view;

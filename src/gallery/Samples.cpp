@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Samples.h"
 
+#include <platform/KeyCodes.h>
+#include <testing/FixedClock.h>
+#include <testing/FixedCurrentZone.h>
+
 namespace quorvane::sample {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class StoppedClock final : public Clock {
-public:
-    [[nodiscard]] Instant now() const override { return sample::now; }
-};
-
-class NewYork final : public CurrentZone {
-public:
-    [[nodiscard]] TimeZone current() const override {
-        return zones().zone(u"America/New_York"_s).value_or(ZoneDatabase::utc());
-    }
-};
-
-} // namespace
 
 const ZoneDatabase& zones() {
     static const ZoneDatabase database;
@@ -27,12 +15,13 @@ const ZoneDatabase& zones() {
 }
 
 const Clock& clock() {
-    static const StoppedClock stopped;
+    static const FixedClock stopped(now);
     return stopped;
 }
 
 const CurrentZone& currentZone() {
-    static const NewYork newYork;
+    static const FixedCurrentZone newYork(
+        zones().zone(u"America/New_York"_s).value_or(ZoneDatabase::utc()));
     return newYork;
 }
 
@@ -40,17 +29,18 @@ UserLocale locale() {
     return UserLocale::named(u"en_US"_s);
 }
 
+FakeKeyboardLayout keyboard() {
+    FakeKeyboardLayout layout;
+    layout.setKey(keycode::d, u"d");
+    return layout;
+}
+
 EntryDependencies entryDependencies() {
     return {clock(), currentZone(), locale(), {}};
 }
 
 void selectZones(DateTimeModel& model, const QStringList& identifiers) {
-    std::vector<TimeZone> selected;
-    for (const auto& identifier : identifiers) {
-        if (const auto zone = zones().zone(identifier))
-            selected.push_back(*zone);
-    }
-    model.setSelectedTimeZones(std::move(selected));
+    model.setSelectedTimeZones(zones().zones(identifiers));
 }
 
 void composeRange(DateTimeModel& model, Instant end) {

@@ -3,6 +3,7 @@
 
 #include <entry/EntryDependencies.h>
 #include <model/DateTimeModel.h>
+#include <testing/FakeKeyboardLayout.h>
 #include <time/ZoneDatabase.h>
 
 /// What the boards show: one moment of one user in New York, always the same.
@@ -16,6 +17,10 @@ inline constexpr Instant daysLater{1795550400}; ///< 2026-11-24T20:00:00Z
 [[nodiscard]] const Clock& clock();
 [[nodiscard]] const CurrentZone& currentZone();
 [[nodiscard]] UserLocale locale();
+
+/// A keyboard that knows no key but the default shortcut's, and never changes.
+[[nodiscard]] FakeKeyboardLayout keyboard();
+
 [[nodiscard]] EntryDependencies entryDependencies();
 
 /// Identifiers that name no zone are left out.
