@@ -85,7 +85,7 @@ class PaintWatch final : public QObject {
 public:
     explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
 
-    /// From `start` to the end of the turn that paints the widget.
+    /// From `start` to the end of the event-loop iteration that paints the widget.
     double untilPainted(SteadyClock::time_point start) {
         m_isPainted = false;
         while (!m_isPainted)

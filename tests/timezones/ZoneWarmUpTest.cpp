@@ -25,7 +25,7 @@ protected:
     int m_looks = 0;
 };
 
-TEST_F(ZoneWarmUpTest, DoesNothingBeforeItsTurn) {
+TEST_F(ZoneWarmUpTest, DoesNothingBeforeItsIteration) {
     const ZoneWarmUp warmUp(
         m_queue, m_zones, winter, locale("en_US"), clockWith(std::chrono::milliseconds(1)));
     EXPECT_EQ(m_looks, 0);

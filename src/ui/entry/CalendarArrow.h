@@ -5,8 +5,8 @@
 
 namespace quorvane {
 
-/// A bare button that turns a calendar to the next month, or back; it points where that lies in the
-/// direction of reading.
+/// A bare button that shows the next month of a calendar, or the one before; it points where that
+/// lies in the direction of reading.
 class CalendarArrow final : public PressableControl {
     Q_OBJECT
 

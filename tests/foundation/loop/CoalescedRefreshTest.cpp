@@ -47,7 +47,7 @@ TEST_F(CoalescedRefreshTest, WhatTheRefreshSchedulesComesAfterIt) {
     EXPECT_EQ(m_count, 2);
 }
 
-TEST_F(CoalescedRefreshTest, DestroyedBeforeItsTurnItDoesNothing) {
+TEST_F(CoalescedRefreshTest, DestroyedBeforeItsIterationItDoesNothing) {
     std::optional<CoalescedRefresh> refresh;
     refresh.emplace(m_queue, [this] { ++m_count; });
     refresh->schedule();

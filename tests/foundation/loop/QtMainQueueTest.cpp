@@ -30,7 +30,7 @@ private:
     QtMainQueue m_end;
 };
 
-TEST_F(QtMainQueueTest, AsyncRunsOnALaterTurnInOrder) {
+TEST_F(QtMainQueueTest, AsyncRunsInALaterIterationInOrder) {
     m_queue.async([this] {
         m_events.push_back("first");
         m_queue.async([this] {

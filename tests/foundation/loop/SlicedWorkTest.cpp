@@ -25,12 +25,12 @@ protected:
         m_work.emplace(m_queue, step, [this] { return m_now; });
     }
 
-    /// How many steps had been taken after each of so many turns of the main loop.
-    std::vector<int> stepsAfterTurns(int turns) {
+    /// How many steps had been taken after each of so many iterations of the event loop.
+    std::vector<int> stepsAfterIterations(int iterations) {
         std::vector<int> steps;
         const std::function<void()> observe = [&] {
             steps.push_back(m_steps);
-            if (std::ssize(steps) < turns)
+            if (std::ssize(steps) < iterations)
                 m_queue.async(observe);
         };
         m_queue.async(observe);
@@ -44,19 +44,19 @@ protected:
     std::optional<SlicedWork> m_work;
 };
 
-TEST_F(SlicedWorkTest, NothingRunsBeforeTheFirstTurn) {
+TEST_F(SlicedWorkTest, NothingRunsBeforeTheFirstIteration) {
     start(3, 500us);
     EXPECT_EQ(m_steps, 0);
 }
 
-TEST_F(SlicedWorkTest, ATurnEndsWithTheStepThatUsesUpItsTime) {
+TEST_F(SlicedWorkTest, AnIterationEndsWithTheStepThatUsesUpItsTime) {
     start(9, 500us);
-    EXPECT_THAT(stepsAfterTurns(4), ElementsAre(4, 8, 9, 9));
+    EXPECT_THAT(stepsAfterIterations(4), ElementsAre(4, 8, 9, 9));
 }
 
-TEST_F(SlicedWorkTest, AStepThatTakesLongHasATurnOfItsOwn) {
+TEST_F(SlicedWorkTest, AStepThatTakesLongHasAnIterationOfItsOwn) {
     start(3, 7ms);
-    EXPECT_THAT(stepsAfterTurns(4), ElementsAre(1, 2, 3, 3));
+    EXPECT_THAT(stepsAfterIterations(4), ElementsAre(1, 2, 3, 3));
 }
 
 TEST_F(SlicedWorkTest, EndsWithItsLastStep) {
@@ -66,14 +66,14 @@ TEST_F(SlicedWorkTest, EndsWithItsLastStep) {
     EXPECT_TRUE(m_queue.isIdle());
 }
 
-TEST_F(SlicedWorkTest, DestroyedBeforeItsFirstTurnItTakesNoStep) {
+TEST_F(SlicedWorkTest, DestroyedBeforeItsFirstIterationItTakesNoStep) {
     start(9, 500us);
     m_work.reset();
     m_queue.run();
     EXPECT_EQ(m_steps, 0);
 }
 
-TEST_F(SlicedWorkTest, DestroyedBetweenTurnsItDropsTheRest) {
+TEST_F(SlicedWorkTest, DestroyedBetweenIterationsItDropsTheRest) {
     start(9, 500us);
     m_queue.async([this] { m_work.reset(); });
     m_queue.run();

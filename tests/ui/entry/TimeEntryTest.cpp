@@ -88,7 +88,7 @@ TEST(TimeEntryTest, OpeningDropsTheSecondsAndNothingElse) {
     EXPECT_EQ(savedTime(loadedTime(date, newYork), date, newYork), midnight + 30min);
 }
 
-TEST(TimeEntryTest, OpeningInARepeatedHourStaysInItsTurn) {
+TEST(TimeEntryTest, OpeningInARepeatedHourKeepsItsOffset) {
     // 2024-11-03, 01:20 in New York, at 05:20Z and again at 06:20Z.
     const auto newYork = zone("America/New_York");
     for (const auto date : {Instant{1730611200}, Instant{1730614800}})

@@ -132,7 +132,7 @@ TEST_F(PreferencesViewTest, ShortcutThatIsHeldElsewhereIsToldWhenTheViewOpensOrC
     EXPECT_EQ(recorder().accessibleDescription(), u"Super, K"_s);
 }
 
-TEST_F(PreferencesViewTest, LabelsFollowTheKeyboardLayoutOnALaterTurn) {
+TEST_F(PreferencesViewTest, LabelsFollowTheKeyboardLayoutInALaterIteration) {
     layout.setKey(2, u"e");
     view->refreshSoon();
     queue.run();

@@ -54,14 +54,14 @@ protected:
     }
 };
 
-TEST_F(KeyCaptureTest, TakesTheFocusOnALaterTurn) {
+TEST_F(KeyCaptureTest, TakesTheFocusInALaterIteration) {
     capture->setIsRecording(true);
     EXPECT_EQ(window.focusWidget(), field);
     queue.run();
     EXPECT_EQ(window.focusWidget(), capture);
 }
 
-TEST_F(KeyCaptureTest, GivesUpTheFocusOnALaterTurn) {
+TEST_F(KeyCaptureTest, GivesUpTheFocusInALaterIteration) {
     startRecording();
     capture->setIsRecording(false);
     EXPECT_EQ(window.focusWidget(), capture);

@@ -163,7 +163,7 @@ TEST_F(X11PasteboardOwnTest, ClearingLeavesNoOwnerWhoeverItWas) {
     EXPECT_TRUE(waitUntil([] { return !readAs(u"owned"_s).toBool(); }));
 }
 
-TEST_F(X11PasteboardOwnTest, NothingIsSavedBetweenAClearAndTheTurnsEnd) {
+TEST_F(X11PasteboardOwnTest, NothingIsSavedBetweenAClearAndTheIterationsEnd) {
     const auto owner = startOwner({textOffer("theirs")});
     m_pasteboard.clear();
     EXPECT_EQ(saved(), PasteboardContents{});

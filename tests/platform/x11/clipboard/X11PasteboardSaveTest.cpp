@@ -22,7 +22,7 @@ PasteboardContents contentsWith(const Offer& offer) {
     return {{itemOf({offer})}, std::nullopt};
 }
 
-/// Waits until an owner has told of these, while the main loop turns.
+/// Waits until an owner has told of these, while the event loop runs.
 bool reports(ForeignProgram& owner, const QStringList& expected) {
     return std::ranges::all_of(
         expected, [&owner](const QString& text) { return owner.nextReport() == text; });
@@ -114,7 +114,7 @@ TEST_F(X11PasteboardSaveTest, AsksForTextWhereTheOwnerCannotTellItsTargets) {
     EXPECT_EQ(savedItem(), itemOf({textOffer("old")}));
 }
 
-TEST_F(X11PasteboardSaveTest, CutsAHungOwnerOffWhileTheMainLoopTurns) {
+TEST_F(X11PasteboardSaveTest, CutsAHungOwnerOffWhileTheEventLoopRuns) {
     const auto hung = startOwner({silentOffer(u"TARGETS"_s)});
     startSave();
     EXPECT_EQ(hung->nextReport(), u"TARGETS"_s);

@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-/// Turns a burst of reasons to refresh into one refresh on a later turn of the main loop.
+/// Turns a burst of reasons to refresh into one refresh in a later iteration of the event loop.
 /// Destroying it drops a refresh that is still due.
 class CoalescedRefresh {
 public:

@@ -8,14 +8,15 @@
 
 namespace quorvane {
 
-/// Work for a later turn of the main loop. Everything runs on the main thread.
+/// Work for a later iteration of the event loop. Everything runs on the main thread.
 class MainQueue {
 public:
     using Task = std::function<void()>;
 
     virtual ~MainQueue() = default;
 
-    /// Runs `task` on a later turn of the main loop; tasks keep the order of their submission.
+    /// Runs `task` in a later iteration of the event loop; tasks keep the order of their
+    /// submission.
     virtual void async(Task task) = 0;
 
     /// Runs `task` once, `delay` from now, to the millisecond. Dropping the handle cancels it.

@@ -9,15 +9,16 @@
 
 namespace quorvane {
 
-/// Work that can wait, done in small steps between the turns of the main loop, so that input and
-/// painting never wait for it. Destroying it drops what is left.
+/// Work that can wait, done in small steps between the iterations of the event loop, so that input
+/// and painting never wait for it. Destroying it drops what is left.
 class SlicedWork {
 public:
     /// Takes one step; says whether there is another. Must not destroy the SlicedWork.
     using Step = std::function<bool()>;
     using SteadyTime = std::function<std::chrono::steady_clock::time_point()>;
 
-    /// What one turn of the main loop may take, but for the last step in it, which runs to its end.
+    /// What one iteration of the event loop may take, but for the last step in it, which runs to
+    /// its end.
     static constexpr std::chrono::milliseconds sliceLength{2};
 
     SlicedWork(MainQueue& queue, Step step, SteadyTime time = std::chrono::steady_clock::now);

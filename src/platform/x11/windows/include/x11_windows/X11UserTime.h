@@ -10,7 +10,7 @@
 namespace quorvane {
 
 /// Tells the connection when the user last pressed a key or a button in a window of ours. Window
-/// managers turn down a request for the focus that is older than what the user did last.
+/// managers refuse a request for the focus that is older than what the user did last.
 class X11UserTime final : public QObject {
 public:
     explicit X11UserTime(std::shared_ptr<X11Connection> connection);
