@@ -27,7 +27,7 @@ public:
     void showAt(const PopoverAnchor::Place& place);
 
 Q_SIGNALS:
-    /// Its present state has been painted.
+    /// The window has been painted in its current state.
     void painted();
 
     /// A press outside has closed it.

@@ -24,7 +24,7 @@ public:
         MainQueue& mainQueue;
     };
 
-    /// A desktop may hold those of the menu longer than the icon lives.
+    /// The desktop may keep the menu's callbacks after the icon is gone.
     struct Callbacks {
         std::function<void()> onClick;
         std::function<void()> onShowPreferences;

@@ -47,7 +47,7 @@ def measure_starts(session: Session) -> Stopwatch:
     return start
 
 
-def measure_road(session: Session) -> tuple[Stopwatch, Stopwatch]:
+def measure_insertion(session: Session) -> tuple[Stopwatch, Stopwatch]:
     """From the shortcut to the panel, and from there to the text."""
     panel = Stopwatch("shortcut to active panel")
     insertion = Stopwatch("insert to text in mousepad")
@@ -74,7 +74,7 @@ def measure_road(session: Session) -> tuple[Stopwatch, Stopwatch]:
 def main() -> None:
     """Measures on a desktop of its own and prints a table."""
     with Session("openbox") as session:
-        stopwatches = [measure_starts(session), *measure_road(session)]
+        stopwatches = [measure_starts(session), *measure_insertion(session)]
     print(f"{f'milliseconds, {_ROUNDS} rounds':32}{'min':>8}{'median':>8}{'max':>8}")
     for stopwatch in stopwatches:
         stopwatch.report()

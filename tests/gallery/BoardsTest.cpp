@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Boards.h"
 
-#include "GalleryFolder.h"
+#include <support/GalleryFolder.h>
 
 #include <gtest/gtest.h>
 

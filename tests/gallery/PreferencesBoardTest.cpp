@@ -2,7 +2,8 @@
 #include "PreferencesBoard.h"
 
 #include "BoardSettings.h"
-#include "GalleryFolder.h"
+
+#include <support/GalleryFolder.h>
 
 #include <QImage>
 #include <QPainter>

@@ -2,7 +2,8 @@
 #include "StatesBoard.h"
 
 #include "BoardSettings.h"
-#include "GalleryFolder.h"
+
+#include <support/GalleryFolder.h>
 
 #include <QImage>
 #include <QTest>

@@ -65,8 +65,8 @@ private:
     quorvane::TimeZone m_zone;
     std::unique_ptr<icu::TimeZone> m_own; ///< null if ICU does not know the zone
 
-    /// For one text ICU asks for the same date two or three times. Offsets never change: this is
-    /// the answer to the last question, at hand for the next.
+    /// Caches the last answer: for one text ICU asks for the same date two or three times, and
+    /// offsets never change.
     mutable UDate m_lastDate = std::numeric_limits<UDate>::quiet_NaN();
     mutable Offset m_lastOffset;
 };

@@ -18,8 +18,9 @@ class FreedesktopApplication final : public QDBusAbstractAdaptor {
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /// Why this process runs. One that the bus started gets the request that it was started for as
-    /// its first; a start shows the interface, so that a "toggle" must not hide it again.
+    /// Why this process runs. If the bus started it, its first request is the one that it was
+    /// started for; starting already shows the interface, so that a "toggle" must not hide it
+    /// again.
     enum class Start { ByUser, ByBus };
 
     FreedesktopApplication(Start start, QObject* parent);

@@ -30,7 +30,7 @@ private:
     MacSegmentedControl* m_layout;
     Choice<DateFormatPreset> m_presetChoice;
     Choice<MultiZoneLayout> m_layoutChoice;
-    TextField* m_customFormat; ///< after the choices also for Tab
+    TextField* m_customFormat; ///< follows the choices in the Tab order
 };
 
 } // namespace quorvane

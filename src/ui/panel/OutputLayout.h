@@ -6,9 +6,8 @@
 
 namespace quorvane {
 
-/// The output for a text document, which makes one break of a carriage return and the line feed
-/// after it: character for character as long as the output, with nothing to see in the return's
-/// place. Positions in the document are then positions in the output.
+/// The output for QTextDocument, which takes a carriage return and the line feed after it for one
+/// break: the return is replaced by an invisible character, so that positions are the same in both.
 [[nodiscard]] QString documentText(QString output);
 
 /// How much of a text to show first: all of it, or about `size` characters of a longer one. Never

@@ -30,7 +30,7 @@ public:
 
     PopoverHeader(Callbacks callbacks, const PopoverEffects& effects, QWidget* parent);
 
-    /// One cap for each label, in order; its name, of as many, is for those who do not see it.
+    /// One key cap per label; `names`, of the same count, are what screen readers say.
     void setKeys(const QStringList& labels, const QStringList& names);
 
     /// The mode that the switch leads away from.

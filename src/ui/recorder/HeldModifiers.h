@@ -25,7 +25,7 @@ public:
     [[nodiscard]] std::optional<ModifierFlags> afterPress(const QKeyEvent& event);
     [[nodiscard]] std::optional<ModifierFlags> afterRelease(const QKeyEvent& event);
 
-    /// Their releases will be missed.
+    /// Forgets all keys, for when their releases will not be seen.
     void forget() { m_keys.clear(); }
 
 private:

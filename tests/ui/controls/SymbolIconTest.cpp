@@ -3,8 +3,8 @@
 #include <controls/SymbolIcon.h>
 #include <controls/SymbolPainter.h>
 #include <controls/Theme.h>
+#include <support/GalleryFolder.h>
 
-#include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -120,9 +120,7 @@ TEST(SymbolIcon, Board) {
         }
     }
     painter.end();
-    const auto folder = qEnvironmentVariable("QUORVANE_GALLERY_FOLDER", u"gallery"_s);
-    QDir().mkpath(folder);
-    EXPECT_TRUE(board.save(folder + u"/tray.png"_s));
+    EXPECT_TRUE(board.save(galleryFile(u"tray"_s)));
 }
 
 } // namespace

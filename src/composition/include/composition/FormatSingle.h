@@ -22,7 +22,7 @@ struct FormatSettings {
 /// except Medium and Short, which are then empty.
 ///
 /// An instant that is not finite, or whose seconds exceed 64 bits, stops the process if the preset
-/// is UnixTimestamp: nothing can enter one.
+/// is UnixTimestamp; the interface lets nobody enter such an instant.
 [[nodiscard]] QString formatSingle(
     Instant instant, const TimeZone& zone, DateFormatPreset preset, const FormatSettings& settings);
 

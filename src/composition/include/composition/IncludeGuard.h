@@ -3,8 +3,8 @@
 
 namespace quorvane {
 
-/// Which of the switches for date and time may be used: the one that is on alone may not, so that
-/// the user never turns off both.
+/// Which of the check boxes for date and time may be changed: the only one that is on may not, so
+/// that one of them always stays on.
 struct IncludeGuard {
     bool dateEnabled = true;
     bool timeEnabled = true;

@@ -29,11 +29,11 @@ public:
 
     [[nodiscard]] HotKeyCombo combo() const { return m_combo; }
 
-    /// Holds from the next press on, also while armed.
+    /// Takes effect from the next press on, also while armed.
     void setCombo(HotKeyCombo combo);
 
     /// Run on each press of the shortcut, auto-repeats included; read when it runs, so that a later
-    /// one replaces it even for a press that has happened.
+    /// one also serves presses that are already queued.
     void setOnTriggered(std::function<void()> onTriggered);
 
     /// Arms the monitor; without the accessibility right, or where no tap can be had, it stays idle

@@ -22,7 +22,7 @@ public:
     /// anything is made that a second process must not have.
     [[nodiscard]] virtual Role claim() = 0;
 
-    /// Gives the place up before the process ends, so that a start in between is a first one.
+    /// Releases the name before the process ends, so that a new start becomes the first process.
     virtual void release() = 0;
 
     /// The user opened the program again; replaces an earlier handler.

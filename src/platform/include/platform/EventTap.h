@@ -13,7 +13,7 @@
 
 namespace quorvane {
 
-/// A key by its position, with the modifiers held: exactly those, of the counted ones.
+/// A key by its position, with exactly these of the counted modifiers held.
 struct KeyChord {
     std::uint32_t keyCode = 0; ///< see KeyCodes.h
     ModifierFlags flags;

@@ -30,7 +30,7 @@ inline constexpr ModifierFlags control{1U << 18};
 inline constexpr ModifierFlags option{1U << 19};
 inline constexpr ModifierFlags command{1U << 20};
 
-/// The four that make a shortcut; every other flag neither makes nor spoils one.
+/// The four modifiers that count in a shortcut; all others are ignored.
 inline constexpr ModifierFlags counted = shift | control | option | command;
 
 } // namespace modifier

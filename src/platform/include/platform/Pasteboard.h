@@ -10,8 +10,8 @@ namespace quorvane {
 /// How long a text is meant to stay on the pasteboard.
 enum class TextStay {
     Lasting, ///< the user copied it
-    Passing, ///< on its way into the front window: clipboard histories are told to leave it alone,
-             ///< and it stands wherever that window pastes from
+    Passing, ///< only for an insertion: clipboard histories are told to ignore it, and it is also
+             ///< PRIMARY where the front window pastes from that
 };
 
 /// The general pasteboard (the clipboard) of the desktop.

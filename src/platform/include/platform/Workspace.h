@@ -11,7 +11,7 @@ class QScreen;
 
 namespace quorvane {
 
-/// Another program's place in front, as far as a desktop lets it be found again.
+/// An application that was in front, with what is needed to bring it back.
 struct RunningApplication {
     std::uint64_t window = 0; ///< the desktop's own handle
     QString name;             ///< for the log only

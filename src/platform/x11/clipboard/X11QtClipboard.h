@@ -10,7 +10,7 @@
 namespace quorvane::qtx11 {
 
 /// What Qt's clipboard offers to other programs, put there by a text field of ours or lent by
-/// ourselves. Asking for it by the X protocol would be asking ourselves.
+/// ourselves. A request to the X server for it would come back to our own process.
 [[nodiscard]] PasteboardItem clipboardItem(QClipboard::Mode mode);
 
 /// What we have lent to Qt's clipboard; null if another's contents are there.

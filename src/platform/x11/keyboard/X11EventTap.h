@@ -32,7 +32,7 @@ public:
 
     void watch(std::optional<KeyChord> chord) override;
 
-    /// Called again, tries again for a press that another program held before.
+    /// A repeated call asks again for a shortcut that another program held.
     void enable() override;
     void disable() override;
 

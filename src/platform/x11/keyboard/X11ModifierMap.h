@@ -30,10 +30,10 @@ public:
     /// Live flags of a key event, Caps Lock included. AltGr is none of them.
     [[nodiscard]] ModifierFlags flagsOf(std::uint16_t state) const;
 
-    /// The state with exactly the counted ones among `flags`; none if the keyboard lacks one.
+    /// The event state for the modifiers of a shortcut in `flags`; none if the keyboard lacks one.
     [[nodiscard]] std::optional<std::uint16_t> maskOf(ModifierFlags flags) const;
 
-    /// The mask with every subset of the lock keys' modifiers: none of them makes another shortcut.
+    /// The mask combined with every subset of the lock modifiers: locks do not change a shortcut.
     [[nodiscard]] std::vector<std::uint16_t> withLocks(std::uint16_t mask) const;
 
 private:

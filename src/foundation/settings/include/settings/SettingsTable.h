@@ -30,8 +30,8 @@ inline constexpr StoredSetting<qint64> hotKeyModifiers{
 
 } // namespace setting
 
-/// In windows.json: an object for each window, under its autosave name, with these four numbers. A
-/// frame lacks a default: a window without one is placed anew.
+/// In windows.json: an object for each window, under its autosave name, with these four numbers.
+/// There is no default: a window without a stored frame is placed anew.
 namespace windowframesetting {
 
 inline constexpr QLatin1StringView x{"x"};
@@ -39,8 +39,8 @@ inline constexpr QLatin1StringView y{"y"};
 inline constexpr QLatin1StringView width{"width"};
 inline constexpr QLatin1StringView height{"height"};
 
-/// Coordinates of X11 and Wayland windows are 16 bits wide; a number beyond them spoils the frame.
-/// Fractions are rounded.
+/// Coordinates of X11 and Wayland windows are 16 bits wide; a frame with a greater number is
+/// invalid. Fractions are rounded.
 inline constexpr double greatestCoordinate = 32767;
 
 } // namespace windowframesetting

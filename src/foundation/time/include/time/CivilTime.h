@@ -19,8 +19,8 @@ struct CivilTime {
     friend bool operator==(const CivilTime&, const CivilTime&) = default;
 };
 
-/// What they show in a zone, without the fraction of the second. Instants beyond the range of ICU's
-/// calendars (270 000 years either way) give the end of that range, no number gives 1970.
+/// What clocks show in a zone, without the fraction of the second. Instants beyond the range of
+/// ICU's calendars (270 000 years either way) are clamped to it; NaN gives 1970.
 [[nodiscard]] CivilTime civilTime(Instant instant, const TimeZone& zone);
 
 [[nodiscard]] CivilDay civilDay(Instant instant, const TimeZone& zone);

@@ -56,8 +56,8 @@ private:
     QByteArray m_index;                ///< the text that m_entries points into
     std::vector<IndexEntry> m_entries; ///< sorted by name
 
-    /// The zones that were asked for: a list of all of them would read 420 files at each opening.
-    /// They are as old as the index above.
+    /// The zones asked for so far, as old as the index above: without this, a list of all of them
+    /// would read 420 files at each opening.
     mutable std::unordered_map<QString, QTimeZone> m_opened;
 };
 

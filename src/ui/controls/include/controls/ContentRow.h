@@ -23,7 +23,7 @@ public:
     /// In points.
     [[nodiscard]] double width() const;
 
-    /// From the leading edge of `rect` in that direction. Texts are never elided.
+    /// Paints from the leading edge of `rect` in that direction. Texts are never elided.
     void paint(QPainter& painter, QRectF rect, Qt::LayoutDirection direction) const;
 
 private:

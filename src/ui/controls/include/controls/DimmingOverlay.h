@@ -6,7 +6,7 @@
 namespace quorvane {
 
 /// Shows a widget, with everything in it, at less than full opacity: the window's own background
-/// colour, laid over it. Exact only on a window's plain background; what lies below costs no layer.
+/// colour, laid over it. Correct only on a plain background; it needs no layer of its own.
 class DimmingOverlay final : public QWidget {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     /// Over the whole of `dimmed`, whose child it becomes; off at first.
     explicit DimmingOverlay(QWidget* dimmed);
 
-    /// What is left of the widget, 0 to 1; 1 takes the overlay away.
+    /// The widget's opacity, 0 to 1; 1 hides the overlay.
     void setOpacity(double opacity);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -26,7 +26,7 @@ protected:
     /// What stands behind the text.
     virtual void paintSurface(QPainter& painter);
 
-    /// The palette that the field stands in: its own holds what the line of text needs.
+    /// The palette of the surrounding view; the field's own palette is adapted to its line of text.
     [[nodiscard]] const QPalette& surroundingPalette() const;
 
 private:

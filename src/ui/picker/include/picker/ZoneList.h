@@ -25,11 +25,11 @@ public:
     /// Makes the first row that is no head the current one and shows it.
     void goToFirst();
 
-    /// From its top, with no row current.
+    /// Scrolls to the top; no row is current.
     void goToTop();
 
-    /// Back to where it was scrolled before its rows changed, with that row current: the last one
-    /// if there is no such row any more, none for none.
+    /// Restores the scroll position after the rows have changed and makes that row current: the
+    /// last row if it no longer exists, none if given none.
     void goBackTo(int scrolled, std::optional<int> row);
 
 Q_SIGNALS:
@@ -40,7 +40,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    /// By the keyboard, it comes to some row.
+    /// Focus that comes by the keyboard makes some row the current one.
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -8,8 +8,8 @@ namespace quorvane {
 class SearchField;
 class ZoneList;
 
-/// Makes one instrument of a search field and the list that it searches, wherever the focus is:
-/// arrows and pages move the list's current row, Return chooses it, text goes to the field.
+/// Lets a search field and its list share the keyboard, whichever of them has the focus: arrows and
+/// pages move the list's current row, Return chooses it, text goes to the field.
 class ZoneListKeys final : public QObject {
     Q_OBJECT
 

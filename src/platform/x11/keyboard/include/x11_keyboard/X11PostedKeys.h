@@ -7,8 +7,8 @@
 
 namespace quorvane {
 
-/// The keys that we typed ourselves: a shortcut that is also some window's paste command must not
-/// catch them. An event names the last request of ours that the server had carried out.
+/// Recognises keys that we posted, so that they do not trigger a shortcut that is also a window's
+/// paste command. An event carries the number of our last request that the server had processed.
 class X11PostedKeys {
 public:
     /// The requests of one connection that typed, first to last.

@@ -26,7 +26,7 @@ inline constexpr std::uint8_t eventCode<xcb_selection_request_event_t> = XCB_SEL
 template <>
 inline constexpr std::uint8_t eventCode<xcb_selection_notify_event_t> = XCB_SELECTION_NOTIFY;
 
-/// The event as an extension's, whose code the server has given; null if it has another code. It
+/// The event as one of an extension, whose code the server has given; null if the code differs. It
 /// may come from the server or from another client.
 template <typename Event>
 [[nodiscard]] const Event* eventAs(const xcb_generic_event_t& event, int code) {

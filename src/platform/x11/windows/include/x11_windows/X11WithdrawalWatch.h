@@ -14,9 +14,9 @@ namespace quorvane {
 
 /// Finds the windows that Qt takes for shown and the window manager has withdrawn (ICCCM 4.1.3.1).
 ///
-/// A show that follows closely on a hide may reach the server while the window manager is still
-/// mapping the window for the show before: nothing is left to map then, nobody asks the window
-/// manager for anything, and the hide comes to it last.
+/// When a window is shown, hidden and shown again quickly, the window manager may still be mapping
+/// it for the first show. The second show then changes nothing, and the window manager handles the
+/// hide last: the window stays hidden.
 class X11WithdrawalWatch final : public QAbstractNativeEventFilter {
 public:
     using Handler = std::function<void(QWindow& window)>;
