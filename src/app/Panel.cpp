@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlacement.h"
+#include "WindowActivation.h"
 
 #include <app/Panel.h>
 #include <controls/DevicePixels.h>
@@ -54,7 +55,7 @@ void Panel::showEvent(QShowEvent* event) {
     // Qt goes on taking a window for the focused one if it was hidden just when the desktop gave it
     // the focus. It then ignores the focus that comes now, and no widget of the window gets it.
     if (QGuiApplication::focusWindow() == windowHandle())
-        QApplication::setActiveWindow(this);
+        makeActive(*this);
 }
 
 void Panel::moveEvent(QMoveEvent* event) {
