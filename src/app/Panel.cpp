@@ -8,7 +8,7 @@
 #include <controls/Theme.h>
 #include <panel/PanelMetrics.h>
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
