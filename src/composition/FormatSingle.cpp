@@ -44,7 +44,7 @@ QString styledWithZone(
     const FormatStyles styles{
         settings.includeDate ? dateStyle : FormatStyle::None,
         settings.includeTime ? FormatStyle::Short : FormatStyle::None};
-    const auto text = styledText(instant, zone, styles, settings.locale);
+    auto text = styledText(instant, zone, styles, settings.locale);
     if (!settings.includeTime)
         return text;
     return text + u' ' + zoneAbbreviation(zone, instant, settings.locale).value_or(QString());
