@@ -21,6 +21,7 @@ TEST_F(PreferencesWindowTest, IsNamedAndLeavesTheProgramRunning) {
     launch();
     delegate->performAction(u"preferences"_s);
     ASSERT_TRUE(isShown(preferences()));
+    EXPECT_EQ(preferences()->windowTitle(), u"Quorvane Preferences"_s);
     EXPECT_FALSE(preferences()->testAttribute(Qt::WA_QuitOnClose));
 }
 
