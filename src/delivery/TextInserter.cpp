@@ -50,10 +50,11 @@ void TextInserter::insert(const QString& text) {
         m_dependencies.accessibilityRight.prompt();
         return;
     }
+    const auto target = m_dependencies.keyPoster.pasteTarget();
     m_dependencies.pasteboard.save(
-        [this, text, wanted = std::weak_ptr(m_savesWanted)](PasteboardContents saved) {
+        [this, text, target, wanted = std::weak_ptr(m_savesWanted)](PasteboardContents saved) {
             if (!wanted.expired())
-                paste(text, std::move(saved));
+                paste(text, target, std::move(saved));
         });
 }
 
@@ -66,16 +67,20 @@ void TextInserter::finish() {
 
 // All in one iteration of the event loop: none of our own code can change the pasteboard between
 // the save and the text.
-void TextInserter::paste(const QString& text, PasteboardContents saved) {
+void TextInserter::paste(const QString& text, const Target& target, PasteboardContents saved) {
     logContents("saved", mergedItem(saved.items), saved.selection);
     m_dependencies.pasteboard.clear();
     m_dependencies.pasteboard.setString(text, TextStay::Passing);
-    post();
+    post(target);
     scheduleRestore(std::move(saved));
 }
 
-void TextInserter::post() {
-    switch (m_dependencies.keyPoster.paste()) {
+void TextInserter::post(const Target& target) {
+    if (!target) {
+        qCInfo(lcInsert, "no paste keys: neither this keyboard nor this desktop has any");
+        return;
+    }
+    switch (m_dependencies.keyPoster.paste(*target)) {
     case PostOutcome::Posted:
         break;
     case PostOutcome::NoSuchKey:

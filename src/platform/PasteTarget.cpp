@@ -75,4 +75,16 @@ PasteTarget pasteTargetFor(const QStringList& classes) {
     return row == pasteTargetTable.end() ? PasteTarget{} : row->target;
 }
 
+PasteTarget withoutLatinV(const PasteTarget& target) {
+    switch (target.keys) {
+    case PasteKeys::ControlV:
+        return shiftInsert;
+    case PasteKeys::ControlShiftV:
+        return shiftInsertFromSelection;
+    case PasteKeys::ShiftInsert:
+        break;
+    }
+    return target;
+}
+
 } // namespace quorvane

@@ -112,6 +112,16 @@ TEST_F(TextInserterTest, KeysThatCannotBePostedChangeNothingElse) {
     }
 }
 
+TEST_F(TextInserterTest, PostsTheKeysOfTheTargetThatItFoundAtFirst) {
+    constexpr PasteTarget terminal{PasteKeys::ShiftInsert, PasteSource::Selection};
+    poster.setPasteTarget(terminal);
+    pasteboard.setSaveDelay(300ms);
+    inserter->insert(u"text"_s);
+    poster.setPasteTarget({});
+    queue.advance(300ms);
+    EXPECT_EQ(poster.posted(), terminal);
+}
+
 TEST_F(TextInserterTest, SlowOwnerDelaysTheTextButNotItsStay) {
     pasteboard.setContents(plainText(u"mine"_s));
     pasteboard.setSaveDelay(300ms);

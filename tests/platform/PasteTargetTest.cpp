@@ -80,6 +80,14 @@ INSTANTIATE_TEST_SUITE_P(
         Row{{u"konsolekalendar"_s}, ControlV},
         Row{{u"org.kde.konsole.help"_s}, ControlV}));
 
+TEST(PasteTargetWithoutLatinV, IsShiftInsertAndTheSelectionThatItPastes) {
+    constexpr auto clipboard = PasteSource::Clipboard;
+    EXPECT_EQ(withoutLatinV({ControlV, clipboard}), (PasteTarget{ShiftInsert, clipboard}));
+    EXPECT_EQ(withoutLatinV({ControlShiftV, clipboard}), (PasteTarget{ShiftInsert, primary}));
+    EXPECT_EQ(withoutLatinV({ShiftInsert, clipboard}), (PasteTarget{ShiftInsert, clipboard}));
+    EXPECT_EQ(withoutLatinV({ShiftInsert, primary}), (PasteTarget{ShiftInsert, primary}));
+}
+
 } // namespace
 
 } // namespace quorvane

@@ -27,7 +27,11 @@ public:
 
 class NullKeyPoster final : public KeyPoster {
 public:
-    [[nodiscard]] PostOutcome paste() override { return PostOutcome::Unavailable; }
+    [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override { return std::nullopt; }
+
+    [[nodiscard]] PostOutcome paste(const PasteTarget&) override {
+        return PostOutcome::Unavailable;
+    }
 };
 
 class NullPasteboard final : public Pasteboard {

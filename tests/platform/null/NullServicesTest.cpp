@@ -19,7 +19,7 @@ protected:
 TEST_F(NullServices, GrantNothing) {
     m_services.accessibilityRight->prompt();
     EXPECT_FALSE(m_services.accessibilityRight->isTrusted());
-    EXPECT_EQ(m_services.keyPoster->paste(), PostOutcome::Unavailable);
+    EXPECT_EQ(m_services.keyPoster->paste({}), PostOutcome::Unavailable);
     EXPECT_EQ(m_services.workspace->frontmostApplication(), std::nullopt);
     EXPECT_FALSE(m_services.workspace->activate({1, u"any"_s}));
     EXPECT_EQ(m_services.keyboardLayout->characters(0), std::nullopt);

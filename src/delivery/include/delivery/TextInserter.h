@@ -11,6 +11,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace quorvane {
 
@@ -48,8 +49,11 @@ private:
     /// What is still to be put back; numbered in the order of the insertions.
     using PendingRestores = std::map<int, PasteboardContents>;
 
-    void paste(const QString& text, PasteboardContents saved);
-    void post();
+    /// No target: nothing to post.
+    using Target = std::optional<PasteTarget>;
+
+    void paste(const QString& text, const Target& target, PasteboardContents saved);
+    void post(const Target& target);
     void scheduleRestore(PasteboardContents saved);
     void restore(const PasteboardContents& saved);
 

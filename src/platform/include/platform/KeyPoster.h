@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/PasteTarget.h>
+
+#include <optional>
+
 namespace quorvane {
 
 /// What became of the keys that were to be posted.
@@ -15,9 +19,14 @@ class KeyPoster {
 public:
     virtual ~KeyPoster() = default;
 
-    /// Presses and releases the keys by which the window in front pastes. Modifier keys that the
-    /// user still holds do not take part.
-    [[nodiscard]] virtual PostOutcome paste() = 0;
+    /// How the window in front pastes, with the keys that this keyboard has: the one place that
+    /// decides about both the keys and where they take the text from. None if the keyboard has no
+    /// key that would do, or this desktop does not let us post any.
+    [[nodiscard]] virtual std::optional<PasteTarget> pasteTarget() const = 0;
+
+    /// Presses and releases the keys of what pasteTarget() said. Modifier keys that the user still
+    /// holds do not take part.
+    [[nodiscard]] virtual PostOutcome paste(const PasteTarget& target) = 0;
 };
 
 } // namespace quorvane

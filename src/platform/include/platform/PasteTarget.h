@@ -27,4 +27,8 @@ struct PasteTarget {
 /// terminal.
 [[nodiscard]] PasteTarget pasteTargetFor(const QStringList& classes);
 
+/// The same application on a keyboard without a Latin V: Shift+Insert, the older command that
+/// nearly all programs know too. A terminal takes the marked text by it (Selection).
+[[nodiscard]] PasteTarget withoutLatinV(const PasteTarget& target);
+
 } // namespace quorvane

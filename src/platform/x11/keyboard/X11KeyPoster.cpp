@@ -35,32 +35,40 @@ X11KeyPoster::X11KeyPoster(
       m_windows(m_connection) {
 }
 
-PostOutcome X11KeyPoster::paste() {
+std::optional<PasteTarget> X11KeyPoster::pasteTarget() const {
+    if (!hasTestExtension(*m_connection))
+        return std::nullopt;
+    const auto window = m_windows.active();
+    logTarget(window);
+    const auto wanted = pasteTargetFor(m_windows.classOf(window));
+    if (keysFor(wanted.keys))
+        return wanted;
+    const auto older = withoutLatinV(wanted);
+    return keysFor(older.keys) ? std::optional(older) : std::nullopt;
+}
+
+PostOutcome X11KeyPoster::paste(const PasteTarget& target) {
     if (!hasTestExtension(*m_connection))
         return PostOutcome::Unavailable;
-    const auto target = m_windows.active();
-    logTarget(target);
-    const auto keys = m_keymap ? pasteKeysFor(target) : std::nullopt;
+    const auto keys = keysFor(target.keys);
     if (!keys)
         return PostOutcome::NoSuchKey;
     type(*keys);
     return PostOutcome::Posted;
 }
 
-std::optional<X11KeyPoster::Keys> X11KeyPoster::pasteKeysFor(xcb_window_t target) const {
-    std::optional<Keys> keys;
-    switch (pasteTargetFor(m_windows.classOf(target)).keys) {
+std::optional<X11KeyPoster::Keys> X11KeyPoster::keysFor(PasteKeys keys) const {
+    if (!m_keymap)
+        return std::nullopt;
+    switch (keys) {
     case PasteKeys::ControlV:
-        keys = keysYielding({XKB_KEY_Control_L, XKB_KEY_v});
-        break;
+        return keysYielding({XKB_KEY_Control_L, XKB_KEY_v});
     case PasteKeys::ControlShiftV:
-        keys = keysYielding({XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v});
-        break;
+        return keysYielding({XKB_KEY_Control_L, XKB_KEY_Shift_L, XKB_KEY_v});
     case PasteKeys::ShiftInsert:
-        break;
+        return keysYielding({XKB_KEY_Shift_L, XKB_KEY_Insert});
     }
-    // A keyboard without a Latin V has no Ctrl+V: nearly all programs know the older command too.
-    return keys ? keys : keysYielding({XKB_KEY_Shift_L, XKB_KEY_Insert});
+    return std::nullopt;
 }
 
 std::optional<X11KeyPoster::Keys>

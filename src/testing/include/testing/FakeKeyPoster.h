@@ -6,19 +6,34 @@
 
 namespace quorvane {
 
+/// A keyboard that the test takes away keys from.
 class FakeKeyPoster final : public KeyPoster {
 public:
     explicit FakeKeyPoster(CallLog& log) : m_log(log) {}
 
-    [[nodiscard]] PostOutcome paste() override {
+    [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override {
+        return m_outcome == PostOutcome::Posted ? std::optional(m_target) : std::nullopt;
+    }
+
+    [[nodiscard]] PostOutcome paste(const PasteTarget& target) override {
         m_log.add("paste");
+        m_posted = target;
         return m_outcome;
     }
 
+    /// How the window in front pastes.
+    void setPasteTarget(const PasteTarget& target) { m_target = target; }
+
+    /// What becomes of the next keys; a keyboard that cannot post them knows so beforehand.
     void setOutcome(PostOutcome outcome) { m_outcome = outcome; }
+
+    /// What the last paste() was asked for.
+    [[nodiscard]] const std::optional<PasteTarget>& posted() const { return m_posted; }
 
 private:
     CallLog& m_log;
+    PasteTarget m_target;
+    std::optional<PasteTarget> m_posted;
     PostOutcome m_outcome = PostOutcome::Posted;
 };
 

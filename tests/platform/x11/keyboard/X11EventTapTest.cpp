@@ -237,7 +237,7 @@ TEST_F(TapOnX11, NotesTheTimeOfThePressAsTheUsers) {
 TEST_F(TapOnX11, LetsThroughWhatTheProgramTypesItself) {
     const auto tap = makeTap(KeyChord{keycode::v, modifier::control});
     X11KeyPoster poster(m_connection, X11Keymap::open(m_queue), m_postedKeys);
-    ASSERT_EQ(poster.paste(), PostOutcome::Posted);
+    ASSERT_EQ(poster.paste({PasteKeys::ControlV, PasteSource::Clipboard}), PostOutcome::Posted);
     ASSERT_TRUE(keysAreThrough());
     EXPECT_TRUE(m_presses.empty());
     EXPECT_TRUE(m_target.hasReceived(Press, KEY_V + 8));

@@ -24,7 +24,14 @@ protected:
     [[nodiscard]] PostOutcome paste() {
         X11KeyPoster poster(
             m_connection, X11Keymap::open(m_queue), std::make_shared<X11PostedKeys>());
-        return poster.paste();
+        const auto target = poster.pasteTarget();
+        return target ? poster.paste(*target) : PostOutcome::NoSuchKey;
+    }
+
+    [[nodiscard]] std::optional<PasteTarget> pasteTarget() {
+        return X11KeyPoster(
+                   m_connection, X11Keymap::open(m_queue), std::make_shared<X11PostedKeys>())
+            .pasteTarget();
     }
 
     /// What the window receives from now on, until it has received the release of all.
@@ -104,9 +111,31 @@ TEST_F(PosterOnX11, UsesShiftInsertForXterm) {
     EXPECT_EQ(keys[1], (ReceivedKey{Press, x11(KEY_INSERT), XCB_MOD_MASK_SHIFT}));
 }
 
+class PosterOnX11WithoutLatinV : public PosterOnX11,
+                                 public testing::WithParamInterface<const char*> {};
+
+// A terminal that pastes the clipboard by Ctrl+Shift+V pastes PRIMARY by Shift+Insert.
+TEST_P(PosterOnX11WithoutLatinV, KnowsWhichSelectionTheOlderKeysPaste) {
+    setLayout(QString::fromLatin1(GetParam()));
+    constexpr PasteTarget fromSelection{PasteKeys::ShiftInsert, PasteSource::Selection};
+    for (const auto* name : {"Konsole", "Gnome-terminal"}) {
+        ForeignWindow terminal("terminal", name);
+        terminal.takeFocus();
+        EXPECT_EQ(pasteTarget(), fromSelection) << name;
+    }
+    ForeignWindow editor("mousepad", "Mousepad");
+    editor.takeFocus();
+    EXPECT_EQ(pasteTarget(), (PasteTarget{PasteKeys::ShiftInsert, PasteSource::Clipboard}));
+    setLayout(u"us"_s);
+    EXPECT_EQ(pasteTarget(), (PasteTarget{PasteKeys::ControlV, PasteSource::Clipboard}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, PosterOnX11WithoutLatinV, testing::Values("ru", "gr"));
+
 TEST_F(PosterOnX11, HasNoKeysWithoutAKeymap) {
     X11KeyPoster poster(m_connection, nullptr, std::make_shared<X11PostedKeys>());
-    EXPECT_EQ(poster.paste(), PostOutcome::NoSuchKey);
+    EXPECT_EQ(poster.pasteTarget(), std::nullopt);
+    EXPECT_EQ(poster.paste({}), PostOutcome::NoSuchKey);
 }
 
 class PosterOnX11WithHeldKey : public PosterOnX11,
@@ -172,7 +201,8 @@ TEST(PosterOnX11WithoutXtest, IsUnavailable) {
     QtMainQueue queue;
     const auto connection = X11Connection::open();
     X11KeyPoster poster(connection, X11Keymap::open(queue), std::make_shared<X11PostedKeys>());
-    EXPECT_EQ(poster.paste(), PostOutcome::Unavailable);
+    EXPECT_EQ(poster.pasteTarget(), std::nullopt);
+    EXPECT_EQ(poster.paste({}), PostOutcome::Unavailable);
     EXPECT_EQ(xcb_connection_has_error(connection->xcb()), 0) << "the other services live on";
 }
 

@@ -23,13 +23,14 @@ public:
         std::shared_ptr<const X11Keymap> keymap,
         std::shared_ptr<X11PostedKeys> postedKeys);
 
-    [[nodiscard]] PostOutcome paste() override;
+    [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override;
+    [[nodiscard]] PostOutcome paste(const PasteTarget& target) override;
 
 private:
     /// Pressed in this order, released in the opposite one.
     using Keys = std::vector<xcb_keycode_t>;
 
-    [[nodiscard]] std::optional<Keys> pasteKeysFor(xcb_window_t target) const;
+    [[nodiscard]] std::optional<Keys> keysFor(PasteKeys keys) const;
     [[nodiscard]] std::optional<Keys>
     keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const;
     [[nodiscard]] Keys keysInTheWay() const;
