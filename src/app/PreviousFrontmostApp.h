@@ -14,7 +14,7 @@ public:
     explicit PreviousFrontmostApp(Workspace& workspace) : m_workspace(workspace) {}
 
     /// Takes the application that has the focus now; if none has it, nothing is remembered.
-    void remember() { m_application = m_workspace.frontmostApplication(); }
+    void remember() { m_application = m_workspace.frontmostApplication().application; }
 
     /// Gives the focus back to the application. Does nothing if none is remembered; one that cannot
     /// be activated is named in the log.

@@ -56,13 +56,17 @@ private:
 
 class NullWorkspace final : public Workspace {
 public:
-    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override {
-        return std::nullopt;
-    }
+    [[nodiscard]] FrontmostApplication frontmostApplication() const override { return {}; }
+
+    [[nodiscard]] bool isShown(const RunningApplication&) const override { return false; }
+
+    [[nodiscard]] bool receivesKeys(const RunningApplication&) const override { return false; }
 
     [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
 
     [[nodiscard]] bool activate(const RunningApplication&) override { return false; }
+
+    void onFrontmostChanged(std::function<void()>) override {}
 
     void onActiveSpaceChanged(std::function<void()>) override {}
 };

@@ -20,7 +20,9 @@ TEST_F(NullServices, GrantNothing) {
     m_services.accessibilityRight->prompt();
     EXPECT_FALSE(m_services.accessibilityRight->isTrusted());
     EXPECT_EQ(m_services.keyPoster->paste({}), PostOutcome::Unavailable);
-    EXPECT_EQ(m_services.workspace->frontmostApplication(), std::nullopt);
+    const auto front = m_services.workspace->frontmostApplication();
+    EXPECT_EQ(front.application, std::nullopt);
+    EXPECT_FALSE(front.isCertain);
     EXPECT_FALSE(m_services.workspace->activate({1, u"any"_s}));
     EXPECT_EQ(m_services.keyboardLayout->characters(0), std::nullopt);
 }

@@ -13,6 +13,9 @@ namespace {
 constexpr std::uint32_t maxValues = 64;
 constexpr std::uint32_t maxTextLength = 1024;
 
+constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
+constexpr int mostDialogs = 8; // one over the other
+
 XcbReply<xcb_get_window_attributes_reply_t>
 attributesOf(xcb_connection_t* connection, xcb_window_t window) {
     return XcbReply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes_reply(
@@ -65,6 +68,35 @@ bool X11Windows::exists(xcb_window_t window) const {
 bool X11Windows::isViewable(xcb_window_t window) const {
     const auto attributes = attributesOf(m_connection->xcb(), window);
     return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+bool X11Windows::isShown(xcb_window_t window) const {
+    // Where a compositor keeps pictures of all windows, hidden ones may stay mapped.
+    const auto states = values(window, "_NET_WM_STATE", XCB_ATOM_ATOM);
+    const auto hidden = m_connection->atom("_NET_WM_STATE_HIDDEN");
+    return isViewable(window) && std::ranges::find(states, hidden) == states.end() &&
+           isOnDesktopInFront(window);
+}
+
+bool X11Windows::isOnDesktopInFront(xcb_window_t window) const {
+    const auto desktop = values(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL);
+    if (desktop.empty() || desktop.front() == everyDesktop)
+        return true;
+    const auto inFront = values(m_connection->root(), "_NET_CURRENT_DESKTOP", XCB_ATOM_CARDINAL);
+    return inFront.empty() || inFront.front() == desktop.front();
+}
+
+bool X11Windows::isTransientFor(xcb_window_t window, xcb_window_t owner) const {
+    // Bounded: nothing keeps two windows from naming each other.
+    for (int depth = 0; depth < mostDialogs; ++depth) {
+        const auto parent = values(window, "WM_TRANSIENT_FOR", XCB_ATOM_WINDOW);
+        if (parent.empty() || parent.front() == XCB_WINDOW_NONE)
+            return false;
+        window = parent.front();
+        if (window == owner)
+            return true;
+    }
+    return false;
 }
 
 bool X11Windows::isDockOrDesktop(xcb_window_t window) const {

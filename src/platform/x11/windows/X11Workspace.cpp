@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <platform/ApplicationTitle.h>
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Events.h>
 #include <x11_windows/X11Workspace.h>
@@ -10,6 +11,7 @@ namespace quorvane {
 X11Workspace::X11Workspace(std::shared_ptr<X11Connection> connection)
     : m_connection(std::move(connection)),
       m_windows(m_connection),
+      m_keyboard(m_connection),
       m_userTime(m_connection),
       m_subscription(m_connection->subscribe(
           [this](const xcb_generic_event_t& event) { handleEvent(event); })) {
@@ -20,11 +22,23 @@ X11Workspace::X11Workspace(std::shared_ptr<X11Connection> connection)
     trackActiveWindow();
 }
 
-std::optional<RunningApplication> X11Workspace::frontmostApplication() const {
+FrontmostApplication X11Workspace::frontmostApplication() const {
+    const bool isCertain = m_windows.hasWindowManager();
     const bool isActive = trackActiveWindow();
-    if (!isActive && !m_windows.isViewable(m_lastForeign))
-        return std::nullopt;
-    return RunningApplication{m_lastForeign, m_windows.classOf(m_lastForeign).join(u'/')};
+    if (!isActive && !m_windows.isShown(m_lastForeign))
+        return {std::nullopt, isCertain};
+    return {applicationOf(m_lastForeign), isCertain};
+}
+
+bool X11Workspace::isShown(const RunningApplication& application) const {
+    return m_windows.isShown(static_cast<xcb_window_t>(application.window));
+}
+
+bool X11Workspace::receivesKeys(const RunningApplication& application) const {
+    const auto window = static_cast<xcb_window_t>(application.window);
+    const auto active = m_windows.active();
+    const bool isInFront = active == window || m_windows.isTransientFor(active, window);
+    return isInFront && m_windows.exists(active) && !m_keyboard.isGrabbedByAnother();
 }
 
 QScreen* X11Workspace::focusedScreen() const {
@@ -40,6 +54,10 @@ bool X11Workspace::activate(const RunningApplication& application) {
     return true;
 }
 
+void X11Workspace::onFrontmostChanged(std::function<void()> handler) {
+    m_frontmostChanged = std::move(handler);
+}
+
 void X11Workspace::onActiveSpaceChanged(std::function<void()> handler) {
     m_spaceChanged = std::move(handler);
 }
@@ -48,10 +66,16 @@ void X11Workspace::handleEvent(const xcb_generic_event_t& event) {
     const auto* change = eventAs<xcb_property_notify_event_t>(event);
     if (change == nullptr || change->window != m_connection->root())
         return;
-    if (change->atom == m_connection->atom("_NET_ACTIVE_WINDOW"))
+    if (change->atom == m_connection->atom("_NET_ACTIVE_WINDOW")) {
         trackActiveWindow();
-    else if (change->atom == m_connection->atom("_NET_CURRENT_DESKTOP"))
+        tellFrontmostChanged();
+    } else if (change->atom == m_connection->atom("_NET_CLIENT_LIST")) {
+        // The window in front may be among those that are gone.
+        tellFrontmostChanged();
+    } else if (change->atom == m_connection->atom("_NET_CURRENT_DESKTOP")) {
         trackSpace();
+        tellFrontmostChanged();
+    }
 }
 
 bool X11Workspace::trackActiveWindow() const {
@@ -70,6 +94,16 @@ void X11Workspace::trackSpace() {
     m_desktop = std::move(desktop);
     if (m_spaceChanged)
         m_spaceChanged();
+}
+
+void X11Workspace::tellFrontmostChanged() const {
+    if (m_frontmostChanged)
+        m_frontmostChanged();
+}
+
+RunningApplication X11Workspace::applicationOf(xcb_window_t window) const {
+    const auto names = m_windows.classOf(window);
+    return {window, names.join(u'/'), applicationTitle(names)};
 }
 
 bool X11Workspace::isAnotherProgram(xcb_window_t window) const {

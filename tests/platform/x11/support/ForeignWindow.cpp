@@ -22,7 +22,8 @@ ForeignWindow::ForeignWindow(
     : m_connection(xcb_connect(nullptr, nullptr)),
       m_screen(xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data),
       m_window(xcb_generate_id(m_connection)) {
-    constexpr std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE;
+    constexpr std::uint32_t events =
+        XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_FOCUS_CHANGE;
     xcb_create_window(
         m_connection,
         XCB_COPY_FROM_PARENT,
@@ -73,6 +74,14 @@ void ForeignWindow::iconify() {
     xcb_flush(m_connection);
 }
 
+void ForeignWindow::setOwner(xcb_window_t owner) {
+    setProperty(
+        "WM_TRANSIENT_FOR",
+        XCB_ATOM_WINDOW,
+        QByteArray(reinterpret_cast<const char*>(&owner), sizeof(owner)));
+    (void) hasFocus(); // answered once the server has it
+}
+
 void ForeignWindow::takeFocus() {
     show();
     xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
@@ -104,9 +113,40 @@ void ForeignWindow::ungrabKey(xcb_keycode_t keycode, std::uint16_t modifiers) {
     const XcbReply<xcb_generic_error_t> error(xcb_request_check(m_connection, cookie));
 }
 
+bool ForeignWindow::grabKeyboard() {
+    const auto cookie = xcb_grab_keyboard(
+        m_connection,
+        0,
+        m_screen->root,
+        XCB_CURRENT_TIME,
+        XCB_GRAB_MODE_ASYNC,
+        XCB_GRAB_MODE_ASYNC);
+    const XcbReply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(m_connection, cookie, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void ForeignWindow::ungrabKeyboard() {
+    xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
+    (void) hasFocus(); // answered once the server has done it
+}
+
+int ForeignWindow::focusChanges() {
+    (void) hasFocus(); // what the server sent before is here then
+    readEvents();
+    return m_focusChanges;
+}
+
 const std::vector<ReceivedKey>& ForeignWindow::keys() {
+    readEvents();
+    return m_keys;
+}
+
+void ForeignWindow::readEvents() {
     while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
         const auto type = event->response_type;
+        if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT)
+            ++m_focusChanges;
         if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE)
             continue;
         const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(*event);
@@ -115,7 +155,6 @@ const std::vector<ReceivedKey>& ForeignWindow::keys() {
              key.detail,
              static_cast<std::uint16_t>(key.state & stateWithoutGroup)});
     }
-    return m_keys;
 }
 
 bool ForeignWindow::hasReceived(ReceivedKey::Kind kind, xcb_keycode_t keycode) {

@@ -42,6 +42,9 @@ public:
     void show();
     void iconify();
 
+    /// Makes it a dialog of that window.
+    void setOwner(xcb_window_t owner);
+
     /// By the X server alone, for displays without a window manager. Waits until it shows.
     void takeFocus();
     [[nodiscard]] bool hasFocus() const;
@@ -49,6 +52,13 @@ public:
     /// Whether nobody else holds the key with exactly these modifiers on the whole display.
     [[nodiscard]] bool grabKey(xcb_keycode_t keycode, std::uint16_t modifiers);
     void ungrabKey(xcb_keycode_t keycode, std::uint16_t modifiers);
+
+    /// As a screen lock does; whether nobody else has it.
+    [[nodiscard]] bool grabKeyboard();
+    void ungrabKeyboard();
+
+    /// How often the focus came or went so far, grabs included.
+    [[nodiscard]] int focusChanges();
 
     /// All keys so far, in order.
     [[nodiscard]] const std::vector<ReceivedKey>& keys();
@@ -59,6 +69,7 @@ public:
     [[nodiscard]] const xcb_screen_t& screen() const { return *m_screen; }
 
 private:
+    void readEvents();
     void setProperty(const char* name, xcb_atom_t type, const QByteArray& value);
     [[nodiscard]] xcb_atom_t atom(const QByteArray& name) const;
 
@@ -66,6 +77,7 @@ private:
     const xcb_screen_t* m_screen;
     xcb_window_t m_window;
     std::vector<ReceivedKey> m_keys;
+    int m_focusChanges = 0;
 };
 
 } // namespace quorvane

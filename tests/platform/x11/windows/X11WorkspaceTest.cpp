@@ -8,6 +8,8 @@
 #include <QWidget>
 
 #include <linux/input-event-codes.h>
+#include <memory>
+#include <vector>
 
 namespace quorvane {
 
@@ -47,7 +49,7 @@ protected:
     [[nodiscard]] xcb_window_t activeWindow() const { return X11Windows(m_connection).active(); }
 
     [[nodiscard]] std::uint64_t frontWindow() const {
-        const auto front = m_workspace.frontmostApplication();
+        const auto front = m_workspace.frontmostApplication().application;
         return front ? front->window : std::uint64_t{XCB_WINDOW_NONE};
     }
 
@@ -59,11 +61,14 @@ TEST_F(WorkspaceOnX11, HasTheActiveWindowInFront) {
     ForeignWindow window("editor", "Editor");
     activate(window);
     ASSERT_EQ(frontWindow(), window.id());
-    EXPECT_EQ(m_workspace.frontmostApplication()->name, u"editor/Editor"_s);
+    const auto front = m_workspace.frontmostApplication();
+    EXPECT_TRUE(front.isCertain);
+    EXPECT_EQ(front.application->name, u"editor/Editor"_s);
+    EXPECT_EQ(front.application->title, u"Editor"_s);
 }
 
 TEST_F(WorkspaceOnX11, HasNothingInFrontWhereThereIsNoWindow) {
-    EXPECT_EQ(m_workspace.frontmostApplication(), std::nullopt);
+    EXPECT_EQ(m_workspace.frontmostApplication(), (FrontmostApplication{std::nullopt, true}));
 }
 
 TEST_F(WorkspaceOnX11, KeepsTheWindowBeforeWhileOneOfOursIsActive) {
@@ -118,10 +123,83 @@ TEST_F(WorkspaceOnX11, HasNothingInFrontOnceTheWindowIsIconified) {
     EXPECT_TRUE(waitUntil([this] { return frontWindow() == XCB_WINDOW_NONE; }));
 }
 
+TEST_F(WorkspaceOnX11, KnowsAWindowThatIsStillShown) {
+    ForeignWindow window;
+    activate(window);
+    EXPECT_TRUE(m_workspace.isShown({window.id(), {}}));
+    window.iconify();
+    EXPECT_TRUE(waitUntil([&] { return !m_workspace.isShown({window.id(), {}}); }));
+}
+
+TEST_F(WorkspaceOnX11, KnowsAWindowOfAnotherDesktop) {
+    ForeignWindow window;
+    activate(window);
+    ASSERT_TRUE(m_manager.showDesktop(1));
+    EXPECT_TRUE(waitUntil([&] { return !m_workspace.isShown({window.id(), {}}); }));
+    ASSERT_TRUE(m_manager.showDesktop(0));
+    EXPECT_TRUE(waitUntil([&] { return m_workspace.isShown({window.id(), {}}); }));
+}
+
+TEST_F(WorkspaceOnX11, KnowsTheWindowThatReceivesTheKeys) {
+    ForeignWindow first;
+    ForeignWindow second;
+    activate(first);
+    EXPECT_TRUE(m_workspace.receivesKeys({first.id(), {}}));
+    activate(second);
+    EXPECT_FALSE(m_workspace.receivesKeys({first.id(), {}}));
+}
+
+TEST_F(WorkspaceOnX11, CountsADialogOfAWindowAsTheWindow) {
+    ForeignWindow window;
+    ForeignWindow dialog;
+    ForeignWindow dialogOfTheDialog;
+    dialog.setOwner(window.id());
+    dialogOfTheDialog.setOwner(dialog.id());
+    activate(window);
+    activate(dialog);
+    activate(dialogOfTheDialog);
+    EXPECT_TRUE(m_workspace.receivesKeys({window.id(), {}}));
+    dialog.setOwner(dialogOfTheDialog.id());
+    EXPECT_FALSE(m_workspace.receivesKeys({window.id(), {}}));
+}
+
+TEST_F(WorkspaceOnX11, KnowsThatAnotherProgramHasTheKeyboardForItself) {
+    ForeignWindow window;
+    ForeignWindow lock;
+    activate(window);
+    ASSERT_TRUE(lock.grabKeyboard());
+    EXPECT_FALSE(m_workspace.receivesKeys({window.id(), {}}));
+    lock.ungrabKeyboard();
+    EXPECT_TRUE(m_workspace.receivesKeys({window.id(), {}}));
+}
+
+TEST_F(WorkspaceOnX11, LeavesTheFocusAloneWhenItLooksForAGrab) {
+    ForeignWindow window;
+    activate(window);
+    ASSERT_TRUE(waitUntil([&window] { return window.hasFocus(); }));
+    m_connection->waitForServer();
+    const auto before = window.focusChanges();
+    EXPECT_TRUE(m_workspace.receivesKeys({window.id(), {}}));
+    EXPECT_EQ(window.focusChanges(), before);
+}
+
+TEST_F(WorkspaceOnX11, TellsWhenAnotherWindowComesToTheFrontAndWhenOneGoes) {
+    std::vector<std::uint64_t> told;
+    m_workspace.onFrontmostChanged([&] { told.push_back(frontWindow()); });
+    auto first = std::make_unique<ForeignWindow>();
+    activate(*first);
+    EXPECT_TRUE(waitUntil([&] { return !told.empty() && told.back() == first->id(); }));
+    QWidget own;
+    activate(own);
+    first.reset();
+    EXPECT_TRUE(waitUntil([&] { return told.back() == XCB_WINDOW_NONE; }));
+    m_workspace.onFrontmostChanged({});
+}
+
 TEST_F(WorkspaceOnX11, BringsAWindowToTheFront) {
     ForeignWindow window;
     activate(window);
-    const auto front = m_workspace.frontmostApplication();
+    const auto front = m_workspace.frontmostApplication().application;
     ASSERT_TRUE(front);
     QWidget own;
     activate(own);
@@ -132,7 +210,7 @@ TEST_F(WorkspaceOnX11, BringsAWindowToTheFront) {
 TEST_F(WorkspaceOnX11, BringsAWindowToTheFrontAfterAnotherTookTheFocusByItself) {
     ForeignWindow window;
     activate(window);
-    const auto front = m_workspace.frontmostApplication();
+    const auto front = m_workspace.frontmostApplication().application;
     ASSERT_TRUE(front);
     QWidget own;
     activate(own);
@@ -204,14 +282,16 @@ protected:
 TEST_F(WorkspaceOnX11WithoutManager, HasTheWindowWithTheFocusInFront) {
     ForeignWindow window;
     window.takeFocus();
-    ASSERT_TRUE(m_workspace.frontmostApplication());
-    EXPECT_EQ(m_workspace.frontmostApplication()->window, window.id());
+    const auto front = m_workspace.frontmostApplication();
+    EXPECT_FALSE(front.isCertain);
+    ASSERT_TRUE(front.application);
+    EXPECT_EQ(front.application->window, window.id());
 }
 
 TEST_F(WorkspaceOnX11WithoutManager, GivesTheFocusBack) {
     ForeignWindow window;
     window.takeFocus();
-    const auto front = m_workspace.frontmostApplication();
+    const auto front = m_workspace.frontmostApplication().application;
     ASSERT_TRUE(front);
     QWidget own;
     own.show();
@@ -236,7 +316,7 @@ TEST_F(WorkspaceOnX11WithoutManager, DoesNotBelieveWhatACrashedManagerLeftBehind
             1,
             &gone);
     }
-    const auto front = m_workspace.frontmostApplication();
+    const auto front = m_workspace.frontmostApplication().application;
     for (const auto* property : {"_NET_SUPPORTING_WM_CHECK", "_NET_ACTIVE_WINDOW"})
         xcb_delete_property(
             m_connection->xcb(), m_connection->root(), m_connection->atom(property));

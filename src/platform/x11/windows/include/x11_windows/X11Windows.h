@@ -43,6 +43,12 @@ public:
     /// Mapped, and all its ancestors too.
     [[nodiscard]] bool isViewable(xcb_window_t window) const;
 
+    /// Viewable, not minimised, and on the virtual desktop in front.
+    [[nodiscard]] bool isShown(xcb_window_t window) const;
+
+    /// Whether it is a dialog of the owner, or of such a dialog (ICCCM 4.1.2.6).
+    [[nodiscard]] bool isTransientFor(xcb_window_t window, xcb_window_t owner) const;
+
     /// Part of the desktop itself: a dock (panel, taskbar) or the window behind all others.
     [[nodiscard]] bool isDockOrDesktop(xcb_window_t window) const;
 
@@ -61,6 +67,7 @@ public:
     void requestFocus(xcb_window_t window) const;
 
 private:
+    [[nodiscard]] bool isOnDesktopInFront(xcb_window_t window) const;
     [[nodiscard]] xcb_window_t topLevelOf(xcb_window_t window) const;
 
     std::shared_ptr<X11Connection> m_connection;

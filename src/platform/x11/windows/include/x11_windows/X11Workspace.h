@@ -3,6 +3,7 @@
 
 #include <platform/Workspace.h>
 #include <x11_server/X11Connection.h>
+#include <x11_windows/X11KeyboardProbe.h>
 #include <x11_windows/X11UserTime.h>
 #include <x11_windows/X11Windows.h>
 
@@ -14,14 +15,17 @@ namespace quorvane {
 
 /// Follows which window is active, as the window manager tells. While that is one of ours, a dock
 /// or desktop window, or none, the last window of another program counts as in front, as long as it
-/// is shown.
+/// is shown. Without a window manager nothing is certain.
 class X11Workspace final : public Workspace {
 public:
     explicit X11Workspace(std::shared_ptr<X11Connection> connection);
 
-    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override;
+    [[nodiscard]] FrontmostApplication frontmostApplication() const override;
+    [[nodiscard]] bool isShown(const RunningApplication& application) const override;
+    [[nodiscard]] bool receivesKeys(const RunningApplication& application) const override;
     [[nodiscard]] QScreen* focusedScreen() const override;
     [[nodiscard]] bool activate(const RunningApplication& application) override;
+    void onFrontmostChanged(std::function<void()> handler) override;
     void onActiveSpaceChanged(std::function<void()> handler) override;
 
 private:
@@ -29,15 +33,19 @@ private:
     /// Whether another program's window is active.
     bool trackActiveWindow() const;
     void trackSpace();
+    void tellFrontmostChanged() const;
+    [[nodiscard]] RunningApplication applicationOf(xcb_window_t window) const;
     [[nodiscard]] bool isAnotherProgram(xcb_window_t window) const;
     [[nodiscard]] std::vector<std::uint32_t> currentDesktop() const;
 
     std::shared_ptr<X11Connection> m_connection;
     X11Windows m_windows;
+    X11KeyboardProbe m_keyboard;
     X11UserTime m_userTime;
     /// Updated by each question too: a caller may ask before the event that reports a change.
     mutable xcb_window_t m_lastForeign = XCB_WINDOW_NONE;
     std::vector<std::uint32_t> m_desktop;
+    std::function<void()> m_frontmostChanged;
     std::function<void()> m_spaceChanged;
     X11Connection::Subscription m_subscription;
 };
