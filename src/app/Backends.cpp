@@ -5,10 +5,13 @@
 #include <platform_null/NullServices.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_x11/X11Services.h>
+#include <platform_x11/XWayland.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
 
 #include <QDesktopServices>
 #include <QLoggingCategory>
+
+#include <optional>
 
 namespace quorvane {
 
@@ -18,27 +21,45 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
 
-bool wantsX11(const QString& forced, const QString& qtPlatform) {
-    return forced == "x11"_L1 || (forced != "null"_L1 && qtPlatform == "xcb"_L1);
+/// The part of X11 to use, if any.
+std::optional<X11Reach> wantedX11(const Environment& environment, const QString& qtPlatform) {
+    const auto forced = environment("QUORVANE_BACKEND").value_or(QString());
+    if (forced == "x11"_L1)
+        return X11Reach::Session;
+    if (!forced.isEmpty() || qtPlatform != "xcb"_L1)
+        return std::nullopt;
+    return runsOnXWayland(environment) ? X11Reach::OwnWindows : X11Reach::Session;
+}
+
+void addServicesOfEveryDisplay(PlatformServices& services) {
+    const auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        qCInfo(lcBackend, "no session bus: neither its tray nor the settings portal");
+    services.softwareCentre = std::make_unique<XdgSoftwareCentre>(
+        MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
+    services.appearance = std::make_unique<PortalAppearance>(bus);
+    services.statusBar = std::make_unique<TrayStatusBar>(bus);
+}
+
+const char* nameOf(X11Reach reach) {
+    return reach == X11Reach::Session
+               ? "shortcut, keys, windows and clipboard: X11"
+               : "XWayland: clipboard only; the keys and windows of others are out of its reach";
 }
 
 } // namespace
 
 PlatformServices
-makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue) {
+makePlatformServices(const Environment& environment, const QString& qtPlatform, MainQueue& queue) {
     auto services = makeNullServices(queue);
-    if (wantsX11(forced, qtPlatform) && addX11Services(services, queue)) {
-        services.softwareCentre = std::make_unique<XdgSoftwareCentre>(
-            MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
-        services.appearance = std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
-        services.statusBar = std::make_unique<TrayStatusBar>(QDBusConnection::sessionBus());
-        return services;
-    }
-    qCInfo(
-        lcBackend,
-        "no services of a desktop: \"%ls\" on \"%ls\"",
-        qUtf16Printable(forced),
-        qUtf16Printable(qtPlatform));
+    addServicesOfEveryDisplay(services);
+    const auto x11 = wantedX11(environment, qtPlatform);
+    if (!x11)
+        qCInfo(lcBackend, "no backend for \"%ls\"", qUtf16Printable(qtPlatform));
+    else if (!addX11Services(services, queue, *x11))
+        qCInfo(lcBackend, "no X server answers");
+    else
+        qCInfo(lcBackend, "%s", nameOf(*x11));
     return services;
 }
 

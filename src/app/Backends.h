@@ -3,15 +3,19 @@
 
 #include <loop/MainQueue.h>
 #include <platform/PlatformServices.h>
+#include <settings/Environment.h>
 
 #include <QString>
 
 namespace quorvane {
 
-/// The desktop services for this session: those of the backend named by `forced` ("x11", "null";
-/// any other text chooses none), else those that suit the platform plugin that Qt runs on. If that
-/// backend is not available, services that do nothing.
+/// The desktop services for this session, each by itself. Tray, appearance and software centre
+/// are there on every display. What a display alone can have (the shortcut, posted
+/// keys, other programs' windows, the whole clipboard) comes from the backend that
+/// $QUORVANE_BACKEND names, "x11" or "null", which has nothing of that; else from the one that
+/// suits the platform plugin that Qt runs on. Where it is not available, services that do nothing
+/// stand in.
 [[nodiscard]] PlatformServices
-makePlatformServices(const QString& forced, const QString& qtPlatform, MainQueue& queue);
+makePlatformServices(const Environment& environment, const QString& qtPlatform, MainQueue& queue);
 
 } // namespace quorvane

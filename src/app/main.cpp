@@ -39,8 +39,7 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
     DiskFileWriter files;
     JsonDefaultsStore defaults(folders.defaultsFile(), files);
     WindowFrameStore windowFrames(folders.windowsFile(), files);
-    auto platform = makePlatformServices(
-        qEnvironmentVariable("QUORVANE_BACKEND"), QGuiApplication::platformName(), mainQueue);
+    auto platform = makePlatformServices(environment, QGuiApplication::platformName(), mainQueue);
     const AppearanceFollower appearanceFollower(
         *platform.appearance, AppearanceFollower::paletteSource());
 

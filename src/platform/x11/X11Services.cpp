@@ -10,19 +10,32 @@
 
 namespace quorvane {
 
-bool addX11Services(PlatformServices& services, MainQueue& mainQueue) {
-    const auto connection = X11Connection::open();
-    if (!connection)
-        return false;
-    const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(mainQueue);
+namespace {
+
+void addServicesOfTheSession(
+    PlatformServices& services,
+    MainQueue& mainQueue,
+    const std::shared_ptr<X11Connection>& connection,
+    const std::shared_ptr<X11Keymap>& keymap) {
     const auto postedKeys = std::make_shared<X11PostedKeys>();
     services.accessibilityRight = std::make_unique<X11AccessibilityRight>(connection);
     services.eventTaps = std::make_unique<X11EventTapService>(connection, mainQueue, postedKeys);
     services.keyPoster = std::make_unique<X11KeyPoster>(connection, keymap, postedKeys);
-    services.pasteboard = std::make_unique<X11Pasteboard>(connection, mainQueue);
     services.workspace = std::make_unique<X11Workspace>(connection);
+}
+
+} // namespace
+
+bool addX11Services(PlatformServices& services, MainQueue& mainQueue, X11Reach reach) {
+    const auto connection = X11Connection::open();
+    if (!connection)
+        return false;
+    const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(mainQueue);
+    services.pasteboard = std::make_unique<X11Pasteboard>(connection, mainQueue);
     services.keyboardLayout = std::make_unique<X11KeyboardLayout>(keymap);
     services.windowTraits = std::make_unique<X11WindowTraits>(connection);
+    if (reach == X11Reach::Session)
+        addServicesOfTheSession(services, mainQueue, connection, keymap);
     return true;
 }
 

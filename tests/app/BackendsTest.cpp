@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "Backends.h"
+
+#include <platform_dbus/PortalAppearance.h>
+#include <platform_tray/TrayStatusBar.h>
+#include <platform_xdg/XdgSoftwareCentre.h>
+#include <testing/VirtualMainQueue.h>
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class BackendsTest : public testing::Test {
+protected:
+    VirtualMainQueue queue;
+
+    PlatformServices services(const QString& forced, const QString& qtPlatform) {
+        return makePlatformServices(
+            [forced](const char* name) {
+                return std::string_view(name) == "QUORVANE_BACKEND" ? std::optional(forced)
+                                                                    : std::nullopt;
+            },
+            qtPlatform,
+            queue);
+    }
+};
+
+TEST_F(BackendsTest, ServicesThatNeedNoCertainDisplayAreThereOnEveryDisplay) {
+    for (const auto& qtPlatform : {u"xcb"_s, u"wayland"_s, u"offscreen"_s}) {
+        const auto made = services(u"null"_s, qtPlatform);
+        EXPECT_NE(dynamic_cast<TrayStatusBar*>(made.statusBar.get()), nullptr);
+        EXPECT_NE(dynamic_cast<PortalAppearance*>(made.appearance.get()), nullptr);
+        EXPECT_NE(dynamic_cast<XdgSoftwareCentre*>(made.softwareCentre.get()), nullptr);
+    }
+}
+
+TEST_F(BackendsTest, NothingIsTypedWhereNoBackendCan) {
+    const auto made = services({}, u"wayland"_s);
+    EXPECT_FALSE(made.accessibilityRight->isTrusted());
+    EXPECT_EQ(made.keyPoster->pasteTarget(), std::nullopt);
+}
+
+} // namespace
+} // namespace quorvane
