@@ -14,9 +14,10 @@ quorvane_precompiled_headers(product_widgets
 #
 #   quorvane_library(model SOURCES a.cpp b.cpp LINKS time hotkey)
 #
-# LINKS are PUBLIC because headers include each other's.
+# LINKS are PUBLIC because headers include each other's. MOC: the library has Q_OBJECT classes; the
+# others build without a run of moc.
 function(quorvane_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRIVATE_LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "MOC" "" "SOURCES;LINKS;PRIVATE_LINKS")
     # Listed as sources for their moc output.
     file(GLOB headers CONFIGURE_DEPENDS *.h include/${name}/*.h)
     add_library(quorvane_${name} STATIC ${arg_SOURCES} ${headers})
@@ -26,6 +27,9 @@ function(quorvane_library name)
         PUBLIC ${arg_LINKS}
         PRIVATE quorvane_options ${arg_PRIVATE_LINKS})
     quorvane_precompile(quorvane_${name} product LINKS ${arg_LINKS})
+    if(NOT arg_MOC)
+        return()
+    endif()
     # moc runs again when a header comes or goes, whatever that header's time stamp.
     set(header_list ${CMAKE_CURRENT_BINARY_DIR}/quorvane_${name}_headers.txt)
     file(CONFIGURE OUTPUT ${header_list} CONTENT "${headers}\n")
