@@ -108,7 +108,9 @@ void AppDelegate::performInsert() {
 }
 
 void AppDelegate::performCopy() {
-    copyText(*m_dependencies.platform.pasteboard, m_model.formattedOutput());
+    const auto text = m_model.formattedOutput();
+    if (copyText(*m_dependencies.platform.pasteboard, text) == PutOutcome::Refused)
+        qCInfo(lcApp, "not copied: the pasteboard does not take the text");
 }
 
 void AppDelegate::showPreferences() {
@@ -135,10 +137,11 @@ void AppDelegate::terminate() {
         return;
     Q_EMIT willTerminate();
     m_presentation.panel().saveFrameNow();
-    m_insertion.finish();
-    m_dependencies.platform.pasteboard->handOver([] {
-        // Not quit(), which asks each window first.
-        QCoreApplication::exit();
+    m_insertion.finish([&pasteboard = *m_dependencies.platform.pasteboard] {
+        pasteboard.handOver([] {
+            // Not quit(), which asks each window first.
+            QCoreApplication::exit();
+        });
     });
 }
 

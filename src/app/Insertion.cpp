@@ -5,6 +5,8 @@
 
 #include <delivery/InsertionDelays.h>
 
+#include <utility>
+
 namespace quorvane {
 
 Insertion::Insertion(Dependencies dependencies)
@@ -25,9 +27,9 @@ void Insertion::start(const QString& text) {
     });
 }
 
-void Insertion::finish() {
+void Insertion::finish(std::function<void()> done) {
     m_steps.cancelAll();
-    m_inserter.finish();
+    m_inserter.finish(std::move(done));
 }
 
 } // namespace quorvane

@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace quorvane {
 
 class PreviousFrontmostApp;
@@ -31,8 +33,8 @@ public:
     void start(const QString& text);
 
     /// Drops what has not been pasted yet and restores the pasteboard at once, for the end of the
-    /// process.
-    void finish();
+    /// process; `done` runs when the user's clipboard is back, in a later event-loop iteration.
+    void finish(std::function<void()> done);
 
 private:
     PreviousFrontmostApp& m_previousFrontmostApp;

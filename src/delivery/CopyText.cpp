@@ -3,9 +3,9 @@
 
 namespace quorvane {
 
-void copyText(Pasteboard& pasteboard, const QString& text) {
+PutOutcome copyText(Pasteboard& pasteboard, const QString& text) {
     pasteboard.clear();
-    pasteboard.setString(text, TextStay::Lasting);
+    return pasteboard.setString(text, TextStay::Lasting, PasteSource::Clipboard);
 }
 
 } // namespace quorvane

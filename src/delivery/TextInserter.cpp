@@ -44,45 +44,74 @@ TextInserter::TextInserter(Dependencies dependencies)
 
 TextInserter::~TextInserter() = default;
 
-void TextInserter::insert(const QString& text) {
+void TextInserter::insert(const QString& text, Done done) {
     if (!m_dependencies.accessibilityRight.isTrusted()) {
         qCInfo(lcInsert, "dropped: the accessibility right is missing");
         m_dependencies.accessibilityRight.prompt();
-        return;
+        return done(InsertionOutcome::NoRight);
     }
-    const auto target = m_dependencies.keyPoster.pasteTarget();
-    m_dependencies.pasteboard.save(
-        [this, text, target, wanted = std::weak_ptr(m_savesWanted)](PasteboardContents saved) {
-            if (!wanted.expired())
-                paste(text, target, std::move(saved));
-        });
+    if (m_isSaving)
+        m_waiting.push_back({text, std::move(done)});
+    else
+        begin({text, std::move(done)});
 }
 
-void TextInserter::finish() {
+void TextInserter::finish(std::function<void()> done) {
     m_savesWanted = std::make_shared<const bool>(true);
-    m_deadlines.cancelAll();
-    for (const auto& [number, saved] : std::exchange(m_pending, {}))
-        restore(saved);
+    m_isSaving = false;
+    m_waiting.clear();
+    m_restoreDue.cancel();
+    if (m_saved)
+        restore(std::move(done));
+    else
+        m_finished = m_dependencies.mainQueue.after(Seconds(0), std::move(done));
+}
+
+void TextInserter::begin(Request request) {
+    m_restoreDue.cancel();
+    m_restoring.reset();
+    m_isSaving = true;
+    const auto target = m_dependencies.keyPoster.pasteTarget();
+    m_dependencies.pasteboard.save(
+        target ? target->source : PasteSource::Clipboard,
+        [this, request = std::move(request), target, wanted = std::weak_ptr(m_savesWanted)](
+            PasteboardContents found) {
+            if (!wanted.expired())
+                paste(request, target, std::move(found));
+        });
 }
 
 // All in one iteration of the event loop: none of our own code can change the pasteboard between
 // the save and the text.
-void TextInserter::paste(const QString& text, const Target& target, PasteboardContents saved) {
-    logContents("saved", mergedItem(saved.items), saved.selection);
-    m_dependencies.pasteboard.clear();
-    m_dependencies.pasteboard.setString(text, TextStay::Passing);
-    post(target);
-    scheduleRestore(std::move(saved));
+void TextInserter::paste(const Request& request, const Target& target, PasteboardContents found) {
+    m_isSaving = false;
+    m_saved = usersContents(std::move(found));
+    logContents("saved", mergedItem(m_saved->items), m_saved->selection);
+    const auto outcome = deliver(request.text, target);
+    const auto stay =
+        outcome == InsertionOutcome::NotTaken ? Seconds(0) : insertiondelay::beforeRestore;
+    m_restoreDue = m_dependencies.mainQueue.after(stay, [this] { restore([] {}); });
+    request.done(outcome);
+    beginNext();
 }
 
-void TextInserter::post(const Target& target) {
+InsertionOutcome TextInserter::deliver(const QString& text, const Target& target) {
+    m_dependencies.pasteboard.clear();
+    const auto source = target ? target->source : PasteSource::Clipboard;
+    if (m_dependencies.pasteboard.setString(text, TextStay::Passing, source) == PutOutcome::Taken)
+        return post(target);
+    qCInfo(lcInsert, "no paste keys: the pasteboard does not take the text");
+    return InsertionOutcome::NotTaken;
+}
+
+InsertionOutcome TextInserter::post(const Target& target) {
     if (!target) {
         qCInfo(lcInsert, "no paste keys: neither this keyboard nor this desktop has any");
-        return;
+        return InsertionOutcome::NoKeys;
     }
     switch (m_dependencies.keyPoster.paste(*target)) {
     case PostOutcome::Posted:
-        break;
+        return InsertionOutcome::Posted;
     case PostOutcome::NoSuchKey:
         qCInfo(lcInsert, "no paste keys: the keyboard has none that would do");
         break;
@@ -90,22 +119,37 @@ void TextInserter::post(const Target& target) {
         qCInfo(lcInsert, "no paste keys: this desktop does not let us post any");
         break;
     }
+    return InsertionOutcome::NoKeys;
 }
 
-void TextInserter::scheduleRestore(PasteboardContents saved) {
-    const int number = m_nextRestore++;
-    m_pending.emplace(number, std::move(saved));
-    m_deadlines.run(m_dependencies.mainQueue, insertiondelay::beforeRestore, [this, number] {
-        restore(m_pending.extract(number).mapped());
-    });
+void TextInserter::beginNext() {
+    if (m_isSaving || m_waiting.empty())
+        return;
+    auto next = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    begin(std::move(next));
 }
 
-void TextInserter::restore(const PasteboardContents& saved) {
-    m_dependencies.pasteboard.clear();
-    const auto item = mergedItem(saved.items);
-    logContents("put back", item, saved.selection);
-    if (!item.empty() || saved.selection)
-        m_dependencies.pasteboard.write(item, saved.selection);
+/// What was found, but where that is the text of the insertion before, what this had found.
+PasteboardContents TextInserter::usersContents(PasteboardContents found) {
+    auto before = std::exchange(m_saved, std::nullopt).value_or(PasteboardContents{});
+    PasteboardContents users;
+    users.items = std::move(found.isPassing ? before.items : found.items);
+    // A second pasteboard that was not looked at still awaits its restore.
+    const bool isTakenOver = !found.selection || found.selectionIsPassing;
+    users.selection = std::move(isTakenOver ? before.selection : found.selection);
+    return users;
+}
+
+void TextInserter::restore(std::function<void()> done) {
+    const auto item = mergedItem(m_saved->items);
+    logContents("put back", item, m_saved->selection);
+    m_restoring =
+        m_dependencies.pasteboard.restore(item, m_saved->selection, [this, done = std::move(done)] {
+            m_saved.reset();
+            done();
+            m_restoring.reset();
+        });
 }
 
 } // namespace quorvane

@@ -107,6 +107,7 @@ TEST_F(AppDelegateTest, ActionsAreCalledByName) {
     queue.advance(1s);
     EXPECT_THAT(calls(), testing::Contains(pasteKeys));
     delegate->performAction(u"quit"_s);
+    queue.run();
     EXPECT_EQ(calls().back(), "handOver");
 }
 

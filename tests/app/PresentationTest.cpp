@@ -233,14 +233,17 @@ TEST_F(PresentationTest, QuitByItsKeysFromEveryWindow) {
     launchAs(PresentationMode::Window);
     ASSERT_TRUE(QTest::qWaitForWindowActive(panel()));
     QTest::keyClick(panel(), Qt::Key_Q, Qt::ControlModifier);
+    queue.run();
     EXPECT_EQ(calls().back(), "handOver");
     launchAs(PresentationMode::Popover);
     QTest::keyClick(popover(), Qt::Key_Q, Qt::ControlModifier);
+    queue.run();
     EXPECT_EQ(calls().back(), "handOver");
     launchAs(PresentationMode::Window);
     delegate->showPreferences();
     ASSERT_TRUE(QTest::qWaitForWindowActive(preferences()));
     QTest::keyClick(preferences(), Qt::Key_Q, Qt::ControlModifier);
+    queue.run();
     EXPECT_EQ(calls().back(), "handOver");
 }
 

@@ -55,6 +55,7 @@ TEST_F(TrayIconTest, MenuOpensPreferencesAndUpdatesAndQuits) {
     statusBar->publishedMenu[1].run();
     EXPECT_EQ(calls().back(), "showPage org.quorvane.Quorvane");
     statusBar->publishedMenu[3].run();
+    queue.run();
     EXPECT_EQ(calls().back(), "handOver");
 }
 

@@ -17,13 +17,24 @@ TEST(CopyText, ReplacesWhateverThePasteboardHeldByOneText) {
     FakePasteboard pasteboard(log, queue);
     pasteboard.setContents({{{pasteboardEntry(u"image/png"_s, "png")}}, std::nullopt});
 
-    copyText(pasteboard, u"2:05 PM PST\n10:05 PM GMT"_s);
+    EXPECT_EQ(copyText(pasteboard, u"2:05 PM PST\n10:05 PM GMT"_s), PutOutcome::Taken);
 
     EXPECT_EQ(pasteboard.contents(), plainText(u"2:05 PM PST\n10:05 PM GMT"_s));
     EXPECT_EQ(
         log.calls(),
         (std::vector<CallLog::Call>{
             {{}, "clear"}, {{}, "setString lasting \"2:05 PM PST\n10:05 PM GMT\""}}));
+}
+
+TEST(CopyText, TellsThatThePasteboardDidNotTakeIt) {
+    VirtualMainQueue queue;
+    CallLog log(queue);
+    FakePasteboard pasteboard(log, queue);
+    pasteboard.setContents(plainText(u"theirs"_s));
+    pasteboard.setRefusing(true);
+    EXPECT_EQ(copyText(pasteboard, u"ours"_s), PutOutcome::Refused);
+    queue.advance(Seconds(1));
+    EXPECT_EQ(pasteboard.contents(), plainText(u"theirs"_s));
 }
 
 } // namespace

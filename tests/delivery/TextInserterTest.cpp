@@ -44,8 +44,7 @@ TEST_F(TextInserterTest, SavesPutsPostsAndRestoresInOrder) {
             {0ms, "clear"},
             {0ms, "setString passing \"text\""},
             {0ms, pasteKeys},
-            {600ms, "clear"},
-            {600ms, "write"}}));
+            {600ms, "restore"}}));
     EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
     EXPECT_TRUE(queue.isIdle());
 }
@@ -63,7 +62,7 @@ TEST_F(TextInserterTest, EmptyPasteboardIsLeftEmpty) {
     inserter->insert(u"text"_s);
     queue.advance(1s);
     EXPECT_EQ(pasteboard.contents(), PasteboardContents());
-    EXPECT_EQ(log.calls().back(), (CallLog::Call{600ms, "clear"}));
+    EXPECT_EQ(log.calls().back(), (CallLog::Call{600ms, "restore"}));
 }
 
 TEST_F(TextInserterTest, SeveralItemsComeBackAsOneWithTheTypesOfAll) {
@@ -135,38 +134,106 @@ TEST_F(TextInserterTest, SlowOwnerDelaysTheTextButNotItsStay) {
             {300ms, "clear"},
             {300ms, "setString passing \"text\""},
             {300ms, pasteKeys},
-            {900ms, "clear"},
-            {900ms, "write"}}));
+            {900ms, "restore"}}));
 }
 
-TEST_F(TextInserterTest, OverlappingInsertionSavesTheTextOfTheEarlierOne) {
+TEST_F(TextInserterTest, InsertionWaitsForTheKeysOfTheOneBefore) {
     pasteboard.setContents(plainText(u"mine"_s));
+    pasteboard.setSaveDelay(300ms);
     inserter->insert(u"first"_s);
-    queue.advance(300ms);
+    queue.advance(100ms);
     inserter->insert(u"second"_s);
-    queue.advance(300ms); // the first restore
+    queue.advance(2s);
+    EXPECT_EQ(
+        log.calls(),
+        (Calls{
+            {0ms, "isTrusted"},
+            {0ms, "save"},
+            {100ms, "isTrusted"},
+            {300ms, "clear"},
+            {300ms, "setString passing \"first\""},
+            {300ms, pasteKeys},
+            {300ms, "save"},
+            {600ms, "clear"},
+            {600ms, "setString passing \"second\""},
+            {600ms, pasteKeys},
+            {1200ms, "restore"}}));
     EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
-    queue.advance(300ms); // the second one
-    EXPECT_EQ(pasteboard.contents(), plainText(u"first"_s));
     EXPECT_TRUE(queue.isIdle());
 }
 
-TEST_F(TextInserterTest, SecondPasteboardIsGivenBackToo) {
-    const PasteboardItem marked{pasteboardEntry(u"UTF8_STRING"_s, "marked")};
-    const PasteboardContents before{{}, marked};
-    pasteboard.setContents(before);
+TEST_F(TextInserterTest, TellsWhatBecameOfEachInsertion) {
+    std::vector<InsertionOutcome> outcomes;
+    const auto insert = [&] {
+        inserter->insert(
+            u"text"_s, [&outcomes](InsertionOutcome outcome) { outcomes.push_back(outcome); });
+        queue.run();
+    };
+    insert();
+    pasteboard.setRefusing(true);
+    insert();
+    pasteboard.setRefusing(false);
+    poster.setOutcome(PostOutcome::NoSuchKey);
+    insert();
+    right.setTrusted(false);
+    insert();
+    EXPECT_EQ(
+        outcomes,
+        (std::vector{
+            InsertionOutcome::Posted,
+            InsertionOutcome::NotTaken,
+            InsertionOutcome::NoKeys,
+            InsertionOutcome::NoRight}));
+}
+
+TEST_F(TextInserterTest, TextThatThePasteboardDoesNotTakeIsNotPasted) {
+    pasteboard.setContents(plainText(u"theirs"_s));
+    pasteboard.setRefusing(true);
     inserter->insert(u"text"_s);
     queue.advance(1s);
+    EXPECT_EQ(
+        log.calls(),
+        (Calls{
+            {0ms, "isTrusted"},
+            {0ms, "save"},
+            {0ms, "clear"},
+            {0ms, "setString passing \"text\""},
+            {0ms, "restore"}}));
+    EXPECT_EQ(pasteboard.contents(), plainText(u"theirs"_s));
+}
+
+TEST_F(TextInserterTest, SecondPasteboardIsGivenBackToo) {
+    const PasteboardItem marked{pasteboardEntry(u"text/plain"_s, "marked")};
+    const PasteboardContents before{{}, marked};
+    pasteboard.setContents(before);
+    poster.setPasteTarget({PasteKeys::ShiftInsert, PasteSource::Selection});
+    inserter->insert(u"text"_s);
+    queue.run();
+    EXPECT_EQ(pasteboard.contents().selection, plainText(u"text"_s).items.front());
+    queue.advance(1s);
     EXPECT_EQ(pasteboard.contents(), before);
+}
+
+TEST_F(TextInserterTest, SecondPasteboardIsLeftAloneWhereTheWindowDoesNotPasteFromIt) {
+    const PasteboardItem marked{pasteboardEntry(u"text/plain"_s, "marked")};
+    pasteboard.setContents({{}, marked});
+    inserter->insert(u"text"_s);
+    queue.run();
+    EXPECT_EQ(pasteboard.contents().selection, marked);
+    queue.advance(1s);
+    EXPECT_EQ(pasteboard.contents().selection, marked);
 }
 
 TEST_F(TextInserterTest, FinishRestoresAtOnceAndOnlyOnce) {
     pasteboard.setContents(plainText(u"mine"_s));
     inserter->insert(u"text"_s);
     queue.advance(100ms);
-    inserter->finish();
+    bool isDone = false;
+    inserter->finish([&isDone] { isDone = true; });
     EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
     const auto calls = log.calls().size();
+    queue.run();
+    EXPECT_TRUE(isDone);
     queue.advance(1s);
     EXPECT_EQ(log.calls().size(), calls);
 }
@@ -175,9 +242,25 @@ TEST_F(TextInserterTest, FinishGivesUpAnInsertionThatIsStillSaving) {
     pasteboard.setContents(plainText(u"mine"_s));
     pasteboard.setSaveDelay(300ms);
     inserter->insert(u"text"_s);
-    inserter->finish();
+    inserter->insert(u"next"_s);
+    bool isDone = false;
+    inserter->finish([&isDone] { isDone = true; });
     queue.advance(1s);
-    EXPECT_EQ(log.calls(), (Calls{{0ms, "isTrusted"}, {0ms, "save"}}));
+    EXPECT_TRUE(isDone);
+    EXPECT_EQ(log.calls(), (Calls{{0ms, "isTrusted"}, {0ms, "save"}, {0ms, "isTrusted"}}));
+}
+
+TEST_F(TextInserterTest, FinishAmidASecondInsertionGivesBackWhatTheFirstHadSaved) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    inserter->insert(u"first"_s);
+    queue.run();
+    pasteboard.setSaveDelay(300ms);
+    inserter->insert(u"second"_s);
+    queue.advance(100ms);
+    inserter->finish([] {});
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    queue.advance(1s);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
 }
 
 TEST_F(TextInserterTest, InserterThatIsGoneTouchesNothing) {
@@ -193,6 +276,7 @@ TEST_F(TextInserterTest, LogTellsTypesAndSizesButNoContents) {
     pasteboard.setContents(
         {{{pasteboardEntry(u"text/plain"_s, "private"), pasteboardEntry(u"image/png"_s, "pixels")}},
          marked});
+    poster.setPasteTarget({PasteKeys::ShiftInsert, PasteSource::Selection});
     inserter->insert(u"2024-03-10"_s);
     queue.advance(1s);
     EXPECT_EQ(

@@ -34,19 +34,39 @@ public:
     }
 };
 
+/// Answered in a later iteration of the event loop.
+class NullRequest final : public PasteboardRequest {
+public:
+    explicit NullRequest(Deadline answer) : m_answer(std::move(answer)) {}
+
+private:
+    Deadline m_answer;
+};
+
 class NullPasteboard final : public Pasteboard {
 public:
     explicit NullPasteboard(MainQueue& mainQueue) : m_mainQueue(mainQueue) {}
 
-    void save(SaveHandler done) override {
+    void save(PasteSource, SaveHandler done) override {
         m_mainQueue.async([done = std::move(done)] { done({}); });
     }
 
     void clear() override {}
 
-    void setString(const QString&, TextStay) override {}
+    [[nodiscard]] PutOutcome setString(const QString&, TextStay, PasteSource) override {
+        return PutOutcome::Refused;
+    }
 
-    void write(const PasteboardItem&, const std::optional<PasteboardItem>&) override {}
+    [[nodiscard]] std::unique_ptr<PasteboardRequest>
+    restore(PasteboardItem, std::optional<PasteboardItem>, std::function<void()> done) override {
+        return std::make_unique<NullRequest>(m_mainQueue.after(Seconds(0), std::move(done)));
+    }
+
+    [[nodiscard]] std::unique_ptr<PasteboardRequest>
+    readText(PasteSource, TextHandler done) override {
+        return std::make_unique<NullRequest>(
+            m_mainQueue.after(Seconds(0), [done = std::move(done)] { done(std::nullopt); }));
+    }
 
     void handOver(std::function<void()> done) override { m_mainQueue.async(std::move(done)); }
 

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <utility>
+
 namespace quorvane {
 
 namespace {
@@ -25,8 +27,11 @@ CopyButton::CopyButton(MainQueue& queue, QWidget* parent)
 }
 
 void CopyButton::confirm() {
-    setCopyConfirmed(true);
-    m_resets.run(m_queue, confirmation, [this] { setCopyConfirmed(false); });
+    sayForAWhile(State::Confirmed);
+}
+
+void CopyButton::refuse() {
+    sayForAWhile(State::Refused);
 }
 
 void CopyButton::paintFace(QPainter& painter, const Theme& theme) {
@@ -35,23 +40,48 @@ void CopyButton::paintFace(QPainter& painter, const Theme& theme) {
     const double opacity = painter.opacity();
     painter.setOpacity(opacity * (1 - progress));
     if (isChanging)
-        paint(painter, faceWhile(!m_copyConfirmed, theme));
+        paint(painter, faceOf(m_stateBefore, theme));
     painter.setOpacity(opacity * progress);
-    paint(painter, faceWhile(m_copyConfirmed, theme));
+    paint(painter, faceOf(m_state, theme));
 }
 
-void CopyButton::setCopyConfirmed(bool confirmed) {
-    const bool changes = std::exchange(m_copyConfirmed, confirmed) != confirmed;
+void CopyButton::sayForAWhile(State state) {
+    setState(state);
+    m_resets.run(m_queue, confirmation, [this] { setState(State::Ready); });
+}
+
+void CopyButton::setState(State state) {
+    const bool changes = m_state != state;
+    m_stateBefore = std::exchange(m_state, state);
     m_change.stop();
     if (changes && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) != 0)
         m_change.start();
     // The button's text is also its name: whoever listens hears it change.
-    setText(confirmed ? tr("Copied") : tr("Copy"));
+    setText(textOf(state));
 }
 
-ActionButton::Face CopyButton::faceWhile(bool confirmed, const Theme& theme) const {
-    return confirmed ? Face{Symbol::Checkmark, tr("Copied"), theme.success, theme.success}
-                     : Face{Symbol::DocOnDoc, tr("Copy"), theme.secondaryText, theme.text};
+QString CopyButton::textOf(State state) {
+    switch (state) {
+    case State::Ready:
+        break;
+    case State::Confirmed:
+        return tr("Copied");
+    case State::Refused:
+        return tr("Could not copy");
+    }
+    return tr("Copy");
+}
+
+ActionButton::Face CopyButton::faceOf(State state, const Theme& theme) {
+    switch (state) {
+    case State::Ready:
+        break;
+    case State::Confirmed:
+        return {Symbol::Checkmark, textOf(state), theme.success, theme.success};
+    case State::Refused:
+        return {Symbol::XmarkCircleFill, textOf(state), theme.danger, theme.danger};
+    }
+    return {Symbol::DocOnDoc, textOf(state), theme.secondaryText, theme.text};
 }
 
 } // namespace quorvane

@@ -9,7 +9,7 @@
 
 namespace quorvane {
 
-/// "Copy", and "Copied" for a while after confirm().
+/// "Copy"; after a press, what became of it for a while.
 class CopyButton final : public ActionButton {
     Q_OBJECT
 
@@ -18,20 +18,29 @@ public:
 
     CopyButton(MainQueue& queue, QWidget* parent);
 
-    /// Each call ends the confirmation `confirmation` later, also one that a later call began.
+    /// Says "Copied". Each call ends what is said `confirmation` later, also what a later call
+    /// began.
     void confirm();
+
+    /// Says that nothing was copied, for the same time.
+    void refuse();
 
 protected:
     void paintFace(QPainter& painter, const Theme& theme) override;
 
 private:
-    void setCopyConfirmed(bool confirmed);
-    [[nodiscard]] Face faceWhile(bool confirmed, const Theme& theme) const;
+    enum class State { Ready, Confirmed, Refused };
+
+    void sayForAWhile(State state);
+    void setState(State state);
+    [[nodiscard]] static QString textOf(State state);
+    [[nodiscard]] static Face faceOf(State state, const Theme& theme);
 
     MainQueue& m_queue;
     DeadlineSet m_resets;
     QVariantAnimation m_change; ///< from one face to the other
-    bool m_copyConfirmed = false;
+    State m_state = State::Ready;
+    State m_stateBefore = State::Ready;
 };
 
 } // namespace quorvane

@@ -48,8 +48,11 @@ PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callba
 PopoverView::~PopoverView() = default;
 
 void PopoverView::performCopy() {
-    copyText(m_dependencies.pasteboard, m_model.formattedOutput());
-    m_actionBar->copyButton().confirm();
+    auto& button = m_actionBar->copyButton();
+    if (copyText(m_dependencies.pasteboard, m_model.formattedOutput()) == PutOutcome::Taken)
+        button.confirm();
+    else
+        button.refuse();
 }
 
 void PopoverView::togglePresentationMode() {

@@ -45,8 +45,12 @@ TEST_F(NullServices, RefuseATap) {
 
 TEST_F(NullServices, SaveAnEmptyPasteboardInALaterIteration) {
     std::optional<PasteboardContents> saved;
-    m_services.pasteboard->setString(QStringLiteral("text"), TextStay::Lasting);
-    m_services.pasteboard->save([&saved](const PasteboardContents& contents) { saved = contents; });
+    EXPECT_EQ(
+        m_services.pasteboard->setString(
+            QStringLiteral("text"), TextStay::Lasting, PasteSource::Clipboard),
+        PutOutcome::Refused);
+    m_services.pasteboard->save(
+        PasteSource::Clipboard, [&saved](const PasteboardContents& contents) { saved = contents; });
     EXPECT_EQ(saved, std::nullopt);
     m_queue.run();
     EXPECT_EQ(saved, PasteboardContents{});

@@ -121,6 +121,14 @@ TEST_F(CopyButtonTest, ConfirmationHasItsSymbolAndIsGreen) {
     EXPECT_FALSE(shows(Symbol::Checkmark, QColor(0x1a7a37)));
 }
 
+TEST_F(CopyButtonTest, RefusalHasItsSymbolAndIsRed) {
+    copy.setStyle(&still);
+    copy.refuse();
+    EXPECT_TRUE(shows(Symbol::XmarkCircleFill, theme.danger));
+    queue.advance(1500ms);
+    EXPECT_TRUE(shows(Symbol::DocOnDoc, theme.secondaryText));
+}
+
 TEST_F(CopyButtonTest, LabelIsGreenAsWell) {
     copy.setStyle(&still);
     confirm();

@@ -159,6 +159,17 @@ TEST_F(PopoverViewTest, CopyPutsTheOutputAndConfirmsItForAWhile) {
     EXPECT_EQ(closed, 0);
 }
 
+TEST_F(PopoverViewTest, CopyThatThePasteboardRefusesIsNotConfirmed) {
+    auto& copy = button(u"Copy"_s);
+    pasteboard.setRefusing(true);
+    copy.click();
+    EXPECT_EQ(copy.text(), u"Could not copy"_s);
+    queue.advance(1499ms);
+    EXPECT_EQ(copy.text(), u"Could not copy"_s);
+    queue.advance(1ms);
+    EXPECT_EQ(copy.text(), u"Copy"_s);
+}
+
 TEST_F(PopoverViewTest, CopyOfSeveralLinesIsOneText) {
     model.setSelectedTimeZones(
         {*zones.zone(u"America/New_York"_s), *zones.zone(u"Europe/London"_s)});

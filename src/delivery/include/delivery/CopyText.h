@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-/// Puts the text on the pasteboard for good, in place of whatever it held.
-void copyText(Pasteboard& pasteboard, const QString& text);
+/// Puts the text on the pasteboard for good, in place of whatever it held; says whether it did.
+[[nodiscard]] PutOutcome copyText(Pasteboard& pasteboard, const QString& text);
 
 } // namespace quorvane

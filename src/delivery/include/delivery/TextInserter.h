@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <loop/DeadlineSet.h>
+#include <delivery/InsertionOutcome.h>
 #include <loop/MainQueue.h>
 #include <platform/AccessibilityRight.h>
 #include <platform/KeyPoster.h>
@@ -9,7 +9,8 @@
 
 #include <QString>
 
-#include <map>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -26,6 +27,8 @@ public:
         MainQueue& mainQueue;
     };
 
+    using Done = std::function<void(InsertionOutcome)>;
+
     explicit TextInserter(Dependencies dependencies);
     ~TextInserter();
 
@@ -35,33 +38,46 @@ public:
     /// Saves the pasteboard, puts the text on it, posts the paste keys, and restores the pasteboard
     /// `insertiondelay::beforeRestore` later, whether or not the keys reached anything. Without the
     /// accessibility right it does none of this: it lets the desktop ask the user for the right.
+    /// Where the pasteboard does not take the text no keys are posted: they would paste something
+    /// else. `done` is called once, when no more keys will come of it, maybe before this returns.
     ///
-    /// Insertions may overlap: each saves what the pasteboard holds just before it pastes.
+    /// An insertion waits until the keys of the one before it are posted. While a restore is due it
+    /// takes over what is to be put back, wherever the text of the earlier one still stands.
     /// At debug level the log (quorvane.insert) tells the types and sizes of what was saved and put
     /// back.
-    void insert(const QString& text);
+    void insert(
+        const QString& text, Done done = [](InsertionOutcome) {});
 
-    /// Runs at once the restores that are still due, in the order of their insertions, and gives up
-    /// insertions that are still being saved. For the end of the process.
-    void finish();
+    /// Gives up insertions whose keys are not posted yet, without a word to those that wait for
+    /// them, and runs at once the restore that is still due. For the end of the process. `done`
+    /// runs when the user's clipboard is back, in a later iteration of the event loop.
+    void finish(std::function<void()> done);
 
 private:
-    /// What is still to be put back; numbered in the order of the insertions.
-    using PendingRestores = std::map<int, PasteboardContents>;
-
     /// No target: nothing to post.
     using Target = std::optional<PasteTarget>;
 
-    void paste(const QString& text, const Target& target, PasteboardContents saved);
-    void post(const Target& target);
-    void scheduleRestore(PasteboardContents saved);
-    void restore(const PasteboardContents& saved);
+    struct Request {
+        QString text;
+        Done done;
+    };
+
+    void begin(Request request);
+    void paste(const Request& request, const Target& target, PasteboardContents found);
+    [[nodiscard]] InsertionOutcome deliver(const QString& text, const Target& target);
+    [[nodiscard]] InsertionOutcome post(const Target& target);
+    void beginNext();
+    [[nodiscard]] PasteboardContents usersContents(PasteboardContents found);
+    void restore(std::function<void()> done);
 
     Dependencies m_dependencies;
-    PendingRestores m_pending;
-    int m_nextRestore = 0;
-    DeadlineSet m_deadlines;
-    /// Held weakly by the saves in progress; one that ends after it was replaced or destroyed is
+    std::deque<Request> m_waiting;
+    bool m_isSaving = false;
+    std::optional<PasteboardContents> m_saved; ///< what is to be put back, while that is due
+    Deadline m_restoreDue;
+    std::unique_ptr<PasteboardRequest> m_restoring;
+    Deadline m_finished;
+    /// Held weakly by the save in progress; one that ends after it was replaced or destroyed is
     /// dropped.
     std::shared_ptr<const bool> m_savesWanted;
 };

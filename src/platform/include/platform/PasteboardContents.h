@@ -30,6 +30,11 @@ struct PasteboardContents {
     /// it too: some windows paste from nothing else.
     std::optional<PasteboardItem> selection;
 
+    /// What stands on the pasteboard is the text of an insertion that has not been taken back yet,
+    /// ours or a clipboard manager's copy of it.
+    bool isPassing = false;
+    bool selectionIsPassing = false; ///< the same of the second pasteboard
+
     friend bool operator==(const PasteboardContents&, const PasteboardContents&) = default;
 };
 

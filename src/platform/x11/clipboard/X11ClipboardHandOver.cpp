@@ -5,6 +5,13 @@
 
 namespace quorvane {
 
+namespace {
+
+// It says that all is done, and nothing else.
+constexpr qsizetype longestAnswer = 64;
+
+} // namespace
+
 X11ClipboardHandOver::X11ClipboardHandOver(
     X11SelectionInbox& inbox,
     MainQueue& queue,
@@ -17,6 +24,7 @@ X11ClipboardHandOver::X11ClipboardHandOver(
           {inbox.connection()->atom("CLIPBOARD_MANAGER"),
            inbox.connection()->atom("SAVE_TARGETS"),
            time,
+           longestAnswer,
            propertyValue(XCB_ATOM_ATOM, targets)},
           {[] {},
            [this](const auto&) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "X11LentData.h"
 #include "X11QtClipboard.h"
+#include "X11TimeOrder.h"
 
 #include <x11_clipboard/X11ClipboardLoan.h>
 #include <x11_server/QtX11.h>
@@ -28,18 +29,20 @@ X11ClipboardLoan::X11ClipboardLoan(
     if (qtx11::connection() == nullptr)
         return;
     qGuiApp->installNativeEventFilter(this);
+    m_clipboard.onLateTextEnded([this] { followFocus(); });
     // Between two windows of ours the focus is nowhere for a moment.
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
-        m_following = m_queue.after(Seconds(0), [this] { follow(QGuiApplication::focusWindow()); });
+        m_following = m_queue.after(Seconds(0), [this] { followFocus(); });
     });
 }
 
-X11ClipboardLoan::~X11ClipboardLoan() = default;
+X11ClipboardLoan::~X11ClipboardLoan() {
+    m_clipboard.onLateTextEnded([] {});
+}
 
 void X11ClipboardLoan::offer() {
     m_isSuspended = false;
-    if (qtx11::connection() != nullptr)
-        follow(QGuiApplication::focusWindow());
+    followFocus();
 }
 
 void X11ClipboardLoan::suspend() {
@@ -47,10 +50,13 @@ void X11ClipboardLoan::suspend() {
     takeBack();
 }
 
-void X11ClipboardLoan::follow(const QWindow* focus) {
+void X11ClipboardLoan::followFocus() {
+    if (qtx11::connection() == nullptr)
+        return;
+    const auto* focus = QGuiApplication::focusWindow();
     if (focus == nullptr)
         takeBack();
-    else if (m_clipboard.content() != nullptr)
+    else if (isLendable())
         refreshQtTime(*focus);
 }
 
@@ -87,18 +93,22 @@ bool X11ClipboardLoan::nativeEventFilter(const QByteArray& kind, void* message, 
 
 void X11ClipboardLoan::lend() {
     const auto qtTime = std::exchange(m_qtTime, std::nullopt);
-    const auto* content = m_clipboard.content();
     const bool isWanted = !m_isSuspended && QGuiApplication::focusWindow() != nullptr;
-    if (!qtTime || content == nullptr || !isWanted)
+    if (!qtTime || !isLendable() || !isWanted)
         return;
-    const bool isLaterThanOurs = static_cast<std::int32_t>(*qtTime - m_clipboard.since()) >= 0;
+    const bool isLaterThanOurs = !isEarlier(*qtTime, m_clipboard.since());
     if (isLaterThanOurs)
-        QGuiApplication::clipboard()->setMimeData(new X11LentData(content->item()));
+        QGuiApplication::clipboard()->setMimeData(new X11LentData(m_clipboard.content()->item()));
+}
+
+// Qt would give everybody the same.
+bool X11ClipboardLoan::isLendable() const {
+    return m_clipboard.content() != nullptr && !m_clipboard.hasLateText();
 }
 
 void X11ClipboardLoan::takeBack() {
     if (const auto* lent = qtx11::lentData())
-        m_clipboard.own(PasteboardItem(lent->item()));
+        m_clipboard.resume(PasteboardItem(lent->item()));
 }
 
 } // namespace quorvane

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "X11PlainText.h"
-#include "X11QtClipboard.h"
 
-#include <platform/PasteTarget.h>
 #include <x11_clipboard/X11Pasteboard.h>
-#include <x11_server/QtX11.h>
+#include <x11_clipboard/X11PasteboardRestore.h>
+#include <x11_clipboard/X11TextReading.h>
 
 #include <utility>
 
@@ -15,83 +14,99 @@ X11Pasteboard::X11Pasteboard(std::shared_ptr<X11Connection> connection, MainQueu
       m_queue(queue),
       m_windows(m_connection),
       m_clock(m_connection),
-      m_inbox(m_connection),
-      m_clipboard(m_connection, m_queue, m_clock, m_connection->atom("CLIPBOARD")),
-      m_primary(m_connection, m_queue, m_clock, XCB_ATOM_PRIMARY),
-      m_loan(m_connection, m_queue, m_clipboard) {
+      m_inbox(m_connection, m_queue),
+      m_clipboard(m_inbox, m_clock, m_connection->atom("CLIPBOARD"), QClipboard::Clipboard),
+      m_primary(m_inbox, m_clock, XCB_ATOM_PRIMARY, QClipboard::Selection),
+      m_loan(m_connection, m_queue, m_clipboard.owner()) {
 }
 
-void X11Pasteboard::save(SaveHandler done) {
+void X11Pasteboard::save(PasteSource source, SaveHandler done) {
     finishClearing();
-    std::optional<X11PasteboardSave::Source> primary;
-    if (frontWindowPastesFromPrimary())
-        primary = sourceOf(m_primary, QClipboard::Selection);
+    std::optional<X11SelectionSource> primary;
+    if (source == PasteSource::Selection)
+        primary = m_primary.source();
     const auto place = m_saves.emplace(m_saves.end());
     *place = std::make_unique<X11PasteboardSave>(
         m_inbox,
         m_queue,
         m_clock.now(),
-        sourceOf(m_clipboard, QClipboard::Clipboard),
+        m_clipboard.source(),
         std::move(primary),
-        [this, place, done = std::move(done)](PasteboardContents contents) {
+        [this, place, done = std::move(done)](PasteboardContents found) {
             m_saves.erase(place);
-            done(std::move(contents));
+            found.isPassing =
+                m_clipboard.isPassing(found.items.empty() ? PasteboardItem{} : found.items.front());
+            found.selectionIsPassing = found.selection && m_primary.isPassing(*found.selection);
+            done(std::move(found));
         });
 }
 
-// Carried out later in this event-loop iteration, and not at all if new contents are set before, as
-// nearly always: a clipboard manager that sees an empty clipboard would fill it with the old
-// contents.
+// Carried out later in this event-loop iteration, and not at all if a text is set before, as nearly
+// always: a clipboard manager that sees an empty clipboard would fill it with the old contents.
 void X11Pasteboard::clear() {
     m_isClearing = true;
     m_clearing = m_queue.after(Seconds(0), [this] { finishClearing(); });
 }
 
-void X11Pasteboard::setString(const QString& text, TextStay stay) {
-    std::optional<PasteboardItem> primary;
-    if (stay == TextStay::Passing && frontWindowPastesFromPrimary())
-        primary = plainTextItem(text, stay);
-    put(plainTextItem(text, stay), std::move(primary));
+PutOutcome X11Pasteboard::setString(const QString& text, TextStay stay, PasteSource source) {
+    m_clearing.cancel();
+    m_isClearing = false;
+    const auto outcome = stay == TextStay::Passing ? pass(text, source)
+                         : m_clipboard.copy(text)  ? PutOutcome::Taken
+                                                   : PutOutcome::Refused;
+    m_loan.offer();
+    return outcome;
 }
 
-void X11Pasteboard::write(
-    const PasteboardItem& item, const std::optional<PasteboardItem>& selection) {
-    put(item.empty() ? std::nullopt : std::optional(item),
-        !selection || selection->empty() ? std::nullopt : selection);
+/// Into both selections where the keys paste from PRIMARY: some terminals let the user choose.
+PutOutcome X11Pasteboard::pass(const QString& text, PasteSource source) {
+    const auto window = m_windows.active();
+    constexpr xcb_window_t nobody = XCB_WINDOW_NONE;
+    const bool isFromPrimary = source == PasteSource::Selection;
+    const bool isOnClipboard = m_clipboard.pass(text, isFromPrimary ? nobody : window);
+    const bool isTaken = isFromPrimary ? m_primary.pass(text, window) : isOnClipboard;
+    return isTaken ? PutOutcome::Taken : PutOutcome::Refused;
+}
+
+std::unique_ptr<PasteboardRequest> X11Pasteboard::restore(
+    PasteboardItem item, std::optional<PasteboardItem> selection, std::function<void()> done) {
+    auto request = std::make_unique<X11PasteboardRestore>(
+        m_clipboard, std::move(item), m_primary, std::move(selection), std::move(done));
+    m_loan.offer();
+    return request;
+}
+
+std::unique_ptr<PasteboardRequest> X11Pasteboard::readText(PasteSource source, TextHandler done) {
+    const auto& selection = source == PasteSource::Selection ? m_primary : m_clipboard;
+    const X11TextReading::Limits limits{
+        X11SelectionSave::longestSilence, X11SelectionSave::longestSave, longestText};
+    return std::make_unique<X11TextReading>(
+        m_inbox, selection.source(), m_clock.now(), limits, std::move(done));
 }
 
 void X11Pasteboard::handOver(std::function<void()> done) {
     finishClearing();
     m_loan.suspend();
-    const auto* content = m_clipboard.content();
-    if (content == nullptr || !hasClipboardManager()) {
+    if (!isToBeHandedOver() || !hasClipboardManager()) {
         m_loan.offer();
         return m_queue.async(std::move(done));
     }
     const auto place = m_handOvers.emplace(m_handOvers.end());
     *place = std::make_unique<X11ClipboardHandOver>(
-        m_inbox, m_queue, m_clock.now(), content->targets(), [this, place, done = std::move(done)] {
+        m_inbox,
+        m_queue,
+        m_clock.now(),
+        m_clipboard.owner().content()->targets(),
+        [this, place, done = std::move(done)] {
             m_handOvers.erase(place);
             done();
         });
 }
 
-bool X11Pasteboard::frontWindowPastesFromPrimary() const {
-    const auto target = pasteTargetFor(m_windows.classOf(m_windows.active()));
-    return target.source == PasteSource::Selection;
-}
-
-X11PasteboardSave::Source
-X11Pasteboard::sourceOf(const X11SelectionOwner& owner, QClipboard::Mode mode) const {
-    // The server knows of an owner after us before we do.
-    const auto window = m_connection->selectionOwner(owner.selection());
-    if (const auto* content = owner.content(); content != nullptr && m_connection->owns(window))
-        return {owner.selection(), content->item()};
-    if (window == XCB_WINDOW_NONE)
-        return {owner.selection(), PasteboardItem{}};
-    if (qtx11::owns(window))
-        return {owner.selection(), qtx11::clipboardItem(mode)};
-    return {owner.selection(), std::nullopt};
+/// A manager that keeps a password would show it in its history.
+bool X11Pasteboard::isToBeHandedOver() const {
+    const auto* content = m_clipboard.owner().content();
+    return content != nullptr && !content->item().empty() && !isSecret(content->item());
 }
 
 bool X11Pasteboard::hasClipboardManager() const {
@@ -99,25 +114,10 @@ bool X11Pasteboard::hasClipboardManager() const {
     return m_connection->selectionOwner(manager) != XCB_WINDOW_NONE;
 }
 
-// Without contents for PRIMARY we give it up, if it is ours.
-void X11Pasteboard::put(
-    std::optional<PasteboardItem> clipboard, std::optional<PasteboardItem> primary) {
-    m_clearing.cancel();
-    const bool wasClearing = std::exchange(m_isClearing, false);
-    if (clipboard)
-        m_clipboard.own(*std::move(clipboard));
-    else if (wasClearing)
-        m_clipboard.empty();
-    if (primary)
-        m_primary.own(*std::move(primary));
-    else
-        m_primary.giveUp();
-    m_loan.offer();
-}
-
 void X11Pasteboard::finishClearing() {
-    if (m_isClearing)
-        put(std::nullopt, std::nullopt);
+    m_clearing.cancel();
+    if (std::exchange(m_isClearing, false))
+        m_clipboard.empty();
 }
 
 } // namespace quorvane

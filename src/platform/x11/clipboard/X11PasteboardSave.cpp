@@ -9,8 +9,8 @@ X11PasteboardSave::X11PasteboardSave(
     X11SelectionInbox& inbox,
     MainQueue& queue,
     xcb_timestamp_t time,
-    Source clipboard,
-    std::optional<Source> primary,
+    X11SelectionSource clipboard,
+    std::optional<X11SelectionSource> primary,
     Pasteboard::SaveHandler done)
     : m_inbox(inbox),
       m_queue(queue),
@@ -22,7 +22,7 @@ X11PasteboardSave::X11PasteboardSave(
     m_soon = m_queue.after(Seconds(0), [this] { finishWhenComplete(); });
 }
 
-void X11PasteboardSave::begin(Part& part, Source source, xcb_timestamp_t time) {
+void X11PasteboardSave::begin(Part& part, X11SelectionSource source, xcb_timestamp_t time) {
     part.item = std::move(source.atHand);
     if (part.item)
         return;

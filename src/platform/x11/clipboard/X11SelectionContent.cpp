@@ -1,17 +1,25 @@
 // SPDX-License-Identifier: MIT
+#include "X11PlainText.h"
+
 #include <x11_clipboard/X11SelectionContent.h>
 
 #include <utility>
 
 namespace quorvane {
 
-X11SelectionContent::X11SelectionContent(X11Connection& connection, PasteboardItem item)
+X11SelectionContent::X11SelectionContent(const X11Connection& connection, PasteboardItem item)
     : m_item(std::move(item)) {
-    for (const auto& entry : m_item) {
-        const auto target = connection.atom(entry.type);
-        const auto type = entry.encoding.isEmpty() ? target : connection.atom(entry.encoding);
+    QStringList names;
+    for (const auto& entry : m_item)
+        names << entry.type << (entry.encoding.isEmpty() ? entry.type : entry.encoding);
+    const auto atoms = connection.atoms(names);
+    for (std::size_t i = 0; i < m_item.size(); ++i) {
+        const auto& entry = m_item[i];
+        const auto target = atoms[2 * i];
         m_targets.push_back(target);
-        m_values[target] = {type, entry.unitBits, entry.bytes};
+        m_values[target] = {atoms[2 * i + 1], entry.unitBits, entry.bytes};
+        if (isPlainText(entry.type))
+            m_texts.insert(target);
     }
 }
 

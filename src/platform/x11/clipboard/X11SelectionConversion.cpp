@@ -6,11 +6,21 @@
 
 namespace quorvane {
 
+namespace {
+
+// A piece takes the server and us about a millisecond; the event loop turns before the next.
+constexpr qsizetype pieceBytes = 1'048'576;
+constexpr qsizetype bytesPerUnit = 4;
+
+} // namespace
+
 X11SelectionConversion::X11SelectionConversion(
     X11SelectionInbox& inbox, const X11SelectionRequest& request, Callbacks callbacks)
     : m_inbox(inbox),
       m_selection(request.selection),
       m_target(request.target),
+      m_time(request.time),
+      m_maxBytes(request.maxBytes),
       m_property(inbox.lease()),
       m_callbacks(std::move(callbacks)),
       m_subscription(inbox.connection()->subscribe(
@@ -19,7 +29,7 @@ X11SelectionConversion::X11SelectionConversion(
     if (request.parameter)
         writePropertyValue(connection, m_inbox.window(), m_property, *request.parameter);
     xcb_convert_selection(
-        connection.xcb(), m_inbox.window(), m_selection, m_target, m_property, request.time);
+        connection.xcb(), m_inbox.window(), m_selection, m_target, m_property, m_time);
     connection.flush();
 }
 
@@ -36,56 +46,82 @@ void X11SelectionConversion::handle(const xcb_generic_event_t& event) {
         const auto* answer = eventAs<xcb_selection_notify_event_t>(event);
         if (answer != nullptr && answer->requestor == m_inbox.window())
             takeAnswer(*answer);
-    } else if (m_stage == Stage::Incremental) {
-        const auto* change = eventAs<xcb_property_notify_event_t>(event);
-        if (change != nullptr && change->window == m_inbox.window() && change->atom == m_property &&
-            change->state == XCB_PROPERTY_NEW_VALUE)
-            takeIncrement();
+    } else if (m_stage == Stage::AwaitingIncrement && isNewIncrement(event)) {
+        readPiece();
     }
 }
 
+// A property may have served an earlier request, whose answer comes only now.
 void X11SelectionConversion::takeAnswer(const xcb_selection_notify_event_t& answer) {
-    if (answer.selection != m_selection || answer.target != m_target)
+    if (answer.selection != m_selection || answer.target != m_target || answer.time != m_time)
         return;
     // A refusal names no property. Two requests for the same get the same refusal.
     if (answer.property == XCB_ATOM_NONE)
         return finish(std::nullopt);
-    if (answer.property != m_property)
-        return;
-    auto value = takeProperty();
-    if (!value || value->type != m_inbox.connection()->atom("INCR"))
-        return finish(std::move(value));
-    m_stage = Stage::Incremental;
+    if (answer.property == m_property)
+        readPiece();
+}
+
+void X11SelectionConversion::readPiece() {
+    m_stage = Stage::Reading;
+    auto& connection = *m_inbox.connection();
+    const X11Reading reading{
+        .deletes = true,
+        .offset = static_cast<std::uint32_t>(m_readOfProperty / bytesPerUnit),
+        .maxLength = static_cast<std::uint32_t>(pieceBytes / bytesPerUnit)};
+    auto piece = readPropertyPiece(connection, m_inbox.window(), m_property, reading);
+    connection.flush();
+    if (piece)
+        return takePiece(*std::move(piece));
+    // An increment that was announced late has been read with its predecessor's announcement.
+    if (m_isIncremental)
+        m_stage = Stage::AwaitingIncrement;
+    else
+        finish(std::nullopt);
+}
+
+void X11SelectionConversion::takePiece(X11PropertyPiece piece) {
+    if (!m_isIncremental && piece.value.type == m_inbox.connection()->atom("INCR")) {
+        m_isIncremental = true;
+        m_stage = Stage::AwaitingIncrement;
+        return m_callbacks.progress();
+    }
+    m_readOfProperty += piece.value.bytes.size();
+    if (!m_received)
+        m_received = X11PropertyValue{piece.value.type, piece.value.unitBits, {}};
+    m_received->bytes += piece.value.bytes;
+    if (m_received->bytes.size() > m_maxBytes) {
+        m_received->bytes.truncate(m_maxBytes);
+        m_inbox.discard(m_property);
+        return finish(X11SelectionAnswer{*std::exchange(m_received, std::nullopt), true});
+    }
+    if (piece.isLast)
+        return takeEnd();
+    m_nextPiece = m_inbox.queue().after(Seconds(0), [this] { readPiece(); });
     m_callbacks.progress();
 }
 
-void X11SelectionConversion::takeIncrement() {
-    auto part = takeProperty();
-    // An increment that was announced late has been read with its predecessor's announcement.
-    if (!part)
-        return;
-    const bool isLast = part->bytes.isEmpty();
-    if (m_received)
-        m_received->bytes += part->bytes;
-    else
-        m_received = std::move(part);
+/// The property has been read to its end.
+void X11SelectionConversion::takeEnd() {
+    const bool isLast = !m_isIncremental || m_readOfProperty == 0;
+    m_readOfProperty = 0;
     if (isLast)
-        finish(std::move(m_received));
-    else
-        m_callbacks.progress();
+        return finish(X11SelectionAnswer{*std::exchange(m_received, std::nullopt), false});
+    m_stage = Stage::AwaitingIncrement;
+    m_callbacks.progress();
 }
 
-void X11SelectionConversion::finish(std::optional<X11PropertyValue> value) {
-    m_stage = Stage::Done;
+bool X11SelectionConversion::isNewIncrement(const xcb_generic_event_t& event) const {
+    const auto* change = eventAs<xcb_property_notify_event_t>(event);
+    return change != nullptr && change->window == m_inbox.window() && change->atom == m_property &&
+           change->state == XCB_PROPERTY_NEW_VALUE;
+}
+
+void X11SelectionConversion::finish(Answer answer) {
+    // The rest of increments that were cut is still to come.
+    m_stage = answer && answer->isCut && m_isIncremental ? Stage::Cut : Stage::Done;
     const auto done = std::move(m_callbacks.done);
-    done(std::move(value));
-}
-
-std::optional<X11PropertyValue> X11SelectionConversion::takeProperty() {
-    auto& connection = *m_inbox.connection();
-    auto value = readPropertyValue(connection, m_inbox.window(), m_property, {.deletes = true});
-    connection.flush();
-    return value;
+    done(std::move(answer));
 }
 
 } // namespace quorvane

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace quorvane {
@@ -17,30 +18,23 @@ Q_LOGGING_CATEGORY(lcDelivery, "quorvane.pasteboard.delivery", QtFatalMsg)
 // Large enough that few round trips are needed, small enough to leave the server to others.
 constexpr qsizetype preferredPiece = 262'144;
 
-qsizetype largestPiece(xcb_connection_t* connection) {
-    constexpr qsizetype bytesPerUnit = 4;
-    const auto request = qsizetype{xcb_get_maximum_request_length(connection)} * bytesPerUnit;
-    const auto room = request - qsizetype{sizeof(xcb_change_property_request_t)} - bytesPerUnit;
-    return std::min(preferredPiece, room);
-}
-
 } // namespace
 
 X11SelectionDelivery::X11SelectionDelivery(
     std::shared_ptr<X11Connection> connection, MainQueue& queue)
     : m_connection(std::move(connection)),
       m_queue(queue),
-      m_largestPiece(largestPiece(m_connection->xcb())),
+      m_largestPiece(std::min(preferredPiece, longestPropertyValue(*m_connection))),
       m_subscription(
           m_connection->subscribe([this](const xcb_generic_event_t& event) { handle(event); })) {
 }
 
 bool X11SelectionDelivery::deliver(
     xcb_window_t requestor, xcb_atom_t property, const X11PropertyValue& value) {
-    if (value.bytes.size() <= m_largestPiece) {
-        writePropertyValue(*m_connection, requestor, property, value);
-        return true;
-    }
+    if (value.bytes.size() <= m_largestPiece)
+        return writePropertyValue(*m_connection, requestor, property, value);
+    if (transferCount() >= mostTransfers)
+        return false;
     auto* receiver = requestorAt(requestor);
     if (receiver == nullptr)
         return false;
@@ -63,6 +57,16 @@ X11SelectionDelivery::Requestor* X11SelectionDelivery::requestorAt(xcb_window_t 
     auto& requestor = m_requestors[window];
     requestor.watch = std::move(watch);
     return &requestor;
+}
+
+std::size_t X11SelectionDelivery::transferCount() const {
+    return std::accumulate(
+        m_requestors.begin(),
+        m_requestors.end(),
+        std::size_t{0},
+        [](std::size_t sum, const auto& requestor) {
+            return sum + requestor.second.transfers.size();
+        });
 }
 
 void X11SelectionDelivery::handle(const xcb_generic_event_t& event) {

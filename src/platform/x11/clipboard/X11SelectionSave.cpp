@@ -9,18 +9,11 @@
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 Q_LOGGING_CATEGORY(lcSave, "quorvane.pasteboard.save", QtFatalMsg)
 
-QStringList namesOf(X11Connection& connection, const X11PropertyValue& atoms) {
-    QStringList names;
-    for (const auto atom : unitsOf(atoms))
-        names.append(connection.atomName(atom));
-    return names;
-}
+constexpr qsizetype bytesPerAtom = 4;
 
 } // namespace
 
@@ -40,15 +33,16 @@ X11SelectionSave::X11SelectionSave(
           finish();
       })) {
     awaitProgress();
-    ask(u"TARGETS"_s, [this](const Answer& answer) { takeTargets(answer); });
+    ask(m_inbox.connection()->atom("TARGETS"),
+        mostTargets * bytesPerAtom,
+        [this](const Answer& answer) { takeTargets(answer); });
 }
 
-void X11SelectionSave::ask(const QString& target, std::function<void(Answer)> then) {
-    const X11SelectionRequest request{
-        m_selection, m_inbox.connection()->atom(target), m_time, std::nullopt};
+void X11SelectionSave::ask(
+    xcb_atom_t target, qsizetype maxBytes, std::function<void(Answer)> then) {
     m_conversion = std::make_unique<X11SelectionConversion>(
         m_inbox,
-        request,
+        X11SelectionRequest{m_selection, target, m_time, maxBytes},
         X11SelectionConversion::Callbacks{[this] { awaitProgress(); }, std::move(then)});
 }
 
@@ -60,30 +54,46 @@ void X11SelectionSave::awaitProgress() {
 }
 
 void X11SelectionSave::takeTargets(const Answer& answer) {
+    auto& connection = *m_inbox.connection();
     // An owner that is too old to answer TARGETS may still have a text.
-    m_targets = answer ? contentTargets(namesOf(*m_inbox.connection(), *answer))
-                       : QStringList{u"UTF8_STRING"_s, u"STRING"_s};
+    noteTargets(
+        answer ? unitsOf(answer->value)
+               : std::vector{connection.atom("UTF8_STRING"), xcb_atom_t{XCB_ATOM_STRING}});
     m_unread = readingOrder(m_targets);
     readNext();
+}
+
+void X11SelectionSave::noteTargets(const std::vector<xcb_atom_t>& atoms) {
+    const auto names = m_inbox.connection()->atomNames(atoms);
+    for (qsizetype i = 0; i < names.size(); ++i)
+        m_atoms.emplace(names[i], atoms[static_cast<std::size_t>(i)]);
+    m_targets = contentTargets(names);
 }
 
 void X11SelectionSave::readNext() {
     if (m_unread.isEmpty())
         return finish();
     awaitProgress();
-    ask(m_unread.front(),
+    ask(m_atoms.at(m_unread.front()),
+        m_bytesLeft,
         [this, target = m_unread.front()](const Answer& answer) { takeContents(target, answer); });
 }
 
 void X11SelectionSave::takeContents(const QString& target, const Answer& answer) {
     m_unread.removeFirst();
-    if (answer) {
-        const auto encoding = m_inbox.connection()->atomName(answer->type);
-        m_read[target] = {target, answer->bytes, encoding, answer->unitBits};
-    } else {
+    if (!answer)
         qCDebug(lcSave, "%ls cannot be read", qUtf16Printable(target));
-    }
+    else if (answer->isCut)
+        qCDebug(lcSave, "%ls is too long", qUtf16Printable(target));
+    else
+        keep(target, answer->value);
     readNext();
+}
+
+void X11SelectionSave::keep(const QString& target, const X11PropertyValue& value) {
+    const auto encoding = m_inbox.connection()->atomNames({value.type}).front();
+    m_bytesLeft -= value.bytes.size();
+    m_read[target] = {target, value.bytes, encoding, value.unitBits};
 }
 
 void X11SelectionSave::finish() {

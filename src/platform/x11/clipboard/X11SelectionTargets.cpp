@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "X11SelectionTargets.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <array>
 
@@ -36,10 +38,12 @@ auto rankOf(const QString& target) {
 
 QStringList contentTargets(const QStringList& targets) {
     QStringList contents;
+    QSet<QStringView> known(questionsAndOrders.begin(), questionsAndOrders.end());
     for (const auto& target : targets) {
-        if (!target.isEmpty() && !contents.contains(target) &&
-            std::ranges::find(questionsAndOrders, QStringView(target)) == questionsAndOrders.end())
+        if (!target.isEmpty() && !known.contains(target)) {
+            known.insert(target);
             contents.append(target);
+        }
     }
     return contents;
 }

@@ -84,13 +84,12 @@ xcb_atom_t X11Connection::atom(const QString& name) {
     return atom(name.toUtf8().constData());
 }
 
-QString X11Connection::atomName(xcb_atom_t atom) {
-    const XcbReply<xcb_get_atom_name_reply_t> reply(
-        xcb_get_atom_name_reply(m_connection, xcb_get_atom_name(m_connection, atom), nullptr));
-    if (!reply)
-        return {};
-    return QString::fromUtf8(
-        xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get()));
+std::vector<xcb_atom_t> X11Connection::atoms(const QStringList& names) const {
+    return xcbrequests::atoms(m_connection, names);
+}
+
+QStringList X11Connection::atomNames(const std::vector<xcb_atom_t>& atoms) {
+    return m_atomNames.of(m_connection, atoms);
 }
 
 xcb_window_t X11Connection::selectionOwner(xcb_atom_t selection) const {

@@ -2,6 +2,7 @@
 #include <x11_server/X11PropertyValue.h>
 
 #include <cstring>
+#include <utility>
 
 namespace quorvane {
 
@@ -26,31 +27,44 @@ std::vector<std::uint32_t> unitsOf(const X11PropertyValue& value) {
 
 std::optional<X11PropertyValue> readPropertyValue(
     const X11Connection& connection, xcb_window_t window, xcb_atom_t property, X11Reading reading) {
+    auto piece = readPropertyPiece(connection, window, property, reading);
+    return piece ? std::optional(std::move(piece->value)) : std::nullopt;
+}
+
+std::optional<X11PropertyPiece> readPropertyPiece(
+    const X11Connection& connection, xcb_window_t window, xcb_atom_t property, X11Reading reading) {
     const auto cookie = xcb_get_property(
         connection.xcb(),
         reading.deletes ? 1 : 0,
         window,
         property,
         XCB_GET_PROPERTY_TYPE_ANY,
-        0,
+        reading.offset,
         reading.maxLength);
     const XcbReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection.xcb(), cookie, nullptr));
     if (!reply || reply->type == XCB_ATOM_NONE)
         return std::nullopt;
-    return X11PropertyValue{
-        reply->type,
-        reply->format,
-        QByteArray(
-            static_cast<const char*>(xcb_get_property_value(reply.get())),
-            xcb_get_property_value_length(reply.get()))};
+    const QByteArray bytes(
+        static_cast<const char*>(xcb_get_property_value(reply.get())),
+        xcb_get_property_value_length(reply.get()));
+    return X11PropertyPiece{{reply->type, reply->format, bytes}, reply->bytes_after == 0};
 }
 
-void writePropertyValue(
+qsizetype longestPropertyValue(const X11Connection& connection) {
+    const auto request =
+        qsizetype{xcb_get_maximum_request_length(connection.xcb())} * bytesPerUnit32;
+    // A request that needs an extended length field is longer by that.
+    return request - qsizetype{sizeof(xcb_change_property_request_t)} - bytesPerUnit32;
+}
+
+bool writePropertyValue(
     const X11Connection& connection,
     xcb_window_t window,
     xcb_atom_t property,
     const X11PropertyValue& value) {
+    if (value.bytes.size() > longestPropertyValue(connection))
+        return false;
     const auto units = value.bytes.size() * 8 / value.unitBits;
     xcb_change_property(
         connection.xcb(),
@@ -61,6 +75,7 @@ void writePropertyValue(
         static_cast<std::uint8_t>(value.unitBits),
         static_cast<std::uint32_t>(units),
         value.bytes.constData());
+    return true;
 }
 
 } // namespace quorvane

@@ -23,6 +23,22 @@ xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+std::vector<xcb_atom_t> atoms(xcb_connection_t* connection, const QStringList& names) {
+    std::vector<xcb_intern_atom_cookie_t> questions;
+    for (const auto& name : names) {
+        const auto bytes = name.toUtf8();
+        const auto length = static_cast<std::uint16_t>(bytes.size());
+        questions.push_back(xcb_intern_atom(connection, 0, length, bytes.constData()));
+    }
+    std::vector<xcb_atom_t> atoms;
+    for (const auto& question : questions) {
+        const XcbReply<xcb_intern_atom_reply_t> reply(
+            xcb_intern_atom_reply(connection, question, nullptr));
+        atoms.push_back(reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE});
+    }
+    return atoms;
+}
+
 xcb_window_t selectionOwner(xcb_connection_t* connection, xcb_atom_t selection) {
     const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         connection, xcb_get_selection_owner(connection, selection), nullptr));

@@ -4,33 +4,69 @@
 #include <platform/Pasteboard.h>
 #include <testing/CallLog.h>
 
-#include <memory>
+#include <vector>
 
 namespace quorvane {
 
-/// A pasteboard that holds what the test and the program put on it. A save is answered after
-/// `saveDelay` on the virtual clock.
+/// A pasteboard that holds what the test, in the name of other programs, and the program put on it,
+/// and knows whose it is. A save is answered after `saveDelay` on the virtual clock; the owner of
+/// other contents answers at once, or never.
 class FakePasteboard final : public Pasteboard {
 public:
     FakePasteboard(CallLog& log, MainQueue& queue) : m_log(log), m_queue(queue) {}
 
-    void save(SaveHandler done) override;
+    void save(PasteSource source, SaveHandler done) override;
     void clear() override;
-    void setString(const QString& text, TextStay stay) override;
-    void write(const PasteboardItem& item, const std::optional<PasteboardItem>& selection) override;
+    [[nodiscard]] PutOutcome
+    setString(const QString& text, TextStay stay, PasteSource source) override;
+    [[nodiscard]] std::unique_ptr<PasteboardRequest> restore(
+        PasteboardItem item,
+        std::optional<PasteboardItem> selection,
+        std::function<void()> done) override;
+    [[nodiscard]] std::unique_ptr<PasteboardRequest>
+    readText(PasteSource source, TextHandler done) override;
     void handOver(std::function<void()> done) override;
 
-    [[nodiscard]] const PasteboardContents& contents() const { return m_contents; }
+    /// Of both pasteboards; no selection where the second one is empty.
+    [[nodiscard]] PasteboardContents contents() const;
 
-    void setContents(PasteboardContents contents) { m_contents = std::move(contents); }
+    /// Another program copies, and marks the selection if there is one.
+    void setContents(PasteboardContents contents);
+
+    /// A clipboard manager makes a copy of what stands there its own.
+    void takeOverByManager();
+
+    /// Whether other programs answer when they are asked for what they own.
+    void setOthersAnswer(bool answer) { m_othersAnswer = answer; }
+
+    /// Whether another program is always faster.
+    void setRefusing(bool refusing) { m_refusing = refusing; }
 
     void setSaveDelay(Seconds delay) { m_saveDelay = delay; }
 
 private:
+    enum class Owner { Another, OursPassing, OursLasting };
+
+    struct Board {
+        std::vector<PasteboardItem> items;
+        Owner owner = Owner::Another;
+        std::optional<QString> passing; ///< the text whose restore is due
+
+        [[nodiscard]] bool holdsPassing() const;
+        void put(std::vector<PasteboardItem> contents, Owner by);
+    };
+
+    void restore(Board& board, PasteboardItem item) const;
+    [[nodiscard]] bool mustAsk(const Board& board) const;
+
     CallLog& m_log;
     MainQueue& m_queue;
-    PasteboardContents m_contents;
+    Board m_clipboard;
+    Board m_selection;
     Seconds m_saveDelay{0};
+    bool m_othersAnswer = true;
+    bool m_refusing = false;
+    Deadline m_clearing;
     std::vector<Deadline> m_pending;
 };
 

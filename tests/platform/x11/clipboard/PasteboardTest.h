@@ -20,7 +20,8 @@ class PasteboardTest : public testing::Test {
 protected:
     void startSave() {
         m_saved.reset();
-        m_pasteboard.save([this](PasteboardContents contents) { m_saved = std::move(contents); });
+        m_pasteboard.save(
+            m_source, [this](PasteboardContents contents) { m_saved = std::move(contents); });
     }
 
     /// What the save that has been started gives, however long others take for it.
@@ -51,6 +52,32 @@ protected:
         return contents.items.empty() ? PasteboardItem{} : contents.items.front();
     }
 
+    void copy(const QString& text) {
+        EXPECT_EQ(m_pasteboard.setString(text, TextStay::Lasting, m_source), PutOutcome::Taken);
+    }
+
+    void pass(const QString& text) {
+        EXPECT_EQ(m_pasteboard.setString(text, TextStay::Passing, m_source), PutOutcome::Taken);
+    }
+
+    void restore(PasteboardItem item, std::optional<PasteboardItem> selection = std::nullopt) {
+        m_isRestored = false;
+        m_restoring = m_pasteboard.restore(
+            std::move(item), std::move(selection), [this] { m_isRestored = true; });
+    }
+
+    /// Without waiting for a limit to pass.
+    [[nodiscard]] bool isRestoredSoon() {
+        return waitUntil([this] { return m_isRestored; });
+    }
+
+    /// What we own when an insertion is over, and nobody is to get its text any more.
+    void giveBack(const PasteboardItem& item) {
+        pass(QStringLiteral("passing"));
+        restore(item);
+        m_queue.advance(X11LateText::longestForEarlierRequests);
+    }
+
     /// Another program takes a selection, and says nothing when it is asked. The main loop has not
     /// turned when this returns: we have not been told.
     static void takeSelection(const ForeignWindow& program, xcb_atom_t selection) {
@@ -63,7 +90,10 @@ protected:
     SteppedMainQueue m_queue;
     std::shared_ptr<X11Connection> m_connection = X11Connection::open();
     X11Pasteboard m_pasteboard{m_connection, m_queue};
+    PasteSource m_source = PasteSource::Clipboard; ///< of the window in front
     std::optional<PasteboardContents> m_saved;
+    std::unique_ptr<PasteboardRequest> m_restoring;
+    bool m_isRestored = false;
 };
 
 } // namespace quorvane

@@ -34,7 +34,7 @@ TEST_F(X11PasteboardHandOverTest, TheManagerKeepsWhatWeOwn) {
         {u"UTF8_STRING"_s, "text"_ba, u"UTF8_STRING"_s},
         {u"big"_s, noise(700'000), u"INTEGER"_s, 32},
     };
-    m_pasteboard.write(item, std::nullopt);
+    giveBack(item);
     startHandOver();
     EXPECT_TRUE(isDoneAtOnce());
     const auto report = manager->nextReport();
@@ -45,7 +45,7 @@ TEST_F(X11PasteboardHandOverTest, TheManagerKeepsWhatWeOwn) {
 
 TEST_F(X11PasteboardHandOverTest, AManagerThatHangsIsGivenUpAfterASecond) {
     const auto manager = startManager(false);
-    m_pasteboard.setString(u"text"_s, TextStay::Lasting);
+    copy(u"text"_s);
     startHandOver();
     m_queue.advance(Seconds(0.999));
     EXPECT_FALSE(m_isDone);
@@ -54,7 +54,7 @@ TEST_F(X11PasteboardHandOverTest, AManagerThatHangsIsGivenUpAfterASecond) {
 }
 
 TEST_F(X11PasteboardHandOverTest, WithoutAManagerItIsDoneSoon) {
-    m_pasteboard.setString(u"text"_s, TextStay::Lasting);
+    copy(u"text"_s);
     startHandOver();
     EXPECT_TRUE(isDoneAtOnce());
 }

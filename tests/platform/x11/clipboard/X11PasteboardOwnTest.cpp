@@ -15,7 +15,7 @@ using X11PasteboardOwnTest = PasteboardTest;
 const auto hint = u"x-kde-passwordManagerHint"_s;
 
 TEST_F(X11PasteboardOwnTest, OffersATextUnderTheNamesOfPlainText) {
-    m_pasteboard.setString(u"caf\u00E9"_s, TextStay::Lasting);
+    copy(u"caf\u00E9"_s);
     const auto utf8 = "caf\xC3\xA9"_ba;
     const auto latin1 = "caf\xE9"_ba;
     const PasteboardItem expected{
@@ -29,7 +29,7 @@ TEST_F(X11PasteboardOwnTest, OffersATextUnderTheNamesOfPlainText) {
 }
 
 TEST_F(X11PasteboardOwnTest, OffersNoLatin1ThatWouldLoseCharacters) {
-    m_pasteboard.setString(u"3\u202FPM \U0001F552"_s, TextStay::Lasting);
+    copy(u"3\u202FPM \U0001F552"_s);
     const auto utf8 = "3\xE2\x80\xAFPM \xF0\x9F\x95\x92"_ba;
     const PasteboardItem expected{
         {u"UTF8_STRING"_s, utf8, u"UTF8_STRING"_s},
@@ -41,33 +41,33 @@ TEST_F(X11PasteboardOwnTest, OffersNoLatin1ThatWouldLoseCharacters) {
 }
 
 TEST_F(X11PasteboardOwnTest, OffersAnEmptyText) {
-    m_pasteboard.setString(QString(), TextStay::Passing);
+    pass(QString());
     const auto contents = contentsOf();
     ASSERT_FALSE(contents.empty());
     EXPECT_EQ(contents.front(), (PasteboardEntry{u"UTF8_STRING"_s, ""_ba, u"UTF8_STRING"_s}));
 }
 
 TEST_F(X11PasteboardOwnTest, APassingTextAsksHistoriesToLeaveItAlone) {
-    m_pasteboard.setString(u"text"_s, TextStay::Passing);
+    pass(u"text"_s);
     const auto contents = contentsOf();
     ASSERT_FALSE(contents.empty());
     EXPECT_EQ(contents.back(), (PasteboardEntry{hint, "secret"_ba, hint}));
 }
 
 TEST_F(X11PasteboardOwnTest, ALastingTextDoesNot) {
-    m_pasteboard.setString(u"text"_s, TextStay::Lasting);
+    copy(u"text"_s);
     EXPECT_FALSE(typesOf(contentsOf()).contains(hint));
 }
 
 TEST_F(X11PasteboardOwnTest, NamesItsTargetsInTheItemsOrderBehindTheQuestions) {
-    m_pasteboard.write({{u"b"_s, "1"_ba, u"b"_s}, {u"a"_s, "2"_ba, u"a"_s}}, std::nullopt);
+    giveBack({{u"b"_s, "1"_ba, u"b"_s}, {u"a"_s, "2"_ba, u"a"_s}});
     EXPECT_EQ(
         readAs(u"names"_s).toVariant().toStringList(),
         (QStringList{u"TARGETS"_s, u"TIMESTAMP"_s, u"MULTIPLE"_s, u"b"_s, u"a"_s}));
 }
 
 TEST_F(X11PasteboardOwnTest, AnEntryWithoutAnEncodingHasItsTypeForOne) {
-    m_pasteboard.write({{u"image/png"_s, "png"_ba, QString()}}, std::nullopt);
+    giveBack({{u"image/png"_s, "png"_ba, QString()}});
     EXPECT_EQ(contentsOf(), (PasteboardItem{{u"image/png"_s, "png"_ba, u"image/png"_s}}));
 }
 
@@ -77,7 +77,7 @@ TEST_F(X11PasteboardOwnTest, AnswersSeveralTargetsInOneRequest) {
         {u"big"_s, noise(900'000), u"INTEGER"_s, 32},
         {u"bigger"_s, noise(1'500'000), u"bigger"_s},
     };
-    m_pasteboard.write(item, std::nullopt);
+    giveBack(item);
     const auto answers = readAs(u"multiple"_s, {u"a"_s, u"absent"_s, u"big"_s, u"bigger"_s});
     EXPECT_EQ(entryFrom(answers[0]), item[0]);
     EXPECT_TRUE(answers[1].isNull());
@@ -86,12 +86,12 @@ TEST_F(X11PasteboardOwnTest, AnswersSeveralTargetsInOneRequest) {
 }
 
 TEST_F(X11PasteboardOwnTest, AnswersAClientOfOldThatNamesNoProperty) {
-    m_pasteboard.setString(u"text"_s, TextStay::Lasting);
+    copy(u"text"_s);
     EXPECT_EQ(entryFrom(readAs(u"obsolete"_s, {u"STRING"_s})).bytes, "text"_ba);
 }
 
 TEST_F(X11PasteboardOwnTest, RefusesWhatWasAskedOfTheOwnerBefore) {
-    m_pasteboard.setString(u"text"_s, TextStay::Lasting);
+    copy(u"text"_s);
     EXPECT_FALSE(readAs(u"outdated"_s, {u"STRING"_s, 0}).isNull());
     EXPECT_TRUE(readAs(u"outdated"_s, {u"STRING"_s, 1}).isNull());
 }
@@ -101,7 +101,7 @@ TEST_F(X11PasteboardOwnTest, SendsInIncrementsOnlyWhatIsLargerThanAQuarterOfAMeb
         {u"whole"_s, noise(256 * 1024), u"whole"_s},
         {u"cut"_s, noise(256 * 1024 + 1), u"cut"_s},
     };
-    m_pasteboard.write(item, std::nullopt);
+    giveBack(item);
     const auto answers = readAs(u"contents"_s);
     EXPECT_EQ(itemFrom(answers), item);
     EXPECT_EQ(answers[0][u"pieces"_s].toInt(), 1);
@@ -110,7 +110,7 @@ TEST_F(X11PasteboardOwnTest, SendsInIncrementsOnlyWhatIsLargerThanAQuarterOfAMeb
 
 TEST_F(X11PasteboardOwnTest, SendsIncrementsToSeveralSideBySide) {
     const auto bytes = noise(3'000'000);
-    m_pasteboard.write({{u"big"_s, bytes, u"big"_s}}, std::nullopt);
+    giveBack({{u"big"_s, bytes, u"big"_s}});
     const auto received = readAs(u"parallel"_s, {u"big"_s}).toArray();
     ASSERT_EQ(received.size(), 2);
     for (const auto& one : received)
@@ -119,14 +119,14 @@ TEST_F(X11PasteboardOwnTest, SendsIncrementsToSeveralSideBySide) {
 
 TEST_F(X11PasteboardOwnTest, OutlivesAReceiverThatVanishesAmidItsData) {
     const PasteboardItem item{{u"big"_s, noise(3'000'000), u"big"_s}};
-    m_pasteboard.write(item, std::nullopt);
+    giveBack(item);
     EXPECT_EQ(readAs(u"vanishing"_s, {u"big"_s}), u"vanished"_s);
     EXPECT_EQ(contentsOf(), item);
 }
 
 TEST_F(X11PasteboardOwnTest, FinishesATransferAfterTheSelectionIsLost) {
     const auto bytes = noise(6'000'000);
-    m_pasteboard.write({{u"big"_s, bytes, u"big"_s}}, std::nullopt);
+    giveBack({{u"big"_s, bytes, u"big"_s}});
     ForeignProgram reader(
         u"selection_reader.py"_s,
         {{u"selection"_s, clipboardSelection},
@@ -140,7 +140,7 @@ TEST_F(X11PasteboardOwnTest, FinishesATransferAfterTheSelectionIsLost) {
 }
 
 TEST_F(X11PasteboardOwnTest, ForgetsItsContentsWhenAnotherProgramTakesTheSelection) {
-    m_pasteboard.setString(u"mine"_s, TextStay::Lasting);
+    copy(u"mine"_s);
     const auto owner = startOwner({textOffer("theirs")});
     EXPECT_EQ(savedItem(), itemOf({textOffer("theirs")}));
 }
@@ -148,7 +148,7 @@ TEST_F(X11PasteboardOwnTest, ForgetsItsContentsWhenAnotherProgramTakesTheSelecti
 TEST_F(X11PasteboardOwnTest, TakesTheClipboardFromAnotherProgram) {
     const auto owner = startOwner({textOffer("theirs")});
     m_pasteboard.clear();
-    m_pasteboard.setString(u"mine"_s, TextStay::Lasting);
+    copy(u"mine"_s);
     EXPECT_EQ(owner->nextReport(), u"lost"_s);
     EXPECT_EQ(contentsOf().front().bytes, "mine"_ba);
 }
@@ -158,7 +158,7 @@ TEST_F(X11PasteboardOwnTest, ClearingLeavesNoOwnerWhoeverItWas) {
     m_pasteboard.clear();
     EXPECT_EQ(owner->nextReport(), u"lost"_s);
     EXPECT_FALSE(readAs(u"owned"_s).toBool());
-    m_pasteboard.setString(u"mine"_s, TextStay::Lasting);
+    copy(u"mine"_s);
     m_pasteboard.clear();
     EXPECT_TRUE(waitUntil([] { return !readAs(u"owned"_s).toBool(); }));
 }
@@ -170,13 +170,13 @@ TEST_F(X11PasteboardOwnTest, NothingIsSavedBetweenAClearAndTheIterationsEnd) {
 }
 
 TEST_F(X11PasteboardOwnTest, ContentsThatFollowOnAClearStay) {
-    m_pasteboard.setString(u"first"_s, TextStay::Passing);
+    pass(u"first"_s);
     m_pasteboard.clear();
-    m_pasteboard.setString(u"second"_s, TextStay::Passing);
+    pass(u"second"_s);
     m_pasteboard.clear();
     // A save ends the clear: the server's word of the loss comes after the next text.
-    m_pasteboard.save([](const PasteboardContents&) {});
-    m_pasteboard.setString(u"third"_s, TextStay::Lasting);
+    m_pasteboard.save(m_source, [](const PasteboardContents&) {});
+    copy(u"third"_s);
     EXPECT_EQ(contentsOf().front().bytes, "third"_ba);
     EXPECT_EQ(contentsOf().front().bytes, "third"_ba);
 }
@@ -201,17 +201,17 @@ TEST_F(X11PasteboardOwnTest, NobodySeesAnEmptyClipboardBetweenTwoContents) {
             isOwned.push_back(change.owner != XCB_WINDOW_NONE);
         }
     });
-    m_pasteboard.setString(u"first"_s, TextStay::Passing);
+    pass(u"first"_s);
     m_pasteboard.clear();
-    m_pasteboard.setString(u"second"_s, TextStay::Passing);
+    pass(u"second"_s);
     m_pasteboard.clear();
     EXPECT_TRUE(waitUntil([&isOwned] { return !isOwned.empty() && !isOwned.back(); }));
     EXPECT_EQ(isOwned, (std::vector{true, true, false}));
 }
 
-TEST_F(X11PasteboardOwnTest, WritingNothingChangesNothing) {
+TEST_F(X11PasteboardOwnTest, RestoringWithoutAPassingTextChangesNothing) {
     const auto owner = startOwner({textOffer("theirs")});
-    m_pasteboard.write({}, std::nullopt);
+    restore({});
     EXPECT_EQ(contentsOf(), itemOf({textOffer("theirs")}));
 }
 

@@ -88,9 +88,8 @@ TEST_F(X11PasteboardQtTest, SavesWhatATextFieldOfOursHasCopied) {
     const auto item = savedItem();
     focusAnotherProgram();
     m_pasteboard.clear();
-    m_pasteboard.setString(u"12:30"_s, TextStay::Passing);
-    m_pasteboard.clear();
-    m_pasteboard.write(item, std::nullopt);
+    pass(u"12:30"_s);
+    restore(item);
     const auto contents = contentsOf();
     EXPECT_EQ(
         typesOf(contents),
@@ -117,14 +116,14 @@ TEST_F(X11PasteboardQtTest, SavesAllFormatsOfQtsClipboard) {
 
 TEST_F(X11PasteboardQtTest, OurTextFieldPastesAtOnceWhatWeCopiedInItsWindow) {
     focusOurField();
-    m_pasteboard.setString(u"12:30"_s, TextStay::Lasting);
+    copy(u"12:30"_s);
     ASSERT_TRUE(isQtsSoon());
     EXPECT_EQ(pasted(), u"12:30"_s);
 }
 
 TEST_F(X11PasteboardQtTest, OurTextFieldPastesByKeysThatFollowOnTheText) {
     focusOurField();
-    m_pasteboard.setString(u"12:30"_s, TextStay::Passing);
+    pass(u"12:30"_s);
     Keyboard keyboard;
     keyboard.type({KEY_LEFTCTRL, KEY_V});
     QElapsedTimer clock;
@@ -135,7 +134,7 @@ TEST_F(X11PasteboardQtTest, OurTextFieldPastesByKeysThatFollowOnTheText) {
 
 TEST_F(X11PasteboardQtTest, OurTextFieldPastesAtOnceWhatWeHadRestoredBefore) {
     focusAnotherProgram();
-    m_pasteboard.write(foreignItem, std::nullopt);
+    giveBack(foreignItem);
     focusOurField();
     ASSERT_TRUE(isQtsSoon());
     EXPECT_EQ(pasted(), u"caf\u00E9"_s);
@@ -143,7 +142,7 @@ TEST_F(X11PasteboardQtTest, OurTextFieldPastesAtOnceWhatWeHadRestoredBefore) {
 
 TEST_F(X11PasteboardQtTest, WhatWasLentIsServedBitForBitOnceTheFocusIsElsewhere) {
     focusOurField();
-    m_pasteboard.write(foreignItem, std::nullopt);
+    giveBack(foreignItem);
     ASSERT_TRUE(isQtsSoon());
     focusAnotherProgram();
     ASSERT_TRUE(isOursSoon());
@@ -152,14 +151,14 @@ TEST_F(X11PasteboardQtTest, WhatWasLentIsServedBitForBitOnceTheFocusIsElsewhere)
 
 TEST_F(X11PasteboardQtTest, WhatIsLentIsSavedBitForBit) {
     focusOurField();
-    m_pasteboard.write(foreignItem, std::nullopt);
+    giveBack(foreignItem);
     ASSERT_TRUE(isQtsSoon());
     EXPECT_EQ(savedItem(), foreignItem);
 }
 
 TEST_F(X11PasteboardQtTest, WhatIsLentIsClearedLikeTheRest) {
     focusOurField();
-    m_pasteboard.write(foreignItem, std::nullopt);
+    giveBack(foreignItem);
     ASSERT_TRUE(isQtsSoon());
     m_pasteboard.clear();
     EXPECT_TRUE(waitUntil([this] { return owner() == XCB_WINDOW_NONE; }));
@@ -169,7 +168,7 @@ TEST_F(X11PasteboardQtTest, WhatIsLentIsClearedLikeTheRest) {
 
 TEST_F(X11PasteboardQtTest, APassingTextStaysASecretWhileItIsLent) {
     focusOurField();
-    m_pasteboard.setString(u"12:30"_s, TextStay::Passing);
+    pass(u"12:30"_s);
     ASSERT_TRUE(isQtsSoon());
     const auto types = typesOf(contentsOf());
     EXPECT_TRUE(types.contains(u"x-kde-passwordManagerHint"_s));
@@ -178,7 +177,7 @@ TEST_F(X11PasteboardQtTest, APassingTextStaysASecretWhileItIsLent) {
 
 TEST_F(X11PasteboardQtTest, AnotherProgramMayTakeWhatIsLent) {
     focusOurField();
-    m_pasteboard.write(foreignItem, std::nullopt);
+    giveBack(foreignItem);
     ASSERT_TRUE(isQtsSoon());
     const auto program = startOwner({textOffer("theirs")});
     focusAnotherProgram();
@@ -189,7 +188,7 @@ TEST_F(X11PasteboardQtTest, WhatIsLentIsHandedOverBitForBit) {
     ForeignProgram manager(u"clipboard_manager.py"_s, {{u"answers"_s, true}});
     ASSERT_EQ(manager.nextReport(), u"ready"_s);
     focusOurField();
-    m_pasteboard.write(foreignItem, std::nullopt);
+    giveBack(foreignItem);
     ASSERT_TRUE(isQtsSoon());
     bool isDone = false;
     m_pasteboard.handOver([&isDone] { isDone = true; });

@@ -18,12 +18,11 @@ protected:
         const auto item = savedItem();
         RecordProperty("millisecondsToSave", static_cast<int>(clock.elapsed()));
         m_pasteboard.clear();
-        m_pasteboard.setString(u"12:30"_s, TextStay::Passing);
+        pass(u"12:30"_s);
         const auto passing = contentsOf();
         ASSERT_FALSE(passing.empty());
         EXPECT_EQ(passing.front().bytes, "12:30"_ba);
-        m_pasteboard.clear();
-        m_pasteboard.write(item, std::nullopt);
+        restore(item);
     }
 };
 
@@ -112,12 +111,12 @@ TEST_F(X11PasteboardXclipTest, ReadsALargePictureFromXclip) {
 
 TEST_F(X11PasteboardXclipTest, GivesALargePictureToXclip) {
     const auto picture = noise(6'000'000);
-    m_pasteboard.write({{u"image/png"_s, picture, u"image/png"_s}}, std::nullopt);
+    giveBack({{u"image/png"_s, picture, u"image/png"_s}});
     EXPECT_EQ(run({u"-o"_s, u"-t"_s, u"image/png"_s}), picture);
 }
 
 TEST_F(X11PasteboardXclipTest, GivesTextToXclipByItsDefaultTarget) {
-    m_pasteboard.setString(u"ab\ncd"_s, TextStay::Lasting);
+    copy(u"ab\ncd"_s);
     EXPECT_EQ(run({u"-o"_s}), "ab\ncd"_ba);
 }
 

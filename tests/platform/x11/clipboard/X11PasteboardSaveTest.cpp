@@ -57,7 +57,7 @@ TEST_F(X11PasteboardSaveTest, WithoutAnOwnerThereIsNothingToSave) {
 
 TEST_F(X11PasteboardSaveTest, CallsBackInALaterIteration) {
     bool isDone = false;
-    m_pasteboard.save([&isDone](const PasteboardContents&) { isDone = true; });
+    m_pasteboard.save(m_source, [&isDone](const PasteboardContents&) { isDone = true; });
     EXPECT_FALSE(isDone);
     EXPECT_TRUE(waitUntil([&isDone] { return isDone; }));
 }
@@ -183,7 +183,8 @@ TEST_F(X11PasteboardSaveTest, EachOfSeveralSavesAtOnceGetsItsOwnResult) {
     const auto owner = startOwner(offers);
     std::vector<PasteboardContents> results;
     for (int i = 0; i < 3; ++i)
-        m_pasteboard.save([&results](auto contents) { results.push_back(std::move(contents)); });
+        m_pasteboard.save(
+            m_source, [&results](auto contents) { results.push_back(std::move(contents)); });
     ASSERT_TRUE(waitUntil([&results] { return results.size() == 3; }));
     const PasteboardContents expected{{itemOf(offers)}, std::nullopt};
     EXPECT_EQ(results, std::vector(3, expected));
@@ -191,12 +192,12 @@ TEST_F(X11PasteboardSaveTest, EachOfSeveralSavesAtOnceGetsItsOwnResult) {
 
 TEST_F(X11PasteboardSaveTest, GivesOutWhatItOwnsItselfWithoutAsking) {
     const PasteboardItem item{{u"own"_s, noise(500'000), u"INTEGER"_s, 32}};
-    m_pasteboard.write(item, std::nullopt);
+    giveBack(item);
     EXPECT_EQ(savedItem(), item);
 }
 
 TEST_F(X11PasteboardSaveTest, AsksAnOwnerWhomWeHaveNotNoticedYet) {
-    m_pasteboard.setString(u"ours"_s, TextStay::Lasting);
+    copy(u"ours"_s);
     ForeignWindow taciturn;
     takeSelection(taciturn, m_connection->atom("CLIPBOARD"));
     startSave();
@@ -208,7 +209,7 @@ TEST_F(X11PasteboardSaveTest, ASaveThatIsStillUnderWayEndsWithThePasteboard) {
     bool isDone = false;
     {
         X11Pasteboard shortLived(m_connection, m_queue);
-        shortLived.save([&isDone](const PasteboardContents&) { isDone = true; });
+        shortLived.save(m_source, [&isDone](const PasteboardContents&) { isDone = true; });
     }
     startSave();
     EXPECT_EQ(outcomeAfter(silence), PasteboardContents{});

@@ -33,9 +33,10 @@ public:
 
 private:
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
-    void follow(const QWindow* focus);
+    void followFocus();
     void refreshQtTime(const QWindow& window);
     void lend();
+    [[nodiscard]] bool isLendable() const;
     void takeBack();
 
     std::shared_ptr<X11Connection> m_connection;

@@ -6,12 +6,10 @@
 #include <x11_clipboard/X11ClipboardHandOver.h>
 #include <x11_clipboard/X11ClipboardLoan.h>
 #include <x11_clipboard/X11PasteboardSave.h>
+#include <x11_clipboard/X11PasteboardSelection.h>
 #include <x11_clipboard/X11SelectionInbox.h>
-#include <x11_clipboard/X11SelectionOwner.h>
 #include <x11_server/X11ServerClock.h>
 #include <x11_windows/X11Windows.h>
-
-#include <QClipboard>
 
 #include <functional>
 #include <list>
@@ -27,21 +25,25 @@ public:
     /// The queue must outlive it.
     X11Pasteboard(std::shared_ptr<X11Connection> connection, MainQueue& queue);
 
-    void save(SaveHandler done) override;
+    void save(PasteSource source, SaveHandler done) override;
     void clear() override;
-    void setString(const QString& text, TextStay stay) override;
-    void write(const PasteboardItem& item, const std::optional<PasteboardItem>& selection) override;
+    [[nodiscard]] PutOutcome
+    setString(const QString& text, TextStay stay, PasteSource source) override;
+    [[nodiscard]] std::unique_ptr<PasteboardRequest> restore(
+        PasteboardItem item,
+        std::optional<PasteboardItem> selection,
+        std::function<void()> done) override;
+    [[nodiscard]] std::unique_ptr<PasteboardRequest>
+    readText(PasteSource source, TextHandler done) override;
     void handOver(std::function<void()> done) override;
 
 private:
     using Saves = std::list<std::unique_ptr<X11PasteboardSave>>;
     using HandOvers = std::list<std::unique_ptr<X11ClipboardHandOver>>;
 
-    [[nodiscard]] bool frontWindowPastesFromPrimary() const;
-    [[nodiscard]] X11PasteboardSave::Source
-    sourceOf(const X11SelectionOwner& owner, QClipboard::Mode mode) const;
+    [[nodiscard]] PutOutcome pass(const QString& text, PasteSource source);
+    [[nodiscard]] bool isToBeHandedOver() const;
     [[nodiscard]] bool hasClipboardManager() const;
-    void put(std::optional<PasteboardItem> clipboard, std::optional<PasteboardItem> primary);
     void finishClearing();
 
     std::shared_ptr<X11Connection> m_connection;
@@ -49,8 +51,8 @@ private:
     X11Windows m_windows;
     X11ServerClock m_clock;
     X11SelectionInbox m_inbox;
-    X11SelectionOwner m_clipboard;
-    X11SelectionOwner m_primary;
+    X11PasteboardSelection m_clipboard;
+    X11PasteboardSelection m_primary;
     X11ClipboardLoan m_loan;
     bool m_isClearing = false;
     Deadline m_clearing;

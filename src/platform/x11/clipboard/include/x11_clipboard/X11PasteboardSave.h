@@ -3,6 +3,7 @@
 
 #include <platform/Pasteboard.h>
 #include <x11_clipboard/X11SelectionSave.h>
+#include <x11_clipboard/X11SelectionSource.h>
 
 #include <memory>
 #include <optional>
@@ -13,20 +14,14 @@ namespace quorvane {
 /// by side.
 class X11PasteboardSave {
 public:
-    /// Where a selection's contents come from.
-    struct Source {
-        xcb_atom_t selection = XCB_ATOM_NONE;
-        std::optional<PasteboardItem> atHand; ///< none: its owner has to be asked
-    };
-
     /// Calls `done` once, in a later event-loop iteration; it may destroy the save. Destroying it
     /// earlier gives up. Inbox and queue must outlive it.
     X11PasteboardSave(
         X11SelectionInbox& inbox,
         MainQueue& queue,
         xcb_timestamp_t time,
-        Source clipboard,
-        std::optional<Source> primary,
+        X11SelectionSource clipboard,
+        std::optional<X11SelectionSource> primary,
         Pasteboard::SaveHandler done);
 
     X11PasteboardSave(const X11PasteboardSave&) = delete;
@@ -38,7 +33,7 @@ private:
         std::unique_ptr<X11SelectionSave> reading;
     };
 
-    void begin(Part& part, Source source, xcb_timestamp_t time);
+    void begin(Part& part, X11SelectionSource source, xcb_timestamp_t time);
     void finishWhenComplete();
 
     X11SelectionInbox& m_inbox;

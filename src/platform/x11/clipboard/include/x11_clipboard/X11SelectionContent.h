@@ -6,6 +6,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace quorvane {
@@ -13,7 +14,7 @@ namespace quorvane {
 /// What the owner of a selection has to offer: one item, its types as targets.
 class X11SelectionContent {
 public:
-    X11SelectionContent(X11Connection& connection, PasteboardItem item);
+    X11SelectionContent(const X11Connection& connection, PasteboardItem item);
 
     [[nodiscard]] const PasteboardItem& item() const { return m_item; }
 
@@ -23,10 +24,14 @@ public:
     /// None for what is not among the targets.
     [[nodiscard]] std::optional<X11PropertyValue> value(xcb_atom_t target) const;
 
+    /// Whether the target is one of a plain text.
+    [[nodiscard]] bool isText(xcb_atom_t target) const { return m_texts.contains(target); }
+
 private:
     PasteboardItem m_item;
     std::vector<xcb_atom_t> m_targets;
     std::map<xcb_atom_t, X11PropertyValue> m_values;
+    std::set<xcb_atom_t> m_texts;
 };
 
 } // namespace quorvane

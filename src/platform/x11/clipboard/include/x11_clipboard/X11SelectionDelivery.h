@@ -18,10 +18,13 @@ public:
     /// A requestor that takes no increment for this long is given up.
     static constexpr Seconds longestPause{10.0};
 
+    /// Transfers in increments side by side.
+    static constexpr std::size_t mostTransfers = 64;
+
     /// The queue must outlive it.
     X11SelectionDelivery(std::shared_ptr<X11Connection> connection, MainQueue& queue);
 
-    /// False where the requestor is gone.
+    /// False where the requestor is gone, or one transfer more would be too many.
     [[nodiscard]] bool
     deliver(xcb_window_t requestor, xcb_atom_t property, const X11PropertyValue& value);
 
@@ -38,6 +41,7 @@ private:
     };
 
     [[nodiscard]] Requestor* requestorAt(xcb_window_t window);
+    [[nodiscard]] std::size_t transferCount() const;
     void handle(const xcb_generic_event_t& event);
     void sendIncrement(xcb_window_t window, xcb_atom_t property);
     void awaitProgress(xcb_window_t window, Requestor& requestor);

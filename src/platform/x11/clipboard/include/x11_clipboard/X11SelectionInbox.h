@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/MainQueue.h>
 #include <x11_server/X11Connection.h>
 #include <x11_server/X11HiddenWindow.h>
 
+#include <deque>
 #include <memory>
-#include <set>
 #include <vector>
 
 namespace quorvane {
@@ -15,9 +16,18 @@ namespace quorvane {
 /// that is gone, gets an error that many programs do not survive.
 class X11SelectionInbox {
 public:
-    explicit X11SelectionInbox(std::shared_ptr<X11Connection> connection);
+    /// Properties whose answer is still awaited although nobody wants it; one more, and the oldest
+    /// is used anew.
+    static constexpr std::size_t mostAbandoned = 32;
+    /// Increments that are thrown away for one owner; it is left alone with the others.
+    static constexpr int mostDiscards = 4096;
+
+    /// The queue must outlive it.
+    X11SelectionInbox(std::shared_ptr<X11Connection> connection, MainQueue& queue);
 
     [[nodiscard]] const std::shared_ptr<X11Connection>& connection() const { return m_connection; }
+
+    [[nodiscard]] MainQueue& queue() const { return m_queue; }
 
     [[nodiscard]] xcb_window_t window() const { return m_window.id(); }
 
@@ -30,13 +40,22 @@ public:
     /// The answer is no longer wanted, but may still come: it is thrown away then.
     void abandon(xcb_atom_t property);
 
+    /// Throws away what the property holds.
+    void discard(xcb_atom_t property);
+
 private:
+    struct Abandoned {
+        xcb_atom_t property;
+        int discards = 0;
+    };
+
     void handle(const xcb_generic_event_t& event);
 
     std::shared_ptr<X11Connection> m_connection;
+    MainQueue& m_queue;
     X11HiddenWindow m_window;
     std::vector<xcb_atom_t> m_spare;
-    std::set<xcb_atom_t> m_abandoned;
+    std::deque<Abandoned> m_abandoned; ///< the oldest first
     int m_made = 0;
     X11Connection::Subscription m_subscription;
 };

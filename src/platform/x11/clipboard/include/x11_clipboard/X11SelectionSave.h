@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace quorvane {
 
@@ -23,6 +24,11 @@ public:
     static constexpr Seconds longestSilence{0.3};
     /// And in any case after this long.
     static constexpr Seconds longestSave{1.0};
+
+    /// Of an owner's targets, the first.
+    static constexpr qsizetype mostTargets = 256;
+    /// Bytes in all; a target that does not fit in what is left of them is dropped.
+    static constexpr qsizetype largestSave = 268'435'456;
 
     /// Calls `done` once, in a later event-loop iteration, with what was read, in the owner's
     /// order; it may destroy the save. Destroying it earlier gives up. All requests carry the same
@@ -39,13 +45,15 @@ public:
     X11SelectionSave& operator=(const X11SelectionSave&) = delete;
 
 private:
-    using Answer = std::optional<X11PropertyValue>;
+    using Answer = X11SelectionConversion::Answer;
 
-    void ask(const QString& target, std::function<void(Answer)> then);
+    void ask(xcb_atom_t target, qsizetype maxBytes, std::function<void(Answer)> then);
     void awaitProgress();
     void takeTargets(const Answer& answer);
+    void noteTargets(const std::vector<xcb_atom_t>& atoms);
     void readNext();
     void takeContents(const QString& target, const Answer& answer);
+    void keep(const QString& target, const X11PropertyValue& value);
     void finish();
 
     X11SelectionInbox& m_inbox;
@@ -54,8 +62,10 @@ private:
     xcb_timestamp_t m_time;
     Done m_done;
     QStringList m_targets; ///< in the owner's order
-    QStringList m_unread;  ///< in the order of reading
+    std::map<QString, xcb_atom_t> m_atoms;
+    QStringList m_unread; ///< in the order of reading
     std::map<QString, PasteboardEntry> m_read;
+    qsizetype m_bytesLeft = largestSave;
     std::unique_ptr<X11SelectionConversion> m_conversion;
     Deadline m_silence;
     Deadline m_end;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <x11_server/X11AtomNames.h>
 #include <x11_server/XcbReply.h>
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <xcb/xcb.h>
 
 #include <functional>
@@ -12,6 +14,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 class QSocketNotifier;
 
@@ -54,8 +57,12 @@ public:
 
     [[nodiscard]] xcb_atom_t atom(const char* name);
     [[nodiscard]] xcb_atom_t atom(const QString& name);
-    /// Empty for an atom that the server does not know.
-    [[nodiscard]] QString atomName(xcb_atom_t atom);
+
+    /// For names that others have chosen: all in one round trip, and none of them is kept.
+    [[nodiscard]] std::vector<xcb_atom_t> atoms(const QStringList& names) const;
+
+    /// In one round trip at most. Empty for an atom that the server does not know.
+    [[nodiscard]] QStringList atomNames(const std::vector<xcb_atom_t>& atoms);
 
     /// The window that owns the selection, of any program; XCB_WINDOW_NONE for none.
     [[nodiscard]] xcb_window_t selectionOwner(xcb_atom_t selection) const;
@@ -91,6 +98,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::list<std::weak_ptr<EventHandler>> m_handlers;
     std::unordered_map<std::string, xcb_atom_t> m_atoms;
+    X11AtomNames m_atomNames;
     xcb_timestamp_t m_lastUserTime = XCB_CURRENT_TIME;
 };
 

@@ -28,7 +28,8 @@ propertyValue(xcb_atom_t type, const std::vector<std::uint32_t>& units);
 
 /// How a property is read.
 struct X11Reading {
-    bool deletes = false; ///< only a value that is read to its end is deleted
+    bool deletes = false;     ///< only a value that is read to its end is deleted
+    std::uint32_t offset = 0; ///< in units of 32 bits
     /// At most so many units of 32 bits; the server multiplies them by four.
     std::uint32_t maxLength = std::numeric_limits<std::int32_t>::max() / 4;
 };
@@ -40,9 +41,22 @@ struct X11Reading {
     xcb_atom_t property,
     X11Reading reading = {});
 
-/// In one request: the value must not be longer than the server takes in one. Does nothing
-/// if the window no longer exists.
-void writePropertyValue(
+/// A part of what a property holds.
+struct X11PropertyPiece {
+    X11PropertyValue value;
+    bool isLast = true;
+};
+
+/// The same, for properties that may be longer than one wants to read at once.
+[[nodiscard]] std::optional<X11PropertyPiece> readPropertyPiece(
+    const X11Connection& connection, xcb_window_t window, xcb_atom_t property, X11Reading reading);
+
+/// The longest value that the server takes in one request, in bytes; whole units of any size.
+[[nodiscard]] qsizetype longestPropertyValue(const X11Connection& connection);
+
+/// In one request. False, and nothing done, where the value is longer than the server takes in one:
+/// such a request would end the connection. Nothing happens if the window no longer exists.
+bool writePropertyValue(
     const X11Connection& connection,
     xcb_window_t window,
     xcb_atom_t property,
