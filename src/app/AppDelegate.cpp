@@ -65,7 +65,10 @@ AppDelegate::AppDelegate(Dependencies dependencies)
           {*m_dependencies.platform.accessibilityRight,
            *m_dependencies.platform.eventTaps,
            m_dependencies.mainQueue},
-          weakly(&AppDelegate::togglePresentation)),
+          {weakly(&AppDelegate::togglePresentation),
+           [this] {
+               m_preferences.refreshSoon();
+           }}),
       m_preferences(
           {m_model,
            *m_dependencies.platform.keyboardLayout,

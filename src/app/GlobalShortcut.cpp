@@ -1,20 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "GlobalShortcut.h"
 
+#include <QLoggingCategory>
+
 #include <utility>
 
 namespace quorvane {
 
-GlobalShortcut::GlobalShortcut(Dependencies dependencies, std::function<void()> onTriggered)
+namespace {
+
+Q_LOGGING_CATEGORY(lcShortcut, "quorvane.shortcut", QtFatalMsg)
+
+} // namespace
+
+GlobalShortcut::GlobalShortcut(Dependencies dependencies, Callbacks callbacks)
     : m_dependencies(dependencies),
-      m_onTriggered(std::move(onTriggered)) {
+      m_callbacks(std::move(callbacks)),
+      m_press(m_dependencies.mainQueue) {
+}
+
+GlobalShortcut::~GlobalShortcut() {
+    if (!m_monitor)
+        return;
+    // Triggers that are queued keep the monitor alive.
+    m_monitor->setOnTriggered({});
+    m_monitor->setOnReleased({});
+    m_monitor->setOnDeliveryChanged({});
 }
 
 void GlobalShortcut::startHotKeyMonitor(HotKeyCombo combo) {
     m_monitor = HotKeyMonitor::create(
         combo,
         {m_dependencies.accessibilityRight, m_dependencies.eventTaps, m_dependencies.mainQueue});
-    m_monitor->setOnTriggered(m_onTriggered);
+    m_monitor->setOnTriggered([this] { handleTrigger(); });
+    m_monitor->setOnReleased([this] { m_press.end(); });
+    m_monitor->setOnDeliveryChanged(m_callbacks.onActivityChanged);
     m_monitor->start();
 }
 
@@ -23,14 +43,36 @@ void GlobalShortcut::change(HotKeyCombo combo) {
         return;
     m_monitor->setCombo(combo);
     m_monitor->stop();
+    m_press.end();
     m_monitor->start();
+}
+
+void GlobalShortcut::retry() {
+    if (m_monitor)
+        m_monitor->retry();
 }
 
 ShortcutRecorder::Activity GlobalShortcut::activity() const {
     using Activity = ShortcutRecorder::Activity;
     if (!m_monitor || m_monitor->lastFailure())
         return Activity::Unavailable;
-    return m_monitor->isArmed() ? Activity::Active : Activity::HeldElsewhere;
+    switch (m_monitor->delivery()) {
+    case TapDelivery::Delivering:
+        return Activity::Active;
+    case TapDelivery::HeldElsewhere:
+        return Activity::HeldElsewhere;
+    case TapDelivery::NoSuchKey:
+    case TapDelivery::Off: // of modifiers that no keyboard has, no press is watched
+        break;
+    }
+    return Activity::NoSuchKey;
+}
+
+void GlobalShortcut::handleTrigger() {
+    if (m_press.begins(m_monitor->tellsRelease()))
+        m_callbacks.onPressed();
+    else
+        qCDebug(lcShortcut, "a repeat of the key that is held down");
 }
 
 } // namespace quorvane

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ShortcutPress.h"
+
 #include <hotkey/HotKeyMonitor.h>
 #include <recorder/ShortcutRecorder.h>
 
@@ -19,13 +21,29 @@ public:
         MainQueue& mainQueue;
     };
 
-    GlobalShortcut(Dependencies dependencies, std::function<void()> onTriggered);
+    struct Callbacks {
+        /// Once for each press, however long the key is held down.
+        std::function<void()> onPressed;
+        /// activity() says something else than before.
+        std::function<void()> onActivityChanged;
+    };
+
+    GlobalShortcut(Dependencies dependencies, Callbacks callbacks);
+    ~GlobalShortcut();
+
+    GlobalShortcut(const GlobalShortcut&) = delete;
+    GlobalShortcut& operator=(const GlobalShortcut&) = delete;
 
     /// Makes the monitor and arms it.
     void startHotKeyMonitor(HotKeyCombo combo);
 
     /// Arms another shortcut in place of this one. Does nothing before the start.
     void change(HotKeyCombo combo);
+
+    /// Asks again for a shortcut that another program held. Nobody tells when one becomes free, so
+    /// this is called whenever something happens after which it may have. It costs the others
+    /// nothing; does nothing where the shortcut is ours.
+    void retry();
 
     /// Whether presses of the shortcut reach the program.
     [[nodiscard]] ShortcutRecorder::Activity activity() const;
@@ -34,8 +52,11 @@ public:
     [[nodiscard]] const HotKeyMonitor* monitor() const { return m_monitor.get(); }
 
 private:
+    void handleTrigger();
+
     Dependencies m_dependencies;
-    std::function<void()> m_onTriggered;
+    Callbacks m_callbacks;
+    ShortcutPress m_press;
     std::shared_ptr<HotKeyMonitor> m_monitor;
 };
 

@@ -40,21 +40,33 @@ void HotKeyMonitor::setOnTriggered(std::function<void()> onTriggered) {
     m_onTriggered = std::move(onTriggered);
 }
 
+void HotKeyMonitor::setOnReleased(std::function<void()> onReleased) {
+    m_onReleased = std::move(onReleased);
+}
+
+void HotKeyMonitor::setOnDeliveryChanged(std::function<void()> onDeliveryChanged) {
+    m_onDeliveryChanged = std::move(onDeliveryChanged);
+}
+
 void HotKeyMonitor::start() {
     m_lastFailure.reset();
     if (!m_dependencies.accessibilityRight.isTrusted())
         return fail({u"the accessibility right is missing"_s});
 
-    auto result =
-        m_dependencies.eventTaps.createTap([this](const KeyPress& press) { return handle(press); });
+    auto result = m_dependencies.eventTaps.createTap(
+        {[this](const KeyPress& press) { return handle(press); },
+         [this] { schedule(&HotKeyMonitor::m_onReleased); },
+         [this] {
+             announceDelivery();
+         }});
     if (auto* failure = std::get_if<TapFailure>(&result))
         return fail(std::move(*failure));
 
     m_eventTap = std::move(std::get<std::unique_ptr<EventTap>>(result));
     watchCombo();
     m_eventTap->enable();
-    if (!m_eventTap->isDelivering())
-        qCInfo(lcHotKey, "armed, but the shortcut is not ours: another program holds it");
+    if (!isArmed())
+        qCInfo(lcHotKey, "armed, but no press of the shortcut comes to us");
 }
 
 void HotKeyMonitor::stop() {
@@ -64,8 +76,13 @@ void HotKeyMonitor::stop() {
     m_eventTap.reset();
 }
 
-bool HotKeyMonitor::isArmed() const {
-    return m_eventTap && m_eventTap->isDelivering();
+void HotKeyMonitor::retry() {
+    if (delivery() == TapDelivery::HeldElsewhere)
+        m_eventTap->enable();
+}
+
+TapDelivery HotKeyMonitor::delivery() const {
+    return m_eventTap ? m_eventTap->delivery() : TapDelivery::Off;
 }
 
 TapVerdict HotKeyMonitor::handle(const KeyPress& press) {
@@ -75,15 +92,22 @@ TapVerdict HotKeyMonitor::handle(const KeyPress& press) {
         static_cast<std::uint32_t>(press.keyCode), toCarbonModifiers(press.flags)};
     if (pressed != m_combo)
         return TapVerdict::Pass;
-    scheduleTrigger();
+    schedule(&HotKeyMonitor::m_onTriggered);
     return TapVerdict::Swallow;
 }
 
-void HotKeyMonitor::scheduleTrigger() {
-    m_dependencies.mainQueue.async([self = shared_from_this()] {
+void HotKeyMonitor::schedule(Callback HotKeyMonitor::*callback) {
+    m_dependencies.mainQueue.async([self = shared_from_this(), callback] {
         // A copy: the callback may replace itself.
-        if (const auto onTriggered = self->m_onTriggered)
-            onTriggered();
+        if (const auto run = (*self).*callback)
+            run();
+    });
+}
+
+void HotKeyMonitor::announceDelivery() {
+    m_dependencies.mainQueue.async([weak = weak_from_this()] {
+        if (const auto self = weak.lock(); self && self->m_onDeliveryChanged)
+            self->m_onDeliveryChanged();
     });
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <testing/FakeEventTaps.h>
 
+#include <utility>
+
 namespace quorvane {
 
 namespace {
@@ -10,10 +12,10 @@ public:
     FakeEventTap(
         CallLog& log,
         std::shared_ptr<FakeEventTaps::TapState> state,
-        std::shared_ptr<bool> heldElsewhere)
+        std::shared_ptr<const FakeEventTaps::Desktop> desktop)
         : m_log(log),
           m_state(std::move(state)),
-          m_heldElsewhere(std::move(heldElsewhere)) {}
+          m_desktop(std::move(desktop)) {}
 
     ~FakeEventTap() override {
         m_state->enabled = false;
@@ -43,36 +45,59 @@ public:
         updateGrab();
     }
 
-    [[nodiscard]] bool isDelivering() const override { return m_state->grabbed.has_value(); }
+    [[nodiscard]] TapDelivery delivery() const override { return m_delivery; }
+
+    [[nodiscard]] bool tellsRelease() const override { return m_desktop->tellsRelease; }
 
 private:
     void updateGrab() {
+        const auto delivery = updatedDelivery();
+        if (std::exchange(m_delivery, delivery) != delivery)
+            m_state->handlers.deliveryChanged();
+    }
+
+    [[nodiscard]] TapDelivery updatedDelivery() {
         const auto wanted = m_state->enabled ? m_state->watched : std::nullopt;
         // What we hold nobody can take from us.
-        if (wanted != m_state->grabbed)
-            m_state->grabbed = *m_heldElsewhere ? std::nullopt : wanted;
+        if (wanted && wanted == m_state->grabbed)
+            return TapDelivery::Delivering;
+        m_state->grabbed.reset();
+        if (!wanted)
+            return TapDelivery::Off;
+        if (m_desktop->lacksKey)
+            return TapDelivery::NoSuchKey;
+        if (m_desktop->heldElsewhere)
+            return TapDelivery::HeldElsewhere;
+        m_state->grabbed = wanted;
+        return TapDelivery::Delivering;
     }
 
     CallLog& m_log;
     std::shared_ptr<FakeEventTaps::TapState> m_state;
-    std::shared_ptr<bool> m_heldElsewhere;
+    std::shared_ptr<const FakeEventTaps::Desktop> m_desktop;
+    TapDelivery m_delivery = TapDelivery::Off;
 };
 
 } // namespace
 
-TapResult FakeEventTaps::createTap(KeyPressHandler handler) {
+TapResult FakeEventTaps::createTap(TapHandlers handlers) {
     m_log.add("createTap");
     if (m_refusal)
         return *m_refusal;
     m_tap = std::make_shared<TapState>();
-    m_tap->handler = std::move(handler);
-    return std::make_unique<FakeEventTap>(m_log, m_tap, m_heldElsewhere);
+    m_tap->handlers = std::move(handlers);
+    return std::make_unique<FakeEventTap>(m_log, m_tap, m_desktop);
 }
 
 TapVerdict FakeEventTaps::press(const KeyPress& press) {
     if (!m_tap || !m_tap->enabled || (m_tap->watched && !m_tap->grabbed))
         return TapVerdict::Pass;
-    return m_tap->handler(press);
+    return m_tap->handlers.pressed(press);
+}
+
+void FakeEventTaps::release() {
+    if (m_tap && m_tap->alive && m_desktop->tellsRelease)
+        m_tap->handlers.released();
 }
 
 } // namespace quorvane

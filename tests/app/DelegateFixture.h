@@ -61,6 +61,7 @@ protected:
 
     void pressShortcut() {
         EXPECT_EQ(taps->press(shortcut), TapVerdict::Swallow);
+        taps->release();
         queue.run();
     }
 

@@ -1,10 +1,14 @@
 # SPDX-License-Identifier: MIT
 """The global shortcut: what it does, and what the other applications see of it."""
 
+import signal
+
 from harness.case import DesktopCase
 from harness.key_holder import KeyHolder
 from harness.key_witness import KeyWitness, Stroke
 from harness.keys import INSERT, SHORTCUT, Key
+from harness.quorvane import Quorvane
+from harness.waiting import wait_until
 
 
 class Shortcut(DesktopCase):
@@ -48,19 +52,44 @@ class Shortcut(DesktopCase):
         self.assertEqual([Stroke(Key.D, True), Stroke(Key.D, False)], witness.of(Key.D))
         self.summon(quorvane)
 
-    def test_held_down_it_toggles_with_every_repeat_and_keeps_the_target(self) -> None:
+    def test_held_until_it_repeats_the_application_sees_its_release_alone(self) -> None:
+        witness = self.witness()
+        quorvane = self.logging_quorvane()
+        self.summon(quorvane)
+        witness.forget()
+        self.hold_until_it_repeats()
+        quorvane.wait_hidden()
+        witness.wait_active()
+        for key in reversed(SHORTCUT):
+            self.keyboard.release(key)
+        witness.wait_for(Stroke(Key.CONTROL, down=False))
+        self.assertEqual([Stroke(Key.D, down=False)], witness.of(Key.D))
+
+    def test_keys_typed_after_it_arrive_although_the_program_is_stopped(self) -> None:
         editor = self.editor()
         quorvane = self.hidden_quorvane()
         editor.wait_active()
-        for key in SHORTCUT:
-            self.keyboard.press(key)
-        for _ in range(3):
-            self.session.windows.wait(quorvane.panel, "the panel to show once more")
-            quorvane.wait_hidden()
+        quorvane.process.send_signal(signal.SIGSTOP)
+        self.keyboard.tap(*SHORTCUT)
+        for key in (Key.D, Key.Q, Key.T):
+            self.keyboard.tap(key)
+        editor.wait_text("dqt")
+        self.assertFalse(quorvane.is_active())
+        quorvane.process.send_signal(signal.SIGCONT)
+        quorvane.wait_active()
+
+    def test_held_down_it_toggles_once_and_keeps_the_target(self) -> None:
+        editor = self.editor()
+        quorvane = self.logging_quorvane()
+        editor.wait_active()
+        self.hold_until_it_repeats()
+        quorvane.wait_active()
         for key in reversed(SHORTCUT):
             self.keyboard.release(key)
-        quorvane.activate()
-        quorvane.wait_active()
+        for _ in range(2):
+            self.keyboard.tap(*SHORTCUT)
+            quorvane.wait_hidden()
+            self.summon(quorvane)
         text = quorvane.preview()
         self.keyboard.tap(*INSERT)
         editor.wait_text(text)
@@ -73,6 +102,18 @@ class Shortcut(DesktopCase):
         holder.wait_press()
         quorvane.action("toggle")
         quorvane.wait_active()
+
+    def logging_quorvane(self) -> Quorvane:
+        """Waits for its shortcut, and writes down the repeats of a held key."""
+        quorvane = Quorvane(self.session, QT_LOGGING_RULES="quorvane.shortcut.debug=true")
+        quorvane.hide()
+        return quorvane
+
+    def hold_until_it_repeats(self) -> None:
+        """Leaves the keys down."""
+        for key in SHORTCUT:
+            self.keyboard.press(key)
+        wait_until(lambda: self.session.logs().count("a repeat of the key") >= 3, "three repeats")
 
     def witness(self) -> KeyWitness:
         witness = KeyWitness(self.session)

@@ -76,6 +76,22 @@ TEST_F(HotKeyMonitorTest, EveryRepeatTriggersAndIsSwallowed) {
     EXPECT_EQ(triggered, 5);
 }
 
+TEST_F(HotKeyMonitorTest, ReleasesAreToldInOrderWithTheTriggers) {
+    std::string order;
+    monitor->setOnTriggered([&] { order += 'T'; });
+    monitor->setOnReleased([&] { order += 'R'; });
+    EXPECT_FALSE(monitor->tellsRelease());
+    monitor->start();
+    EXPECT_TRUE(monitor->tellsRelease());
+    for (int press = 0; press < 2; ++press) {
+        (void) taps.press(shortcut);
+        taps.release();
+    }
+    EXPECT_EQ(order, "");
+    queue.run();
+    EXPECT_EQ(order, "TRTR");
+}
+
 TEST_F(HotKeyMonitorTest, StopOnAnIdleMonitorTouchesNothing) {
     monitor->stop();
     EXPECT_TRUE(log.calls().empty());
@@ -203,6 +219,34 @@ TEST_F(HotKeyMonitorTest, ShortcutHeldElsewhereIsSilentAndCanBeAskedFor) {
     monitor->setCombo(monitor->combo());
     EXPECT_TRUE(monitor->isArmed());
     EXPECT_EQ(taps.press(shortcut), TapVerdict::Swallow);
+}
+
+TEST_F(HotKeyMonitorTest, RetryAsksAgainForAShortcutHeldElsewhereOnly) {
+    int changes = 0;
+    monitor->setOnDeliveryChanged([&] { ++changes; });
+    monitor->retry();
+    EXPECT_TRUE(log.calls().empty());
+    taps.setHeldElsewhere(true);
+    monitor->start();
+    EXPECT_EQ(monitor->delivery(), TapDelivery::HeldElsewhere);
+    monitor->retry();
+    queue.run();
+    EXPECT_EQ(changes, 1);
+    taps.setHeldElsewhere(false);
+    monitor->retry();
+    queue.run();
+    EXPECT_EQ(changes, 2);
+    EXPECT_TRUE(monitor->isArmed());
+    log.clear();
+    monitor->retry();
+    EXPECT_TRUE(log.calls().empty());
+}
+
+TEST_F(HotKeyMonitorTest, KeyThatTheKeyboardLacksIsTold) {
+    taps.setLacksKey(true);
+    monitor->start();
+    EXPECT_EQ(monitor->delivery(), TapDelivery::NoSuchKey);
+    EXPECT_FALSE(monitor->isArmed());
 }
 
 TEST_F(HotKeyMonitorTest, ShortcutThatIsHeldStaysOursWhateverOthersAskFor) {

@@ -20,7 +20,7 @@ public:
 
 class NullEventTapService final : public EventTapService {
 public:
-    [[nodiscard]] TapResult createTap(KeyPressHandler) override {
+    [[nodiscard]] TapResult createTap(TapHandlers) override {
         return TapFailure{u"there is no backend for the keyboard"_s};
     }
 };

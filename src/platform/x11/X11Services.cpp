@@ -17,10 +17,13 @@ void addServicesOfTheSession(
     MainQueue& mainQueue,
     const std::shared_ptr<X11Connection>& connection,
     const std::shared_ptr<X11Keymap>& keymap) {
-    const auto postedKeys = std::make_shared<X11PostedKeys>();
+    const auto grabbedKeys = std::make_shared<X11GrabbedKeys>(connection);
     services.accessibilityRight = std::make_unique<X11AccessibilityRight>(connection);
-    services.eventTaps = std::make_unique<X11EventTapService>(connection, mainQueue, postedKeys);
-    services.keyPoster = std::make_unique<X11KeyPoster>(connection, keymap, postedKeys);
+    services.eventTaps = std::make_unique<X11EventTapService>(connection, mainQueue, grabbedKeys);
+    services.keyPoster = std::make_unique<X11KeyPoster>(
+        connection,
+        X11KeyPoster::Keymaps{keymap, X11Keymap::open(mainQueue, X11Keymap::Source::PostedKeys)},
+        grabbedKeys);
     services.workspace = std::make_unique<X11Workspace>(connection);
 }
 

@@ -134,6 +134,8 @@ QString ShortcutRecorder::warning() const {
     switch (m_activity) {
     case Activity::HeldElsewhere:
         return tr("Not active: another program holds this shortcut. Record a different one.");
+    case Activity::NoSuchKey:
+        return tr("Not active: this keyboard has no such key. Record a different one.");
     case Activity::Unavailable:
         return tr("Not active: global shortcuts are not available here.");
     case Activity::Active:

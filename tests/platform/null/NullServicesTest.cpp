@@ -38,8 +38,7 @@ TEST_F(NullServices, KnowNothingOfTheAppearance) {
 }
 
 TEST_F(NullServices, RefuseATap) {
-    const auto result =
-        m_services.eventTaps->createTap([](const KeyPress&) { return TapVerdict::Pass; });
+    const auto result = m_services.eventTaps->createTap({});
     EXPECT_TRUE(std::holds_alternative<TapFailure>(result));
 }
 

@@ -36,6 +36,13 @@ public:
     /// one also serves presses that are already queued.
     void setOnTriggered(std::function<void()> onTriggered);
 
+    /// Run when the shortcut's key has gone up, in order with the triggers; never where
+    /// tellsRelease() is false.
+    void setOnReleased(std::function<void()> onReleased);
+
+    /// Run in a later event-loop iteration after delivery() has become another.
+    void setOnDeliveryChanged(std::function<void()> onDeliveryChanged);
+
     /// Arms the monitor; without the accessibility right, or where no tap can be had, it stays idle
     /// and says so to nobody but lastFailure() and the log. Asks the user for nothing.
     void start();
@@ -43,9 +50,17 @@ public:
     /// Disarms it; harmless when idle.
     void stop();
 
-    /// Whether presses of the shortcut reach us: not while idle, nor while another program holds
-    /// it.
-    [[nodiscard]] bool isArmed() const;
+    /// Asks again for a shortcut that another program held; does nothing when it is ours, and when
+    /// idle.
+    void retry();
+
+    /// Whether presses of the shortcut reach us, and if not, why; Off while idle.
+    [[nodiscard]] TapDelivery delivery() const;
+
+    [[nodiscard]] bool isArmed() const { return delivery() == TapDelivery::Delivering; }
+
+    /// Whether the end of each press is told; false while idle.
+    [[nodiscard]] bool tellsRelease() const { return m_eventTap && m_eventTap->tellsRelease(); }
 
     /// Why the last start() left the monitor idle; none after one that did not.
     [[nodiscard]] const std::optional<TapFailure>& lastFailure() const { return m_lastFailure; }
@@ -53,14 +68,19 @@ public:
 private:
     HotKeyMonitor(HotKeyCombo combo, Dependencies dependencies);
 
+    using Callback = std::function<void()>;
+
     [[nodiscard]] TapVerdict handle(const KeyPress& press);
-    void scheduleTrigger();
+    void schedule(Callback HotKeyMonitor::*callback);
+    void announceDelivery();
     void watchCombo();
     void fail(TapFailure failure);
 
     HotKeyCombo m_combo;
     Dependencies m_dependencies;
-    std::function<void()> m_onTriggered;
+    Callback m_onTriggered;
+    Callback m_onReleased;
+    Callback m_onDeliveryChanged;
     std::unique_ptr<EventTap> m_eventTap;
     std::optional<TapFailure> m_lastFailure;
 };

@@ -29,8 +29,26 @@ struct KeyPress {
 
 enum class TapVerdict { Pass, Swallow };
 
-/// Decides about a press, at once: keys that are typed after it may have to wait for the answer.
+/// Decides about a press. A backend that takes hold of one shortcut alone keeps its press from
+/// every application, whatever the answer is: no key is ever made to wait for it.
 using KeyPressHandler = std::function<TapVerdict(const KeyPress&)>;
+
+/// Whether presses of the watched shortcut come to the tap.
+enum class TapDelivery {
+    Off, ///< disabled, or nothing is watched
+    Delivering,
+    HeldElsewhere, ///< another program held it when this tap last tried, by watch() or enable()
+    NoSuchKey      ///< this keyboard cannot type it
+};
+
+/// What a tap calls, on the main thread.
+struct TapHandlers {
+    KeyPressHandler pressed;
+    /// The watched key went up, after one press or more; only where tellsRelease().
+    std::function<void()> released;
+    /// delivery() says something else than before.
+    std::function<void()> deliveryChanged;
+};
 
 /// Gets the presses of one shortcut before every application. Backends that can (X11) take hold of
 /// that shortcut alone, and see no other key. Destroying the tap gives the shortcut up.
@@ -42,12 +60,15 @@ public:
     /// well.
     virtual void watch(std::optional<KeyChord> chord) = 0;
 
+    /// A repeated call asks again for a shortcut that another program held.
     virtual void enable() = 0;
     virtual void disable() = 0;
 
-    /// Whether the watched press is really ours: false while disabled, and where another program
-    /// held it when this tap last tried, by watch() or enable().
-    [[nodiscard]] virtual bool isDelivering() const = 0;
+    [[nodiscard]] virtual TapDelivery delivery() const = 0;
+
+    /// Whether the end of each press is told. Where it is not, a press and the repeats of a key
+    /// that is held down look alike.
+    [[nodiscard]] virtual bool tellsRelease() const = 0;
 };
 
 /// Why there is no tap, for the log.
@@ -64,7 +85,7 @@ public:
     virtual ~EventTapService() = default;
 
     /// A tap that is disabled and watches nothing yet.
-    [[nodiscard]] virtual TapResult createTap(KeyPressHandler handler) = 0;
+    [[nodiscard]] virtual TapResult createTap(TapHandlers handlers) = 0;
 };
 
 } // namespace quorvane

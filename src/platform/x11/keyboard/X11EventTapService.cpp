@@ -12,17 +12,17 @@ using namespace Qt::StringLiterals;
 X11EventTapService::X11EventTapService(
     std::shared_ptr<X11Connection> connection,
     MainQueue& mainQueue,
-    std::shared_ptr<const X11PostedKeys> postedKeys)
+    std::shared_ptr<X11GrabbedKeys> grabbedKeys)
     : m_connection(std::move(connection)),
       m_mainQueue(mainQueue),
-      m_postedKeys(std::move(postedKeys)) {
+      m_grabbedKeys(std::move(grabbedKeys)) {
 }
 
-TapResult X11EventTapService::createTap(KeyPressHandler handler) {
+TapResult X11EventTapService::createTap(TapHandlers handlers) {
     if (!m_connection || xcb_connection_has_error(m_connection->xcb()) != 0)
         return TapFailure{u"there is no X server"_s};
     return std::make_unique<X11EventTap>(
-        m_connection, m_mainQueue, m_postedKeys, std::move(handler));
+        m_connection, m_grabbedKeys, m_mainQueue, std::move(handlers));
 }
 
 } // namespace quorvane

@@ -1,54 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <x11_server/X11Connection.h>
+#include <x11_keyboard/X11GrabbedKeys.h>
 
-#include <cstdint>
 #include <memory>
-#include <vector>
 
 namespace quorvane {
 
 /// A key with several states of the modifiers, held for us on the whole display as long as this
-/// object lives. Each press then comes to us alone and halts the keyboard until we have answered.
+/// object lives: each press then comes to us alone. From the press on all keys do, until it goes up
+/// or the keyboard is freed.
 class X11KeyGrab {
 public:
-    struct Combination {
-        xcb_keycode_t keycode = 0;
-        std::vector<std::uint16_t> masks;
-
-        friend bool operator==(const Combination&, const Combination&) = default;
-    };
-
     /// Null if another program holds any part of it; we then hold none.
     [[nodiscard]] static std::unique_ptr<X11KeyGrab>
-    take(std::shared_ptr<X11Connection> connection, Combination combination);
+    take(std::shared_ptr<X11GrabbedKeys> keys, X11GrabbedKeys::Combination combination);
 
     ~X11KeyGrab();
 
     X11KeyGrab(const X11KeyGrab&) = delete;
     X11KeyGrab& operator=(const X11KeyGrab&) = delete;
 
-    [[nodiscard]] const Combination& combination() const { return m_combination; }
-
-    /// Whether the event can be this grab's, not a leftover of an earlier one.
-    [[nodiscard]] bool canHaveSent(const xcb_generic_event_t& event) const;
-
-    /// Keeps the press that halted the keyboard from everyone else. Its release goes to the window
-    /// with the focus; each repeat comes to us as a press of its own.
-    void swallow();
-
-    /// Hands the press on to where it would have gone without us.
-    void replay(xcb_timestamp_t time);
+    [[nodiscard]] const X11GrabbedKeys::Combination& combination() const { return m_combination; }
 
 private:
-    X11KeyGrab(std::shared_ptr<X11Connection> connection, Combination combination);
+    X11KeyGrab(std::shared_ptr<X11GrabbedKeys> keys, X11GrabbedKeys::Combination combination);
 
-    [[nodiscard]] bool grabAll();
-
-    std::shared_ptr<X11Connection> m_connection;
-    Combination m_combination;
-    std::uint32_t m_firstRequest = 0;
+    std::shared_ptr<X11GrabbedKeys> m_keys;
+    X11GrabbedKeys::Combination m_combination;
 };
 
 } // namespace quorvane

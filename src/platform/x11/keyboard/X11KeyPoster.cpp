@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 
+#include "X11ModifierMap.h"
+#include "X11Xkb.h"
+
 #include <platform/PasteTarget.h>
 #include <x11_keyboard/X11AccessibilityRight.h>
 #include <x11_keyboard/X11KeyPoster.h>
@@ -27,12 +30,13 @@ void appendOnce(std::vector<xcb_keycode_t>& keys, xcb_keycode_t key) {
 
 X11KeyPoster::X11KeyPoster(
     std::shared_ptr<X11Connection> connection,
-    std::shared_ptr<const X11Keymap> keymap,
-    std::shared_ptr<X11PostedKeys> postedKeys)
+    Keymaps keymaps,
+    std::shared_ptr<X11GrabbedKeys> grabbedKeys)
     : m_connection(std::move(connection)),
-      m_keymap(std::move(keymap)),
-      m_postedKeys(std::move(postedKeys)),
-      m_windows(m_connection) {
+      m_keymaps(std::move(keymaps)),
+      m_grabbedKeys(std::move(grabbedKeys)),
+      m_windows(m_connection),
+      m_hasXkb(x11xkb::start(m_connection->xcb()).has_value()) {
 }
 
 std::optional<PasteTarget> X11KeyPoster::pasteTarget() const {
@@ -58,7 +62,7 @@ PostOutcome X11KeyPoster::paste(const PasteTarget& target) {
 }
 
 std::optional<X11KeyPoster::Keys> X11KeyPoster::keysFor(PasteKeys keys) const {
-    if (!m_keymap)
+    if (!m_keymaps.usersKeys || !m_keymaps.postedKeys)
         return std::nullopt;
     switch (keys) {
     case PasteKeys::ControlV:
@@ -75,7 +79,7 @@ std::optional<X11KeyPoster::Keys>
 X11KeyPoster::keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const {
     Keys keys;
     for (const auto keysym : keysyms) {
-        const auto key = m_keymap->keycodeOf(keysym);
+        const auto key = m_keymaps.postedKeys->keycodeOf(keysym);
         if (!key)
             return std::nullopt;
         keys.push_back(*key);
@@ -91,38 +95,55 @@ X11KeyPoster::Keys X11KeyPoster::keysInTheWay() const {
     for (std::size_t key = 0; down && key < std::size(down->keys) * CHAR_BIT; ++key) {
         const auto keycode = static_cast<xcb_keycode_t>(key);
         const bool isDown = (down->keys[key / CHAR_BIT] >> (key % CHAR_BIT) & 1) != 0;
-        if (isDown && m_keymap->isHeldModifier(keycode))
+        if (isDown && m_keymaps.usersKeys->isHeldModifier(keycode))
             keys.push_back(keycode);
     }
     // The modifiers of the paste keys, too: the server may not know yet that the user holds them.
     for (const auto keysym : {XKB_KEY_Control_L, XKB_KEY_Shift_L}) {
-        if (const auto key = m_keymap->keycodeOf(static_cast<xkb_keysym_t>(keysym)))
+        if (const auto key = m_keymaps.postedKeys->keycodeOf(static_cast<xkb_keysym_t>(keysym)))
             appendOnce(keys, *key);
     }
     return keys;
 }
 
+/// Of the modifiers that act without a key being down, those that would change the paste command:
+/// all but the lock keys', which no command minds.
+std::uint8_t X11KeyPoster::modifiersInTheWay() const {
+    return static_cast<std::uint8_t>(~X11ModifierMap::read(*m_connection).lockMask());
+}
+
 void X11KeyPoster::type(const Keys& keys) {
     {
-        // While we ask which keys are held and then type, no other client's request comes between.
+        // While we ask what is in the way and then type, no other client's request comes between.
         const X11ServerGrab alone(*m_connection);
-        std::vector<xcb_void_cookie_t> requests;
-        // The held modifiers are not pressed again afterwards: the server would keep our press when
-        // the user lets go, and the modifier would be stuck.
-        for (const auto key : keysInTheWay())
-            requests.push_back(fake(XCB_KEY_RELEASE, key));
-        for (const auto key : keys)
-            requests.push_back(fake(XCB_KEY_PRESS, key));
-        for (auto key = keys.rbegin(); key != keys.rend(); ++key)
-            requests.push_back(fake(XCB_KEY_RELEASE, *key));
-        m_postedKeys->note(requests.front(), requests.back());
+        const X11GrabbedKeys::Pause pause(*m_grabbedKeys);
+        auto* xcb = m_connection->xcb();
+        const auto affected = m_hasXkb ? modifiersInTheWay() : std::uint8_t{0};
+        const auto stuck = m_hasXkb ? x11xkb::stuckModifiers(xcb) : x11xkb::StuckModifiers{};
+        const bool isInTheWay = ((stuck.locked | stuck.latched) & affected) != 0;
+        if (isInTheWay)
+            x11xkb::setStuckModifiers(xcb, affected, {});
+        tap(keys);
+        if (isInTheWay)
+            x11xkb::setStuckModifiers(xcb, affected, stuck);
     }
     m_connection->waitForServer();
 }
 
-xcb_void_cookie_t X11KeyPoster::fake(std::uint8_t event, xcb_keycode_t keycode) {
+void X11KeyPoster::tap(const Keys& keys) {
+    // The held modifiers are not pressed again afterwards: the server would keep our press when the
+    // user lets go, and the modifier would be stuck.
+    for (const auto key : keysInTheWay())
+        fake(XCB_KEY_RELEASE, key);
+    for (const auto key : keys)
+        fake(XCB_KEY_PRESS, key);
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
+        fake(XCB_KEY_RELEASE, *key);
+}
+
+void X11KeyPoster::fake(std::uint8_t event, xcb_keycode_t keycode) {
     constexpr std::uint8_t defaultKeyboard = 0;
-    return xcb_test_fake_input(
+    xcb_test_fake_input(
         m_connection->xcb(),
         event,
         keycode,

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 
+#include "X11XInput.h"
+#include "X11Xkb.h"
+
+#include <x11_keyboard/X11Keymap.h>
+
 #include <QByteArray>
 #include <QLoggingCategory>
 #include <QString>
 #include <xkbcommon/xkbcommon-x11.h>
-
-// The protocol header has a field of this name, which C++ reserves; the platform offers no other
-// way to include it.
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
-
-#include <x11_keyboard/X11Keymap.h>
 
 #include <algorithm>
 #include <array>
@@ -41,31 +38,31 @@ constexpr std::array heldModifierKeysyms{
     xkb_keysym_t{XKB_KEY_Mode_switch},
 };
 
-bool startXkb(xcb_connection_t* connection, std::uint8_t& firstEvent) {
-    return xkb_x11_setup_xkb_extension(
-               connection,
-               XKB_X11_MIN_MAJOR_XKB_VERSION,
-               XKB_X11_MIN_MINOR_XKB_VERSION,
-               XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS,
-               nullptr,
-               nullptr,
-               &firstEvent,
-               nullptr) != 0;
+/// The keyboard that carries out what XTEST is asked to type; what it is a part of where the server
+/// does not tell them apart.
+std::uint16_t typingKeyboard(xcb_connection_t* connection, std::uint16_t master) {
+    if (!x11xinput::start(connection))
+        return master;
+    return x11xinput::testKeyboard(connection, master).value_or(master);
 }
 
 } // namespace
 
-std::unique_ptr<X11Keymap> X11Keymap::open(MainQueue& mainQueue) {
+std::unique_ptr<X11Keymap> X11Keymap::open(MainQueue& mainQueue, Source source) {
     auto connection = X11Connection::open();
     if (!connection)
         return nullptr;
-    Keyboard keyboard;
-    if (!startXkb(connection->xcb(), keyboard.firstEvent)) {
+    auto* xcb = connection->xcb();
+    const auto event = x11xkb::start(xcb);
+    if (!event) {
         qCWarning(lcLayout, "the X server has no XKB extension");
         return nullptr;
     }
-    keyboard.device = xkb_x11_get_core_keyboard_device_id(connection->xcb());
-    std::unique_ptr<X11Keymap> keymap(new X11Keymap(std::move(connection), keyboard, mainQueue));
+    auto device = static_cast<std::uint16_t>(xkb_x11_get_core_keyboard_device_id(xcb));
+    if (source == Source::PostedKeys)
+        device = typingKeyboard(xcb, device);
+    std::unique_ptr<X11Keymap> keymap(
+        new X11Keymap(std::move(connection), {device, *event}, mainQueue));
     return keymap->m_state ? std::move(keymap) : nullptr;
 }
 
@@ -83,34 +80,13 @@ X11Keymap::X11Keymap(
           }),
       m_subscription(m_connection->subscribe(
           [this](const xcb_generic_event_t& event) { handleEvent(event); })) {
-    selectEvents();
+    x11xkb::selectMapChanges(m_connection->xcb(), m_keyboard.device);
+    x11xkb::selectGroupChanges(m_connection->xcb(), x11xkb::coreKeyboard);
     reload();
 }
 
-void X11Keymap::selectEvents() {
-    constexpr std::uint16_t events = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY |
-                                     XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
-                                     XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
-    constexpr std::uint16_t mapParts =
-        XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP |
-        XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
-    xcb_xkb_select_events_details_t details{};
-    details.affectNewKeyboard = details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES;
-    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
-    xcb_xkb_select_events_aux(
-        m_connection->xcb(),
-        static_cast<xcb_xkb_device_spec_t>(m_keyboard.device),
-        events,
-        0,
-        0,
-        mapParts,
-        mapParts,
-        &details);
-    m_connection->flush();
-}
-
 void X11Keymap::handleEvent(const xcb_generic_event_t& event) {
-    if (event.response_type == m_keyboard.firstEvent)
+    if (event.response_type == m_keyboard.event)
         m_refresh.schedule();
 }
 
@@ -124,15 +100,8 @@ void X11Keymap::reload() {
     m_keymap = std::move(keymap);
     m_state.reset(xkb_state_new(m_keymap.get()));
     // Of all that is pressed, latched or locked, only the group: labels show the key alone.
-    xkb_state_update_mask(m_state.get(), 0, 0, 0, 0, 0, groupInUse());
-}
-
-xkb_layout_index_t X11Keymap::groupInUse() const {
-    auto* connection = m_connection->xcb();
-    const auto device = static_cast<xcb_xkb_device_spec_t>(m_keyboard.device);
-    const XcbReply<xcb_xkb_get_state_reply_t> state(
-        xcb_xkb_get_state_reply(connection, xcb_xkb_get_state(connection, device), nullptr));
-    return state ? state->group : xkb_layout_index_t{0};
+    const auto group = x11xkb::group(m_connection->xcb(), x11xkb::coreKeyboard);
+    xkb_state_update_mask(m_state.get(), 0, 0, 0, 0, 0, group);
 }
 
 std::u16string X11Keymap::characters(xkb_keycode_t keycode) const {

@@ -33,6 +33,11 @@ public:
     /// The event state for the modifiers of a shortcut in `flags`; none if the keyboard lacks one.
     [[nodiscard]] std::optional<std::uint16_t> maskOf(ModifierFlags flags) const;
 
+    /// The modifiers of the lock keys: Caps Lock, Num Lock and Scroll Lock.
+    [[nodiscard]] std::uint16_t lockMask() const {
+        return static_cast<std::uint16_t>(XCB_MOD_MASK_LOCK | m_numLock | m_scrollLock);
+    }
+
     /// The mask combined with every subset of the lock modifiers: locks do not change a shortcut.
     [[nodiscard]] std::vector<std::uint16_t> withLocks(std::uint16_t mask) const;
 

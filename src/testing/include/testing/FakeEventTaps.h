@@ -15,25 +15,41 @@ class FakeEventTaps final : public EventTapService {
 public:
     /// The state of the last tap that was made, shared with it.
     struct TapState {
-        KeyPressHandler handler;
+        TapHandlers handlers;
         std::optional<KeyChord> watched;
         std::optional<KeyChord> grabbed; ///< what the desktop has given to the tap
         bool enabled = false;
         bool alive = true;
     };
 
+    /// What taps find; shared with them.
+    struct Desktop {
+        bool heldElsewhere = false;
+        bool lacksKey = false;
+        bool tellsRelease = true;
+    };
+
     explicit FakeEventTaps(CallLog& log) : m_log(log) {}
 
-    [[nodiscard]] TapResult createTap(KeyPressHandler handler) override;
+    [[nodiscard]] TapResult createTap(TapHandlers handlers) override;
 
     /// Types one press; what reaches the application in front comes back as Pass.
     TapVerdict press(const KeyPress& press);
+
+    /// Lets go of the watched key, which the tap is told where the desktop tells releases.
+    void release();
 
     /// From now on, no tap can be had.
     void refuse(TapFailure failure) { m_refusal = std::move(failure); }
 
     /// Whether another program holds the shortcuts that no tap has taken.
-    void setHeldElsewhere(bool held) { *m_heldElsewhere = held; }
+    void setHeldElsewhere(bool held) { m_desktop->heldElsewhere = held; }
+
+    /// Whether the keyboard lacks the keys of every shortcut.
+    void setLacksKey(bool lacks) { m_desktop->lacksKey = lacks; }
+
+    /// Whether the desktop tells when a key goes up.
+    void setTellsRelease(bool tells) { m_desktop->tellsRelease = tells; }
 
     /// Null before the first tap.
     [[nodiscard]] const TapState* tap() const { return m_tap.get(); }
@@ -42,7 +58,7 @@ private:
     CallLog& m_log;
     std::optional<TapFailure> m_refusal;
     std::shared_ptr<TapState> m_tap;
-    std::shared_ptr<bool> m_heldElsewhere = std::make_shared<bool>(false);
+    std::shared_ptr<Desktop> m_desktop = std::make_shared<Desktop>();
 };
 
 } // namespace quorvane

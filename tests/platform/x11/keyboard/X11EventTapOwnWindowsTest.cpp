@@ -92,14 +92,6 @@ protected:
     QLineEdit m_field;
 };
 
-TEST_F(TapOnX11WithOwnField, DecidesAboutAPressThatPassesOnce) {
-    m_verdict = TapVerdict::Pass;
-    const auto tap = makeTap(KeyChord{keycode::d, modifier::none});
-    m_keyboard.type({KEY_D});
-    EXPECT_TRUE(waitUntil([this] { return m_field.text() == u"d"; }));
-    EXPECT_EQ(m_presses.size(), 1U);
-}
-
 TEST_F(TapOnX11WithOwnField, SwallowsThePressOnce) {
     const auto tap = makeTap(KeyChord{keycode::d, modifier::none});
     m_keyboard.type({KEY_D});

@@ -144,7 +144,9 @@ const std::vector<ReceivedKey>& ForeignWindow::keys() {
 
 void ForeignWindow::readEvents() {
     while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
-        const auto type = event->response_type;
+        // As toolkits do, takes what another client sends for the same.
+        constexpr std::uint8_t sentByClient = 0x80;
+        const auto type = event->response_type & ~sentByClient;
         if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT)
             ++m_focusChanges;
         if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE)

@@ -83,6 +83,12 @@ void Keyboard::setLayout(const QString& layout, const QString& options) {
     QProcess::execute(u"setxkbmap"_s, arguments);
 }
 
+void Keyboard::setLayoutOfHardware(const QString& layout) {
+    QProcess::execute(
+        u"setxkbmap"_s,
+        QStringList{u"-device"_s, QString::number(physicalKeyboard())} << layoutArguments(layout));
+}
+
 void Keyboard::useGroup(std::uint8_t group) {
     xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
     xcbrequests::waitForServer(m_connection);

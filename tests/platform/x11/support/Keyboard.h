@@ -36,6 +36,8 @@ public:
     /// A layout as keymaps name it, with its variant if it has one, such as "us(dvorak)"; several
     /// with commas.
     void setLayout(const QString& layout, const QString& options = {});
+    /// For the hardware's keyboard alone, as the server has it for one that is plugged in later.
+    void setLayoutOfHardware(const QString& layout);
     /// Of several layouts, the one in use, from 0.
     void useGroup(std::uint8_t group);
 

@@ -29,10 +29,15 @@ protected:
     void SetUp() override { m_target.takeFocus(); }
 
     [[nodiscard]] std::unique_ptr<EventTap> makeTap(std::optional<KeyChord> chord = shortcut) {
-        auto result = m_service.createTap([this](const KeyPress& press) {
-            m_presses.push_back(press);
-            return m_verdict;
-        });
+        auto result = m_service.createTap(
+            {[this](const KeyPress& press) {
+                 m_presses.push_back(press);
+                 return m_verdict;
+             },
+             [this] { ++m_releases; },
+             [this] {
+                 ++m_deliveryChanges;
+             }});
         auto tap = std::move(std::get<std::unique_ptr<EventTap>>(result));
         tap->watch(chord);
         tap->enable();
@@ -88,11 +93,13 @@ protected:
         return m_target.hasReceived(kind, keycodeOfD);
     }
 
-    std::shared_ptr<X11PostedKeys> m_postedKeys = std::make_shared<X11PostedKeys>();
-    X11EventTapService m_service{m_connection, m_queue, m_postedKeys};
+    std::shared_ptr<X11GrabbedKeys> m_grabbedKeys = std::make_shared<X11GrabbedKeys>(m_connection);
+    X11EventTapService m_service{m_connection, m_queue, m_grabbedKeys};
     ForeignWindow m_target;
     TapVerdict m_verdict = TapVerdict::Swallow;
     std::vector<KeyPress> m_presses;
+    int m_releases = 0;
+    int m_deliveryChanges = 0;
 };
 
 } // namespace quorvane

@@ -28,6 +28,7 @@ public:
     enum class Activity {
         Active,
         HeldElsewhere, ///< by another program
+        NoSuchKey,     ///< this keyboard cannot type it
         Unavailable    ///< this desktop lets no program have one
     };
 

@@ -3,7 +3,7 @@
 
 #include <loop/MainQueue.h>
 #include <platform/EventTap.h>
-#include <x11_keyboard/X11PostedKeys.h>
+#include <x11_keyboard/X11GrabbedKeys.h>
 #include <x11_server/X11Connection.h>
 
 #include <memory>
@@ -17,15 +17,15 @@ public:
     X11EventTapService(
         std::shared_ptr<X11Connection> connection,
         MainQueue& mainQueue,
-        std::shared_ptr<const X11PostedKeys> postedKeys);
+        std::shared_ptr<X11GrabbedKeys> grabbedKeys);
 
     /// Fails for good once the X server is gone.
-    [[nodiscard]] TapResult createTap(KeyPressHandler handler) override;
+    [[nodiscard]] TapResult createTap(TapHandlers handlers) override;
 
 private:
     std::shared_ptr<X11Connection> m_connection;
     MainQueue& m_mainQueue;
-    std::shared_ptr<const X11PostedKeys> m_postedKeys;
+    std::shared_ptr<X11GrabbedKeys> m_grabbedKeys;
 };
 
 } // namespace quorvane

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <platform/KeyPoster.h>
+#include <x11_keyboard/X11GrabbedKeys.h>
 #include <x11_keyboard/X11Keymap.h>
-#include <x11_keyboard/X11PostedKeys.h>
 #include <x11_server/X11Connection.h>
 #include <x11_windows/X11Windows.h>
 
@@ -18,10 +18,16 @@ namespace quorvane {
 class X11KeyPoster final : public KeyPoster {
 public:
     /// A keymap that is null, because it cannot be read, has no keys.
+    struct Keymaps {
+        std::shared_ptr<const X11Keymap> usersKeys; ///< tells which keys are held modifiers
+        std::shared_ptr<const X11Keymap> postedKeys;
+    };
+
+    /// The grabbed keys are those of the same connection.
     X11KeyPoster(
         std::shared_ptr<X11Connection> connection,
-        std::shared_ptr<const X11Keymap> keymap,
-        std::shared_ptr<X11PostedKeys> postedKeys);
+        Keymaps keymaps,
+        std::shared_ptr<X11GrabbedKeys> grabbedKeys);
 
     [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override;
     [[nodiscard]] PostOutcome paste(const PasteTarget& target) override;
@@ -34,14 +40,17 @@ private:
     [[nodiscard]] std::optional<Keys>
     keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const;
     [[nodiscard]] Keys keysInTheWay() const;
+    [[nodiscard]] std::uint8_t modifiersInTheWay() const;
     void type(const Keys& keys);
-    [[nodiscard]] xcb_void_cookie_t fake(std::uint8_t event, xcb_keycode_t keycode);
+    void tap(const Keys& keys);
+    void fake(std::uint8_t event, xcb_keycode_t keycode);
     void logTarget(xcb_window_t target) const;
 
     std::shared_ptr<X11Connection> m_connection;
-    std::shared_ptr<const X11Keymap> m_keymap;
-    std::shared_ptr<X11PostedKeys> m_postedKeys;
+    Keymaps m_keymaps;
+    std::shared_ptr<X11GrabbedKeys> m_grabbedKeys;
     X11Windows m_windows;
+    bool m_hasXkb; ///< without it nothing can be locked but the lock keys
 };
 
 } // namespace quorvane

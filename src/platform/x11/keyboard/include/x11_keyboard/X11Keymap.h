@@ -14,14 +14,22 @@
 
 namespace quorvane {
 
-/// What the keys of the keyboard type. It follows the layout in use.
+/// What the keys of a keyboard type. It follows the layout in use.
 ///
 /// On a connection of its own: a client that has used the XKB extension no longer receives
 /// MappingNotify, by which the shortcut's grab learns of a new keyboard map.
 class X11Keymap {
 public:
+    /// Whose keys. The maps differ where the user has plugged in a keyboard after choosing the
+    /// layout: the server takes on the map of the keyboard that was used last.
+    enum class Source {
+        UsersKeys, ///< of the keyboard used last
+        PostedKeys ///< of the one that XTEST types on
+    };
+
     /// Null if the server does not tell. The queue must outlive the keymap.
-    [[nodiscard]] static std::unique_ptr<X11Keymap> open(MainQueue& mainQueue);
+    [[nodiscard]] static std::unique_ptr<X11Keymap>
+    open(MainQueue& mainQueue, Source source = Source::UsersKeys);
 
     /// What the key types on its own; empty for dead keys and keys without a character.
     [[nodiscard]] std::u16string characters(xkb_keycode_t keycode) const;
@@ -49,16 +57,14 @@ private:
     using State = std::unique_ptr<xkb_state, KeymapUnref>;
 
     struct Keyboard {
-        std::int32_t device = 0;
-        std::uint8_t firstEvent = 0;
+        std::uint16_t device = 0;
+        std::uint8_t event = 0; ///< the code of its announcements
     };
 
     X11Keymap(std::shared_ptr<X11Connection> connection, Keyboard keyboard, MainQueue& mainQueue);
 
-    void selectEvents();
     void handleEvent(const xcb_generic_event_t& event);
     void reload();
-    [[nodiscard]] xkb_layout_index_t groupInUse() const;
     [[nodiscard]] xkb_keysym_t plainKeysym(xcb_keycode_t keycode, xkb_layout_index_t group) const;
 
     std::shared_ptr<X11Connection> m_connection;
