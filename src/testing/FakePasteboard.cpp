@@ -118,6 +118,14 @@ std::unique_ptr<PasteboardRequest> FakePasteboard::readText(PasteSource source, 
         }));
 }
 
+std::unique_ptr<PasteboardRequest> FakePasteboard::readDraggedText(TextHandler done) {
+    m_log.add("readDraggedText");
+    return std::make_unique<FakeRequest>(
+        m_queue.after(m_othersAnswer ? m_saveDelay : longestSilence, [this, done] {
+            done(m_othersAnswer ? m_dragged : std::nullopt);
+        }));
+}
+
 void FakePasteboard::handOver(std::function<void()> done) {
     m_log.add("handOver");
     m_queue.async(std::move(done));

@@ -64,6 +64,10 @@ public:
 
     [[nodiscard]] std::unique_ptr<PasteboardRequest>
     readText(PasteSource, TextHandler done) override {
+        return readDraggedText(std::move(done));
+    }
+
+    [[nodiscard]] std::unique_ptr<PasteboardRequest> readDraggedText(TextHandler done) override {
         return std::make_unique<NullRequest>(
             m_mainQueue.after(Seconds(0), [done = std::move(done)] { done(std::nullopt); }));
     }

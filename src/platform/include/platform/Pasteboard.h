@@ -62,6 +62,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<PasteboardRequest>
     readText(PasteSource source, TextHandler done) = 0;
 
+    /// The same with the text that another program drags at this moment.
+    [[nodiscard]] virtual std::unique_ptr<PasteboardRequest> readDraggedText(TextHandler done) = 0;
+
     /// Of a text that is read, in bytes of UTF-8.
     static constexpr qsizetype longestText = 1'048'576;
 

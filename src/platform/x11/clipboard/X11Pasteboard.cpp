@@ -78,10 +78,20 @@ std::unique_ptr<PasteboardRequest> X11Pasteboard::restore(
 
 std::unique_ptr<PasteboardRequest> X11Pasteboard::readText(PasteSource source, TextHandler done) {
     const auto& selection = source == PasteSource::Selection ? m_primary : m_clipboard;
+    return read(selection.source(), std::move(done));
+}
+
+// The XDND protocol lets the target ask for the data before the drop.
+std::unique_ptr<PasteboardRequest> X11Pasteboard::readDraggedText(TextHandler done) {
+    return read({m_connection->atom("XdndSelection"), std::nullopt}, std::move(done));
+}
+
+std::unique_ptr<PasteboardRequest>
+X11Pasteboard::read(const X11SelectionSource& source, TextHandler done) {
     const X11TextReading::Limits limits{
         X11SelectionSave::longestSilence, X11SelectionSave::longestSave, longestText};
     return std::make_unique<X11TextReading>(
-        m_inbox, selection.source(), m_clock.now(), limits, std::move(done));
+        m_inbox, source, m_clock.now(), limits, std::move(done));
 }
 
 void X11Pasteboard::handOver(std::function<void()> done) {

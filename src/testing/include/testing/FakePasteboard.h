@@ -25,6 +25,7 @@ public:
         std::function<void()> done) override;
     [[nodiscard]] std::unique_ptr<PasteboardRequest>
     readText(PasteSource source, TextHandler done) override;
+    [[nodiscard]] std::unique_ptr<PasteboardRequest> readDraggedText(TextHandler done) override;
     void handOver(std::function<void()> done) override;
 
     /// Of both pasteboards; no selection where the second one is empty.
@@ -32,6 +33,9 @@ public:
 
     /// Another program copies, and marks the selection if there is one.
     void setContents(PasteboardContents contents);
+
+    /// Another program drags a text.
+    void setDragged(const QString& text) { m_dragged = text; }
 
     /// A clipboard manager makes a copy of what stands there its own.
     void takeOverByManager();
@@ -63,6 +67,7 @@ private:
     MainQueue& m_queue;
     Board m_clipboard;
     Board m_selection;
+    std::optional<QString> m_dragged;
     Seconds m_saveDelay{0};
     bool m_othersAnswer = true;
     bool m_refusing = false;

@@ -35,6 +35,7 @@ public:
         std::function<void()> done) override;
     [[nodiscard]] std::unique_ptr<PasteboardRequest>
     readText(PasteSource source, TextHandler done) override;
+    [[nodiscard]] std::unique_ptr<PasteboardRequest> readDraggedText(TextHandler done) override;
     void handOver(std::function<void()> done) override;
 
 private:
@@ -42,6 +43,8 @@ private:
     using HandOvers = std::list<std::unique_ptr<X11ClipboardHandOver>>;
 
     [[nodiscard]] PutOutcome pass(const QString& text, PasteSource source);
+    [[nodiscard]] std::unique_ptr<PasteboardRequest>
+    read(const X11SelectionSource& source, TextHandler done);
     [[nodiscard]] bool isToBeHandedOver() const;
     [[nodiscard]] bool hasClipboardManager() const;
     void finishClearing();
