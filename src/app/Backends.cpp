@@ -3,6 +3,7 @@
 
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
+#include <platform_qt/QtPasteboard.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_x11/X11Services.h>
 #include <platform_x11/XWayland.h>
@@ -31,7 +32,14 @@ std::optional<X11Reach> wantedX11(const Environment& environment, const QString&
     return runsOnXWayland(environment) ? X11Reach::OwnWindows : X11Reach::Session;
 }
 
-void addServicesOfEveryDisplay(PlatformServices& services) {
+/// A compositor of Wayland serves the clipboard to the program that has the keyboard.
+QtPasteboard::Access clipboardAccess(const QString& qtPlatform) {
+    return qtPlatform.startsWith("wayland"_L1) ? QtPasteboard::Access::WithFocus
+                                               : QtPasteboard::Access::Always;
+}
+
+void addServicesOfEveryDisplay(
+    PlatformServices& services, const QString& qtPlatform, MainQueue& queue) {
     const auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         qCInfo(lcBackend, "no session bus: neither its tray nor the settings portal");
@@ -39,6 +47,7 @@ void addServicesOfEveryDisplay(PlatformServices& services) {
         MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
     services.appearance = std::make_unique<PortalAppearance>(bus);
     services.statusBar = std::make_unique<TrayStatusBar>(bus);
+    services.pasteboard = std::make_unique<QtPasteboard>(queue, clipboardAccess(qtPlatform));
 }
 
 const char* nameOf(X11Reach reach) {
@@ -52,12 +61,15 @@ const char* nameOf(X11Reach reach) {
 PlatformServices
 makePlatformServices(const Environment& environment, const QString& qtPlatform, MainQueue& queue) {
     auto services = makeNullServices(queue);
-    addServicesOfEveryDisplay(services);
+    addServicesOfEveryDisplay(services, qtPlatform, queue);
     const auto x11 = wantedX11(environment, qtPlatform);
     if (!x11)
-        qCInfo(lcBackend, "no backend for \"%ls\"", qUtf16Printable(qtPlatform));
+        qCInfo(
+            lcBackend,
+            "no backend for \"%ls\": the clipboard through Qt",
+            qUtf16Printable(qtPlatform));
     else if (!addX11Services(services, queue, *x11))
-        qCInfo(lcBackend, "no X server answers");
+        qCInfo(lcBackend, "no X server answers: the clipboard through Qt");
     else
         qCInfo(lcBackend, "%s", nameOf(*x11));
     return services;

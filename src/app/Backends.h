@@ -9,8 +9,8 @@
 
 namespace quorvane {
 
-/// The desktop services for this session, each by itself. Tray, appearance and software centre
-/// are there on every display. What a display alone can have (the shortcut, posted
+/// The desktop services for this session, each by itself. Tray, appearance, software centre and
+/// Qt's clipboard are there on every display. What a display alone can have (the shortcut, posted
 /// keys, other programs' windows, the whole clipboard) comes from the backend that
 /// $QUORVANE_BACKEND names, "x11" or "null", which has nothing of that; else from the one that
 /// suits the platform plugin that Qt runs on. Where it is not available, services that do nothing

@@ -6,6 +6,8 @@
 #include <platform_xdg/XdgSoftwareCentre.h>
 #include <testing/VirtualMainQueue.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <gtest/gtest.h>
 
 #include <string_view>
@@ -37,6 +39,14 @@ TEST_F(BackendsTest, ServicesThatNeedNoCertainDisplayAreThereOnEveryDisplay) {
         EXPECT_NE(dynamic_cast<PortalAppearance*>(made.appearance.get()), nullptr);
         EXPECT_NE(dynamic_cast<XdgSoftwareCentre*>(made.softwareCentre.get()), nullptr);
     }
+}
+
+TEST_F(BackendsTest, CopyWorksWhereNoBackendHasAClipboard) {
+    const auto made = services({}, u"offscreen"_s);
+    EXPECT_EQ(
+        made.pasteboard->setString(u"noon"_s, TextStay::Lasting, PasteSource::Clipboard),
+        PutOutcome::Taken);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"noon"_s);
 }
 
 TEST_F(BackendsTest, NothingIsTypedWhereNoBackendCan) {
