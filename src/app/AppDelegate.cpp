@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AppDelegate.h"
 
+#include "FieldPaste.h"
 #include "MainMenu.h"
 
 #include <delivery/CopyText.h>
@@ -76,7 +77,8 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            m_dependencies.mainQueue,
            m_dependencies.clock,
            *m_dependencies.platform.workspace,
-           *m_dependencies.platform.windowTraits},
+           *m_dependencies.platform.windowTraits,
+           fieldPaste(*m_dependencies.platform.pasteboard)},
           preferencesCallbacks()),
       m_dock({*m_dependencies.platform.windowTraits, m_preferences, m_presentation.panel()}),
       m_modelObserver(m_model, m_dependencies.mainQueue, modelCallbacks()),
@@ -211,7 +213,8 @@ std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
             m_dependencies.currentZone,
             {[&traits = *platform.windowTraits] {
                 return traits.isComposited();
-            }}},
+            }},
+            fieldPaste(*platform.pasteboard)},
         PopoverView::Callbacks{
             weakly(&AppDelegate::performInsert),
             weakly(&AppDelegate::showPreferences),

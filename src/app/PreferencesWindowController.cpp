@@ -14,7 +14,7 @@ namespace quorvane {
 
 PreferencesWindowController::PreferencesWindowController(
     Dependencies dependencies, Callbacks callbacks)
-    : m_dependencies(dependencies),
+    : m_dependencies(std::move(dependencies)),
       m_callbacks(std::move(callbacks)) {
 }
 
@@ -45,7 +45,8 @@ void PreferencesWindowController::setupWindow() {
             m_dependencies.zones,
             m_dependencies.mainQueue,
             m_dependencies.clock,
-            m_callbacks.shortcutActivity},
+            m_callbacks.shortcutActivity,
+            m_dependencies.pasteReader},
         m_callbacks.onHotKeyChange);
     m_window = std::make_unique<PreferencesWindow>(m_view);
     m_callbacks.attachMainMenu(*m_window);

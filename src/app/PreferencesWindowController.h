@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/PasteReader.h>
 #include <model/DateTimeModel.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
@@ -29,6 +30,7 @@ public:
         const Clock& clock;
         const Workspace& workspace;
         WindowTraits& windowTraits;
+        PasteReader pasteReader;
     };
 
     struct Callbacks {

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <utility>
+
 namespace quorvane {
 
 namespace {
@@ -22,8 +24,8 @@ constexpr int clearGap = 2;
 
 } // namespace
 
-SearchField::SearchField(const QString& prompt, QWidget* parent)
-    : TextField(parent),
+SearchField::SearchField(const QString& prompt, PasteReader reader, QWidget* parent)
+    : TextField(std::move(reader), parent),
       m_clear(
           new IconButton(IconButton::Kind::Section, Symbol::XmarkCircleFill, tr("Clear"), this)) {
     setPlaceholderText(prompt);

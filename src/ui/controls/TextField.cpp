@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quorvane {
 
@@ -22,7 +23,7 @@ constexpr int builtInPadding = 2;
 
 } // namespace
 
-TextField::TextField(QWidget* parent) : QLineEdit(parent) {
+TextField::TextField(PasteReader reader, QWidget* parent) : LineEdit(std::move(reader), parent) {
     setFrame(false);
     setPadding(ChipSurface::horizontalPadding, ChipSurface::horizontalPadding);
     adoptColors();
@@ -30,11 +31,11 @@ TextField::TextField(QWidget* parent) : QLineEdit(parent) {
 }
 
 QSize TextField::sizeHint() const {
-    return {QLineEdit::sizeHint().width(), ChipSurface::height};
+    return {LineEdit::sizeHint().width(), ChipSurface::height};
 }
 
 QSize TextField::minimumSizeHint() const {
-    return {QLineEdit::minimumSizeHint().width(), ChipSurface::height};
+    return {LineEdit::minimumSizeHint().width(), ChipSurface::height};
 }
 
 void TextField::paintEvent(QPaintEvent* event) {
@@ -49,11 +50,11 @@ void TextField::paintEvent(QPaintEvent* event) {
                 Theme::of(surroundingPalette()).accentText,
                 focusFrameWidth);
     }
-    QLineEdit::paintEvent(event);
+    LineEdit::paintEvent(event);
 }
 
 void TextField::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
+    LineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !m_adopting)
         adoptColors();
     else if (event->type() == QEvent::FontChange)
@@ -63,7 +64,7 @@ void TextField::changeEvent(QEvent* event) {
 }
 
 void TextField::resizeEvent(QResizeEvent* event) {
-    QLineEdit::resizeEvent(event);
+    LineEdit::resizeEvent(event);
     centerText();
 }
 

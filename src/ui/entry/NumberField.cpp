@@ -38,7 +38,8 @@ public:
 
 } // namespace
 
-NumberField::NumberField(const QString& placeholder, QWidget* parent) : QLineEdit(parent) {
+NumberField::NumberField(const QString& placeholder, PasteReader reader, QWidget* parent)
+    : LineEdit(std::move(reader), parent) {
     setFrame(false);
     setFixedSize(fieldSize);
     setAlignment(Qt::AlignCenter);
@@ -59,24 +60,24 @@ void NumberField::paintEvent(QPaintEvent* event) {
         const auto& color = hasFocus() ? theme.accentText : theme.border;
         frameRounded(painter, rect(), cornerRadius, color, hasFocus() ? 2 : 1);
     }
-    QLineEdit::paintEvent(event);
+    LineEdit::paintEvent(event);
 }
 
 void NumberField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
+    LineEdit::focusInEvent(event);
     m_focusedByPress = event->reason() == Qt::MouseFocusReason;
     selectAll();
 }
 
 void NumberField::mouseReleaseEvent(QMouseEvent* event) {
-    QLineEdit::mouseReleaseEvent(event);
+    LineEdit::mouseReleaseEvent(event);
     // The press that gave the focus has put the cursor between the digits.
     if (std::exchange(m_focusedByPress, false) && !hasSelectedText())
         selectAll();
 }
 
 void NumberField::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
+    LineEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         followPalette();
 }
@@ -86,7 +87,7 @@ void NumberField::hideCaretInSelection() {
     // This is how an input method asks for no caret, or for one again; it changes nothing else.
     const int width = hasSelectedText() ? 0 : 1;
     QInputMethodEvent event({}, {{QInputMethodEvent::Cursor, 0, width, {}}});
-    QLineEdit::inputMethodEvent(&event);
+    LineEdit::inputMethodEvent(&event);
 }
 
 void NumberField::followPalette() {

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLineEdit>
+#include <controls/LineEdit.h>
 
 namespace quorvane {
 
 /// A framed field for two large digits. It takes any text up to ten thousand characters and refuses
 /// a longer one whole; getting the focus selects it.
-class NumberField final : public QLineEdit {
+class NumberField final : public LineEdit {
     Q_OBJECT
 
 public:
-    explicit NumberField(const QString& placeholder, QWidget* parent);
+    NumberField(const QString& placeholder, PasteReader reader, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -25,7 +25,8 @@ QWidget* TimeField::makeContent() {
         m_date.set(date);
         refresh();
     };
-    return new TimePickerPopover({m_date.get, set}, m_dependencies.currentZone);
+    return new TimePickerPopover(
+        {m_date.get, set}, m_dependencies.currentZone, m_dependencies.pasteReader);
 }
 
 } // namespace quorvane

@@ -29,12 +29,15 @@ constexpr int colonPixels = 26;
 } // namespace
 
 TimePickerPopover::TimePickerPopover(
-    Binding<Instant> date, const CurrentZone& currentZone, QWidget* parent)
+    Binding<Instant> date,
+    const CurrentZone& currentZone,
+    const PasteReader& pasteReader,
+    QWidget* parent)
     : QWidget(parent),
       m_date(std::move(date)),
       m_currentZone(currentZone),
-      m_hour(numberField(tr("Hour"), u"12"_s)),
-      m_minute(numberField(tr("Minute"), u"00"_s)),
+      m_hour(numberField(tr("Hour"), u"12"_s, pasteReader)),
+      m_minute(numberField(tr("Minute"), u"00"_s, pasteReader)),
       m_period(new SegmentedChip(this)) {
     // A clock reads from left to right in every script.
     setLayoutDirection(Qt::LeftToRight);
@@ -76,8 +79,9 @@ void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(gap.center() - foregroundOf(u":"_s, colonFont).center(), u":"_s);
 }
 
-NumberField* TimePickerPopover::numberField(const QString& name, const QString& placeholder) {
-    auto* field = new NumberField(placeholder, this);
+NumberField* TimePickerPopover::numberField(
+    const QString& name, const QString& placeholder, const PasteReader& pasteReader) {
+    auto* field = new NumberField(placeholder, pasteReader, this);
     field->setAccessibleName(name);
     connect(field, &NumberField::textChanged, this, &TimePickerPopover::save);
     return field;

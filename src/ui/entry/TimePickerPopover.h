@@ -26,7 +26,10 @@ public:
     enum class Field { Hour, Minute };
 
     TimePickerPopover(
-        Binding<Instant> date, const CurrentZone& currentZone, QWidget* parent = nullptr);
+        Binding<Instant> date,
+        const CurrentZone& currentZone,
+        const PasteReader& pasteReader,
+        QWidget* parent = nullptr);
 
     /// The number field that has the keyboard's focus.
     [[nodiscard]] std::optional<Field> focus() const;
@@ -37,7 +40,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] NumberField* numberField(const QString& name, const QString& placeholder);
+    [[nodiscard]] NumberField*
+    numberField(const QString& name, const QString& placeholder, const PasteReader& pasteReader);
     [[nodiscard]] NumberField* fieldWidget(Field field) const;
     [[nodiscard]] TimeTexts texts() const;
     void layOut();

@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace quorvane {
 
 namespace {
@@ -18,7 +20,8 @@ constexpr int layoutGap = 8;
 
 } // namespace
 
-FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects, QWidget* parent)
+FormatSection::FormatSection(
+    DateTimeModel& model, const PopoverEffects& effects, PasteReader pasteReader, QWidget* parent)
     : Section(tr("Format"), Symbol::TextformatAlt, parent),
       m_model(model),
       m_preset(new MacPopUpButton(effects, this)),
@@ -39,7 +42,7 @@ FormatSection::FormatSection(DateTimeModel& model, const PopoverEffects& effects
            [&model](MultiZoneLayout layout) {
                model.setMultiZoneLayout(layout);
            }}),
-      m_customFormat(new TextField(this)) {
+      m_customFormat(new TextField(std::move(pasteReader), this)) {
     m_preset->setLabel(tr("Format"));
     m_layout->setLabel(tr("Layout"));
     m_layout->setFixedWidth(layoutWidth);

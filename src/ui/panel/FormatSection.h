@@ -4,6 +4,7 @@
 #include "Section.h"
 
 #include <controls/Choice.h>
+#include <controls/PasteReader.h>
 #include <controls/PopoverEffects.h>
 #include <model/DateTimeModel.h>
 
@@ -18,7 +19,11 @@ class FormatSection final : public Section {
     Q_OBJECT
 
 public:
-    FormatSection(DateTimeModel& model, const PopoverEffects& effects, QWidget* parent);
+    FormatSection(
+        DateTimeModel& model,
+        const PopoverEffects& effects,
+        PasteReader pasteReader,
+        QWidget* parent);
 
     void refresh();
 

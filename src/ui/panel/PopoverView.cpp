@@ -35,8 +35,11 @@ PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callba
       m_header(makeHeader()),
       m_dateSection(new DateSection(model, entryDependencies(), this)),
       m_timeZoneSection(new TimeZoneSection(
-          model, {m_dependencies.zones, m_dependencies.clock, model.locale()}, this)),
-      m_formatSection(new FormatSection(model, m_dependencies.popoverEffects, this)),
+          model,
+          {m_dependencies.zones, m_dependencies.clock, model.locale(), m_dependencies.pasteReader},
+          this)),
+      m_formatSection(new FormatSection(
+          model, m_dependencies.popoverEffects, m_dependencies.pasteReader, this)),
       m_previewSection(new PreviewSection(m_dependencies.mainQueue, this)),
       m_actionBar(new ActionBar(m_dependencies.mainQueue, this)) {
     layOut();
@@ -79,7 +82,8 @@ EntryDependencies PopoverView::entryDependencies() const {
         m_dependencies.clock,
         m_dependencies.currentZone,
         m_model.locale(),
-        m_dependencies.popoverEffects};
+        m_dependencies.popoverEffects,
+        m_dependencies.pasteReader};
 }
 
 PopoverHeader* PopoverView::makeHeader() {

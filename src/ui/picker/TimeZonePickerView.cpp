@@ -56,7 +56,8 @@ TimeZonePickerView::TimeZonePickerView(
       m_favorites(dependencies.zones.zones(favoriteIdentifiers)),
       m_search(
           TimeZoneCatalogue(dependencies.zones, dependencies.clock.now()), dependencies.locale),
-      m_field(new SearchField(tr("Search by name, city, or abbreviation"), this)),
+      m_field(new SearchField(
+          tr("Search by name, city, or abbreviation"), dependencies.pasteReader, this)),
       m_model(new ZoneListModel(
           dependencies.clock,
           dependencies.locale,

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace quorvane {
 
@@ -30,12 +31,16 @@ constexpr int listGap = 2; ///< the list begins with a padding of its own
 } // namespace
 
 FavoritesSection::FavoritesSection(
-    DateTimeModel& model, const ZoneDatabase& zones, const Clock& clock, QWidget* parent)
+    DateTimeModel& model,
+    const ZoneDatabase& zones,
+    const Clock& clock,
+    PasteReader pasteReader,
+    QWidget* parent)
     : PreferencesSection(tr("Favorite Time Zones"), parent),
       m_model(model),
       m_clock(clock),
       m_search(TimeZoneCatalogue(zones, clock.now()), model.locale()),
-      m_field(new SearchField(tr("Search"), this)),
+      m_field(new SearchField(tr("Search"), std::move(pasteReader), this)),
       m_filter(new StarredFilter(this)),
       m_rows(new FavoriteListModel(
           clock,

@@ -3,6 +3,7 @@
 
 #include "PreferencesSection.h"
 
+#include <controls/PasteReader.h>
 #include <time/Clock.h>
 #include <time/ZoneDatabase.h>
 #include <timezones/ZoneSearch.h>
@@ -23,7 +24,11 @@ class FavoritesSection final : public PreferencesSection {
 public:
     /// What is referred to must outlive the section.
     FavoritesSection(
-        DateTimeModel& model, const ZoneDatabase& zones, const Clock& clock, QWidget* parent);
+        DateTimeModel& model,
+        const ZoneDatabase& zones,
+        const Clock& clock,
+        PasteReader pasteReader,
+        QWidget* parent);
 
     [[nodiscard]] SearchField& field() const { return *m_field; }
 

@@ -48,7 +48,8 @@ PreferencesView::PreferencesView(
           m_dependencies.mainQueue,
           this)),
       m_icons(new IconsSection(model, this)),
-      m_favorites(new FavoritesSection(model, m_dependencies.zones, m_dependencies.clock, this)) {
+      m_favorites(new FavoritesSection(
+          model, m_dependencies.zones, m_dependencies.clock, m_dependencies.pasteReader, this)) {
     setFixedWidth(preferencesmetrics::size.width());
     layOut();
     connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });

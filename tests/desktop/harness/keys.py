@@ -17,6 +17,7 @@ class Key(IntEnum):
     ESCAPE = 9
     DIGIT_5 = 14
     DIGIT_7 = 16
+    BACKSPACE = 22
     TAB = 23
     Q = 24
     T = 28
@@ -25,9 +26,11 @@ class Key(IntEnum):
     P = 33
     RETURN = 36
     CONTROL = 37
+    A = 38
     D = 40
     K = 45
     SHIFT = 50
+    C = 54
     V = 55
     COMMA = 59
     ALT = 64
@@ -39,7 +42,9 @@ class Key(IntEnum):
     RIGHT = 114
     END = 115
     DOWN = 116
+    INSERT = 118
     SUPER = 133
+    MENU = 135
 
 
 SHORTCUT = (Key.CONTROL, Key.SHIFT, Key.SUPER, Key.D)

@@ -17,7 +17,7 @@ protected:
     ControlWindow window;
     TextButton& below = window.add(new TextButton(u"Below"_s));
     QWidget* content = new QWidget;
-    SearchField* field = new SearchField(u"Search"_s, content);
+    SearchField* field = new SearchField(u"Search"_s, {}, content);
     TextButton* done = new TextButton(u"Done"_s, content);
     QPointer<Sheet> sheet;
 
@@ -71,7 +71,7 @@ TEST_F(SheetTest, GrowsAndShrinksWithItsWindow) {
 
 TEST(SearchField, ClearButtonShowsForAText) {
     ControlWindow window;
-    auto& field = window.add(new SearchField(u"Search by name"_s));
+    auto& field = window.add(new SearchField(u"Search by name"_s, {}));
     ASSERT_TRUE(window.open());
     EXPECT_EQ(field.placeholderText(), u"Search by name"_s);
     EXPECT_EQ(accessible(field).text(QAccessible::Name), u"Search"_s);
@@ -90,7 +90,7 @@ TEST(SearchField, ClearButtonShowsForAText) {
 
 TEST(SearchField, RightToLeftIsMirrored) {
     ControlWindow window;
-    auto& field = window.add(new SearchField(u"Search"_s));
+    auto& field = window.add(new SearchField(u"Search"_s, {}));
     field.setMinimumWidth(300);
     ASSERT_TRUE(window.open());
     auto* clear = field.findChild<QAbstractButton*>();

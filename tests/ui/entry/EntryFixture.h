@@ -3,6 +3,7 @@
 
 #include <controls/Binding.h>
 #include <entry/EntryDependencies.h>
+#include <support/HeldPaste.h>
 #include <support/WidgetSearch.h>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
@@ -10,7 +11,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 #include <QWindow>
@@ -28,6 +28,7 @@ protected:
     FixedCurrentZone currentZone{*zones.zone(QStringLiteral("America/New_York"))};
     Instant date{1710021900}; // 2024-03-09T22:05:00Z, 17:05 in New York, a Saturday
     std::vector<Instant> writes;
+    HeldPaste clipboardOwner;
     QWidget window;
 
     EntryFixture() { window.resize(600, 400); }
@@ -42,7 +43,12 @@ protected:
     }
 
     EntryDependencies dependencies(const char* locale = "en_US") {
-        return {clock, currentZone, UserLocale::named(QString::fromUtf8(locale)), {}};
+        return {
+            clock,
+            currentZone,
+            UserLocale::named(QString::fromUtf8(locale)),
+            {},
+            clipboardOwner.reader()};
     }
 
     void showWindow() {
@@ -59,9 +65,9 @@ protected:
     }
 
     void paste(const QString& text) {
-        QGuiApplication::clipboard()->setText(text);
         press(Qt::Key_A, Qt::ControlModifier);
         press(Qt::Key_V, Qt::ControlModifier);
+        clipboardOwner.answer(text);
     }
 
     static void clickOn(QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }

@@ -245,7 +245,7 @@ TEST_F(TimePickerPopoverTest, KeysAreTheWindowsOwnAgainOnceItIsClosed) {
 
 TEST_F(TimePickerPopoverTest, KeysAreTheWindowsOwnWhileItIsHidden) {
     QLineEdit other(u"abc"_s, &window);
-    TimePickerPopover content(binding(), currentZone, &window);
+    TimePickerPopover content(binding(), currentZone, {}, &window);
     showWindow();
     content.hide();
     other.setFocus();

@@ -58,9 +58,9 @@ std::unique_ptr<QWidget> makeFields(World&) {
     for (int index = 0; index < count; ++index) {
         auto* parent = new QWidget(window.get());
         auto* row = new QHBoxLayout(parent);
-        auto* pattern = new TextField(parent);
+        auto* pattern = new TextField({}, parent);
         pattern->setPlaceholderText(u"Pattern"_s);
-        auto* search = new SearchField(u"Search"_s, parent);
+        auto* search = new SearchField(u"Search"_s, {}, parent);
         search->setText(u"york"_s);
         row->addWidget(pattern);
         row->addWidget(search);
@@ -103,7 +103,7 @@ const View views[] = {
      }},
     {"Time",
      [](World& world) {
-         return std::make_unique<TimePickerPopover>(world.date, world.currentZone);
+         return std::make_unique<TimePickerPopover>(world.date, world.currentZone, PasteReader());
      }},
     {"Zones",
      [](World& world) {

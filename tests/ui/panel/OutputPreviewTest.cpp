@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <controls/Theme.h>
 #include <panel/OutputPreview.h>
+#include <support/UnreadableData.h>
 #include <testing/VirtualMainQueue.h>
 
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -131,6 +134,21 @@ TEST_F(OutputPreviewTest, KeysSelectAndTabLeaves) {
     EXPECT_EQ(preview->toPlainText(), u"17:05 EST"_s);
     QTest::keyClick(preview, Qt::Key_Tab);
     EXPECT_TRUE(next->hasFocus());
+}
+
+TEST_F(OutputPreviewTest, NeverAsksWhatThereIsToPaste) {
+    show(u"noon"_s);
+    QGuiApplication::clipboard()->setMimeData(new UnreadableData);
+    QTest::mouseClick(preview->viewport(), Qt::MiddleButton);
+    QTest::keySequence(preview, QKeySequence::Paste);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {}, window.mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(preview->viewport(), &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (const auto* action : menu->actions())
+        EXPECT_FALSE(action->text().contains(u"Paste"_s));
+    menu->close();
+    EXPECT_EQ(preview->toPlainText(), u"noon"_s);
 }
 
 TEST_F(OutputPreviewTest, CopyIsTheTextExactly) {

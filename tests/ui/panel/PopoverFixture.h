@@ -4,6 +4,7 @@
 #include "MenuRow.h"
 
 #include <panel/PopoverView.h>
+#include <support/HeldPaste.h>
 #include <support/WidgetSearch.h>
 #include <testing/CallLog.h>
 #include <testing/FakeKeyboardLayout.h>
@@ -34,6 +35,7 @@ protected:
     MemoryDefaults defaults;
     DateTimeModel model{
         {clock, defaults, currentZone, zones, UserLocale::named(QStringLiteral("en_US"))}};
+    HeldPaste clipboardOwner;
     int inserted = 0;
     int closed = 0;
     int preferences = 0;
@@ -41,7 +43,7 @@ protected:
     int quits = 0;
     PopoverView view{
         model,
-        {pasteboard, layout, zones, queue, clock, currentZone, {}},
+        {pasteboard, layout, zones, queue, clock, currentZone, {}, clipboardOwner.reader()},
         {[this] { ++inserted; },
          [this] { ++preferences; },
          [this] { ++updateChecks; },

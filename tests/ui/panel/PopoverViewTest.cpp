@@ -147,6 +147,16 @@ TEST_F(PopoverViewTest, CustomPatternShowsOnlyForTheCustomPreset) {
     EXPECT_EQ(preview(), u"2024"_s);
 }
 
+TEST_F(PopoverViewTest, PastedPatternShowsInTheOutputWhenItHasCome) {
+    choose(u"Format"_s, u"Custom…"_s);
+    auto& pattern = field(u"Custom format"_s);
+    pattern.selectAll();
+    QTest::keyClick(&pattern, Qt::Key_V, Qt::ControlModifier);
+    clipboardOwner.answer(u"yyyy"_s);
+    queue.run();
+    EXPECT_EQ(preview(), u"2024"_s);
+}
+
 TEST_F(PopoverViewTest, CopyPutsTheOutputAndConfirmsItForAWhile) {
     auto& copy = button(u"Copy"_s);
     copy.click();

@@ -2,6 +2,7 @@
 #include <controls/Sheet.h>
 #include <controls/Theme.h>
 #include <picker/TimeZonePickerView.h>
+#include <support/HeldPaste.h>
 #include <support/WidgetSearch.h>
 #include <testing/FixedClock.h>
 #include <time/ZoneDatabase.h>
@@ -28,6 +29,7 @@ protected:
     FixedClock clock{Instant{1705320000}};
     ZoneDatabase zones;
     std::vector<TimeZone> selection{*zones.zone(u"America/New_York"_s)};
+    HeldPaste clipboardOwner;
     QWidget window;
     TimeZonePickerView* view = new TimeZonePickerView(
         {[this] { return selection; },
@@ -35,7 +37,7 @@ protected:
              selection = std::move(zoneList);
          }},
         {u"Europe/Paris"_s, u"Nowhere/Atlantis"_s, u"Asia/Calcutta"_s, u"America/New_York"_s},
-        {zones, clock, UserLocale::named(u"en_US"_s)});
+        {zones, clock, UserLocale::named(u"en_US"_s), clipboardOwner.reader()});
     QPointer<Sheet> sheet;
     QLineEdit& field = find<QLineEdit>(QAccessible::EditableText, u"Search"_s);
     QListView& list = find<QListView>(QAccessible::List, u"Time Zones"_s);
@@ -97,6 +99,14 @@ protected:
 TEST_F(TimeZonePickerViewTest, OpensWithTheFocusInTheSearchField) {
     EXPECT_EQ(window.focusWidget(), &field);
     EXPECT_EQ(field.placeholderText(), u"Search by name, city, or abbreviation"_s);
+}
+
+TEST_F(TimeZonePickerViewTest, PastedTextIsSearchedForWhenItHasCome) {
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(count(), 1 + 3 + 1 + 420);
+    clipboardOwner.answer(u"Europe/Lisbon"_s);
+    ASSERT_EQ(count(), 1);
+    EXPECT_EQ(identifier(0), u"Europe/Lisbon"_s);
 }
 
 TEST_F(TimeZonePickerViewTest, ShowsFavoritesThatAreZonesBeforeTheWholeCatalogue) {

@@ -92,6 +92,14 @@ TEST_F(FavoritesListTest, SearchFindsByAliasIdentifierAndAbbreviation) {
     EXPECT_LT(cities().indexOf(u"Los Angeles"_s), cities().indexOf(u"Chicago"_s));
 }
 
+TEST_F(FavoritesListTest, PastedTextIsSearchedForWhenItHasCome) {
+    const int all = count();
+    QTest::keyClick(&field(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(count(), all);
+    clipboardOwner.answer(u"Europe/Lisbon"_s);
+    EXPECT_EQ(count(), 1);
+}
+
 TEST_F(FavoritesListTest, BlanksAloneAreNoSearch) {
     search(u" \t "_s);
     EXPECT_EQ(count(), everything);

@@ -5,6 +5,7 @@
 #include <controls/Theme.h>
 #include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
+#include <support/HeldPaste.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
 #include <testing/FakeKeyboardLayout.h>
@@ -36,6 +37,7 @@ protected:
     MemoryDefaults defaults;
     ShortcutRecorder::Activity activity = ShortcutRecorder::Activity::Active;
     std::vector<HotKeyCombo> changes;
+    HeldPaste clipboardOwner;
     std::unique_ptr<DateTimeModel> model;
     std::unique_ptr<PreferencesView> view;
     std::unique_ptr<PhysicalKeyboard> keyboard;
@@ -58,13 +60,7 @@ protected:
         view = std::make_unique<PreferencesView>(
             *model,
             PreferencesView::Dependencies{
-                layout,
-                zones,
-                queue,
-                clock,
-                [this] {
-                    return activity;
-                }},
+                layout, zones, queue, clock, [this] { return activity; }, clipboardOwner.reader()},
             [this](HotKeyCombo combo) {
                 changes.push_back(combo);
                 EXPECT_EQ(view->editingCombo(), combo);

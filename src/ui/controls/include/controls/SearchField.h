@@ -15,7 +15,7 @@ class SearchField final : public TextField {
 public:
     static constexpr int fieldHeight = 32;
 
-    explicit SearchField(const QString& prompt, QWidget* parent = nullptr);
+    SearchField(const QString& prompt, PasteReader reader, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
 

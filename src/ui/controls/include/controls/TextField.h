@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLineEdit>
+#include <controls/LineEdit.h>
 
 namespace quorvane {
 
 /// One line of text on a chip's surface; the frame shows the focus.
-class TextField : public QLineEdit {
+class TextField : public LineEdit {
     Q_OBJECT
 
 public:
-    explicit TextField(QWidget* parent = nullptr);
+    explicit TextField(PasteReader reader, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/PasteReader.h>
 #include <entry/EntryDependencies.h>
 #include <loop/CoalescedRefresh.h>
 #include <loop/MainQueue.h>
@@ -36,6 +37,7 @@ public:
         const Clock& clock;
         const CurrentZone& currentZone;
         PopoverEffects popoverEffects;
+        PasteReader pasteReader = {};
     };
 
     /// What the view asks of its owner.

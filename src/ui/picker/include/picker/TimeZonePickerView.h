@@ -2,6 +2,7 @@
 #pragma once
 
 #include <controls/Binding.h>
+#include <controls/PasteReader.h>
 #include <picker/ZoneListModel.h>
 #include <time/Clock.h>
 #include <timezones/ZoneSearch.h>
@@ -25,6 +26,7 @@ public:
         const ZoneDatabase& zones;
         const Clock& clock;
         UserLocale locale;
+        PasteReader pasteReader = {};
     };
 
     /// Identifiers of favourites that name no zone are left out.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/PasteReader.h>
 #include <loop/CoalescedRefresh.h>
 #include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
@@ -33,6 +34,7 @@ public:
         const Clock& clock;
         /// Whether the shortcut reaches the program; asked when the view shows or has changed it.
         std::function<ShortcutRecorder::Activity()> shortcutActivity;
+        PasteReader pasteReader = {};
     };
 
     /// Puts a newly recorded shortcut into effect.
