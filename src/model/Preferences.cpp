@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <composition/DefaultFavorites.h>
+#include <hotkey/StoredHotKey.h>
 #include <model/Preferences.h>
 #include <settings/SettingsTable.h>
 
@@ -21,7 +22,7 @@ Preferences Preferences::load(
     return {
         .favoriteTimeZoneIdentifiers =
             favorites ? *std::move(favorites) : defaultFavoriteIdentifiers(currentZone, zones),
-        .hotKey = HotKeyCombo::load(defaults),
+        .hotKey = storedHotKey(defaults),
         .showInMenuBar = setting::showInMenuBar.valueIn(defaults),
         .showInDock = setting::showInDock.valueIn(defaults),
         .presentationMode = storedPresentationMode(defaults)};

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """A settings file that cannot be read is kept for its owner, and stops nothing."""
 
+import json
+
 from harness.case import DesktopCase
 from harness.quorvane import settings_file
 
@@ -17,3 +19,13 @@ class Settings(DesktopCase):
         kept = [path.read_bytes() for path in file.parent.glob("defaults.json.unreadable-*")]
         self.assertEqual([truncated], kept)
         self.summon(quorvane)
+
+    def test_a_shortcut_that_is_none_is_left_in_the_file_and_the_default_one_works(self) -> None:
+        stored = '{"hotKeyCode": 99999, "hotKeyModifiers": 256}'
+        file = settings_file(self.session)
+        file.parent.mkdir()
+        file.write_text(stored)
+        quorvane = self.hidden_quorvane()
+        self.assertIn("hotKeyCode 99999", self.session.logs())
+        self.summon(quorvane)
+        self.assertEqual(99999, json.loads(file.read_text())["hotKeyCode"])

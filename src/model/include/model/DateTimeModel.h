@@ -38,8 +38,8 @@ public:
         UserLocale locale;
     };
 
-    /// Reads the settings, and writes the favourites back. A stored shortcut that is out of range
-    /// stops the process.
+    /// Reads the settings, and writes the favourites back. A stored shortcut that cannot be one is
+    /// ignored, with a line on standard error.
     explicit DateTimeModel(const Dependencies& dependencies, QObject* parent = nullptr);
 
     [[nodiscard]] Instant startDate() const { return m_composition.startDate; }
