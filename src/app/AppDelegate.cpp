@@ -91,6 +91,7 @@ AppDelegate::AppDelegate(Dependencies dependencies)
 }
 
 AppDelegate::~AppDelegate() {
+    m_dependencies.platform.workspace->onFrontmostChanged({});
     m_dependencies.platform.workspace->onActiveSpaceChanged({});
     m_dependencies.platform.keyboardLayout->onChanged({});
 }
@@ -106,6 +107,11 @@ void AppDelegate::applicationDidFinishLaunching() {
     observeDesktop();
 }
 
+void AppDelegate::surfaceMainUIForReopen() {
+    m_shortcut.retry();
+    m_presentation.surface();
+}
+
 void AppDelegate::performInsert() {
     const auto text = m_model.formattedOutput();
     m_presentation.hide();
@@ -119,6 +125,7 @@ void AppDelegate::performCopy() {
 }
 
 void AppDelegate::showPreferences() {
+    m_shortcut.retry();
     m_presentation.hide();
     m_preferences.showWindow();
 }
@@ -130,6 +137,7 @@ void AppDelegate::checkForUpdates() {
 }
 
 void AppDelegate::performAction(const QString& name) {
+    m_shortcut.retry();
     const auto* action = std::ranges::find(actions, name, &Action::name);
     if (action == actions.end())
         qCInfo(lcApp, "no action \"%ls\"", qUtf16Printable(name));
@@ -160,7 +168,10 @@ std::function<void()> AppDelegate::weakly(void (AppDelegate::*call)()) {
 
 TrayIcon::Callbacks AppDelegate::trayIconCallbacks() {
     return {
-        [this] { m_presentation.handleIconClick(); },
+        [this] {
+            m_shortcut.retry();
+            m_presentation.handleIconClick();
+        },
         weakly(&AppDelegate::showPreferences),
         weakly(&AppDelegate::checkForUpdates),
         weakly(&AppDelegate::terminate)};
@@ -233,6 +244,8 @@ void AppDelegate::setupMainMenu() {
 
 void AppDelegate::observeDesktop() {
     auto& platform = m_dependencies.platform;
+    // The program that held the shortcut may be the one that has just gone.
+    platform.workspace->onFrontmostChanged([this] { m_shortcut.retry(); });
     platform.workspace->onActiveSpaceChanged(
         [this] { m_presentation.panel().activeSpaceDidChange(); });
     platform.keyboardLayout->onChanged([this] {

@@ -59,7 +59,7 @@ public:
     void togglePresentation() { m_presentation.toggle(); }
 
     /// Shows the interface, also when it is shown already: the user opened the program again.
-    void surfaceMainUIForReopen() { m_presentation.surface(); }
+    void surfaceMainUIForReopen();
 
     /// Hides the interface and types the output into the application that was in front before.
     void performInsert();

@@ -91,7 +91,12 @@ PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidge
     hold(recording, Qt::Key_Control);
     hold(recording, Qt::Key_Meta);
 
-    addWindow(u"Searching"_s, Icons::Everywhere).findChild<SearchField*>()->setText(u"la"_s);
+    addWindow(
+        u"Searching; shortcut held elsewhere"_s,
+        Icons::Everywhere,
+        ShortcutRecorder::Activity::HeldElsewhere)
+        .findChild<SearchField*>()
+        ->setText(u"la"_s);
 }
 
 PreferencesBoard::~PreferencesBoard() = default;
@@ -122,7 +127,8 @@ void PreferencesBoard::showEvent(QShowEvent* event) {
     hover(*m_samples.back()->view, u"Nome"_s);
 }
 
-PreferencesView& PreferencesBoard::addWindow(const QString& note, Icons icons) {
+PreferencesView&
+PreferencesBoard::addWindow(const QString& note, Icons icons, ShortcutRecorder::Activity activity) {
     const auto frame = frameOf(m_samples.size());
     auto& sample = *m_samples.emplace_back(std::make_unique<Sample>());
     sample.model.setShowInMenuBar(icons != Icons::Nowhere);
@@ -134,8 +140,8 @@ PreferencesView& PreferencesBoard::addWindow(const QString& note, Icons icons) {
             sample::zones(),
             sample.queue,
             sample::clock(),
-            [] {
-                return ShortcutRecorder::Activity::Active;
+            [activity] {
+                return activity;
             }},
         [](HotKeyCombo) {},
         this);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <controls/Theme.h>
+#include <recorder/ShortcutRecorder.h>
 
 #include <QWidget>
 
@@ -36,7 +37,10 @@ private:
     enum class Icons { MenuBar, Nowhere, Everywhere };
 
     /// Adds a window with its stand-in for a title bar, right of those before it.
-    PreferencesView& addWindow(const QString& note, Icons icons);
+    PreferencesView& addWindow(
+        const QString& note,
+        Icons icons,
+        ShortcutRecorder::Activity activity = ShortcutRecorder::Activity::Active);
     [[nodiscard]] QRect frameOf(std::size_t index) const;
 
     std::vector<std::unique_ptr<Sample>> m_samples;

@@ -2,6 +2,7 @@
 #include "DelegateFixture.h"
 
 #include <panel/PanelMetrics.h>
+#include <support/WidgetSearch.h>
 
 #include <QApplication>
 #include <QTest>
@@ -71,6 +72,50 @@ TEST_F(AppDelegateTest, HeldShortcutTogglesOnce) {
     taps->release();
     pressShortcut();
     EXPECT_TRUE(panel()->isVisible());
+}
+
+TEST_F(AppDelegateTest, ShortcutHeldElsewhereComesBackAtEachOccasion) {
+    const std::vector<std::pair<const char*, std::function<void()>>> occasions{
+        {"front window changed",
+         [this] {
+             workspace->setFront(editor);
+         }},
+        {"reopened",
+         [this] {
+             delegate->surfaceMainUIForReopen();
+         }},
+        {"preferences shown",
+         [this] {
+             delegate->showPreferences();
+         }},
+        {"called by the bus", [this] {
+             delegate->performAction(u"copy"_s);
+         }}};
+    for (const auto& [name, happen] : occasions) {
+        makeDelegate();
+        taps->setHeldElsewhere(true);
+        launch();
+        EXPECT_FALSE(delegate->hotKeyMonitor()->isArmed());
+        taps->setHeldElsewhere(false);
+        happen();
+        EXPECT_TRUE(delegate->hotKeyMonitor()->isArmed()) << name;
+        queue.run();
+    }
+}
+
+TEST_F(AppDelegateTest, ShortcutThatComesBackTakesItsWordsOutOfThePreferences) {
+    taps->setHeldElsewhere(true);
+    launch();
+    delegate->showPreferences();
+    queue.run();
+    const auto words = u"Another program holds this shortcut."_s;
+    const auto* said = widgetByRole(*preferences(), QAccessible::StaticText, words);
+    ASSERT_NE(said, nullptr);
+    EXPECT_TRUE(said->isVisible());
+    taps->setHeldElsewhere(false);
+    workspace->setFront(editor);
+    queue.run();
+    EXPECT_FALSE(said->isVisible());
 }
 
 TEST_F(AppDelegateTest, ReopenShowsAHiddenPanelAndRemembersWhatWasInFront) {

@@ -3,6 +3,7 @@
 
 import signal
 
+from harness.accessible import State
 from harness.case import DesktopCase
 from harness.key_holder import KeyHolder
 from harness.key_witness import KeyWitness, Stroke
@@ -102,6 +103,18 @@ class Shortcut(DesktopCase):
         holder.wait_press()
         quorvane.action("toggle")
         quorvane.wait_active()
+
+    def test_held_by_another_program_it_works_once_that_program_is_gone(self) -> None:
+        editor = self.editor()
+        holder = KeyHolder(self.session)
+        quorvane = self.hidden_quorvane()
+        quorvane.action("preferences")
+        words = quorvane.tree().find("Another program holds this shortcut.")
+        holder.close()
+        editor.focus()
+        editor.wait_active()
+        wait_until(lambda: not words.has(State.SHOWING), "the words to go")
+        self.summon(quorvane)
 
     def logging_quorvane(self) -> Quorvane:
         """Waits for its shortcut, and writes down the repeats of a held key."""

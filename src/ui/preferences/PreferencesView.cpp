@@ -97,7 +97,7 @@ void PreferencesView::change(HotKeyCombo combo) {
 }
 
 void PreferencesView::refresh() {
-    m_shortcut->recorder().setActivity(m_dependencies.shortcutActivity());
+    m_shortcut->setActivity(m_dependencies.shortcutActivity());
     m_icons->refresh();
     m_favorites->refresh();
 }

@@ -35,6 +35,24 @@ ShortcutSection::ShortcutSection(
         tr("Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."),
         TextStyle::Caption,
         WrappedText::Color::Secondary));
+    addWarning();
+}
+
+void ShortcutSection::setActivity(ShortcutRecorder::Activity activity) {
+    m_recorder->setActivity(activity);
+    const auto warning = ShortcutRecorder::warningOf(activity);
+    m_warning->setText(warning);
+    m_warningRow->setVisible(!warning.isEmpty());
+}
+
+void ShortcutSection::addWarning() {
+    m_warningRow = new QWidget(this);
+    m_warning = new WrappedText({}, TextStyle::Caption, WrappedText::Color::Primary, m_warningRow);
+    auto* row = new QVBoxLayout(m_warningRow);
+    row->setContentsMargins(0, preferencesmetrics::captionSpacing, 0, 0);
+    row->addWidget(m_warning);
+    m_warningRow->hide();
+    column().addWidget(m_warningRow);
 }
 
 } // namespace quorvane

@@ -128,20 +128,22 @@ QStringList ShortcutRecorder::keyNames() const {
     return spokenModifiers(toCarbonModifiers(m_previewMods)) << tr("Waiting for a key");
 }
 
-QString ShortcutRecorder::warning() const {
-    if (m_isRecording)
-        return {};
-    switch (m_activity) {
+QString ShortcutRecorder::warningOf(Activity activity) {
+    switch (activity) {
     case Activity::HeldElsewhere:
-        return tr("Not active: another program holds this shortcut. Record a different one.");
+        return tr("Another program holds this shortcut.");
     case Activity::NoSuchKey:
-        return tr("Not active: this keyboard has no such key. Record a different one.");
+        return tr("This keyboard has no such key.");
     case Activity::Unavailable:
-        return tr("Not active: global shortcuts are not available here.");
+        return tr("Global shortcuts are not available on this desktop.");
     case Activity::Active:
         break;
     }
     return {};
+}
+
+QString ShortcutRecorder::warning() const {
+    return m_isRecording ? QString() : warningOf(m_activity);
 }
 
 void ShortcutRecorder::refreshCaps() {

@@ -124,12 +124,39 @@ TEST_F(PreferencesViewTest, ShortcutThatIsHeldElsewhereIsToldWhenTheViewOpensOrC
     activity = ShortcutRecorder::Activity::HeldElsewhere;
     view->hide();
     view->show();
-    EXPECT_TRUE(recorder().accessibleDescription().contains(u"Not active"_s));
+    EXPECT_TRUE(recorder().accessibleDescription().contains(u"Another program"_s));
     activity = ShortcutRecorder::Activity::Active;
     startRecording();
     keyboard->type(k, {super});
     queue.run();
     EXPECT_EQ(recorder().accessibleDescription(), u"Super, K"_s);
+}
+
+TEST_F(PreferencesViewTest, WhatKeepsTheShortcutFromWorkingIsSaidInWords) {
+    struct Row {
+        ShortcutRecorder::Activity activity;
+        QString words;
+    };
+
+    using enum ShortcutRecorder::Activity;
+    const auto height = view->height();
+    const auto top = list().mapTo(view.get(), QPoint()).y();
+    for (const auto& [state, words] :
+         {Row{HeldElsewhere, u"Another program holds this shortcut."_s},
+          Row{NoSuchKey, u"This keyboard has no such key."_s},
+          Row{Unavailable, u"Global shortcuts are not available on this desktop."_s}}) {
+        activity = state;
+        view->refreshSoon();
+        queue.run();
+        EXPECT_TRUE(shows(words)) << words.toStdString();
+        EXPECT_EQ(view->height(), height);
+    }
+    activity = Active;
+    view->refreshSoon();
+    queue.run();
+    EXPECT_FALSE(shows(u"Global shortcuts are not available on this desktop."_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list().mapTo(view.get(), QPoint()).y() == top; }))
+        << "it leaves no gap";
 }
 
 TEST_F(PreferencesViewTest, LabelsFollowTheKeyboardLayoutInALaterIteration) {

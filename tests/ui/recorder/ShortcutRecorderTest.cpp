@@ -253,8 +253,7 @@ TEST_F(ShortcutRecorderTest, RecordingIsToldByWhatHasTheFocus) {
 
 TEST_F(ShortcutRecorderTest, ShortcutOfAnotherProgramIsSaidNotToBeActive) {
     recorder->setActivity(ShortcutRecorder::Activity::HeldElsewhere);
-    const auto warning =
-        u"Not active: another program holds this shortcut. Record a different one."_s;
+    const auto warning = u"Another program holds this shortcut."_s;
     EXPECT_EQ(description(), u"Control, Shift, Super, D. "_s + warning);
     ASSERT_EQ(caps().size(), 4U);
     for (const auto* cap : caps()) {
@@ -265,7 +264,9 @@ TEST_F(ShortcutRecorderTest, ShortcutOfAnotherProgramIsSaidNotToBeActive) {
     EXPECT_EQ(description(), u"Recording: Waiting for a key"_s);
     keyboard.type(escape);
     recorder->setActivity(ShortcutRecorder::Activity::Unavailable);
-    EXPECT_EQ(caps().front()->toolTip(), u"Not active: global shortcuts are not available here."_s);
+    EXPECT_EQ(caps().front()->toolTip(), u"Global shortcuts are not available on this desktop."_s);
+    recorder->setActivity(ShortcutRecorder::Activity::NoSuchKey);
+    EXPECT_EQ(caps().front()->toolTip(), u"This keyboard has no such key."_s);
     recorder->setActivity(ShortcutRecorder::Activity::Active);
     EXPECT_EQ(caps().front()->toolTip(), u"Control"_s);
     EXPECT_EQ(description(), u"Control, Shift, Super, D"_s);

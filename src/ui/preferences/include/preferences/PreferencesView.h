@@ -32,7 +32,7 @@ public:
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
         const Clock& clock;
-        /// Whether the shortcut reaches the program; asked when the view shows or has changed it.
+        /// Whether the shortcut reaches the program; asked at each refresh.
         std::function<ShortcutRecorder::Activity()> shortcutActivity;
         PasteReader pasteReader = {};
     };

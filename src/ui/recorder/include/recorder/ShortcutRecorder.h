@@ -29,7 +29,7 @@ public:
         Active,
         HeldElsewhere, ///< by another program
         NoSuchKey,     ///< this keyboard cannot type it
-        Unavailable    ///< this desktop lets no program have one
+        Unavailable    ///< this desktop lets no program have one, or not this one
     };
 
     /// A new shortcut is set as soon as it is recorded. `layout` and `queue` must outlive the
@@ -49,6 +49,9 @@ public:
 
     /// The labels of the key caps: of the shortcut, or of what is held while recording, and "…".
     [[nodiscard]] QStringList keys() const;
+
+    /// What is to be said where it is not Active; else empty.
+    [[nodiscard]] static QString warningOf(Activity activity);
 
     /// Told by the caps' tooltips and the description where it is not Active.
     void setActivity(Activity activity);
