@@ -15,8 +15,10 @@ X11Pasteboard::X11Pasteboard(std::shared_ptr<X11Connection> connection, MainQueu
       m_windows(m_connection),
       m_clock(m_connection),
       m_inbox(m_connection, m_queue),
-      m_clipboard(m_inbox, m_clock, m_connection->atom("CLIPBOARD"), QClipboard::Clipboard),
-      m_primary(m_inbox, m_clock, XCB_ATOM_PRIMARY, QClipboard::Selection),
+      m_delivery(m_connection, m_queue),
+      m_clipboard(
+          m_inbox, m_clock, m_delivery, m_connection->atom("CLIPBOARD"), QClipboard::Clipboard),
+      m_primary(m_inbox, m_clock, m_delivery, XCB_ATOM_PRIMARY, QClipboard::Selection),
       m_loan(m_connection, m_queue, m_clipboard.owner()) {
 }
 

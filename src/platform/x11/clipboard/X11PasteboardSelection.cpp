@@ -33,12 +33,13 @@ private:
 X11PasteboardSelection::X11PasteboardSelection(
     X11SelectionInbox& inbox,
     const X11ServerClock& clock,
+    X11SelectionDelivery& delivery,
     xcb_atom_t selection,
     QClipboard::Mode mode)
     : m_inbox(inbox),
       m_clock(clock),
       m_mode(mode),
-      m_owner(inbox.connection(), inbox.queue(), clock, selection) {
+      m_owner(inbox.connection(), inbox.queue(), clock, delivery, selection) {
 }
 
 X11SelectionSource X11PasteboardSelection::source() const {

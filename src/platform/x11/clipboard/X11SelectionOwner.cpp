@@ -40,13 +40,14 @@ X11SelectionOwner::X11SelectionOwner(
     std::shared_ptr<X11Connection> connection,
     MainQueue& queue,
     const X11ServerClock& clock,
+    X11SelectionDelivery& delivery,
     xcb_atom_t selection)
     : m_connection(std::move(connection)),
       m_queue(queue),
       m_clock(clock),
       m_selection(selection),
       m_window(m_connection),
-      m_delivery(m_connection, queue),
+      m_delivery(delivery),
       m_subscription(
           m_connection->subscribe([this](const xcb_generic_event_t& event) { handle(event); })) {
 }

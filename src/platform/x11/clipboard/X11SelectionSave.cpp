@@ -22,12 +22,14 @@ X11SelectionSave::X11SelectionSave(
     MainQueue& queue,
     xcb_atom_t selection,
     xcb_timestamp_t time,
-    Done done)
+    Done done,
+    qsizetype mostBytes)
     : m_inbox(inbox),
       m_queue(queue),
       m_selection(selection),
       m_time(time),
       m_done(std::move(done)),
+      m_bytesLeft(mostBytes),
       m_end(queue.after(longestSave, [this] {
           qCDebug(lcSave, "cut off at the end of its time, %lld targets unread", m_unread.size());
           finish();

@@ -12,16 +12,14 @@ QStringList X11AtomNames::of(xcb_connection_t* connection, const std::vector<xcb
     std::ranges::copy_if(atoms, std::back_inserter(unknown), [this](xcb_atom_t atom) {
         return !m_names.contains(atom);
     });
-    if (m_names.size() + unknown.size() > mostRemembered) {
-        m_names.clear();
-        unknown = atoms;
-    }
     fetch(connection, unknown);
     QStringList names;
     for (const auto atom : atoms) {
         const auto known = m_names.find(atom);
         names.append(known == m_names.end() ? QString() : known->second);
     }
+    if (m_names.size() > mostRemembered)
+        m_names.clear();
     return names;
 }
 

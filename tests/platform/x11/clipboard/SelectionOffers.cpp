@@ -31,6 +31,7 @@ startOwner(const std::vector<Offer>& offers, const OwnerTraits& traits) {
         {u"selection"_s, traits.selection},
         {u"targets"_s, traits.tellsTargets},
         {u"offers"_s, described},
+        {u"flood"_s, traits.flood},
     };
     if (!traits.names.isEmpty())
         order.insert(u"names"_s, QJsonArray::fromStringList(traits.names));

@@ -26,6 +26,7 @@ struct OwnerTraits {
     QString selection = clipboardSelection;
     bool tellsTargets = true;
     QStringList names{}; ///< what it claims to offer, if not exactly its offers
+    int flood = 0;       ///< and how much more, which has no name
 };
 
 /// Starts a program that owns a selection, and waits until it does.

@@ -43,6 +43,18 @@ TEST_F(X11PasteboardHandOverTest, TheManagerKeepsWhatWeOwn) {
     EXPECT_EQ(itemFrom(report[u"kept"_s]), item);
 }
 
+TEST_F(X11PasteboardHandOverTest, WhatHistoriesAreToIgnoreIsNotHandedOver) {
+    const auto manager = startManager(true);
+    const auto hint = u"x-kde-passwordManagerHint"_s;
+    const PasteboardItem password{
+        {u"UTF8_STRING"_s, "hunter2"_ba, u"UTF8_STRING"_s}, {hint, "secret"_ba, hint}};
+    giveBack(password);
+    startHandOver();
+    EXPECT_TRUE(isDoneAtOnce());
+    EXPECT_EQ(contentsOf(), password);
+    EXPECT_EQ(manager->textsSoFar(), QStringList{});
+}
+
 TEST_F(X11PasteboardHandOverTest, AManagerThatHangsIsGivenUpAfterASecond) {
     const auto manager = startManager(false);
     copy(u"text"_s);

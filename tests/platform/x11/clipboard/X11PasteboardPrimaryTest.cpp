@@ -70,5 +70,16 @@ TEST_F(X11PasteboardPrimaryTest, ClearingDoesNotTouchAPrimaryThatAnotherProgramH
     EXPECT_TRUE(readAs(u"owned"_s, {}, primarySelection).toBool());
 }
 
+TEST_F(X11PasteboardPrimaryTest, ProgramThatReadsBothSelectionsThroughOneWindowGetsAllOfBoth) {
+    const PasteboardItem clipboard{{u"big"_s, noise(900'000), u"big"_s}};
+    const PasteboardItem primary{{u"big"_s, noise(3'000'000), u"big"_s}};
+    pass(u"12:30"_s);
+    restore(clipboard, primary);
+    const auto received = itemFrom(readAs(u"both"_s, {u"big"_s}));
+    ASSERT_EQ(received.size(), 2);
+    EXPECT_TRUE(received[0] == clipboard[0]);
+    EXPECT_TRUE(received[1] == primary[0]);
+}
+
 } // namespace
 } // namespace quorvane

@@ -16,6 +16,8 @@ from Xlib.xobject.drawable import Window
 
 TYPECODES = {8: "B", 16: "H", 32: "I"}
 
+REQUEST = 200_000  # bytes in one request; Xlib for Python knows no larger ones
+
 
 def order() -> dict[str, Any]:
     """What the test wants of the program: one line of its input."""
@@ -60,10 +62,20 @@ class SelectionClient:
         return self.display.get_atom(name)
 
     def put(self, window: Window, store: int, kind: str, units: int, data: bytes) -> None:
-        """Sets a property, bit for bit; nothing if the window no longer exists."""
-        values = data if units == 8 else memoryview(data).cast(TYPECODES[units]).tolist()
-        window.change_property(store, self.atom(kind), units, values, onerror=CatchError())
-        self.display.flush()
+        """Sets a property, bit for bit and of any length; nothing if there is no such window."""
+        mode = X.PropModeReplace
+        for start in range(0, max(len(data), 1), REQUEST):
+            part = data[start : start + REQUEST]
+            values = part if units == 8 else memoryview(part).cast(TYPECODES[units]).tolist()
+            window.change_property(
+                store, self.atom(kind), units, values, mode=mode, onerror=CatchError()
+            )
+            mode = X.PropModeAppend
+        # A flush leaves what the socket does not take to the next request.
+        if len(data) > REQUEST:
+            self.display.sync()
+        else:
+            self.display.flush()
 
     def next_event(self, within: float = 10) -> Event | None:
         """The next event; none if there is none in so many seconds."""

@@ -4,7 +4,7 @@
 An offer's manner is "plain" (one property), "incremental", "dripping" (increments of a few bytes,
 each on the test's go-ahead), "refusing", "silent" (no answer), "late" (the first answer is put off
 until the next request) or "dying" (gone after the first increment). With "targets" false the owner
-cannot tell its targets.
+cannot tell its targets; with "flood" it tells so many more that nobody has asked for.
 
 It reports "owned", then each target that it is asked for, "taken" for each increment of a dripping
 one that it may follow up, and ends when it loses the selection.
@@ -29,6 +29,7 @@ class Owner(SelectionClient):
         self.offers = {offer["target"]: offer for offer in wanted["offers"]}
         self.names = wanted.get("names", list(self.offers))
         self.tells_targets = wanted.get("targets", True)
+        self.flood = wanted.get("flood", 0)
         self.selection = self.atom(wanted["selection"])
         self.since = self.server_time()
         self.transfers = {}
@@ -89,6 +90,7 @@ class Owner(SelectionClient):
         """The property of one answer."""
         if target == "TARGETS" and self.tells_targets:
             atoms = [self.atom(name) for name in self.names]
+            atoms += range(atoms[-1] + 1, atoms[-1] + 1 + self.flood)
             self.put(requestor, store, "ATOM", 32, struct.pack(f"{len(atoms)}I", *atoms))
         elif target == "TIMESTAMP":
             self.put(requestor, store, "INTEGER", 32, struct.pack("I", self.since))

@@ -10,6 +10,9 @@
 "vanishing": one target in increments; the window is destroyed after the first.
 "outlasting": one target in increments, the second of them on the test's go-ahead; reports "begun"
 once it has the first.
+"both": one target in increments of CLIPBOARD and of PRIMARY, through one window; the first is read
+to its end before the other is read on.
+"crowd": one target so many times in one request; how many of them are served.
 "owned": whether anybody owns the selection.
 """
 
@@ -179,16 +182,16 @@ class Reader(SelectionClient):
         unfinished = list(parts)
         while unfinished:
             for window in list(unfinished):
-                _, _, part = self.increment_anywhere(window)
+                _, _, part = self.increment_anywhere(window, self.store)
                 parts[window] += part
                 if not part:
                     unfinished.remove(window)
         return [encoded(data) for data in parts.values()]
 
-    def increment_anywhere(self, window):
+    def increment_anywhere(self, window, store: int):
         """The next increment, whose announcement may have been read already."""
         while True:
-            taken = self.take(window, self.store)
+            taken = self.take(window, store)
             self.display.sync()
             if taken is not None:
                 return taken
@@ -215,6 +218,46 @@ class Reader(SelectionClient):
         report("begun")
         wait_for_go_ahead()
         return self.described(target, self.increments(self.window, self.store, [first]))
+
+    def both(self, target: str):
+        """Two selections into two properties of one window."""
+        stores = {}
+        for selection in ("CLIPBOARD", "PRIMARY"):
+            stores[selection] = self.atom(f"QUORVANE_TEST_{selection}")
+            self.selection = self.atom(selection)
+            self.ask(target, stores[selection], self.server_time())
+            self.answer()
+            assert self.take(self.window, stores[selection])[0] == self.atom("INCR")
+        first = {}
+        for selection, store in stores.items():
+            _, _, first[selection] = self.increment_anywhere(self.window, store)
+        return [
+            self.described(target, self.rest(store, [first[selection]]))
+            for selection, store in stores.items()
+        ]
+
+    def rest(self, store: int, parts: list[bytes]):
+        """What follows the parts, whose announcements may have been read already."""
+        while True:
+            kind, units, part = self.increment_anywhere(self.window, store)
+            if not part:
+                return kind, units, b"".join(parts), len(parts)
+            parts.append(part)
+
+    def crowd(self, target: str, count: int) -> int:
+        """As many properties as pairs, all for one target."""
+        stores = [self.atom(f"QUORVANE_TEST_CROWD_{i}") for i in range(min(count, 256))]
+        pairs = [self.atom(target), stores[0]] * count
+        pairs[1::2] = [stores[i % len(stores)] for i in range(count)]
+        data = struct.pack(f"{len(pairs)}I", *pairs)
+        self.put(self.window, self.store, "ATOM_PAIR", 32, data)
+        self.ask("MULTIPLE", self.store, self.server_time())
+        try:
+            self.answer()
+        except Refused:
+            return 0
+        _, _, left = self.take(self.window, self.store)
+        return sum(target != X.NONE for target, _ in struct.iter_unpack("2I", left))
 
     def owned(self) -> bool:
         """Whether there is an owner."""

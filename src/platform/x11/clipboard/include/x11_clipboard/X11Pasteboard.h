@@ -54,6 +54,7 @@ private:
     X11Windows m_windows;
     X11ServerClock m_clock;
     X11SelectionInbox m_inbox;
+    X11SelectionDelivery m_delivery;
     X11PasteboardSelection m_clipboard;
     X11PasteboardSelection m_primary;
     X11ClipboardLoan m_loan;

@@ -17,10 +17,11 @@ namespace quorvane {
 /// they are a text of ours that is only passing.
 class X11PasteboardSelection {
 public:
-    /// Inbox and clock must outlive it. The mode is how Qt calls the selection.
+    /// Inbox, clock and delivery must outlive it. The mode is how Qt calls the selection.
     X11PasteboardSelection(
         X11SelectionInbox& inbox,
         const X11ServerClock& clock,
+        X11SelectionDelivery& delivery,
         xcb_atom_t selection,
         QClipboard::Mode mode);
 

@@ -23,11 +23,13 @@ public:
     /// Pairs of a target and a property in one request (MULTIPLE); a longer one is refused.
     static constexpr std::size_t mostPairs = 256;
 
-    /// Queue and clock must outlive it.
+    /// Queue, clock and delivery must outlive it. All selections share one delivery: a program may
+    /// read several of them through one window.
     X11SelectionOwner(
         std::shared_ptr<X11Connection> connection,
         MainQueue& queue,
         const X11ServerClock& clock,
+        X11SelectionDelivery& delivery,
         xcb_atom_t selection);
 
     [[nodiscard]] xcb_atom_t selection() const { return m_selection; }
@@ -99,7 +101,7 @@ private:
     const X11ServerClock& m_clock;
     xcb_atom_t m_selection;
     X11HiddenWindow m_window;
-    X11SelectionDelivery m_delivery;
+    X11SelectionDelivery& m_delivery;
     std::optional<X11SelectionContent> m_content;
     std::optional<X11PassingText> m_passing; ///< while its restore is due
     std::unique_ptr<X11LateText> m_late;

@@ -27,19 +27,21 @@ public:
 
     /// Of an owner's targets, the first.
     static constexpr qsizetype mostTargets = 256;
-    /// Bytes in all; a target that does not fit in what is left of them is dropped.
+    /// Bytes in all.
     static constexpr qsizetype largestSave = 268'435'456;
 
     /// Calls `done` once, in a later event-loop iteration, with what was read, in the owner's
     /// order; it may destroy the save. Destroying it earlier gives up. All requests carry the same
-    /// time, so that a later owner of the selection can tell that the request is not for it. Inbox
-    /// and queue must outlive it.
+    /// time, so that a later owner of the selection can tell that the request is not for it. A
+    /// target that does not fit in what is left of `mostBytes` is dropped. Inbox and queue must
+    /// outlive it.
     X11SelectionSave(
         X11SelectionInbox& inbox,
         MainQueue& queue,
         xcb_atom_t selection,
         xcb_timestamp_t time,
-        Done done);
+        Done done,
+        qsizetype mostBytes = largestSave);
 
     X11SelectionSave(const X11SelectionSave&) = delete;
     X11SelectionSave& operator=(const X11SelectionSave&) = delete;
@@ -65,7 +67,7 @@ private:
     std::map<QString, xcb_atom_t> m_atoms;
     QStringList m_unread; ///< in the order of reading
     std::map<QString, PasteboardEntry> m_read;
-    qsizetype m_bytesLeft = largestSave;
+    qsizetype m_bytesLeft;
     std::unique_ptr<X11SelectionConversion> m_conversion;
     Deadline m_silence;
     Deadline m_end;
