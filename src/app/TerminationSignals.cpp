@@ -3,8 +3,10 @@
 
 #include <QSocketNotifier>
 
+#include <array>
+#include <cerrno>
 #include <csignal>
-#include <sys/signalfd.h>
+#include <sys/eventfd.h>
 #include <unistd.h>
 #include <utility>
 
@@ -12,35 +14,48 @@ namespace quorvane {
 
 namespace {
 
-int makeDescriptor() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        sigaddset(&signals, signal);
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
+constexpr std::array terminationSignals{SIGTERM, SIGINT, SIGHUP};
+
+void handleBy(void (*handler)(int)) {
+    struct sigaction action {};
+
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : terminationSignals) {
+        struct sigaction before {};
+
+        ::sigaction(signal, nullptr, &before);
+        if (before.sa_handler != SIG_IGN)
+            ::sigaction(signal, &action, nullptr);
+    }
 }
 
 } // namespace
 
-TerminationSignals::TerminationSignals() : m_descriptor(makeDescriptor()) {
+TerminationSignals::TerminationSignals(std::function<void()> handler)
+    : m_handler(std::move(handler)),
+      m_descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      m_notifier(std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read)) {
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
+        eventfd_t count = 0;
+        if (::eventfd_read(m_descriptor, &count) == 0)
+            m_handler();
+    });
+    s_descriptor = m_descriptor;
+    handleBy(&TerminationSignals::wakeUp);
 }
 
 TerminationSignals::~TerminationSignals() {
+    handleBy(SIG_DFL);
+    s_descriptor = -1;
     m_notifier.reset();
     ::close(m_descriptor);
 }
 
-void TerminationSignals::onSignal(std::function<void()> handler) {
-    m_handler = std::move(handler);
-    m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] { read(); });
-}
-
-void TerminationSignals::read() {
-    signalfd_siginfo info{};
-    while (::read(m_descriptor, &info, sizeof info) == sizeof info)
-        m_handler();
+void TerminationSignals::wakeUp(int /*signal*/) {
+    const int error = errno;
+    ::eventfd_write(s_descriptor, 1);
+    errno = error;
 }
 
 } // namespace quorvane

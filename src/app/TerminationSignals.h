@@ -3,6 +3,7 @@
 
 #include <QObject>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 
@@ -11,23 +12,23 @@ class QSocketNotifier;
 namespace quorvane {
 
 /// Receives the signals by which a session or a terminal ends a process (SIGTERM, SIGINT, SIGHUP)
-/// in the event loop. Construct it before any thread starts: it blocks the signals' default effect,
-/// and only threads that start later inherit that.
+/// in the event loop, while it lives; before and after, they end the process at once. Blocks no
+/// signal, which the programs that we start would inherit. One at a time.
 class TerminationSignals final : public QObject {
 public:
-    TerminationSignals();
+    /// Needs an application object. A signal that the process was started to ignore stays ignored.
+    explicit TerminationSignals(std::function<void()> handler);
     ~TerminationSignals() override;
 
-    /// Calls the handler for signals to come, and for those that came since construction. Needs an
-    /// application object.
-    void onSignal(std::function<void()> handler);
-
 private:
-    void read();
+    static void wakeUp(int signal);
 
+    /// A signal's handler is given nothing but the signal.
+    static inline std::atomic<int> s_descriptor = -1;
+
+    std::function<void()> m_handler;
     int m_descriptor;
     std::unique_ptr<QSocketNotifier> m_notifier;
-    std::function<void()> m_handler;
 };
 
 } // namespace quorvane

@@ -5,20 +5,34 @@
 #include "Backends.h"
 #include "TerminationSignals.h"
 
+#include <loop/Failure.h>
 #include <loop/QtMainQueue.h>
 #include <platform_dbus/DBusApplicationInstance.h>
 #include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
+#include <settings/ThreadSettingsWriter.h>
 #include <settings/UserFolders.h>
 #include <time/SystemCurrentZone.h>
 
 #include <QApplication>
 #include <QIcon>
 
+#include <chrono>
+
 namespace {
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
+using namespace std::chrono_literals;
+
+constexpr auto diskPatience = 5s;
+
+/// What is still written while the program ends.
+struct Disk {
+    QtMainQueue outcomes;
+    DiskFileWriter files;
+    ThreadSettingsWriter settings{files, outcomes};
+};
 
 void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
@@ -29,16 +43,15 @@ void configure(QApplication& application) {
     application.setQuitOnLastWindowClosed(false);
 }
 
-int run(QApplication& application, TerminationSignals& signals, ApplicationInstance& instance) {
+int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& instance) {
     const auto environment = processEnvironment();
     const auto folders = UserFolders::fromEnvironment(environment);
     QtMainQueue mainQueue;
     SystemClock clock;
     ZoneDatabase zones;
     SystemCurrentZone currentZone(zones, environment);
-    DiskFileWriter files;
-    JsonDefaultsStore defaults(folders.defaultsFile(), files);
-    WindowFrameStore windowFrames(folders.windowsFile(), files);
+    JsonDefaultsStore defaults(folders.defaultsFile(), writer);
+    WindowFrameStore windowFrames(folders.windowsFile(), writer);
     auto platform = makePlatformServices(environment, QGuiApplication::platformName(), mainQueue);
     const AppearanceFollower appearanceFollower(
         *platform.appearance, AppearanceFollower::paletteSource());
@@ -58,14 +71,13 @@ int run(QApplication& application, TerminationSignals& signals, ApplicationInsta
     instance.onAction(
         [&](const QString& name) { mainQueue.async([&, name] { delegate.performAction(name); }); });
     QObject::connect(&delegate, &AppDelegate::willTerminate, [&] { instance.release(); });
-    signals.onSignal([&] { delegate.terminate(); });
+    const TerminationSignals signals([&] { delegate.terminate(); });
     return application.exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    TerminationSignals signals;
     ApplicationAccessible::install();
     QApplication application(argc, argv);
     configure(application);
@@ -73,5 +85,11 @@ int main(int argc, char** argv) {
     // The constructor of the model writes settings, which a second process must not do.
     if (instance.claim() == ApplicationInstance::Role::Second)
         return 0;
-    return run(application, signals, instance);
+    // Static: exit(), which Qt calls when its connection to the display breaks, waits for it, too.
+    static Disk disk;
+    const int status = run(application, disk.settings, instance);
+    // All that the session could miss has been given back: windows, keys, clipboard, bus name.
+    if (!disk.settings.finish(diskPatience))
+        reportFailure(u"the disk does not answer; waiting until it has taken the settings"_s);
+    return status;
 }

@@ -92,8 +92,10 @@ HotKeyCombo HotKeyCombo::load(const DefaultsStore& store) {
 }
 
 void HotKeyCombo::save(DefaultsStore& store) const {
-    setting::hotKeyCode.store(store, keyCode);
-    setting::hotKeyModifiers.store(store, modifiers);
+    store.setTogether([&] {
+        setting::hotKeyCode.store(store, keyCode);
+        setting::hotKeyModifiers.store(store, modifiers);
+    });
 }
 
 QJsonObject HotKeyCombo::encoded() const {

@@ -4,7 +4,6 @@
 #include "AppDelegate.h"
 
 #include <app/Panel.h>
-#include <settings/DiskFileWriter.h>
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeAppearance.h>
@@ -18,6 +17,7 @@
 #include <testing/FakeWorkspace.h>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
+#include <testing/ImmediateSettingsWriter.h>
 #include <testing/MemoryDefaults.h>
 
 #include <QApplication>
@@ -152,7 +152,7 @@ private:
     }
 
     QTemporaryDir m_folder;
-    DiskFileWriter m_files;
+    ImmediateSettingsWriter m_files;
     std::unique_ptr<WindowFrameStore> m_frames;
 };
 

@@ -3,9 +3,9 @@
 
 #include <app/Panel.h>
 #include <panel/PanelMetrics.h>
-#include <settings/DiskFileWriter.h>
 #include <testing/CallLog.h>
 #include <testing/FakeWorkspace.h>
+#include <testing/ImmediateSettingsWriter.h>
 
 #include <QApplication>
 #include <QScreen>
@@ -55,7 +55,7 @@ protected:
     CallLog log{queue};
     FakeWorkspace workspace{log};
     QTemporaryDir folder;
-    DiskFileWriter files;
+    ImmediateSettingsWriter files;
     WindowFrameStore frames{folder.filePath(u"windows.json"_s), files};
     QWidget* content = new QWidget; // the panel takes it over
     QWidget* part = new QWidget;

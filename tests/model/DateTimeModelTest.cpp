@@ -2,11 +2,12 @@
 #include "../composition/Samples.h"
 
 #include <model/DateTimeModel.h>
-#include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
+#include <testing/ImmediateSettingsWriter.h>
 #include <testing/MemoryDefaults.h>
+#include <testing/RecordingSettingsWriter.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -59,7 +60,7 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-    DiskFileWriter m_writer;
+    ImmediateSettingsWriter m_writer;
 };
 
 const QStringList defaultFavorites{
@@ -326,6 +327,18 @@ TEST_F(DateTimeModelTest, WhatTheUserComposedEndsWithTheRun) {
     EXPECT_EQ(next->startDate(), march9);
     EXPECT_EQ(next->presentationMode(), PresentationMode::Popover);
     EXPECT_EQ(next->hotKey(), (HotKeyCombo{9, 256}));
+}
+
+TEST_F(DateTimeModelTest, ShortcutIsStoredAtOnceAndNeverHalf) {
+    RecordingSettingsWriter writer;
+    JsonDefaultsStore defaults(u"/none"_s, writer);
+    const auto model = makeModel(defaults);
+    const auto before = writer.changes().size();
+    model->setHotKey({9, 256});
+    ASSERT_EQ(writer.changes().size(), before + 1);
+    const auto& values = writer.changes().back().values;
+    EXPECT_EQ(values[u"hotKeyCode"_s].toInt(), 9);
+    EXPECT_EQ(values[u"hotKeyModifiers"_s].toInt(), 256);
 }
 
 TEST_F(DateTimeModelTest, OutputFollowsTheFields) {

@@ -3,9 +3,9 @@
 #include "VectorKinds.h"
 
 #include <hotkey/HotKeyCombo.h>
-#include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
 #include <testing/FakeKeyboardLayout.h>
+#include <testing/ImmediateSettingsWriter.h>
 
 #include <QTemporaryFile>
 
@@ -45,7 +45,7 @@ Comparison checkHotKeyDisplay(const VectorRow& row) {
 Comparison checkHotKeyLoad(const VectorRow& row) {
     QTemporaryFile file;
     writeSettings(file, {storedNumber(row, "hotKeyCode"), storedNumber(row, "hotKeyModifiers")});
-    DiskFileWriter writer;
+    ImmediateSettingsWriter writer;
     const JsonDefaultsStore store(file.fileName(), writer);
     if (stopsProcess([&] { static_cast<void>(HotKeyCombo::load(store)); }))
         return {row.value("expected"), "fatal"_L1};

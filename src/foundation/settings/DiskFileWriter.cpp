@@ -5,9 +5,12 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <stdio.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace quorvane {
 
@@ -27,7 +30,24 @@ class DiskFileReplacement final : public FileReplacement {
 public:
     explicit DiskFileReplacement(const QString& path) : m_file(path) {}
 
+    ~DiskFileReplacement() override {
+        if (m_folder >= 0)
+            ::close(m_folder);
+    }
+
+    DiskFileReplacement(const DiskFileReplacement&) = delete;
+    DiskFileReplacement& operator=(const DiskFileReplacement&) = delete;
+
     bool makeFolder() override { return makePrivateFolder(QFileInfo(m_file.fileName()).path()); }
+
+    // The folder itself is locked: a file for it would be left behind among the user's. The lock
+    // goes with the descriptor, however the process ends.
+    void excludeOthers() override {
+        const auto folder = QFile::encodeName(QFileInfo(m_file.fileName()).path());
+        m_folder = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        while (m_folder >= 0 && ::flock(m_folder, LOCK_EX) != 0 && errno == EINTR) {
+        }
+    }
 
     bool open() override { return m_file.open(QIODevice::WriteOnly); }
 
@@ -43,6 +63,7 @@ public:
 
 private:
     QSaveFile m_file;
+    int m_folder = -1; ///< locked
 };
 
 } // namespace

@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-JsonDefaultsStore::JsonDefaultsStore(QString path, FileWriter& writer)
+JsonDefaultsStore::JsonDefaultsStore(QString path, SettingsWriter& writer)
     : m_file(std::move(path), writer) {
 }
 
@@ -45,6 +45,10 @@ void JsonDefaultsStore::setString(const QString& key, const QString& value) {
 
 void JsonDefaultsStore::setStringArray(const QString& key, const QStringList& value) {
     m_file.setValue(key, QJsonArray::fromStringList(value));
+}
+
+void JsonDefaultsStore::setTogether(const std::function<void()>& changes) {
+    m_file.setTogether(changes);
 }
 
 } // namespace quorvane

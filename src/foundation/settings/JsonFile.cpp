@@ -1,70 +1,78 @@
 // SPDX-License-Identifier: MIT
+#include <loop/Failure.h>
 #include <settings/JsonFile.h>
+#include <settings/SettingsFile.h>
 
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonDocument>
-#include <QLoggingCategory>
+#include <utility>
 
 namespace quorvane {
 
 using namespace Qt::StringLiterals;
 
-namespace {
+using settingsfile::State;
 
-Q_LOGGING_CATEGORY(lcSettings, "quorvane.settings", QtFatalMsg)
-
-/// None if there is no such file or it holds no JSON object.
-std::optional<QJsonObject> readObject(const QString& path) {
-    // Opening anything but a plain file could block, as a pipe without a writer does.
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const auto document = QJsonDocument::fromJson(file.readAll());
-    return document.isObject() ? std::optional(document.object()) : std::nullopt;
+JsonFile::JsonFile(QString path, SettingsWriter& writer)
+    : m_path(std::move(path)),
+      m_writer(writer),
+      m_isWritable(start()),
+      m_self(std::make_shared<JsonFile*>(this)) {
 }
 
-} // namespace
-
-JsonFile::JsonFile(QString path, FileWriter& writer) : m_path(std::move(path)), m_writer(writer) {
-    if (!QFileInfo::exists(m_path))
-        return;
-    if (auto values = readObject(m_path)) {
-        m_values = std::move(*values);
-        return;
-    }
-    m_isWritable = moveAside();
+/// Whether the file may be written.
+bool JsonFile::start() {
+    auto stored = settingsfile::read(m_path);
+    m_values = std::move(stored.values);
+    if (stored.state == State::Closed)
+        reportFailure(u"%1 cannot be read and stays as it is; changes will be lost"_s.arg(m_path));
+    if (stored.state != State::NoObject)
+        return stored.state != State::Closed;
+    const auto aside = m_writer.moveAside(m_path);
+    reportFailure(
+        aside ? u"%1 could not be understood and is now %2"_s.arg(m_path, *aside)
+              : u"%1 cannot be understood and stays as it is; changes will be lost"_s.arg(m_path));
+    return aside.has_value();
 }
 
 void JsonFile::setValue(const QString& key, const QJsonValue& value) {
     if (m_values.value(key) == value && !m_lacksChanges)
         return;
     m_values.insert(key, value);
+    m_changed.insert(key);
+    m_isDue = true;
+    if (!m_isSettingTogether)
+        write();
+}
+
+void JsonFile::setTogether(const std::function<void()>& changes) {
+    m_isSettingTogether = true;
+    changes();
+    m_isSettingTogether = false;
+    if (m_isDue)
+        write();
+}
+
+void JsonFile::write() {
+    m_isDue = false;
     if (!m_isWritable)
         return;
-    m_lacksChanges = !write();
-    if (m_lacksChanges)
-        qCWarning(lcSettings) << "could not write" << m_path;
-}
-
-bool JsonFile::moveAside() const {
-    const auto taken = [](const QString& path) {
-        return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
+    m_lacksChanges = false;
+    ++m_lastWrite;
+    const auto noteOutcomeOf = [self = std::weak_ptr(m_self), number = m_lastWrite](bool written) {
+        if (const auto alive = self.lock())
+            (*alive)->noteOutcome(written, number);
     };
-    QString aside;
-    for (int number = 1; aside.isEmpty() || taken(aside); ++number)
-        aside = m_path + u".unreadable-%1"_s.arg(number);
-    const bool moved = m_writer.rename(m_path, aside);
-    qCWarning(lcSettings) << m_path
-                          << (moved ? "was unreadable, is now" : "is unreadable, stays as")
-                          << (moved ? aside : m_path);
-    return moved;
+    m_writer.write({m_path, m_values, m_changed}, noteOutcomeOf);
 }
 
-bool JsonFile::write() const {
-    const auto replacement = m_writer.replace(m_path);
-    return replacement->makeFolder() && replacement->open() && replacement->restrictToOwner() &&
-           replacement->write(QJsonDocument(m_values).toJson()) && replacement->commit();
+void JsonFile::noteOutcome(bool isWritten, int number) {
+    if (!isWritten)
+        reportFailure(u"%1 cannot be written; the next change tries again"_s.arg(m_path));
+    // A later write is under way, which has these changes, too.
+    if (number != m_lastWrite)
+        return;
+    m_lacksChanges = !isWritten;
+    if (isWritten)
+        m_changed.clear();
 }
 
 } // namespace quorvane

@@ -21,7 +21,7 @@ std::optional<int> coordinate(const QJsonObject& stored, QLatin1StringView name)
 
 } // namespace
 
-WindowFrameStore::WindowFrameStore(QString path, FileWriter& writer)
+WindowFrameStore::WindowFrameStore(QString path, SettingsWriter& writer)
     : m_file(std::move(path), writer) {
 }
 

@@ -34,6 +34,8 @@ private:
 
         bool makeFolder() override { return works(FileStep::MakeFolder) && m_real->makeFolder(); }
 
+        void excludeOthers() override { m_real->excludeOthers(); }
+
         bool open() override { return works(FileStep::Open) && m_real->open(); }
 
         bool restrictToOwner() override {

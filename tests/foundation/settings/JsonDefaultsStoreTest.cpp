@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
+#include <testing/ImmediateSettingsWriter.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -32,7 +32,7 @@ private:
     [[nodiscard]] QString path() const { return m_folder.filePath(u"defaults.json"_s); }
 
     QTemporaryDir m_folder;
-    DiskFileWriter m_writer;
+    ImmediateSettingsWriter m_writer;
 };
 
 TEST_F(JsonDefaultsStoreTest, AbsentKeyHasNoValueOfAnyType) {

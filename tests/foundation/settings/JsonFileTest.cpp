@@ -2,6 +2,8 @@
 #include "FaultyFileWriter.h"
 
 #include <settings/JsonFile.h>
+#include <testing/ImmediateSettingsWriter.h>
+#include <testing/RecordingSettingsWriter.h>
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <functional>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -58,7 +61,8 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    FaultyFileWriter m_writer;
+    FaultyFileWriter m_disk;
+    ImmediateSettingsWriter m_writer{m_disk};
 };
 
 using Names = std::vector<std::string>;
@@ -176,13 +180,116 @@ TEST_F(JsonFileTest, PipeInItsPlaceDoesNotBlock) {
 
 TEST_F(JsonFileTest, WhatCannotBeMovedAsideIsNeverOverwritten) {
     put("broken");
-    m_writer.fail(FileStep::Rename);
+    m_disk.fail(FileStep::Rename);
     JsonFile file(path(), m_writer);
-    m_writer.recover();
+    m_disk.recover();
     file.setValue(u"a"_s, 1);
     EXPECT_EQ(file.value(u"a"_s).toInt(), 1);
     EXPECT_EQ(bytesAt(path()), "broken");
     EXPECT_EQ(names(), Names{"defaults.json"});
+}
+
+/// Runs it, and returns what it wrote to standard error.
+std::string reportsOf(const std::function<void()>& run) {
+    testing::internal::CaptureStderr();
+    run();
+    return testing::internal::GetCapturedStderr();
+}
+
+/// A file that is there and gives the system an error: one when opened, one when read.
+class JsonFileClosedTest : public JsonFileTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(JsonFileClosedTest, StaysAsItIsAndIsReportedOnce) {
+    ASSERT_TRUE(QFile::link(QString::fromUtf8(GetParam()), path()));
+    const auto reports = reportsOf([&] {
+        JsonFile file(path(), m_writer);
+        EXPECT_TRUE(file.value(u"a"_s).isUndefined());
+        file.setValue(u"a"_s, 1);
+        EXPECT_EQ(file.value(u"a"_s).toInt(), 1);
+    });
+    EXPECT_EQ(
+        reports,
+        "quorvane: " + path().toStdString() +
+            " cannot be read and stays as it is; changes will be lost\n");
+    EXPECT_EQ(names(), Names{"defaults.json"});
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachError, JsonFileClosedTest, testing::Values("defaults.json", "/proc/self/mem"));
+
+TEST_F(JsonFileTest, FileThatCannotBeReadAnyMoreIsNotReplaced) {
+    JsonFile file(path(), m_writer);
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, path()));
+    file.setValue(u"a"_s, 1);
+    EXPECT_TRUE(QFileInfo(path()).isSymLink());
+    QFile::remove(path());
+    file.setValue(u"b"_s, 2);
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}, {u"b"_s, 2}}));
+}
+
+TEST_F(JsonFileTest, EachFailureIsOneLine) {
+    m_disk.fail(FileStep::Commit);
+    JsonFile file(path(), m_writer);
+    const auto line =
+        "quorvane: " + path().toStdString() + " cannot be written; the next change tries again\n";
+    EXPECT_EQ(reportsOf([&] { file.setValue(u"a"_s, 1); }), line);
+    EXPECT_EQ(reportsOf([&] { file.setValue(u"a"_s, 2); }), line);
+    m_disk.recover();
+    EXPECT_EQ(reportsOf([&] { file.setValue(u"a"_s, 3); }), "");
+}
+
+TEST_F(JsonFileTest, WritersOfTwoProcessesKeepEachOthersChanges) {
+    put(R"({"a": 0, "b": 0, "c": 0})");
+    JsonFile one(path(), m_writer);
+    JsonFile other(path(), m_writer);
+    one.setValue(u"a"_s, 1);
+    other.setValue(u"b"_s, 2);
+    one.setValue(u"c"_s, 3);
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}, {u"b"_s, 2}, {u"c"_s, 3}}));
+}
+
+TEST_F(JsonFileTest, FileThatBrokeMeanwhileIsMovedAsideByTheNextChange) {
+    put(R"({"a": 1})");
+    JsonFile file(path(), m_writer);
+    put("broken");
+    file.setValue(u"b"_s, 2);
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}, {u"b"_s, 2}}));
+    EXPECT_EQ(bytesAt(path(u"defaults.json.unreadable-1"_s)), "broken");
+}
+
+TEST_F(JsonFileTest, ValuesSetTogetherAreOneChange) {
+    RecordingSettingsWriter writer;
+    JsonFile file(path(), writer);
+    file.setTogether([&] {
+        file.setValue(u"a"_s, 1);
+        file.setValue(u"b"_s, 2);
+    });
+    ASSERT_EQ(writer.changes().size(), 1U);
+    EXPECT_EQ(writer.changes().front().values, (QJsonObject{{u"a"_s, 1}, {u"b"_s, 2}}));
+    EXPECT_EQ(writer.changes().front().changed, (QSet{u"a"_s, u"b"_s}));
+    file.setTogether([] {});
+    EXPECT_EQ(writer.changes().size(), 1U);
+}
+
+TEST_F(JsonFileTest, ChangeHoldsWhatIsNotKnownToBeWritten) {
+    RecordingSettingsWriter writer;
+    JsonFile file(path(), writer);
+    file.setValue(u"a"_s, 1);
+    file.setValue(u"b"_s, 2);
+    EXPECT_EQ(writer.changes().back().changed, (QSet{u"a"_s, u"b"_s}));
+    writer.tell(0, true); // says nothing of b
+    file.setValue(u"c"_s, 3);
+    EXPECT_EQ(writer.changes().back().changed, (QSet{u"a"_s, u"b"_s, u"c"_s}));
+    writer.tell(2, true);
+    file.setValue(u"d"_s, 4);
+    EXPECT_EQ(writer.changes().back().changed, (QSet{u"d"_s}));
+}
+
+TEST_F(JsonFileTest, OutcomeMayComeAfterTheEnd) {
+    RecordingSettingsWriter writer;
+    JsonFile(path(), writer).setValue(u"a"_s, 1);
+    EXPECT_EQ(reportsOf([&] { writer.tell(0, false); }), "");
 }
 
 class JsonFileFaultTest : public JsonFileTest, public testing::WithParamInterface<FileStep> {};
@@ -190,22 +297,22 @@ class JsonFileFaultTest : public JsonFileTest, public testing::WithParamInterfac
 TEST_P(JsonFileFaultTest, FailedWriteLeavesTheOldFileAndGoesWithTheNextChange) {
     put(R"({"kept": true})");
     JsonFile file(path(), m_writer);
-    m_writer.fail(GetParam());
+    m_disk.fail(GetParam());
     file.setValue(u"a"_s, 1);
     EXPECT_EQ(bytesAt(path()), R"({"kept": true})");
     EXPECT_EQ(names(), Names{"defaults.json"});
     EXPECT_EQ(file.value(u"a"_s).toInt(), 1);
 
-    m_writer.recover();
+    m_disk.recover();
     file.setValue(u"b"_s, 2);
     EXPECT_EQ(stored(), (QJsonObject{{u"kept"_s, true}, {u"a"_s, 1}, {u"b"_s, 2}}));
 }
 
 TEST_P(JsonFileFaultTest, EqualValueIsWrittenIfTheFileLacksIt) {
     JsonFile file(path(), m_writer);
-    m_writer.fail(GetParam());
+    m_disk.fail(GetParam());
     file.setValue(u"a"_s, 1);
-    m_writer.recover();
+    m_disk.recover();
     file.setValue(u"a"_s, 1);
     EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}}));
 }
@@ -232,7 +339,7 @@ TEST_F(JsonFileTest, FullDiskLeavesTheOldFileUntilThereIsRoom) {
     ASSERT_GE(child, 0);
     if (child == 0) {
         std::signal(SIGXFSZ, SIG_IGN); // so that writing fails with EFBIG
-        DiskFileWriter disk;
+        ImmediateSettingsWriter disk;
         JsonFile file(path(), disk);
         limitFileSize(100);
         file.setValue(u"long"_s, QString(4000, u'x'));

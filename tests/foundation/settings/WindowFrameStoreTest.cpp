@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <settings/DiskFileWriter.h>
 #include <settings/WindowFrameStore.h>
+#include <testing/ImmediateSettingsWriter.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -19,7 +19,7 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-    DiskFileWriter m_writer;
+    ImmediateSettingsWriter m_writer;
 };
 
 TEST_F(WindowFrameStoreTest, FrameIsReadByTheNextRunUnderItsName) {

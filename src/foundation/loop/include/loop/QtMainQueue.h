@@ -11,6 +11,7 @@ namespace quorvane {
 /// tasks may outlive it.
 class QtMainQueue final : public MainQueue {
 public:
+    /// May be called from any thread.
     void async(Task task) override;
 
     /// A negative delay counts as none.

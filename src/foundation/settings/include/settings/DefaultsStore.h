@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -39,6 +40,10 @@ public:
     virtual void setInteger(const QString& key, qint64 value) = 0;
     virtual void setString(const QString& key, const QString& value) = 0;
     virtual void setStringArray(const QString& key, const QStringList& value) = 0;
+
+    /// Runs what sets several values that mean something only together: either all of them are kept
+    /// or, where the process ends meanwhile, none.
+    virtual void setTogether(const std::function<void()>& changes) { changes(); }
 };
 
 } // namespace quorvane

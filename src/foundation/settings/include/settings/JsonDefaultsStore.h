@@ -10,7 +10,7 @@ namespace quorvane {
 class JsonDefaultsStore final : public DefaultsStore {
 public:
     /// `writer` must outlive the store.
-    JsonDefaultsStore(QString path, FileWriter& writer);
+    JsonDefaultsStore(QString path, SettingsWriter& writer);
 
     [[nodiscard]] bool hasValue(const QString& key) const override;
     [[nodiscard]] bool boolForKey(const QString& key) const override;
@@ -22,6 +22,7 @@ public:
     void setInteger(const QString& key, qint64 value) override;
     void setString(const QString& key, const QString& value) override;
     void setStringArray(const QString& key, const QStringList& value) override;
+    void setTogether(const std::function<void()>& changes) override;
 
 private:
     JsonFile m_file;

@@ -13,7 +13,8 @@ struct UserFolders {
     QString config; ///< settings: $XDG_CONFIG_HOME/quorvane, by default ~/.config/quorvane
     QString state;  ///< what a run leaves behind: $XDG_STATE_HOME/quorvane, ~/.local/state/quorvane
 
-    /// A variable that is empty or holds a relative path counts as not set.
+    /// A variable that is empty or holds a relative path counts as not set. Without a HOME the
+    /// system's list of users tells it.
     [[nodiscard]] static UserFolders fromEnvironment(const Environment& environment);
 
     [[nodiscard]] QString defaultsFile() const;

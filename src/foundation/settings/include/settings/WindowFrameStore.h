@@ -15,7 +15,7 @@ namespace quorvane {
 class WindowFrameStore {
 public:
     /// `writer` must outlive the store.
-    WindowFrameStore(QString path, FileWriter& writer);
+    WindowFrameStore(QString path, SettingsWriter& writer);
 
     /// None if nothing is stored, or no rectangle that has an area.
     [[nodiscard]] std::optional<QRect> frame(const QString& autosaveName) const;
