@@ -8,6 +8,7 @@
 #include <loop/Failure.h>
 #include <loop/QtMainQueue.h>
 #include <platform_dbus/DBusApplicationInstance.h>
+#include <platform_dbus/HungBusGuard.h>
 #include <settings/DiskFileWriter.h>
 #include <settings/JsonDefaultsStore.h>
 #include <settings/ThreadSettingsWriter.h>
@@ -25,6 +26,8 @@ using namespace Qt::StringLiterals;
 using namespace quorvane;
 using namespace std::chrono_literals;
 
+// A start on a bus that hangs is to be done within two seconds.
+constexpr auto busPatience = 1500ms;
 constexpr auto diskPatience = 5s;
 
 /// What is still written while the program ends.
@@ -78,10 +81,14 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
 } // namespace
 
 int main(int argc, char** argv) {
+    const auto environment = processEnvironment();
+    HungBusGuard busGuard(environment, busPatience);
     ApplicationAccessible::install();
     QApplication application(argc, argv);
+    busGuard.settle();
     configure(application);
-    DBusApplicationInstance instance;
+    DBusApplicationInstance instance(
+        QDBusConnection::sessionBus(), BusSocket::ofSession(environment));
     // The constructor of the model writes settings, which a second process must not do.
     if (instance.claim() == ApplicationInstance::Role::Second)
         return 0;

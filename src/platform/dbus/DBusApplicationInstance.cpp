@@ -3,7 +3,6 @@
 
 #include <platform_dbus/DBusApplicationInstance.h>
 
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QLoggingCategory>
@@ -23,6 +22,9 @@ Q_LOGGING_CATEGORY(lcInstance, "quorvane.instance", QtFatalMsg)
 // A first process that hangs must not keep the second one from ending.
 constexpr std::chrono::milliseconds activationTimeout = 2s;
 
+// So must a bus that has stopped to answer. It has nobody to ask.
+constexpr std::chrono::milliseconds busTimeout = 1s;
+
 // Each more than the first means that a process ended between two questions to the bus.
 constexpr int maxClaims = 3;
 
@@ -33,10 +35,25 @@ FreedesktopApplication::Start howStarted() {
                : FreedesktopApplication::Start::ByUser;
 }
 
+// Of the message RequestName, and what it answers (D-Bus Specification, "Message Bus Messages").
+constexpr uint doNotQueue = 4;
+constexpr uint queue = 0;
+constexpr uint primaryOwner = 1;
+constexpr uint alreadyOwner = 4;
+
+QDBusMessage busMessage(const QString& method, const QVariantList& arguments) {
+    auto message = QDBusMessage::createMethodCall(
+        u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, method);
+    message.setArguments(arguments);
+    return message;
+}
+
 } // namespace
 
-DBusApplicationInstance::DBusApplicationInstance()
-    : m_bus(QDBusConnection::sessionBus()),
+DBusApplicationInstance::DBusApplicationInstance(
+    const QDBusConnection& bus, std::optional<BusSocket> socket)
+    : m_bus(bus),
+      m_socket(std::move(socket)),
       m_application(new FreedesktopApplication(howStarted(), &m_object)) {
 }
 
@@ -45,6 +62,14 @@ DBusApplicationInstance::~DBusApplicationInstance() {
 }
 
 ApplicationInstance::Role DBusApplicationInstance::claim() {
+    const auto role = claimOnce();
+    if (role != Role::Second)
+        m_follower = std::make_unique<SessionBusFollower>(
+            m_bus, m_socket, [this](const QDBusConnection& bus) { serve(bus); });
+    return role;
+}
+
+ApplicationInstance::Role DBusApplicationInstance::claimOnce() {
     if (!m_bus.isConnected()) {
         qCInfo(lcInstance, "no session bus");
         return Role::Alone;
@@ -52,15 +77,13 @@ ApplicationInstance::Role DBusApplicationInstance::claim() {
     // The object first: a program that sees the name may call at once.
     m_bus.registerObject(objectPath.toString(), &m_object);
     for (int attempt = 0; attempt < maxClaims; ++attempt) {
-        const auto reply = m_bus.interface()->registerService(
-            serviceName.toString(),
-            QDBusConnectionInterface::DontQueueService,
-            QDBusConnectionInterface::DontAllowReplacement);
+        const QDBusReply<uint> reply =
+            askBus(u"RequestName"_s, {serviceName.toString(), doNotQueue});
         if (!reply.isValid()) {
             qCInfo(lcInstance, "no name on the bus: %ls", qUtf16Printable(reply.error().message()));
             return Role::Alone;
         }
-        if (reply.value() == QDBusConnectionInterface::ServiceRegistered)
+        if (reply.value() == primaryOwner || reply.value() == alreadyOwner)
             return Role::First;
         if (activateFirst())
             return Role::Second;
@@ -69,8 +92,9 @@ ApplicationInstance::Role DBusApplicationInstance::claim() {
 }
 
 void DBusApplicationInstance::release() {
+    m_follower.reset();
     if (m_bus.isConnected())
-        m_bus.interface()->unregisterService(serviceName.toString());
+        m_bus.asyncCall(busMessage(u"ReleaseName"_s, {serviceName.toString()}));
 }
 
 void DBusApplicationInstance::onReopen(std::function<void()> handler) {
@@ -93,7 +117,19 @@ bool DBusApplicationInstance::activateFirst() {
         return true;
     qCInfo(lcInstance, "the first process: %ls", qUtf16Printable(reply.errorMessage()));
     // A first process that hangs is still the first.
-    return m_bus.interface()->isServiceRegistered(serviceName.toString());
+    const QDBusReply<bool> isThere = askBus(u"NameHasOwner"_s, {serviceName.toString()});
+    return isThere.isValid() && isThere.value();
+}
+
+QDBusMessage DBusApplicationInstance::askBus(const QString& method, const QVariantList& arguments) {
+    return m_bus.call(
+        busMessage(method, arguments), QDBus::Block, static_cast<int>(busTimeout.count()));
+}
+
+void DBusApplicationInstance::serve(const QDBusConnection& bus) {
+    m_bus = bus;
+    m_bus.registerObject(objectPath.toString(), &m_object);
+    m_bus.asyncCall(busMessage(u"RequestName"_s, {serviceName.toString(), queue}));
 }
 
 } // namespace quorvane

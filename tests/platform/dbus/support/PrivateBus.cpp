@@ -5,6 +5,8 @@
 #include <QUuid>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace quorvane {
 
 using namespace Qt::StringLiterals;
@@ -33,11 +35,7 @@ PrivateBus::PrivateBus() {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QString(configuration).arg(m_folder.path()).toUtf8());
     file.close();
-    m_daemon.start(
-        u"dbus-daemon"_s,
-        {u"--config-file=%1"_s.arg(file.fileName()), u"--nofork"_s, u"--print-address"_s});
-    EXPECT_TRUE(m_daemon.waitForReadyRead());
-    m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
+    begin();
 }
 
 PrivateBus::~PrivateBus() {
@@ -45,6 +43,31 @@ PrivateBus::~PrivateBus() {
         QDBusConnection::disconnectFromBus(name);
     m_daemon.terminate();
     m_daemon.waitForFinished();
+}
+
+void PrivateBus::begin() {
+    m_daemon.start(
+        u"dbus-daemon"_s,
+        {u"--config-file=%1/bus.conf"_s.arg(m_folder.path()), u"--nofork"_s, u"--print-address"_s});
+    EXPECT_TRUE(m_daemon.waitForReadyRead());
+    m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
+}
+
+void PrivateBus::end() {
+    m_daemon.kill();
+    m_daemon.waitForFinished();
+}
+
+void PrivateBus::stop() const {
+    ::kill(static_cast<pid_t>(m_daemon.processId()), SIGSTOP);
+}
+
+void PrivateBus::goOn() const {
+    ::kill(static_cast<pid_t>(m_daemon.processId()), SIGCONT);
+}
+
+BusSocket PrivateBus::socket() const {
+    return {QFile::encodeName(m_folder.filePath(u"socket"_s)), false};
 }
 
 QDBusConnection PrivateBus::connection() {
