@@ -58,8 +58,11 @@ const char* nameOf(X11Reach reach) {
 
 } // namespace
 
-PlatformServices
-makePlatformServices(const Environment& environment, const QString& qtPlatform, MainQueue& queue) {
+PlatformServices makePlatformServices(
+    const Environment& environment,
+    const QString& qtPlatform,
+    MainQueue& queue,
+    const std::function<void()>& onDisplayLost) {
     auto services = makeNullServices(queue);
     addServicesOfEveryDisplay(services, qtPlatform, queue);
     const auto x11 = wantedX11(environment, qtPlatform);
@@ -68,7 +71,7 @@ makePlatformServices(const Environment& environment, const QString& qtPlatform, 
             lcBackend,
             "no backend for \"%ls\": the clipboard through Qt",
             qUtf16Printable(qtPlatform));
-    else if (!addX11Services(services, queue, *x11))
+    else if (!addX11Services(services, queue, *x11, onDisplayLost))
         qCInfo(lcBackend, "no X server answers: the clipboard through Qt");
     else
         qCInfo(lcBackend, "%s", nameOf(*x11));

@@ -14,8 +14,12 @@ namespace quorvane {
 /// keys, other programs' windows, the whole clipboard) comes from the backend that
 /// $QUORVANE_BACKEND names, "x11" or "null", which has nothing of that; else from the one that
 /// suits the platform plugin that Qt runs on. Where it is not available, services that do nothing
-/// stand in.
-[[nodiscard]] PlatformServices
-makePlatformServices(const Environment& environment, const QString& qtPlatform, MainQueue& queue);
+/// stand in. `onDisplayLost` may be called more than once, when the connection to the display has
+/// ended: shortcut, keys and clipboard do nothing from then on.
+[[nodiscard]] PlatformServices makePlatformServices(
+    const Environment& environment,
+    const QString& qtPlatform,
+    MainQueue& queue,
+    const std::function<void()>& onDisplayLost = {});
 
 } // namespace quorvane

@@ -19,6 +19,8 @@
 #include <QIcon>
 
 #include <chrono>
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -46,6 +48,16 @@ void configure(QApplication& application) {
     application.setQuitOnLastWindowClosed(false);
 }
 
+/// Ends the program, with a status by which a session starts it anew.
+std::function<void()> endingIn(MainQueue& queue) {
+    return [&queue, hasBegun = std::make_shared<bool>(false)] {
+        if (std::exchange(*hasBegun, true))
+            return;
+        reportFailure(u"the connection to the display is lost"_s);
+        queue.async([] { QCoreApplication::exit(EXIT_FAILURE); });
+    };
+}
+
 int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& instance) {
     const auto environment = processEnvironment();
     const auto folders = UserFolders::fromEnvironment(environment);
@@ -55,7 +67,8 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
     SystemCurrentZone currentZone(zones, environment);
     JsonDefaultsStore defaults(folders.defaultsFile(), writer);
     WindowFrameStore windowFrames(folders.windowsFile(), writer);
-    auto platform = makePlatformServices(environment, QGuiApplication::platformName(), mainQueue);
+    auto platform = makePlatformServices(
+        environment, QGuiApplication::platformName(), mainQueue, endingIn(mainQueue));
     const AppearanceFollower appearanceFollower(
         *platform.appearance, AppearanceFollower::paletteSource());
 

@@ -8,6 +8,8 @@
 #include <x11_windows/X11WindowTraits.h>
 #include <x11_windows/X11Workspace.h>
 
+#include <utility>
+
 namespace quorvane {
 
 namespace {
@@ -16,29 +18,36 @@ void addServicesOfTheSession(
     PlatformServices& services,
     MainQueue& mainQueue,
     const std::shared_ptr<X11Connection>& connection,
-    const std::shared_ptr<X11Keymap>& keymap) {
+    X11KeyPoster::Keymaps keymaps) {
     const auto grabbedKeys = std::make_shared<X11GrabbedKeys>(connection);
     services.accessibilityRight = std::make_unique<X11AccessibilityRight>(connection);
     services.eventTaps = std::make_unique<X11EventTapService>(connection, mainQueue, grabbedKeys);
-    services.keyPoster = std::make_unique<X11KeyPoster>(
-        connection,
-        X11KeyPoster::Keymaps{keymap, X11Keymap::open(mainQueue, X11Keymap::Source::PostedKeys)},
-        grabbedKeys);
+    services.keyPoster =
+        std::make_unique<X11KeyPoster>(connection, std::move(keymaps), grabbedKeys);
     services.workspace = std::make_unique<X11Workspace>(connection);
 }
 
 } // namespace
 
-bool addX11Services(PlatformServices& services, MainQueue& mainQueue, X11Reach reach) {
-    const auto connection = X11Connection::open();
+bool addX11Services(
+    PlatformServices& services,
+    MainQueue& mainQueue,
+    X11Reach reach,
+    const std::function<void()>& onLost) {
+    const auto connection = X11Connection::open(onLost);
     if (!connection)
         return false;
-    const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(mainQueue);
+    const std::shared_ptr<X11Keymap> keymap =
+        X11Keymap::open(mainQueue, X11Keymap::Source::UsersKeys, onLost);
     services.pasteboard = std::make_unique<X11Pasteboard>(connection, mainQueue);
     services.keyboardLayout = std::make_unique<X11KeyboardLayout>(keymap);
     services.windowTraits = std::make_unique<X11WindowTraits>(connection);
     if (reach == X11Reach::Session)
-        addServicesOfTheSession(services, mainQueue, connection, keymap);
+        addServicesOfTheSession(
+            services,
+            mainQueue,
+            connection,
+            {keymap, X11Keymap::open(mainQueue, X11Keymap::Source::PostedKeys, onLost)});
     return true;
 }
 

@@ -48,8 +48,9 @@ std::uint16_t typingKeyboard(xcb_connection_t* connection, std::uint16_t master)
 
 } // namespace
 
-std::unique_ptr<X11Keymap> X11Keymap::open(MainQueue& mainQueue, Source source) {
-    auto connection = X11Connection::open();
+std::unique_ptr<X11Keymap>
+X11Keymap::open(MainQueue& mainQueue, Source source, std::function<void()> onLost) {
+    auto connection = X11Connection::open(std::move(onLost));
     if (!connection)
         return nullptr;
     auto* xcb = connection->xcb();

@@ -8,6 +8,7 @@
 #include <QSocketNotifier>
 
 #include <algorithm>
+#include <sys/socket.h>
 #include <utility>
 
 namespace quorvane {
@@ -39,23 +40,26 @@ X11Connection::Subscription::Subscription(std::shared_ptr<EventHandler> handler)
     : m_handler(std::move(handler)) {
 }
 
-std::shared_ptr<X11Connection> X11Connection::open() {
+std::shared_ptr<X11Connection> X11Connection::open(std::function<void()> onLost) {
     int preferredScreen = 0;
     auto* connection = xcb_connect(nullptr, &preferredScreen);
     if (xcb_connection_has_error(connection) != 0) {
-        qCWarning(lcX11, "no X server answers");
+        qCInfo(lcX11, "no X server answers");
         xcb_disconnect(connection);
         return nullptr;
     }
-    return std::shared_ptr<X11Connection>(new X11Connection(connection, preferredScreen));
+    return std::shared_ptr<X11Connection>(
+        new X11Connection(connection, preferredScreen, std::move(onLost)));
 }
 
-X11Connection::X11Connection(xcb_connection_t* connection, int preferredScreen)
+X11Connection::X11Connection(
+    xcb_connection_t* connection, int preferredScreen, std::function<void()> onLost)
     : m_connection(connection),
       m_screenNumber(preferredScreen),
       m_screen(screenAt(connection, preferredScreen)),
       m_notifier(std::make_unique<QSocketNotifier>(
-          xcb_get_file_descriptor(connection), QSocketNotifier::Read)) {
+          xcb_get_file_descriptor(connection), QSocketNotifier::Read)),
+      m_onLost(std::move(onLost)) {
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &X11Connection::drain);
     // Waiting for a reply reads events into xcb's own queue, where the socket no longer shows them.
     if (auto* dispatcher = QAbstractEventDispatcher::instance())
@@ -130,7 +134,7 @@ void X11Connection::drain() {
         dispatch(*event);
     xcb_flush(m_connection);
     if (m_notifier->isEnabled() && xcb_connection_has_error(m_connection) != 0)
-        stopListening();
+        giveUp();
 }
 
 void X11Connection::dispatch(const xcb_generic_event_t& event) {
@@ -144,9 +148,14 @@ void X11Connection::dispatch(const xcb_generic_event_t& event) {
     m_handlers.remove_if([](const auto& weak) { return weak.expired(); });
 }
 
-void X11Connection::stopListening() {
-    qCWarning(lcX11, "the X server went away");
+// A connection that xcb has given up stays open towards the server, which goes on to send us the
+// keys that we grabbed, and the requests for the selections that we own.
+void X11Connection::giveUp() {
+    qCInfo(lcX11, "lost: %d", xcb_connection_has_error(m_connection));
     m_notifier->setEnabled(false);
+    ::shutdown(xcb_get_file_descriptor(m_connection), SHUT_RDWR);
+    if (m_onLost)
+        m_onLost();
 }
 
 } // namespace quorvane

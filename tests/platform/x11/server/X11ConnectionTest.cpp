@@ -4,6 +4,8 @@
 
 #include <x11_server/X11Connection.h>
 
+#include <string>
+
 namespace quorvane {
 
 namespace {
@@ -65,6 +67,63 @@ TEST_F(ConnectionToX11, DeliversEventsToItsSubscribersUntilTheyGo) {
     m_connection->waitForServer();
     EXPECT_TRUE(waitUntil([&kept] { return kept == 1; }));
     EXPECT_EQ(dropped, 0);
+}
+
+/// A connection with a window, which the server destroys when it knows of the connection's end.
+class LostConnection : public X11Test {
+protected:
+    LostConnection() {
+        xcb_create_window(
+            m_lost->xcb(),
+            0,
+            m_window,
+            m_lost->root(),
+            0,
+            0,
+            1,
+            1,
+            0,
+            XCB_WINDOW_CLASS_INPUT_ONLY,
+            XCB_COPY_FROM_PARENT,
+            0,
+            nullptr);
+        m_lost->waitForServer();
+    }
+
+    [[nodiscard]] bool isWindowThere() const {
+        const XcbReply<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(
+            m_connection->xcb(), xcb_get_geometry(m_connection->xcb(), m_window), nullptr));
+        return reply != nullptr;
+    }
+
+    int m_losses = 0;
+    std::shared_ptr<X11Connection> m_lost = X11Connection::open([this] { ++m_losses; });
+    xcb_window_t m_window = xcb_generate_id(m_lost->xcb());
+};
+
+TEST_F(LostConnection, IsToldOnceWhenAnotherClientKillsIt) {
+    xcb_kill_client(m_connection->xcb(), m_window);
+    m_connection->flush();
+    EXPECT_TRUE(waitUntil([this] { return m_losses > 0; }));
+    EXPECT_FALSE(isWindowThere());
+    EXPECT_EQ(m_losses, 1);
+}
+
+TEST_F(LostConnection, IsOverForTheServerWhenARequestWasTooLong) {
+    const std::string tooLong(4UL * xcb_get_maximum_request_length(m_lost->xcb()) + 1, 'x');
+    xcb_change_property(
+        m_lost->xcb(),
+        XCB_PROP_MODE_REPLACE,
+        m_window,
+        XCB_ATOM_WM_NAME,
+        XCB_ATOM_STRING,
+        8,
+        static_cast<std::uint32_t>(tooLong.size()),
+        tooLong.data());
+    EXPECT_TRUE(isWindowThere());
+    EXPECT_TRUE(waitUntil([this] { return m_losses > 0; }));
+    EXPECT_TRUE(waitUntil([this] { return !isWindowThere(); }));
+    EXPECT_EQ(m_losses, 1);
 }
 
 TEST_F(ConnectionToX11, TellsARequestThatFailed) {

@@ -16,6 +16,10 @@ enum class X11Reach {
 /// Replaces, among the services, those that an X server of that reach has; false, and nothing
 /// changed, where $DISPLAY names no server that answers. The application object must exist before,
 /// and the queue outlive them.
-[[nodiscard]] bool addX11Services(PlatformServices& services, MainQueue& mainQueue, X11Reach reach);
+[[nodiscard]] bool addX11Services(
+    PlatformServices& services,
+    MainQueue& mainQueue,
+    X11Reach reach,
+    const std::function<void()>& onLost = {});
 
 } // namespace quorvane

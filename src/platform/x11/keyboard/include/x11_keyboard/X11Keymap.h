@@ -28,8 +28,8 @@ public:
     };
 
     /// Null if the server does not tell. The queue must outlive the keymap.
-    [[nodiscard]] static std::unique_ptr<X11Keymap>
-    open(MainQueue& mainQueue, Source source = Source::UsersKeys);
+    [[nodiscard]] static std::unique_ptr<X11Keymap> open(
+        MainQueue& mainQueue, Source source = Source::UsersKeys, std::function<void()> onLost = {});
 
     /// What the key types on its own; empty for dead keys and keys without a character.
     [[nodiscard]] std::u16string characters(xkb_keycode_t keycode) const;

@@ -38,8 +38,10 @@ public:
         std::shared_ptr<EventHandler> m_handler;
     };
 
-    /// None where $DISPLAY names no server that answers.
-    [[nodiscard]] static std::shared_ptr<X11Connection> open();
+    /// None where $DISPLAY names no server that answers. `onLost` is called, once and on the main
+    /// loop, when the connection has ended or broken; by then the server has been told, so that it
+    /// takes back what it had given us: grabs, selections, windows.
+    [[nodiscard]] static std::shared_ptr<X11Connection> open(std::function<void()> onLost = {});
 
     ~X11Connection() override;
 
@@ -86,11 +88,11 @@ public:
     void noteUserTime(xcb_timestamp_t time);
 
 private:
-    X11Connection(xcb_connection_t* connection, int preferredScreen);
+    X11Connection(xcb_connection_t* connection, int preferredScreen, std::function<void()> onLost);
 
     void drain();
     void dispatch(const xcb_generic_event_t& event);
-    void stopListening();
+    void giveUp();
 
     xcb_connection_t* m_connection;
     int m_screenNumber;
@@ -100,6 +102,7 @@ private:
     std::unordered_map<std::string, xcb_atom_t> m_atoms;
     X11AtomNames m_atomNames;
     xcb_timestamp_t m_lastUserTime = XCB_CURRENT_TIME;
+    std::function<void()> m_onLost;
 };
 
 } // namespace quorvane
