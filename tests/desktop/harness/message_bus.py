@@ -24,8 +24,9 @@ class MessageBus:
         self.connection = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
 
     def close(self) -> None:
-        """Ends the connection."""
-        self.connection.close_sync(None)
+        """Ends the connection; harmless where the bus has ended."""
+        if not self.connection.is_closed():
+            self.connection.close_sync(None)
 
     def call(
         self,

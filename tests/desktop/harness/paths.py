@@ -10,5 +10,8 @@ TREE = Path(__file__).resolve().parents[3]
 PROGRAM = Path(os.environ.get("QUORVANE_PROGRAM", TREE / "build" / "quorvane"))
 """The program under test; QUORVANE_PROGRAM names another one than the tree's build."""
 
+HELD_DISK = Path(os.environ.get("QUORVANE_HELD_DISK", TREE / "build" / "tests" / "held-disk.so"))
+"""What is preloaded into a program whose disk a test holds."""
+
 FONTS = TREE / "tests" / "support" / "fonts.conf"
 """The fonts that tests see, whatever else is installed."""

@@ -11,10 +11,10 @@ from pathlib import Path
 from types import TracebackType
 from typing import Any
 
-from . import session_bus
 from .accessible import Accessibility
 from .paths import FONTS
 from .processes import Processes
+from .session_bus import SessionBus
 from .windows import Windows
 
 _WINDOW_MANAGERS = {
@@ -46,7 +46,8 @@ class Session:
             self._make_environment()
             self.display = self._start_server()
             self.environment["DISPLAY"] = self.display
-            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.start_bus("bus")
+            self.bus = self._make_bus("bus")
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
             self.windows = Windows(self.display)
             undo.callback(self.windows.close)
             self.accessibility = Accessibility(self.environment["DBUS_SESSION_BUS_ADDRESS"])
@@ -87,12 +88,24 @@ class Session:
 
     def start_bus(self, name: str) -> str:
         """Starts a bus that is empty but for its services, and returns its address."""
-        return session_bus.start(self._processes, self.environment, self.directory(name))
+        return self._make_bus(name).address
 
     def logs(self) -> str:
         """What the programs of the session wrote so far."""
         files = sorted((self.root / "logs").iterdir())
         return "".join(f"--- {file.stem}\n{file.read_text(errors='replace')}" for file in files)
+
+    def restart_bus(self) -> None:
+        """Ends the session's bus as a crash would, and starts another one at its place."""
+        self.bus.restart()
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
+
+    def log(self, program: str) -> str:
+        """What a program wrote so far, in all its runs."""
+        return (self.root / "logs" / f"{program}.log").read_text(errors="replace")
+
+    def _make_bus(self, name: str) -> SessionBus:
+        return SessionBus(self._processes, self.environment.copy(), self.directory(name))
 
     def _make_environment(self) -> None:
         self.environment = {name: os.environ[name] for name in _INHERITED if name in os.environ}

@@ -2,6 +2,7 @@
 """A session bus that starts the few services a test needs, and no others."""
 
 import os
+import subprocess
 from collections.abc import Mapping
 from pathlib import Path
 
@@ -30,29 +31,42 @@ _CONFIGURATION = """\
 """
 
 
-def start(processes: Processes, environment: Mapping[str, str], directory: Path) -> str:
-    """Starts the daemon with its files in `directory` and returns the bus's address.
+class SessionBus:
+    """A bus of a session, its files in a directory of its own."""
 
-    `environment` holds DISPLAY already: the services inherit it.
-    """
-    services = directory / "services"
-    services.mkdir()
-    for name in _ACTIVATABLE:
-        if (_SERVICES / name).exists():
-            (services / name).symlink_to(_SERVICES / name)
-    configuration = directory / "session.conf"
-    configuration.write_text(
-        _CONFIGURATION.format(socket=directory / "socket", services=services)
-    )
-    reading, writing = os.pipe()
-    try:
-        processes.start(
-            ["dbus-daemon", f"--config-file={configuration}", "--nofork"]
-            + [f"--print-address={writing}"],
-            environment,
-            pass_fds=[writing],
+    def __init__(
+        self, processes: Processes, environment: Mapping[str, str], directory: Path
+    ) -> None:
+        """`environment` holds DISPLAY already: the services inherit it."""
+        self._processes = processes
+        self._environment = environment
+        self._configuration = directory / "session.conf"
+        services = directory / "services"
+        services.mkdir()
+        for name in _ACTIVATABLE:
+            if (_SERVICES / name).exists():
+                (services / name).symlink_to(_SERVICES / name)
+        self._configuration.write_text(
+            _CONFIGURATION.format(socket=directory / "socket", services=services)
         )
-    finally:
-        os.close(writing)
-    with os.fdopen(reading) as announcement:
-        return announcement.readline().strip()
+        self.process, self.address = self._start()
+
+    def restart(self) -> None:
+        """Ends the daemon as a crash would, and starts another one in its place."""
+        self.process.kill()
+        self.process.wait()
+        self.process, self.address = self._start()
+
+    def _start(self) -> tuple[subprocess.Popen[bytes], str]:
+        reading, writing = os.pipe()
+        try:
+            process = self._processes.start(
+                ["dbus-daemon", f"--config-file={self._configuration}", "--nofork"]
+                + [f"--print-address={writing}"],
+                self._environment,
+                pass_fds=[writing],
+            )
+        finally:
+            os.close(writing)
+        with os.fdopen(reading) as announcement:
+            return process, announcement.readline().strip()
