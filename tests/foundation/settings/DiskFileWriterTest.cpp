@@ -6,6 +6,10 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 namespace quorvane {
 namespace {
 
@@ -57,6 +61,22 @@ TEST_F(DiskFileWriterTest, FileWhereAFolderShouldBeFails) {
     put(u"f"_s, "");
     EXPECT_FALSE(m_writer.replace(path(u"f/g"_s))->makeFolder());
     EXPECT_FALSE(m_writer.replace(path(u"f/g/h"_s))->makeFolder());
+}
+
+TEST_F(DiskFileWriterTest, OthersAreKeptOutOfTheFolderUntilTheReplacementEnds) {
+    const auto isFree = [this] {
+        const int folder = ::open(QFile::encodeName(m_folder.path()).constData(), O_RDONLY);
+        const bool isLocked = ::flock(folder, LOCK_EX | LOCK_NB) == 0;
+        ::close(folder);
+        return isLocked;
+    };
+    {
+        const auto replacement = m_writer.replace(path(u"f"_s));
+        EXPECT_TRUE(isFree());
+        replacement->excludeOthers();
+        EXPECT_FALSE(isFree());
+    }
+    EXPECT_TRUE(isFree());
 }
 
 TEST_F(DiskFileWriterTest, RenameNeverReplaces) {
