@@ -30,10 +30,13 @@ PasteboardItem itemOf(const QMimeData& data) {
 
 } // namespace
 
-PasteboardItem clipboardItem(QClipboard::Mode mode) {
+std::optional<PasteboardItem> clipboardItem(QClipboard::Mode mode) {
     const auto* data = QGuiApplication::clipboard()->mimeData(mode);
     if (data == nullptr)
-        return {};
+        return PasteboardItem{};
+    // Qt's own class for what it would have to fetch.
+    if (data->inherits("QInternalMimeData"))
+        return std::nullopt;
     const auto* lent = dynamic_cast<const X11LentData*>(data);
     return lent != nullptr ? lent->item() : itemOf(*data);
 }

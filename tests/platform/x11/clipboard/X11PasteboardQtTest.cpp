@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PasteboardTest.h"
+#include "X11QtClipboard.h"
 #include "support/ForeignWindow.h"
 #include "support/Keyboard.h"
 
@@ -112,6 +113,15 @@ TEST_F(X11PasteboardQtTest, SavesAllFormatsOfQtsClipboard) {
         {u"application/x-odd"_s, "odd"_ba, u"application/x-odd"_s},
     };
     EXPECT_EQ(savedItem(), expected);
+}
+
+TEST_F(X11PasteboardQtTest, QtIsNeverAskedForWhatAnotherProgramHolds) {
+    const auto owner = startOwner({{{u"TARGETS"_s, "never seen"_ba, u"TARGETS"_s}, u"silent"_s}});
+    ASSERT_FALSE(qtx11::owns(this->owner()));
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(qtx11::clipboardItem(QClipboard::Clipboard), std::nullopt);
+    EXPECT_LT(clock.elapsed(), waitOfQt);
 }
 
 TEST_F(X11PasteboardQtTest, OurTextFieldPastesAtOnceWhatWeCopiedInItsWindow) {
