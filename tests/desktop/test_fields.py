@@ -25,6 +25,7 @@ class TextFields(DesktopCase):
 
     def setUp(self) -> None:
         super().setUp()
+        self.heard = self.session.accessibility.listen_for_texts()
         self.quorvane = Quorvane(self.session)
         self.quorvane.wait_active()
         self.tree = self.quorvane.tree()
@@ -77,6 +78,15 @@ class TextFields(DesktopCase):
         self.keyboard.tap(Key.END)
         self.keyboard.tap(*_PASTE)
         self.wait_text("tt")
+
+    def test_screen_reader_hears_of_a_paste_as_of_typing(self) -> None:
+        self.clipboard.own(plain_text("ok"))
+        self.keyboard.tap(Key.T)
+        self.heard.wait_for(("caret", 1))
+        self.keyboard.tap(*_PASTE)
+        self.assertEqual(self.heard.wait_for(("caret", 3)), [("insert", "ok"), ("caret", 3)])
+        self.keyboard.tap(Key.Y)
+        self.assertEqual(self.heard.wait_for(("caret", 4)), [("insert", "y"), ("caret", 4)])
 
     def test_owner_that_hangs_holds_nothing_up(self) -> None:
         self.stopped_owner("CLIPBOARD")

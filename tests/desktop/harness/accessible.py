@@ -8,6 +8,7 @@ from typing import Any
 from gi.repository import Gio, GLib
 
 from .message_bus import BusError, MessageBus
+from .text_events import TextEvents
 from .waiting import PATIENCE, wait_until
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
@@ -156,6 +157,10 @@ class Accessibility:
     def listen_for_names(self) -> "NameChanges":
         """Hears from now on what changes its name, as a screen reader does."""
         return NameChanges(self._bus)
+
+    def listen_for_texts(self) -> TextEvents:
+        """Hears what changes in the texts of programs that start from now on."""
+        return TextEvents(self._bus)
 
     def application(self, pid: int, seconds: float = PATIENCE) -> Accessible:
         """The tree of a process; waits until it is published."""
