@@ -29,29 +29,29 @@ constexpr PasteTarget controlShiftV{PasteKeys::ControlShiftV, PasteSource::Clipb
 constexpr std::array pasteTargetTable{
     // Ctrl+V is a literal for the shell; the default translations bind Shift+Insert to PRIMARY.
     PasteTargetRow{u"xterm", Match::Name, shiftInsertFromSelection},
-    // The same program, under the class that its UTF-8 wrapper sets.
-    PasteTargetRow{u"uxterm", Match::Name, shiftInsertFromSelection},
     // Shift+Insert pastes PRIMARY; there is no key for the clipboard without an extension.
     PasteTargetRow{u"urxvt", Match::Name, shiftInsertFromSelection},
-    PasteTargetRow{u"rxvt", Match::Name, shiftInsertFromSelection},
     // Shift+Insert is "selpaste"; the class is the terminal type unless the user sets one.
     PasteTargetRow{u"st", Match::Name, shiftInsertFromSelection},
     PasteTargetRow{u"st-256color", Match::Name, shiftInsertFromSelection},
     // Ctrl+V scrolls; Shift+Insert yanks, which takes the clipboard first.
     PasteTargetRow{u"emacs", Match::Name, shiftInsert},
-    // Terminals of the desktops, which pass Ctrl+V on to the shell.
+    // Ctrl+V is a literal for the shell; Ctrl+Shift+V pastes only while a Latin layout is in use.
+    PasteTargetRow{u"terminator", Match::Name, shiftInsertFromSelection},
+    PasteTargetRow{u"kitty", Match::Name, shiftInsertFromSelection},
+    // Its Ctrl+Shift+V is off until it has asked a new clipboard what it holds.
+    PasteTargetRow{u"gnome-terminal-server", Match::Name, shiftInsertFromSelection},
+    // Ctrl+V is a literal for the shell.
     PasteTargetRow{u"konsole", Match::Name, controlShiftV},
-    PasteTargetRow{u"terminator", Match::Name, controlShiftV},
     PasteTargetRow{u"tilix", Match::Name, controlShiftV},
     PasteTargetRow{u"guake", Match::Name, controlShiftV},
-    // Terminals of their own make, with the same keys.
-    PasteTargetRow{u"kitty", Match::Name, controlShiftV},
     PasteTargetRow{u"alacritty", Match::Name, controlShiftV},
-    PasteTargetRow{u"wezterm", Match::Name, controlShiftV},
+    PasteTargetRow{u"sakura", Match::Name, controlShiftV},
+    PasteTargetRow{u"cool-retro-term", Match::Name, controlShiftV},
+    // The same, tried on Wayland, where alone it runs; its server's windows have another name.
     PasteTargetRow{u"foot", Match::Name, controlShiftV},
-    // What a window of foot is called when its server made it.
     PasteTargetRow{u"footclient", Match::Name, controlShiftV},
-    // gnome-terminal-server, xfce4-terminal, mate-terminal, lxterminal, qterminal and their like.
+    // xfce4-terminal, mate-terminal, lxterminal, qterminal and their like.
     PasteTargetRow{u"terminal", Match::Fragment, controlShiftV},
 };
 
