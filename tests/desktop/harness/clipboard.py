@@ -49,6 +49,10 @@ class Clipboard:
         """Everything that a selection holds; nothing where it has no owner."""
         return self._reader.offers(selection)
 
+    def targets(self, selection: str = "CLIPBOARD") -> list[str]:
+        """What the owner of a selection offers, its services included."""
+        return self._reader.targets(selection)
+
     def data(self, target: str, selection: str = "CLIPBOARD") -> bytes | None:
         """What a selection holds for one target, if anything."""
         offer = self._reader.read(selection, target)

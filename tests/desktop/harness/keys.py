@@ -35,6 +35,8 @@ class Key(IntEnum):
     COMMA = 59
     ALT = 64
     SPACE = 65
+    CAPS_LOCK = 66
+    ALT_GR = 108
     HOME = 110
     UP = 111
     PAGE_UP = 112

@@ -13,5 +13,10 @@ PROGRAM = Path(os.environ.get("QUORVANE_PROGRAM", TREE / "build" / "quorvane"))
 HELD_DISK = Path(os.environ.get("QUORVANE_HELD_DISK", TREE / "build" / "tests" / "held-disk.so"))
 """What is preloaded into a program whose disk a test holds."""
 
+TEXT_FIELD = Path(
+    os.environ.get("QUORVANE_TEXT_FIELD", TREE / "build" / "tests" / "quorvane-text-field")
+)
+"""A program of the tests' own to type into."""
+
 FONTS = TREE / "tests" / "support" / "fonts.conf"
 """The fonts that tests see, whatever else is installed."""

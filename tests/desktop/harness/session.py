@@ -12,7 +12,7 @@ from types import TracebackType
 from typing import Any
 
 from .accessible import Accessibility
-from .paths import FONTS
+from .paths import FONTS, TREE
 from .processes import Processes
 from .session_bus import SessionBus
 from .windows import Windows
@@ -20,6 +20,7 @@ from .windows import Windows
 _WINDOW_MANAGERS = {
     "openbox": ["openbox", "--sm-disable"],
     "xfwm4": ["xfwm4", "--compositor=off"],
+    "i3": ["i3", "-c", str(TREE / "tests" / "desktop" / "harness" / "i3.conf")],
 }
 
 _INHERITED = ("PATH", "QT_LOGGING_RULES", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")

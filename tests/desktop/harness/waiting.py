@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: MIT
 """Waiting for conditions, never for a time."""
 
+import os
 import time
 from collections.abc import Callable
 from typing import TypeVar
 
 Result = TypeVar("Result")
 
-PATIENCE = 10.0
+PATIENCE = float(os.environ.get("QUORVANE_TEST_PATIENCE", "10"))
 """Seconds within which a healthy, if busy, machine does anything that the tests wait for."""
 
 

@@ -71,18 +71,17 @@ class Windows:
         window of ours then gets the focus, is what tells that it has started.
         """
         self.wait(self.is_managed, "a window manager")
-        probe = self._root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
-
-        def answers() -> bool:
-            self._send_to_manager(probe, "_NET_REQUEST_FRAME_EXTENTS", [0, 0, 0, 0, 0])
-            return self._property(probe, "_NET_FRAME_EXTENTS") is not None
-
-        wait_until(answers, "an answer from the window manager")
+        probe = self._wait_for_answer()
         probe.map()
         self.wait(lambda: probe.id in self.shown(), "the window manager to show a window")
         self.activate(probe.id)
         probe.destroy()
         self.wait(lambda: probe.id not in self.shown(), "the window manager to forget a window")
+
+    def let_manager_catch_up(self) -> None:
+        """Waits until the window manager has taken note of all that happened before."""
+        if self.is_managed():
+            self._wait_for_answer().destroy()
 
     def shown(self) -> list[int]:
         """The application windows on the screen, oldest first."""
@@ -178,6 +177,17 @@ class Windows:
             values = [source_is_pager, X.CurrentTime, 0, 0, 0]
             self._send_to_manager(self._window(window), "_NET_ACTIVE_WINDOW", values)
         self.wait(lambda: self.active() == window, "the window to be active")
+
+    def _wait_for_answer(self) -> Window:
+        """Has the window manager say something of a new window, which is returned."""
+        probe = self._root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+
+        def answers() -> bool:
+            self._send_to_manager(probe, "_NET_REQUEST_FRAME_EXTENTS", [0, 0, 0, 0, 0])
+            return self._property(probe, "_NET_FRAME_EXTENTS") is not None
+
+        wait_until(answers, "an answer from the window manager")
+        return probe
 
     def _wait_for_event(self, deadline: Deadline) -> None:
         # The question asked before may have read the event into the client's queue already.
