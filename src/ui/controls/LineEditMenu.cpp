@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LineEditMenu.h"
 
+#include <QCoreApplication>
 #include <QIcon>
 
 namespace quorvane {
