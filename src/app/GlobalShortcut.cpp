@@ -45,6 +45,9 @@ void GlobalShortcut::change(HotKeyCombo combo) {
     m_monitor->stop();
     m_press.end();
     m_monitor->start();
+    // The press that was recorded may go on: its repeats are no press of the shortcut.
+    if (m_monitor->isKeyDown())
+        m_press.join();
 }
 
 void GlobalShortcut::retry() {

@@ -16,6 +16,9 @@ public:
     /// lost; where they are not, triggers less than 0.15 s apart are one press.
     [[nodiscard]] bool begins(bool tellsRelease);
 
+    /// The key is known to be down by a press that was not ours, and its release will be told.
+    void join() { (void) begins(true); }
+
     /// The key is known to be up.
     void end();
 

@@ -49,6 +49,10 @@ public:
 
     [[nodiscard]] bool tellsRelease() const override { return m_desktop->tellsRelease; }
 
+    [[nodiscard]] bool isKeyDown() override {
+        return m_desktop->isKeyDown && m_desktop->tellsRelease;
+    }
+
 private:
     void updateGrab() {
         const auto delivery = updatedDelivery();

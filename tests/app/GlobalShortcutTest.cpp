@@ -93,6 +93,20 @@ TEST_F(GlobalShortcutTest, ReleaseEndsAPress) {
     EXPECT_EQ(triggers, 3) << "in the order in which they were pressed, though they run later";
 }
 
+TEST_F(GlobalShortcutTest, PressByWhichItWasRecordedIsNoPressOfIt) {
+    shortcut.startHotKeyMonitor(first);
+    taps.holdKey();
+    shortcut.change(second);
+    queue.advance(660ms);
+    (void) taps.press(secondPress);
+    queue.run();
+    EXPECT_EQ(triggers, 0);
+    taps.release();
+    (void) taps.press(secondPress);
+    queue.run();
+    EXPECT_EQ(triggers, 1);
+}
+
 TEST_F(GlobalShortcutTest, SecondWithoutATriggerEndsAPressWhoseReleaseWasLost) {
     shortcut.startHotKeyMonitor(first);
     (void) taps.press(firstPress);

@@ -28,6 +28,17 @@ class Recorder(DesktopCase):
         self.keyboard.tap(Key.ALT, Key.SUPER, Key.K)
         quorvane.wait_active()
 
+    def test_the_press_that_is_recorded_does_not_show_the_panel_when_it_is_held(self) -> None:
+        quorvane = self.recording_quorvane()
+        for key in (Key.SUPER, Key.K):
+            self.keyboard.press(key)
+        wait_until(lambda: "a repeat of the key" in self.session.logs(), "a repeat")
+        self.assertIsNone(quorvane.panel())
+        for key in (Key.K, Key.SUPER):
+            self.keyboard.release(key)
+        self.keyboard.tap(Key.SUPER, Key.K)
+        quorvane.wait_active()
+
     def test_alt_with_shift_is_shown_as_both(self) -> None:
         quorvane = self.recording_quorvane()
         with self.keyboard.held(Key.SHIFT, Key.ALT):
@@ -62,7 +73,8 @@ class Recorder(DesktopCase):
 
     def recording_quorvane(self) -> Quorvane:
         """With the preferences in front, and a recording under way."""
-        quorvane = self.hidden_quorvane()
+        quorvane = Quorvane(self.session, QT_LOGGING_RULES="quorvane.shortcut.debug=true")
+        quorvane.hide()
         quorvane.action("preferences")
         self.wait_preferences_active(quorvane)
         button: Accessible = quorvane.tree().find(BUTTON)

@@ -30,6 +30,18 @@ class XTerm(DesktopCase):
         self.clipboard.wait_empty()
         self.assertIsNone(owner.poll(), "the owner lost its selection")
 
+    def test_without_a_latin_v_a_terminal_never_gets_what_was_selected(self) -> None:
+        self.session.run(["setxkbmap", "ru"])
+        terminal = Terminal(self.session, "Xfce4-terminal")
+        quorvane = self.hidden_quorvane()
+        terminal.wait_active()
+        copied, selected = plain_text("what was copied"), plain_text("rm -rf selected")
+        self.clipboard.own(copied)
+        self.clipboard.own(selected, "PRIMARY")
+        self.insert(quorvane, terminal)
+        self.clipboard.wait_for(copied)
+        self.clipboard.wait_for(selected, "PRIMARY")
+
     def test_no_modifier_stays_down_in_the_terminal(self) -> None:
         terminal = Terminal(self.session)
         quorvane = self.hidden_quorvane()

@@ -50,13 +50,16 @@ class Editor(Target):
 
 
 class Terminal(Target):
-    """xterm, whose terminal line goes into a file untouched."""
+    """xterm, whose terminal line goes into a file untouched.
 
-    def __init__(self, session: Session) -> None:
+    It may bear the class of another terminal, and is taken for that one then.
+    """
+
+    def __init__(self, session: Session, name: str = "XTerm") -> None:
         self._typed = session.root / "typed"
         self._typed.touch()
         command = ["sh", "-c", 'stty raw -echo; exec cat >"$0"', str(self._typed)]
-        super().__init__(session, ["xterm", "-e", *command])
+        super().__init__(session, ["xterm", "-name", name.lower(), "-class", name, "-e", *command])
 
     def text(self) -> str:
         return self._typed.read_text()

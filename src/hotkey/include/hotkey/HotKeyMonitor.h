@@ -65,6 +65,9 @@ public:
     /// Why the last start() left the monitor idle; none after one that did not.
     [[nodiscard]] const std::optional<TapFailure>& lastFailure() const { return m_lastFailure; }
 
+    /// Whether the shortcut's key is down now, as far as the desktop tells; false while idle.
+    [[nodiscard]] bool isKeyDown() const { return m_eventTap && m_eventTap->isKeyDown(); }
+
 private:
     HotKeyMonitor(HotKeyCombo combo, Dependencies dependencies);
 

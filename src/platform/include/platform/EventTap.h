@@ -69,6 +69,11 @@ public:
     /// Whether the end of each press is told. Where it is not, a press and the repeats of a key
     /// that is held down look alike.
     [[nodiscard]] virtual bool tellsRelease() const = 0;
+
+    /// Whether the watched key is down now; its release is told then, as after a press. For a tap
+    /// that begins in the middle of one, as when the user records the shortcut that is pressed.
+    /// False where the desktop does not tell.
+    [[nodiscard]] virtual bool isKeyDown() = 0;
 };
 
 /// Why there is no tap, for the log.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "X11EventTap.h"
 
+#include "X11KeyState.h"
 #include "X11Xkb.h"
 
 #include <platform/KeyCodes.h>
@@ -70,6 +71,18 @@ void X11EventTap::enable() {
 void X11EventTap::disable() {
     m_enabled = false;
     updateGrab();
+}
+
+bool X11EventTap::isKeyDown() {
+    if (!m_grab || !m_releaseWatch.isAvailable())
+        return false;
+    const auto key = m_grab->combination().keycode;
+    // Listening first: a release after the answer is told.
+    m_releaseWatch.watch(key);
+    const bool isDown = x11keystate::isDown(m_connection->xcb(), key);
+    if (!isDown)
+        m_releaseWatch.stop();
+    return isDown;
 }
 
 bool X11EventTap::nativeEventFilter(const QByteArray& kind, void* message, qintptr*) {

@@ -41,6 +41,8 @@ public:
 
     [[nodiscard]] bool tellsRelease() const override { return m_releaseWatch.isAvailable(); }
 
+    [[nodiscard]] bool isKeyDown() override;
+
 private:
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
     void handleEvent(const xcb_generic_event_t& event);

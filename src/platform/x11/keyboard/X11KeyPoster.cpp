@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "X11KeyState.h"
 #include "X11ModifierMap.h"
 #include "X11Xkb.h"
 
@@ -12,7 +13,6 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
-#include <climits>
 #include <utility>
 
 namespace quorvane {
@@ -89,14 +89,9 @@ X11KeyPoster::keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const {
 
 X11KeyPoster::Keys X11KeyPoster::keysInTheWay() const {
     Keys keys;
-    auto* xcb = m_connection->xcb();
-    const XcbReply<xcb_query_keymap_reply_t> down(
-        xcb_query_keymap_reply(xcb, xcb_query_keymap(xcb), nullptr));
-    for (std::size_t key = 0; down && key < std::size(down->keys) * CHAR_BIT; ++key) {
-        const auto keycode = static_cast<xcb_keycode_t>(key);
-        const bool isDown = (down->keys[key / CHAR_BIT] >> (key % CHAR_BIT) & 1) != 0;
-        if (isDown && m_keymaps.usersKeys->isHeldModifier(keycode))
-            keys.push_back(keycode);
+    for (const auto key : x11keystate::keysDown(m_connection->xcb())) {
+        if (m_keymaps.usersKeys->isHeldModifier(key))
+            keys.push_back(key);
     }
     // The modifiers of the paste keys, too: the server may not know yet that the user holds them.
     for (const auto keysym : {XKB_KEY_Control_L, XKB_KEY_Shift_L}) {

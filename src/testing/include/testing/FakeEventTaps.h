@@ -27,6 +27,7 @@ public:
         bool heldElsewhere = false;
         bool lacksKey = false;
         bool tellsRelease = true;
+        bool isKeyDown = false;
     };
 
     explicit FakeEventTaps(CallLog& log) : m_log(log) {}
@@ -50,6 +51,9 @@ public:
 
     /// Whether the desktop tells when a key goes up.
     void setTellsRelease(bool tells) { m_desktop->tellsRelease = tells; }
+
+    /// The user is in the middle of a press of which no tap has seen the beginning.
+    void holdKey() { m_desktop->isKeyDown = true; }
 
     /// Null before the first tap.
     [[nodiscard]] const TapState* tap() const { return m_tap.get(); }

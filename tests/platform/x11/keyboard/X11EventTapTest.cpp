@@ -94,6 +94,16 @@ TEST_F(TapOnX11, TellsTheEndOfAShortPress) {
     EXPECT_EQ(std::ranges::count_if(m_target.keys(), ofD), 1) << "the release alone";
 }
 
+TEST_F(TapOnX11, TellsTheEndOfAPressThatBeganBeforeIt) {
+    EXPECT_FALSE(makeTap()->isKeyDown());
+    m_keyboard.press(KEY_D);
+    const auto tap = makeTap();
+    EXPECT_TRUE(tap->isKeyDown());
+    m_keyboard.release(KEY_D);
+    EXPECT_TRUE(waitUntil([this] { return m_releases == 1; }));
+    EXPECT_FALSE(tap->isKeyDown());
+}
+
 TEST_F(TapOnX11, TellsTheEndOfALongPressAndOfNoOtherKey) {
     const auto tap = makeTap();
     for (const auto key : shortcutKeys)
