@@ -4,6 +4,7 @@
 #include "PanelPlacement.h"
 
 #include <controls/FocusRing.h>
+#include <controls/PopoverFade.h>
 #include <controls/PopoverPlacement.h>
 #include <controls/Theme.h>
 #include <panel/PanelMetrics.h>
@@ -46,6 +47,8 @@ int StatusPopover::contentHeight() const {
 void StatusPopover::showAt(const PopoverAnchor::Place& place) {
     m_place = place;
     fit();
+    if (!isVisible())
+        fadeIn(*this, m_surface.isComposited());
     show();
     raise();
     activateWindow();

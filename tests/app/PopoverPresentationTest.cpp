@@ -70,5 +70,19 @@ TEST_F(PopoverPresentationTest, WithoutAKnownIconIsInTheCorner) {
     EXPECT_EQ(popover()->geometry().topRight(), screen.topRight() + QPoint(-8, 8));
 }
 
+TEST_F(PopoverPresentationTest, FadesInWhereWindowsAreComposited) {
+    launchAs(PresentationMode::Window);
+    static_cast<FakeWindowTraits&>(*platform.windowTraits).composited = true;
+    setMode(PresentationMode::Popover);
+    ASSERT_TRUE(isShown(popover()));
+    EXPECT_LT(popover()->windowOpacity(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([] { return popover()->windowOpacity() == 1; }));
+}
+
+TEST_F(PopoverPresentationTest, ShowsAtOnceWhereWindowsAreNotComposited) {
+    launchAs(PresentationMode::Popover);
+    EXPECT_EQ(popover()->windowOpacity(), 1);
+}
+
 } // namespace
 } // namespace quorvane

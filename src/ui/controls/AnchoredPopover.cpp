@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <controls/AnchoredPopover.h>
 #include <controls/FocusRing.h>
+#include <controls/PopoverFade.h>
 #include <controls/Theme.h>
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPropertyAnimation>
 #include <QScreen>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace quorvane {
@@ -17,7 +16,6 @@ namespace quorvane {
 namespace {
 
 constexpr double cornerRadius = 10;
-constexpr int fadeMilliseconds = 90;
 
 } // namespace
 
@@ -40,7 +38,7 @@ AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const Popove
 void AnchoredPopover::open() {
     adjustSize();
     place();
-    fadeIn();
+    fadeIn(*this, m_surface.isComposited());
     show();
     if (auto* focused = m_content->focusProxy())
         focused->setFocus(Qt::PopupFocusReason);
@@ -99,18 +97,6 @@ QRect AnchoredPopover::surface() const {
 
 QRect AnchoredPopover::anchorRect() const {
     return m_anchor ? QRect(m_anchor->mapToGlobal(QPoint()), m_anchor->size()) : QRect();
-}
-
-void AnchoredPopover::fadeIn() {
-    const int styleDuration = style()->styleHint(QStyle::SH_Widget_Animation_Duration);
-    if (!m_surface.isComposited() || styleDuration == 0)
-        return;
-    auto* fade = new QPropertyAnimation(this, "windowOpacity", this);
-    fade->setDuration(fadeMilliseconds);
-    fade->setStartValue(0.0);
-    fade->setEndValue(1.0);
-    setWindowOpacity(0);
-    fade->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 void AnchoredPopover::place() {

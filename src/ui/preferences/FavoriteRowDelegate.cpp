@@ -2,9 +2,9 @@
 #include "FavoriteRowDelegate.h"
 
 #include "StarredFilter.h"
-#include "WrappedText.h"
 
 #include <controls/ColorContrast.h>
+#include <controls/WrappedText.h>
 #include <picker/ZoneListModel.h>
 #include <picker/ZoneRowPainter.h>
 

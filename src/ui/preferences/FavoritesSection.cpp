@@ -4,9 +4,9 @@
 #include "FavoriteListModel.h"
 #include "FavoriteRowDelegate.h"
 #include "StarredFilter.h"
-#include "WrappedText.h"
 
 #include <controls/SearchField.h>
+#include <controls/WrappedText.h>
 #include <model/DateTimeModel.h>
 #include <picker/NothingFound.h>
 #include <picker/ZoneList.h>

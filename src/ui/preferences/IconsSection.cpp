@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconsSection.h"
 
-#include "WrappedText.h"
-
+#include <controls/WrappedText.h>
 #include <model/DateTimeModel.h>
 #include <preferences/PreferencesMetrics.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesSection.h"
 
-#include "WrappedText.h"
+#include <controls/WrappedText.h>
 
 #include <QVBoxLayout>
 

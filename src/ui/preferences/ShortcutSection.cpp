@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ShortcutSection.h"
 
-#include "WrappedText.h"
-
+#include <controls/WrappedText.h>
 #include <preferences/PreferencesMetrics.h>
 
 #include <QHBoxLayout>

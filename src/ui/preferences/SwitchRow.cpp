@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SwitchRow.h"
 
-#include "WrappedText.h"
-
 #include <controls/ToggleSwitch.h>
+#include <controls/WrappedText.h>
 
 #include <QEvent>
 #include <QHBoxLayout>

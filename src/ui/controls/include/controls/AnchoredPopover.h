@@ -43,7 +43,6 @@ protected:
 private:
     [[nodiscard]] QRect surface() const;
     [[nodiscard]] QRect anchorRect() const;
-    void fadeIn();
     void place();
 
     QPointer<QWidget> m_anchor;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "WrappedText.h"
-
 #include <controls/Theme.h>
+#include <controls/WrappedText.h>
 
 #include <QPainter>
 #include <QStyle>
