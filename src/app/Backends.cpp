@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Backends.h"
 
+#include <platform_dbus/DBusNotifications.h>
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
 #include <platform_qt/QtPasteboard.h>
@@ -42,10 +43,13 @@ void addServicesOfEveryDisplay(
     PlatformServices& services, const QString& qtPlatform, MainQueue& queue) {
     const auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
-        qCInfo(lcBackend, "no session bus: neither its tray nor the settings portal");
+        qCInfo(
+            lcBackend,
+            "no session bus: neither its tray, nor the settings portal, nor notifications");
     services.softwareCentre = std::make_unique<XdgSoftwareCentre>(
         MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
     services.appearance = std::make_unique<PortalAppearance>(bus);
+    services.notifications = std::make_unique<DBusNotifications>(bus, queue);
     services.statusBar = std::make_unique<TrayStatusBar>(bus);
     services.pasteboard = std::make_unique<QtPasteboard>(queue, clipboardAccess(qtPlatform));
 }

@@ -10,6 +10,7 @@
 #include <testing/FakeEventTaps.h>
 #include <testing/FakeKeyPoster.h>
 #include <testing/FakeKeyboardLayout.h>
+#include <testing/FakeNotifications.h>
 #include <testing/FakePasteboard.h>
 #include <testing/FakeSoftwareCentre.h>
 #include <testing/FakeStatusBar.h>
@@ -120,6 +121,9 @@ protected:
     FakeWorkspace* workspace = nullptr;
     FakeKeyboardLayout* keyboardLayout = nullptr;
     FakeStatusBar* statusBar = nullptr;
+    FakeNotifications* notifications = nullptr;
+    FakeAccessibilityRight* right = nullptr;
+    FakeKeyPoster* keyPoster = nullptr;
     FakeAppearance* appearance = nullptr;
     PlatformServices platform;
     std::unique_ptr<AppDelegate> delegate;
@@ -138,15 +142,22 @@ private:
         keyboardLayout = layout.get();
         appearance = desktop.get();
         statusBar = bar.get();
+        auto centre = std::make_unique<FakeNotifications>(log, queue);
+        auto permission = std::make_unique<FakeAccessibilityRight>(log);
+        auto poster = std::make_unique<FakeKeyPoster>(log);
+        notifications = centre.get();
+        right = permission.get();
+        keyPoster = poster.get();
         return {
-            std::make_unique<FakeAccessibilityRight>(log),
+            std::move(permission),
             std::move(eventTaps),
-            std::make_unique<FakeKeyPoster>(log),
+            std::move(poster),
             std::move(board),
             std::move(space),
             std::move(layout),
             std::make_unique<FakeWindowTraits>(log),
             std::move(desktop),
+            std::move(centre),
             std::make_unique<FakeSoftwareCentre>(log),
             std::move(bar)};
     }

@@ -15,6 +15,8 @@ class NullAccessibilityRight final : public AccessibilityRight {
 public:
     [[nodiscard]] bool isTrusted() const override { return false; }
 
+    [[nodiscard]] bool canPrompt() const override { return false; }
+
     void prompt() override {}
 };
 
@@ -131,6 +133,18 @@ public:
     void onChanged(std::function<void()>) override {}
 };
 
+class NullNotifications final : public Notifications {
+public:
+    explicit NullNotifications(MainQueue& mainQueue) : m_mainQueue(mainQueue) {}
+
+    void show(Notification, Done done) override {
+        m_mainQueue.async([done = std::move(done)] { done(NotificationOutcome::NoServer); });
+    }
+
+private:
+    MainQueue& m_mainQueue;
+};
+
 class NullSoftwareCentre final : public SoftwareCentre {
 public:
     [[nodiscard]] bool showPage(const QString&) override { return false; }
@@ -155,6 +169,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .keyboardLayout = std::make_unique<NullKeyboardLayout>(),
         .windowTraits = std::make_unique<NullWindowTraits>(),
         .appearance = std::make_unique<NullAppearance>(),
+        .notifications = std::make_unique<NullNotifications>(mainQueue),
         .softwareCentre = std::make_unique<NullSoftwareCentre>(),
         .statusBar = std::make_unique<NullStatusBar>(),
     };

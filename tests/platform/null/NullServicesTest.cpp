@@ -32,6 +32,14 @@ TEST_F(NullServices, ShowNothingOnTheDesktop) {
     EXPECT_FALSE(m_services.softwareCentre->showPage(u"org.quorvane.Quorvane"_s));
 }
 
+TEST_F(NullServices, HaveNobodyWhoShowsNotifications) {
+    std::optional<NotificationOutcome> outcome;
+    m_services.notifications->show({}, [&](NotificationOutcome told) { outcome = told; });
+    EXPECT_FALSE(outcome);
+    m_queue.run();
+    EXPECT_EQ(outcome, NotificationOutcome::NoServer);
+}
+
 TEST_F(NullServices, KnowNothingOfTheAppearance) {
     m_services.appearance->read();
     EXPECT_EQ(m_services.appearance->current(), DesktopAppearance{});

@@ -6,6 +6,7 @@
 #include <platform/EventTap.h>
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
+#include <platform/Notifications.h>
 #include <platform/Pasteboard.h>
 #include <platform/SoftwareCentre.h>
 #include <platform/StatusBar.h>
@@ -28,6 +29,7 @@ struct PlatformServices {
     std::unique_ptr<WindowTraits> windowTraits;
 
     std::unique_ptr<Appearance> appearance;
+    std::unique_ptr<Notifications> notifications;
     std::unique_ptr<SoftwareCentre> softwareCentre;
     std::unique_ptr<StatusBar> statusBar;
 };

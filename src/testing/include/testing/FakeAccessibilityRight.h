@@ -15,13 +15,19 @@ public:
         return m_trusted;
     }
 
+    [[nodiscard]] bool canPrompt() const override { return m_canPrompt; }
+
     void prompt() override { m_log.add("prompt"); }
+
+    /// The desktop has a question for the user.
+    void setCanPrompt() { m_canPrompt = true; }
 
     void setTrusted(bool trusted) { m_trusted = trusted; }
 
 private:
     CallLog& m_log;
     bool m_trusted = true;
+    bool m_canPrompt = false;
 };
 
 } // namespace quorvane

@@ -18,6 +18,8 @@ public:
 
     [[nodiscard]] bool isTrusted() const override;
 
+    [[nodiscard]] bool canPrompt() const override { return false; }
+
     void prompt() override {}
 
 private:
