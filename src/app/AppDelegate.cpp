@@ -25,12 +25,13 @@ Q_LOGGING_CATEGORY(lcApp, "quorvane.app", QtFatalMsg)
 struct Action {
     QLatin1StringView name;
     void (AppDelegate::*perform)();
+    bool isDelivery = false;
 };
 
 constexpr std::array actions{
     Action{"toggle"_L1, &AppDelegate::togglePresentation},
-    Action{"insert"_L1, &AppDelegate::performInsert},
-    Action{"copy"_L1, &AppDelegate::performCopy},
+    Action{"insert"_L1, &AppDelegate::performInsert, true},
+    Action{"copy"_L1, &AppDelegate::performCopy, true},
     Action{"preferences"_L1, &AppDelegate::showPreferences},
     Action{"quit"_L1, &AppDelegate::terminate},
 };
@@ -82,12 +83,16 @@ AppDelegate::AppDelegate(Dependencies dependencies)
           preferencesCallbacks()),
       m_dock({*m_dependencies.platform.windowTraits, m_preferences, m_presentation.panel()}),
       m_modelObserver(m_model, m_dependencies.mainQueue, modelCallbacks()),
+      m_notice(
+          {*m_dependencies.platform.notifications, *m_dependencies.platform.accessibilityRight},
+          noticeCallbacks()),
       m_insertion(
-          {m_previousFrontmostApp,
+          {*m_dependencies.platform.workspace,
            *m_dependencies.platform.accessibilityRight,
            *m_dependencies.platform.pasteboard,
            *m_dependencies.platform.keyPoster,
-           m_dependencies.mainQueue}) {
+           m_dependencies.mainQueue},
+          insertionCallbacks()) {
 }
 
 AppDelegate::~AppDelegate() {
@@ -114,8 +119,9 @@ void AppDelegate::surfaceMainUIForReopen() {
 
 void AppDelegate::performInsert() {
     const auto text = m_model.formattedOutput();
+    m_presentation.rememberTarget();
     m_presentation.hide();
-    m_insertion.start(text);
+    m_insertion.start(text, m_previousFrontmostApp.current());
 }
 
 void AppDelegate::performCopy() {
@@ -141,6 +147,8 @@ void AppDelegate::performAction(const QString& name) {
     const auto* action = std::ranges::find(actions, name, &Action::name);
     if (action == actions.end())
         qCInfo(lcApp, "no action \"%ls\"", qUtf16Printable(name));
+    else if (action->isDelivery && !m_model.isDeliverable())
+        qCInfo(lcApp, "nothing to %ls: no zone is selected", qUtf16Printable(name));
     else
         (this->*action->perform)();
 }
@@ -211,6 +219,23 @@ ModelObserver::Callbacks AppDelegate::modelCallbacks() {
         }};
 }
 
+DeliveryNotice::Callbacks AppDelegate::noticeCallbacks() {
+    return {
+        [this] {
+            m_trayIcon.setNotice(m_notice.text());
+            m_presentation.setNotice(m_notice.text());
+        },
+        weakly(&AppDelegate::showPreferences)};
+}
+
+Insertion::Callbacks AppDelegate::insertionCallbacks() {
+    return {
+        [this] { m_notice.clear(); },
+        [this](CopyReason reason) {
+            m_notice.tellCopied(reason);
+        }};
+}
+
 std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
     auto& platform = m_dependencies.platform;
     return std::make_unique<PopoverView>(
@@ -244,10 +269,14 @@ void AppDelegate::setupMainMenu() {
 
 void AppDelegate::observeDesktop() {
     auto& platform = m_dependencies.platform;
-    // The program that held the shortcut may be the one that has just gone.
-    platform.workspace->onFrontmostChanged([this] { m_shortcut.retry(); });
+    platform.workspace->onFrontmostChanged([this] {
+        // The program that held the shortcut may be the one that has just gone.
+        m_shortcut.retry();
+        m_presentation.frontmostDidChange();
+    });
     platform.workspace->onActiveSpaceChanged(
         [this] { m_presentation.panel().activeSpaceDidChange(); });
+    connect(&m_model, &DateTimeModel::objectWillChange, &m_notice, &DeliveryNotice::clear);
     platform.keyboardLayout->onChanged([this] {
         m_presentation.refreshSoon();
         m_preferences.refreshSoon();

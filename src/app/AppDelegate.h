@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "DeliveryNotice.h"
 #include "DockPresence.h"
 #include "GlobalShortcut.h"
 #include "Insertion.h"
@@ -61,7 +62,8 @@ public:
     /// Shows the interface, also when it is shown already: the user opened the program again.
     void surfaceMainUIForReopen();
 
-    /// Hides the interface and types the output into the application that was in front before.
+    /// Hides the interface and types the output into the application that was in front before, or
+    /// while the interface is hidden into the one that is.
     void performInsert();
 
     /// Puts the output on the pasteboard.
@@ -73,7 +75,7 @@ public:
     void checkForUpdates();
 
     /// Does what the desktop calls by name: "toggle", "insert", "copy", "preferences", "quit".
-    /// An unknown name does nothing.
+    /// An unknown name does nothing, nor do "insert" and "copy" while there is nothing to deliver.
     void performAction(const QString& name);
 
     /// Ends the process, once the user's clipboard is restored and will outlive the program.
@@ -99,6 +101,8 @@ private:
     [[nodiscard]] InterfaceCallbacks interfaceCallbacks();
     [[nodiscard]] PreferencesWindowController::Callbacks preferencesCallbacks();
     [[nodiscard]] ModelObserver::Callbacks modelCallbacks();
+    [[nodiscard]] DeliveryNotice::Callbacks noticeCallbacks();
+    [[nodiscard]] Insertion::Callbacks insertionCallbacks();
     [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
 
     void setupMainMenu();
@@ -116,6 +120,7 @@ private:
     DockPresence m_dock;
     ModelObserver m_modelObserver;
     std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< null before the first paint
+    DeliveryNotice m_notice;
     Insertion m_insertion;
     bool m_terminating = false;
 };

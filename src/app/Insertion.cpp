@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "Insertion.h"
 
-#include "PreviousFrontmostApp.h"
-
+#include <delivery/CopyText.h>
 #include <delivery/InsertionDelays.h>
+
+#include <QLoggingCategory>
 
 #include <utility>
 
 namespace quorvane {
 
-Insertion::Insertion(Dependencies dependencies)
-    : m_previousFrontmostApp(dependencies.previousFrontmostApp),
-      m_mainQueue(dependencies.mainQueue),
+namespace {
+
+Q_LOGGING_CATEGORY(lcInsert, "quorvane.insert", QtFatalMsg)
+
+} // namespace
+
+Insertion::Insertion(Dependencies dependencies, Callbacks callbacks)
+    : m_dependencies(dependencies),
+      m_callbacks(std::move(callbacks)),
       m_inserter(
           {dependencies.accessibilityRight,
            dependencies.pasteboard,
@@ -19,17 +26,81 @@ Insertion::Insertion(Dependencies dependencies)
            dependencies.mainQueue}) {
 }
 
-void Insertion::start(const QString& text) {
-    m_steps.run(m_mainQueue, insertiondelay::beforeActivation, [this, text] {
-        m_previousFrontmostApp.activate();
-        m_steps.run(
-            m_mainQueue, insertiondelay::beforePaste, [this, text] { m_inserter.insert(text); });
-    });
+void Insertion::start(const QString& text, const FrontmostApplication& target) {
+    if (!m_isUnderWay)
+        begin({text, target});
+    else if (!m_waiting)
+        m_waiting = {text, target};
+    else
+        qCInfo(lcInsert, "dropped: one insertion is under way, and another one waits");
 }
 
 void Insertion::finish(std::function<void()> done) {
     m_steps.cancelAll();
+    m_waiting.reset();
     m_inserter.finish(std::move(done));
+}
+
+void Insertion::begin(const Request& request) {
+    m_isUnderWay = true;
+    m_steps.run(m_dependencies.mainQueue, insertiondelay::beforeActivation, [this, request] {
+        activate(request);
+        m_steps.run(m_dependencies.mainQueue, insertiondelay::beforePaste, [this, request] {
+            deliver(request);
+        });
+    });
+}
+
+void Insertion::activate(const Request& request) {
+    const auto& application = request.target.application;
+    if (application && !m_dependencies.workspace.activate(*application))
+        qCInfo(lcInsert, "%ls cannot be activated", qUtf16Printable(application->name));
+}
+
+void Insertion::deliver(const Request& request) {
+    if (isReached(request.target)) {
+        m_inserter.insert(request.text, [this, request](InsertionOutcome outcome) {
+            conclude(request, outcome);
+        });
+    } else {
+        copyInstead(request.text, CopyReason::NoWindow);
+        beginNext();
+    }
+}
+
+bool Insertion::isReached(const FrontmostApplication& target) const {
+    if (!target.isCertain)
+        return true;
+    // The window manager has had its time to answer.
+    return target.application && m_dependencies.workspace.receivesKeys(*target.application);
+}
+
+void Insertion::conclude(const Request& request, InsertionOutcome outcome) {
+    switch (outcome) {
+    case InsertionOutcome::Posted:
+        m_callbacks.onTyped();
+        break;
+    case InsertionOutcome::NoRight:
+    case InsertionOutcome::NoKeys:
+        copyInstead(request.text, CopyReason::NoWayToType);
+        break;
+    case InsertionOutcome::NotTaken:
+        break;
+    }
+    beginNext();
+}
+
+void Insertion::copyInstead(const QString& text, CopyReason reason) {
+    if (copyText(m_dependencies.pasteboard, text) == PutOutcome::Taken)
+        m_callbacks.onCopied(reason);
+    else
+        qCInfo(lcInsert, "neither typed nor copied: the pasteboard does not take the text");
+}
+
+void Insertion::beginNext() {
+    m_isUnderWay = false;
+    if (const auto next = std::exchange(m_waiting, std::nullopt))
+        begin(*next);
 }
 
 } // namespace quorvane

@@ -56,6 +56,9 @@ public:
     /// Null while nothing is visible.
     [[nodiscard]] QWindow* visibleWindow() const;
 
+    /// The content; null before it is shown first.
+    [[nodiscard]] PopoverView* view() const { return m_view; }
+
 private:
     void setupPanel();
 

@@ -55,6 +55,9 @@ public:
 
     [[nodiscard]] PopoverAnchor& anchor() { return m_anchor; }
 
+    /// The content; null before it is shown first.
+    [[nodiscard]] PopoverView* view() const { return m_view; }
+
 private:
     void setupPopover();
     void noteDismissal();

@@ -6,6 +6,8 @@
 
 #include <QCursor>
 
+#include <utility>
+
 namespace quorvane {
 
 Presentation::Presentation(Dependencies dependencies, const InterfaceCallbacks& callbacks)
@@ -17,13 +19,13 @@ Presentation::Presentation(Dependencies dependencies, const InterfaceCallbacks& 
            dependencies.mainQueue,
            dependencies.workspace,
            dependencies.windowTraits},
-          callbacks),
+          preparing(callbacks)),
       m_popover(
           {dependencies.trayIcon,
            dependencies.mainQueue,
            dependencies.workspace,
            dependencies.windowTraits},
-          callbacks) {
+          preparing(callbacks)) {
 }
 
 PresentationMode Presentation::effectivePresentationMode() const {
@@ -50,10 +52,15 @@ void Presentation::surface() {
 }
 
 void Presentation::present() {
-    if (effectivePresentationMode() == PresentationMode::Window)
+    prepareViews();
+    // The other one may show: the tray has come or gone since.
+    if (effectivePresentationMode() == PresentationMode::Window) {
+        m_popover.close();
         m_panel.show();
-    else
+    } else {
+        m_panel.hide();
         m_popover.show();
+    }
 }
 
 void Presentation::hide() {
@@ -83,6 +90,47 @@ void Presentation::handlePresentationModeChange(PresentationMode mode) {
 void Presentation::refreshSoon() {
     m_panel.refreshSoon();
     m_popover.refreshSoon();
+}
+
+void Presentation::rememberTarget() {
+    // An open popover closes at every press elsewhere.
+    if (m_popover.isShown())
+        m_previousFrontmostApp.rememberUnlessGone();
+    else
+        m_previousFrontmostApp.remember();
+}
+
+void Presentation::frontmostDidChange() {
+    if (!isShown())
+        return;
+    rememberTarget();
+    prepareViews();
+}
+
+void Presentation::setNotice(const QString& text) {
+    m_notice = text;
+    prepareViews();
+}
+
+InterfaceCallbacks Presentation::preparing(InterfaceCallbacks callbacks) {
+    callbacks.makeContentView = [this, make = std::move(callbacks.makeContentView)] {
+        auto view = make();
+        prepare(*view);
+        return view;
+    };
+    return callbacks;
+}
+
+void Presentation::prepare(PopoverView& view) const {
+    view.setInsertTarget(m_previousFrontmostApp.title());
+    view.setNotice(m_notice);
+}
+
+void Presentation::prepareViews() const {
+    for (auto* view : {m_panel.view(), m_popover.view()}) {
+        if (view != nullptr)
+            prepare(*view);
+    }
 }
 
 bool Presentation::isShown() const {

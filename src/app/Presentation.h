@@ -12,7 +12,7 @@ namespace quorvane {
 class PreviousFrontmostApp;
 class TrayIcon;
 
-/// Shows the interface in the mode that the model names: as a panel or as a popover.
+/// Shows the interface in the mode that the model names: as a panel or as a popover, never both.
 class Presentation final {
 public:
     /// All must outlive the presentation.
@@ -49,6 +49,16 @@ public:
     /// Shows the contents anew, for changes that the model does not announce.
     void refreshSoon();
 
+    /// Takes the application that a text is to be inserted into at this moment: what the user works
+    /// in, also while a panel floats above it.
+    void rememberTarget();
+
+    /// Another application may be in front: what is shown names it.
+    void frontmostDidChange();
+
+    /// A caption at the preview; empty for none.
+    void setNotice(const QString& text);
+
     /// The mode actually used: a popover needs a tray icon to be placed at.
     [[nodiscard]] PresentationMode effectivePresentationMode() const;
 
@@ -58,10 +68,14 @@ public:
 
 private:
     [[nodiscard]] bool isShown() const;
+    [[nodiscard]] InterfaceCallbacks preparing(InterfaceCallbacks callbacks);
+    void prepare(PopoverView& view) const;
+    void prepareViews() const;
 
     const DateTimeModel& m_model;
     const TrayIcon& m_trayIcon;
     PreviousFrontmostApp& m_previousFrontmostApp;
+    QString m_notice;
     PanelPresentation m_panel;
     PopoverPresentation m_popover;
 };

@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "PreviousFrontmostApp.h"
 
-#include <QLoggingCategory>
-
 namespace quorvane {
 
-namespace {
+void PreviousFrontmostApp::remember() {
+    m_hasGone = false;
+    m_current = m_workspace.frontmostApplication();
+}
 
-Q_LOGGING_CATEGORY(lcInsert, "quorvane.insert", QtFatalMsg)
+void PreviousFrontmostApp::rememberUnlessGone() {
+    const auto& application = m_current.application;
+    m_hasGone = m_hasGone || (application && !m_workspace.isShown(*application));
+    if (m_hasGone)
+        m_current.application.reset();
+    else
+        m_current = m_workspace.frontmostApplication();
+}
 
-} // namespace
-
-void PreviousFrontmostApp::activate() {
-    if (m_application && !m_workspace.activate(*m_application))
-        qCInfo(lcInsert, "%ls cannot be activated", qUtf16Printable(m_application->name));
+QString PreviousFrontmostApp::title() const {
+    return m_current.application ? m_current.application->title : QString();
 }
 
 } // namespace quorvane

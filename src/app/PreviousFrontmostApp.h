@@ -3,26 +3,31 @@
 
 #include <platform/Workspace.h>
 
-#include <optional>
-
 namespace quorvane {
 
-/// The application that had the focus before the interface was shown: where a text is inserted.
+/// The application that a text is inserted into: the one that has the focus, or had it last while
+/// the interface has it.
 class PreviousFrontmostApp final {
 public:
     /// `workspace` must outlive this.
-    explicit PreviousFrontmostApp(Workspace& workspace) : m_workspace(workspace) {}
+    explicit PreviousFrontmostApp(const Workspace& workspace) : m_workspace(workspace) {}
 
-    /// Takes the application that has the focus now; if none has it, nothing is remembered.
-    void remember() { m_application = m_workspace.frontmostApplication().application; }
+    /// Takes the application that is in front now; if there is none, nothing is remembered.
+    void remember();
 
-    /// Gives the focus back to the application. Does nothing if none is remembered; one that cannot
-    /// be activated is named in the log.
-    void activate();
+    /// The same while nobody but the window manager can have brought another one to the front: one
+    /// that goes is then not replaced by what was behind it.
+    void rememberUnlessGone();
+
+    [[nodiscard]] const FrontmostApplication& current() const { return m_current; }
+
+    /// What people call it; empty if nothing is remembered or the desktop does not tell.
+    [[nodiscard]] QString title() const;
 
 private:
-    Workspace& m_workspace;
-    std::optional<RunningApplication> m_application;
+    const Workspace& m_workspace;
+    FrontmostApplication m_current;
+    bool m_hasGone = false;
 };
 
 } // namespace quorvane

@@ -26,6 +26,7 @@ void TrayIcon::makeStatusItem() {
     if (!m_statusItem)
         return;
     applyIconImage();
+    m_statusItem->setToolTip(m_notice);
     m_statusItem->onClicked([self = QPointer(this)](StatusItem::Click click) {
         if (self)
             self->statusBarButtonClicked(click);
@@ -38,6 +39,12 @@ void TrayIcon::setVisible(bool visible) {
         makeStatusItem();
     if (m_statusItem)
         m_statusItem->setVisible(visible);
+}
+
+void TrayIcon::setNotice(const QString& text) {
+    m_notice = text;
+    if (m_statusItem)
+        m_statusItem->setToolTip(text);
 }
 
 bool TrayIcon::hasButton() const {

@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <QString>
 
 #include <functional>
 #include <memory>
@@ -41,6 +42,9 @@ public:
     /// Makes the icon first if it could not be made before.
     void setVisible(bool visible);
 
+    /// What shows while the pointer rests on the icon; empty for the program's name.
+    void setNotice(const QString& text);
+
     /// Whether the desktop has a place for the icon; one that is hidden keeps its place.
     [[nodiscard]] bool hasButton() const;
 
@@ -59,6 +63,7 @@ private:
     Dependencies m_dependencies;
     Callbacks m_callbacks;
     std::unique_ptr<StatusItem> m_statusItem;
+    QString m_notice;
 };
 
 } // namespace quorvane

@@ -101,6 +101,10 @@ DateTimeModel::formatSingle(Instant instant, const TimeZone& zone, DateFormatPre
     return quorvane::formatSingle(instant, zone, preset, formatSettings());
 }
 
+bool DateTimeModel::isDeliverable() const {
+    return !m_composition.includeTime || !m_composition.selectedTimeZones.empty();
+}
+
 QString DateTimeModel::formattedOutput() const {
     const OutputRequest request{
         .preset = m_composition.formatPreset,

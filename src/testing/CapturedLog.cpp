@@ -7,7 +7,8 @@ CapturedLog::CapturedLog(const QString& category)
     : m_category(category),
       m_before(qInstallMessageHandler(take)) {
     s_current = this;
-    QLoggingCategory::setFilterRules(category + QStringLiteral(".debug=true"));
+    QLoggingCategory::setFilterRules(
+        category + QStringLiteral(".debug=true\n") + category + QStringLiteral(".info=true"));
 }
 
 CapturedLog::~CapturedLog() {

@@ -128,16 +128,12 @@ TEST_F(AppDelegateTest, ReopenShowsAHiddenPanelAndRemembersWhatWasInFront) {
     EXPECT_THAT(calls(), ElementsAre("frontmostApplication", "preparePanel", "presentPanel"));
 }
 
-TEST_F(AppDelegateTest, ReopenOfAShownPanelKeepsWhatIsRemembered) {
+TEST_F(AppDelegateTest, ReopenOfAShownPanelOnlyShowsIt) {
     showOver(editor);
-    workspace->setFront(RunningApplication{43, u"another"_s});
     log.clear();
     delegate->surfaceMainUIForReopen();
     EXPECT_TRUE(panel()->isVisible());
     EXPECT_THAT(calls(), ElementsAre("preparePanel", "presentPanel"));
-    delegate->performInsert();
-    queue.advance(100ms);
-    EXPECT_EQ(calls().back(), "activate editor");
 }
 
 TEST_F(AppDelegateTest, ActionsAreCalledByName) {
@@ -157,6 +153,20 @@ TEST_F(AppDelegateTest, ActionsAreCalledByName) {
     delegate->performAction(u"quit"_s);
     queue.run();
     EXPECT_EQ(calls().back(), "handOver");
+}
+
+TEST_F(AppDelegateTest, ActionsDeliverNothingWhileThereIsNothingToDeliver) {
+    launch();
+    queue.run();
+    delegate->model().setSelectedTimeZones({});
+    pasteboard->setContents(plainText(u"mine"_s));
+    log.clear();
+    delegate->performAction(u"copy"_s);
+    delegate->performAction(u"insert"_s);
+    queue.advance(1s);
+    EXPECT_THAT(calls(), ElementsAre());
+    EXPECT_TRUE(panel()->isVisible());
+    EXPECT_EQ(pasteboard->contents(), plainText(u"mine"_s));
 }
 
 TEST_F(AppDelegateTest, TriggerAfterTheDelegateIsGoneDoesNothing) {

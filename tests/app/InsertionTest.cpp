@@ -2,6 +2,7 @@
 #include "DelegateFixture.h"
 
 #include <delivery/InsertionDelays.h>
+#include <testing/CapturedLog.h>
 
 #include <gmock/gmock.h>
 
@@ -23,7 +24,32 @@ const auto activation = std::chrono::round<milliseconds>(insertiondelay::beforeA
 const auto paste = activation + std::chrono::round<milliseconds>(insertiondelay::beforePaste);
 const auto restore = paste + std::chrono::round<milliseconds>(insertiondelay::beforeRestore);
 
-class InsertionTest : public DelegateFixture {};
+const RunningApplication browser{43, u"browser"_s};
+
+const auto noWindow = u"There was no window to type into. Paste with your usual keys."_s;
+const auto noWayToType = u"This desktop does not let Quorvane type. Paste with your usual keys."_s;
+
+class InsertionTest : public DelegateFixture {
+protected:
+    /// Over contents of the user's, which the text replaces for good.
+    void copiesInstead(const QString& body) {
+        pasteboard->setContents(plainText(u"mine"_s));
+        delegate->performInsert();
+        queue.advance(paste - 1ms);
+        EXPECT_EQ(pasteboard->contents(), plainText(u"mine"_s));
+        queue.advance(2s);
+        EXPECT_THAT(calls(), testing::Not(testing::Contains(pasteKeys)));
+        expectCopied(body);
+    }
+
+    void expectCopied(const QString& body) {
+        EXPECT_EQ(pasteboard->contents(), plainText(delegate->model().formattedOutput()));
+        EXPECT_THAT(calls(), testing::Contains(testing::StartsWith("setString lasting")));
+        ASSERT_TRUE(notifications->shown);
+        EXPECT_EQ(notifications->shown->title, u"Copied instead"_s);
+        EXPECT_EQ(notifications->shown->body, body);
+    }
+};
 
 TEST(InsertionDelays, HaveTheirValues) {
     EXPECT_EQ(insertiondelay::beforeActivation, Seconds{0.08});
@@ -45,7 +71,9 @@ TEST_F(InsertionTest, KeepsItsTimesAndTheOrderOfItsCalls) {
     EXPECT_THAT(
         log.calls(),
         ElementsAre(
+            Call{start, "frontmostApplication"},
             Call{start + activation, "activate editor"},
+            Call{start + paste, "receivesKeys editor"},
             Call{start + paste, "isTrusted"},
             Call{start + paste, "save"},
             Call{start + paste, "clear"},
@@ -64,13 +92,26 @@ TEST_F(InsertionTest, TextIsComposedWhenTheInsertionStarts) {
     EXPECT_EQ(pasteboard->contents(), plainText(u"1710021900"_s));
 }
 
-TEST_F(InsertionTest, WithNothingRememberedTheKeysGoToTheFocusedApplication) {
+TEST_F(InsertionTest, WhereTheDesktopCannotTellTheKeysGoToTheFocusedApplication) {
     launch();
     log.clear();
     delegate->performInsert();
     queue.advance(1s);
     EXPECT_THAT(calls(), testing::Not(testing::Contains(testing::StartsWith("activate"))));
+    EXPECT_THAT(calls(), testing::Not(testing::Contains(testing::StartsWith("receivesKeys"))));
     EXPECT_THAT(calls(), testing::Contains(pasteKeys));
+}
+
+TEST_F(InsertionTest, WhereTheDesktopIsNotCertainItsGuessIsActivatedAndNotChecked) {
+    showOver(editor);
+    workspace->setFrontUncertain();
+    workspace->ignoreActivation();
+    workspace->takeKeyboard();
+    log.clear();
+    delegate->performInsert();
+    queue.advance(1s);
+    EXPECT_THAT(calls(), testing::IsSupersetOf({std::string("activate editor"), pasteKeys}));
+    EXPECT_FALSE(notifications->shown);
 }
 
 TEST_F(InsertionTest, WorksBeforeThePanelIsMade) {
@@ -124,12 +165,109 @@ TEST_F(InsertionTest, QuitBeforeThePasteLeavesThePasteboardAlone) {
     EXPECT_THAT(calls(), ElementsAre("handOver"));
 }
 
-TEST_F(InsertionTest, ApplicationThatCannotBeActivatedStopsNoInsertion) {
+TEST_F(InsertionTest, GoesWhereTheUserWorksWhileThePanelFloats) {
     showOver(editor);
-    workspace->loseWindows();
+    workspace->setFront(browser);
     delegate->performInsert();
     queue.advance(1s);
-    EXPECT_THAT(calls(), testing::IsSupersetOf({std::string("activate editor"), pasteKeys}));
+    EXPECT_THAT(calls(), testing::IsSupersetOf({std::string("activate browser"), pasteKeys}));
+    EXPECT_THAT(calls(), testing::Not(testing::Contains("activate editor")));
+}
+
+TEST_F(InsertionTest, WhileTheInterfaceIsHiddenItGoesToWhatIsInFrontThen) {
+    showOver(editor);
+    pressShortcut();
+    workspace->setFront(browser);
+    delegate->performAction(u"insert"_s);
+    queue.advance(1s);
+    EXPECT_THAT(calls(), testing::Contains("activate browser"));
+    EXPECT_THAT(calls(), testing::Not(testing::Contains("activate editor")));
+}
+
+TEST_F(InsertionTest, CopiesInsteadWhereNothingIsInFront) {
+    showOver(editor);
+    workspace->close(editor);
+    copiesInstead(noWindow);
+    EXPECT_THAT(calls(), testing::Not(testing::Contains("activate editor")));
+}
+
+TEST_F(InsertionTest, CopiesInsteadWhereTheTargetGoesBeforeItIsActivated) {
+    showOver(editor);
+    pasteboard->setContents(plainText(u"mine"_s));
+    delegate->performInsert();
+    queue.advance(activation - 10ms);
+    workspace->close(editor);
+    queue.advance(1s);
+    expectCopied(noWindow);
+}
+
+TEST_F(InsertionTest, CopiesInsteadWhereTheTargetDoesNotComeToTheFront) {
+    showOver(editor);
+    workspace->ignoreActivation();
+    workspace->setActive(browser);
+    copiesInstead(noWindow);
+}
+
+TEST_F(InsertionTest, CopiesInsteadWhileAScreenLockHasTheKeyboard) {
+    showOver(editor);
+    workspace->takeKeyboard();
+    copiesInstead(noWindow);
+}
+
+TEST_F(InsertionTest, CopiesInsteadWithoutTheRightAndAsksNobody) {
+    showOver(editor);
+    right->setTrusted(false);
+    copiesInstead(noWayToType);
+    EXPECT_THAT(calls(), testing::Not(testing::Contains("prompt")));
+    EXPECT_FALSE(notifications->shown->action);
+}
+
+TEST_F(InsertionTest, CopiesInsteadWithoutKeysThatWouldDo) {
+    showOver(editor);
+    keyPoster->setOutcome(PostOutcome::Unavailable);
+    pasteboard->setContents(plainText(u"mine"_s));
+    delegate->performInsert();
+    queue.advance(paste + 100ms);
+    expectCopied(noWayToType);
+}
+
+TEST_F(InsertionTest, WhereTheRightCanBeGivenTheNotificationLeadsToThePreferences) {
+    showOver(editor);
+    right->setTrusted(false);
+    right->setCanPrompt();
+    copiesInstead(noWayToType);
+    ASSERT_TRUE(notifications->shown->action);
+    EXPECT_EQ(notifications->shown->action->label, u"Allow typing…"_s);
+    notifications->shown->action->perform();
+    EXPECT_TRUE(isShown(preferences()));
+}
+
+TEST_F(InsertionTest, SecondOneWaitsForTheKeysOfTheFirstAndCarriesTheTextOfItsMoment) {
+    showOver(editor);
+    delegate->model().setFormatPreset(DateFormatPreset::UnixTimestamp);
+    const auto start = elapsed();
+    log.clear();
+    delegate->performInsert();
+    queue.advance(20ms);
+    delegate->model().setStartDate({7});
+    delegate->performInsert();
+    delegate->model().setStartDate({8});
+    queue.advance(2s);
+    EXPECT_THAT(
+        log.calls(),
+        testing::IsSupersetOf(
+            {Call{start + paste, "setString passing \"1710021900\""},
+             Call{start + 2 * paste, "setString passing \"7\""}}));
+}
+
+TEST_F(InsertionTest, FloodLeavesOneUnderWayAndOneThatWaits) {
+    showOver(editor);
+    const CapturedLog messages(u"quorvane.insert"_s);
+    for (int request = 0; request < 100; ++request)
+        delegate->performAction(u"insert"_s);
+    queue.advance(5s);
+    EXPECT_EQ(std::ranges::count(calls(), pasteKeys), 2);
+    EXPECT_EQ(messages.lines().filter(u"dropped"_s).size(), 98);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 using testing::Contains;
 using testing::Not;
 
-const RunningApplication editor{42, u"editor"_s};
+const RunningApplication editor{42, u"editor"_s, u"Editor"_s};
 const RunningApplication browser{43, u"browser"_s};
 
 class PresentationTest : public PresentationFixture {
@@ -80,12 +80,11 @@ TEST_F(PresentationTest, EachShowingByAToggleRemembersWhatIsInFrontThen) {
     EXPECT_EQ(calls().back(), "activate browser");
 }
 
-TEST_F(PresentationTest, ReopenShowsWhatIsShownAlreadyAndKeepsWhatIsRemembered) {
+TEST_F(PresentationTest, ReopenShowsWhatIsShownAlreadyAndAsksOnlyForWhatIsHidden) {
     launchAs(PresentationMode::Popover);
     clickIcon();
     workspace->setFront(editor);
     clickIcon();
-    workspace->setFront(browser);
     log.clear();
     delegate->surfaceMainUIForReopen();
     EXPECT_TRUE(isShown(popover()));
@@ -94,6 +93,53 @@ TEST_F(PresentationTest, ReopenShowsWhatIsShownAlreadyAndKeepsWhatIsRemembered) 
     delegate->surfaceMainUIForReopen();
     EXPECT_TRUE(isShown(popover()));
     EXPECT_THAT(calls(), Contains("frontmostApplication"));
+}
+
+TEST_F(PresentationTest, PanelThatStoodInGoesWhenThePopoverCanShow) {
+    bar.hasButton = false;
+    launchAs(PresentationMode::Popover);
+    ASSERT_TRUE(isShown(panel()));
+    statusBar->hasButton = true;
+    delegate->surfaceMainUIForReopen();
+    EXPECT_TRUE(isShown(popover()));
+    EXPECT_FALSE(isShown(panel()));
+}
+
+TEST_F(PresentationTest, PopoverGoesWhenThePanelHasToStandIn) {
+    launchAs(PresentationMode::Popover);
+    ASSERT_TRUE(isShown(popover()));
+    statusBar->hasButton = false;
+    delegate->surfaceMainUIForReopen();
+    EXPECT_TRUE(isShown(panel()));
+    EXPECT_FALSE(isShown(popover()));
+}
+
+TEST_F(PresentationTest, InsertNamesWhatIsInFrontAndFollowsIt) {
+    for (const auto mode : {PresentationMode::Popover, PresentationMode::Window}) {
+        launchAs(mode);
+        auto* window = mode == PresentationMode::Popover ? popover() : panel();
+        const auto* insert = widgetByRole(*window, QAccessible::Button, u"Insert"_s);
+        EXPECT_EQ(insert->toolTip(), u"Insert (Ctrl+Return)"_s);
+        workspace->setFront(editor);
+        EXPECT_EQ(insert->toolTip(), u"Insert into Editor (Ctrl+Return)"_s);
+        EXPECT_EQ(insert->accessibleDescription(), insert->toolTip());
+        workspace->close(editor);
+        EXPECT_EQ(insert->toolTip(), u"Insert (Ctrl+Return)"_s);
+    }
+}
+
+TEST_F(PresentationTest, UnderAnOpenPopoverNoOlderWindowTakesThePlaceOfOneThatGoes) {
+    launchAs(PresentationMode::Popover);
+    clickIcon();
+    workspace->setFront(editor);
+    clickIcon();
+    workspace->close(editor);
+    workspace->setFront(browser);
+    delegate->performInsert();
+    queue.advance(std::chrono::seconds(1));
+    EXPECT_THAT(calls(), Not(Contains("activate browser")));
+    EXPECT_THAT(calls(), Not(Contains("paste")));
+    EXPECT_TRUE(notifications->shown);
 }
 
 TEST_F(PresentationTest, CloseButtonAndEscapeHideEither) {

@@ -5,48 +5,61 @@
 #include <testing/FakeWorkspace.h>
 #include <testing/VirtualMainQueue.h>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
-using testing::ElementsAre;
+
+const RunningApplication editor{42, u"editor"_s, u"Editor"_s};
+const RunningApplication browser{43, u"browser"_s, u"Browser"_s};
 
 class PreviousFrontmostAppTest : public testing::Test {
 protected:
-    /// The calls since the last question.
-    std::vector<std::string> calls() {
-        std::vector<std::string> calls;
-        for (const auto& call : log.calls())
-            calls.push_back(call.what);
-        log.clear();
-        return calls;
-    }
-
     VirtualMainQueue queue;
     CallLog log{queue};
     FakeWorkspace workspace{log};
     PreviousFrontmostApp previous{workspace};
 };
 
-TEST_F(PreviousFrontmostAppTest, ActivatesTheOneThatWasInFrontWhenItWasAsked) {
-    workspace.setFront(RunningApplication{42, u"editor"_s});
+TEST_F(PreviousFrontmostAppTest, IsTheOneThatWasInFrontWhenItWasAsked) {
+    workspace.setFront(editor);
     previous.remember();
-    workspace.setFront(RunningApplication{43, u"browser"_s});
-    previous.activate();
-    EXPECT_THAT(calls(), ElementsAre("frontmostApplication", "activate editor"));
+    workspace.setFront(browser);
+    EXPECT_EQ(previous.current(), (FrontmostApplication{editor, true}));
+    EXPECT_EQ(previous.title(), u"Editor"_s);
 }
 
 TEST_F(PreviousFrontmostAppTest, ForgetsTheOldOneWhenNoneIsInFront) {
-    previous.activate();
-    EXPECT_TRUE(calls().empty());
-    workspace.setFront(RunningApplication{42, u"editor"_s});
+    EXPECT_EQ(previous.current(), FrontmostApplication{});
+    workspace.setFront(editor);
     previous.remember();
     workspace.setFront(std::nullopt);
     previous.remember();
-    previous.activate();
-    EXPECT_THAT(calls(), ElementsAre("frontmostApplication", "frontmostApplication"));
+    EXPECT_EQ(previous.current(), (FrontmostApplication{std::nullopt, true}));
+    EXPECT_EQ(previous.title(), QString());
+}
+
+TEST_F(PreviousFrontmostAppTest, GoesOnToAnotherOneWhileTheOldOneIsShown) {
+    workspace.setFront(editor);
+    previous.remember();
+    workspace.setFront(browser);
+    previous.rememberUnlessGone();
+    EXPECT_EQ(previous.current().application, browser);
+}
+
+TEST_F(PreviousFrontmostAppTest, IsNotReplacedByWhatWasBehindItWhenItGoes) {
+    workspace.setFront(editor);
+    previous.remember();
+    workspace.close(editor);
+    workspace.setFront(browser);
+    previous.rememberUnlessGone();
+    EXPECT_EQ(previous.current(), (FrontmostApplication{std::nullopt, true}));
+    previous.rememberUnlessGone();
+    EXPECT_EQ(previous.current().application, std::nullopt);
+    previous.remember();
+    EXPECT_EQ(previous.current().application, browser);
 }
 
 } // namespace

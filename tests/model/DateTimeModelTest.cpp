@@ -357,6 +357,15 @@ TEST_F(DateTimeModelTest, OutputFollowsTheFields) {
     EXPECT_EQ(model->formatSingle(march9, zone("Asia/Tokyo"), DateFormatPreset::Custom), u"07"_s);
 }
 
+TEST_F(DateTimeModelTest, TimeWithoutAZoneCannotBeDelivered) {
+    const auto model = makeModel();
+    EXPECT_TRUE(model->isDeliverable());
+    model->setSelectedTimeZones({});
+    EXPECT_FALSE(model->isDeliverable());
+    model->setIncludeTime(false);
+    EXPECT_TRUE(model->isDeliverable());
+}
+
 TEST_F(DateTimeModelTest, PresetThatIsNoLongerOfferedIsReplaced) {
     const auto model = makeModel();
     model->setFormatPreset(DateFormatPreset::ShortForm);

@@ -44,6 +44,11 @@ void TrayStatusItem::setImage(const QIcon& image, const QString& accessibilityDe
     showIcon();
 }
 
+void TrayStatusItem::setToolTip(const QString& text) {
+    m_toolTip = text;
+    showIcon();
+}
+
 void TrayStatusItem::setVisible(bool visible) {
     m_isVisible = visible;
     showIcon();
@@ -80,7 +85,7 @@ void TrayStatusItem::showIcon() {
     if (!m_icon)
         return;
     m_icon->setIcon(m_image);
-    m_icon->setToolTip(m_description);
+    m_icon->setToolTip(m_toolTip.isEmpty() ? m_description : m_toolTip);
     m_icon->setVisible(m_isVisible && !m_image.isNull());
 }
 

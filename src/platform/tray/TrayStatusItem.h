@@ -27,6 +27,8 @@ public:
 
     void setImage(const QIcon& image, const QString& accessibilityDescription) override;
 
+    void setToolTip(const QString& text) override;
+
     void onClicked(std::function<void(Click)> handler) override { m_clicked = std::move(handler); }
 
     [[nodiscard]] bool isVisible() const override { return m_isVisible; }
@@ -52,6 +54,7 @@ private:
     StatusMenu m_attached;
     QIcon m_image;
     QString m_description;
+    QString m_toolTip;
     bool m_isVisible = false;
     std::function<void(Click)> m_clicked;
     std::unique_ptr<QMenu> m_hostsMenu;      ///< what the host draws

@@ -8,6 +8,7 @@
 #include <panel/PanelMetrics.h>
 
 #include <QHBoxLayout>
+#include <QKeySequence>
 #include <QPainter>
 
 namespace quorvane {
@@ -32,11 +33,20 @@ ActionBar::ActionBar(MainQueue& queue, QWidget* parent)
     row->setSpacing(buttonSpacing);
     row->addWidget(m_copy, 1);
     row->addWidget(m_insert, 1);
+    setInsertTarget({});
 }
 
 void ActionBar::setAvailable(bool available) {
     setEnabled(available);
     m_overlay->setOpacity(available ? 1 : unavailableOpacity);
+}
+
+void ActionBar::setInsertTarget(const QString& name) {
+    const auto keys = QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText);
+    const auto text =
+        name.isEmpty() ? tr("Insert (%1)").arg(keys) : tr("Insert into %1 (%2)").arg(name, keys);
+    m_insert->setToolTip(text);
+    m_insert->setAccessibleDescription(text);
 }
 
 void ActionBar::paintEvent(QPaintEvent* /*event*/) {

@@ -21,6 +21,10 @@ public:
     /// Whether there is anything to deliver; while there is not, the bar is dimmed.
     void setAvailable(bool available);
 
+    /// The application that Insert types into, which its tooltip names; empty where nobody can
+    /// tell.
+    void setInsertTarget(const QString& name);
+
     [[nodiscard]] CopyButton& copyButton() { return *m_copy; }
 
     [[nodiscard]] ActionButton& insertButton() { return *m_insert; }

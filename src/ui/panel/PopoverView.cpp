@@ -58,6 +58,14 @@ void PopoverView::performCopy() {
         button.refuse();
 }
 
+void PopoverView::setInsertTarget(const QString& name) {
+    m_actionBar->setInsertTarget(name);
+}
+
+void PopoverView::setNotice(const QString& text) {
+    m_previewSection->setNotice(text);
+}
+
 void PopoverView::togglePresentationMode() {
     const bool isPopover = m_model.presentationMode() == PresentationMode::Popover;
     m_model.setPresentationMode(isPopover ? PresentationMode::Window : PresentationMode::Popover);
@@ -168,14 +176,10 @@ void PopoverView::refresh() {
 }
 
 void PopoverView::refreshDownstream() {
-    const bool available = !downstreamDisabled();
+    const bool available = m_model.isDeliverable();
     m_formatSection->setAvailable(available);
     m_previewSection->setAvailable(available);
     m_actionBar->setAvailable(available);
-}
-
-bool PopoverView::downstreamDisabled() const {
-    return m_model.includeTime() && m_model.selectedTimeZones().empty();
 }
 
 } // namespace quorvane

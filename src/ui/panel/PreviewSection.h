@@ -8,6 +8,7 @@
 namespace quorvane {
 
 class OutputPreview;
+class WrappedText;
 
 /// The output as it will be delivered.
 class PreviewSection final : public Section {
@@ -19,8 +20,12 @@ public:
 
     void setOutput(const QString& output);
 
+    /// A caption below the output; empty for none.
+    void setNotice(const QString& text);
+
 private:
     OutputPreview* m_preview;
+    WrappedText* m_notice;
 };
 
 } // namespace quorvane

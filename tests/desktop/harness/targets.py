@@ -1,22 +1,32 @@
 # SPDX-License-Identifier: MIT
 """Foreign programs that texts are inserted into."""
 
+import sys
 from abc import ABC, abstractmethod
-from collections.abc import Sequence
+from collections.abc import Mapping, Sequence
+from pathlib import Path
 
 from .session import Session
 from .waiting import wait_until
+
+_HERE = Path(__file__).parent
 
 
 class Target(ABC):
     """A program with an active window, and a way to read what arrived in it."""
 
-    def __init__(self, session: Session, command: Sequence[str]) -> None:
+    def __init__(
+        self,
+        session: Session,
+        command: Sequence[str],
+        environment: Mapping[str, str] | None = None,
+        title: str | None = None,
+    ) -> None:
         self._session = session
-        self.process = session.start(command)
+        self.process = session.start(command, environment)
         windows = session.windows
         self.window = windows.wait(
-            lambda: windows.of_process(self.process.pid), f"a window of {command[0]}"
+            lambda: windows.of_process(self.process.pid, title), f"a window of {command[0]}"
         )
         self.focus()
 
@@ -60,6 +70,19 @@ class Terminal(Target):
         self._typed.touch()
         command = ["sh", "-c", 'stty raw -echo; exec cat >"$0"', str(self._typed)]
         super().__init__(session, ["xterm", "-name", name.lower(), "-class", name, "-e", *command])
+
+    def text(self) -> str:
+        return self._typed.read_text()
+
+
+class DialogField(Target):
+    """The field of a dialog, over a window of its program that fills the screen."""
+
+    def __init__(self, session: Session) -> None:
+        self._typed = session.root / "typed-in-dialog"
+        self._typed.touch()
+        program = [sys.executable, "-B", "-m", f"{__package__}.dialog_program", str(self._typed)]
+        super().__init__(session, program, {"PYTHONPATH": str(_HERE.parent)}, title="dialog")
 
     def text(self) -> str:
         return self._typed.read_text()

@@ -159,6 +159,12 @@ class Windows:
             f"desktop {number}",
         )
 
+    def minimise(self, window: int) -> None:
+        """Makes an icon of a window (ICCCM 4.1.4), and waits until it no longer shows."""
+        iconic_state = 3
+        self._send_to_manager(self._window(window), "WM_CHANGE_STATE", [iconic_state, 0, 0, 0, 0])
+        self.wait(lambda: not self._is_viewable(window), "the window to be minimised")
+
     def is_on_all_desktops(self, window: int) -> bool:
         """Whether a window shows on every virtual desktop."""
         return self._cardinals(self._window(window), "_NET_WM_DESKTOP") == [0xFFFFFFFF]

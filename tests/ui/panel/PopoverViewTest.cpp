@@ -3,6 +3,8 @@
 
 #include <controls/Theme.h>
 
+#include <QLayout>
+
 #include <algorithm>
 #include <map>
 
@@ -217,6 +219,28 @@ TEST_F(PopoverViewTest, ButtonsReachTheActions) {
     EXPECT_EQ(inserted, 1);
     button(u"Close"_s).click();
     EXPECT_EQ(closed, 1);
+}
+
+TEST_F(PopoverViewTest, InsertNamesItsTargetInItsToolTipAndDescription) {
+    const auto& insert = button(u"Insert"_s);
+    EXPECT_EQ(insert.toolTip(), u"Insert (Ctrl+Return)"_s);
+    view.setInsertTarget(u"Mousepad %2"_s);
+    EXPECT_EQ(insert.toolTip(), u"Insert into Mousepad %2 (Ctrl+Return)"_s);
+    EXPECT_EQ(insert.accessibleDescription(), insert.toolTip());
+    view.setInsertTarget({});
+    EXPECT_EQ(insert.toolTip(), u"Insert (Ctrl+Return)"_s);
+}
+
+TEST_F(PopoverViewTest, NoticeTakesItsRoomOnlyWhileThereIsOne) {
+    const auto height = [this] {
+        return view.layout()->heightForWidth(view.width());
+    };
+    const int before = height();
+    view.setNotice(u"Copied instead."_s);
+    EXPECT_TRUE(find<QWidget>(QAccessible::StaticText, u"Copied instead."_s).isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return height() > before; }));
+    view.setNotice({});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return height() == before; }));
 }
 
 TEST_F(PopoverViewTest, WithoutAZoneForTheTimeNothingCanBeDelivered) {

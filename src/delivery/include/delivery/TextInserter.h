@@ -21,7 +21,7 @@ class TextInserter final {
 public:
     /// What the inserter works with; all must outlive it.
     struct Dependencies {
-        AccessibilityRight& accessibilityRight;
+        const AccessibilityRight& accessibilityRight;
         Pasteboard& pasteboard;
         KeyPoster& keyPoster;
         MainQueue& mainQueue;
@@ -37,7 +37,7 @@ public:
 
     /// Saves the pasteboard, puts the text on it, posts the paste keys, and restores the pasteboard
     /// `insertiondelay::beforeRestore` later, whether or not the keys reached anything. Without the
-    /// accessibility right it does none of this: it lets the desktop ask the user for the right.
+    /// accessibility right it does none of this, and asks nobody for it.
     /// Where the pasteboard does not take the text no keys are posted: they would paste something
     /// else. `done` is called once, when no more keys will come of it, maybe before this returns.
     ///

@@ -103,6 +103,10 @@ public:
     [[nodiscard]] QString
     formatSingle(Instant instant, const TimeZone& zone, DateFormatPreset preset) const;
 
+    /// Whether there is anything to deliver: a time is one in a zone. Otherwise there is nothing to
+    /// copy and to insert.
+    [[nodiscard]] bool isDeliverable() const;
+
     /// What the preview shows, Copy copies and Insert inserts; computed at each call.
     [[nodiscard]] QString formattedOutput() const;
 

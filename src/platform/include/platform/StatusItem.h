@@ -27,6 +27,9 @@ public:
     /// The picture, in any size that the bar asks for, and its name for assistive technology.
     virtual void setImage(const QIcon& image, const QString& accessibilityDescription) = 0;
 
+    /// What shows while the pointer rests on the icon; where it is empty, the name.
+    virtual void setToolTip(const QString& text) = 0;
+
     /// Called for each click on the icon; replaces an earlier handler. A desktop that shows the
     /// menu by itself reports no right clicks.
     virtual void onClicked(std::function<void(Click)> handler) = 0;

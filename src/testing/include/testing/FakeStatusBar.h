@@ -38,6 +38,7 @@ public:
     bool hasButton = true;
     std::optional<QRect> frame = QRect(600, 0, 22, 22);
     StatusMenu publishedMenu;
+    QString toolTip;
 
 private:
     class Item final : public StatusItem {
@@ -56,6 +57,8 @@ private:
                 std::string(image.isNull() ? "setImage none " : "setImage ") +
                 accessibilityDescription.toStdString());
         }
+
+        void setToolTip(const QString& text) override { m_bar.toolTip = text; }
 
         void onClicked(std::function<void(Click)> handler) override {
             clicked = std::move(handler);

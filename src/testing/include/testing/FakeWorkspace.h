@@ -4,7 +4,10 @@
 #include <platform/Workspace.h>
 #include <testing/CallLog.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace quorvane {
 
@@ -18,20 +21,24 @@ public:
         return m_front;
     }
 
-    [[nodiscard]] bool isShown(const RunningApplication&) const override { return m_hasWindows; }
+    [[nodiscard]] bool isShown(const RunningApplication& application) const override {
+        return std::ranges::find(m_gone, application.window) == m_gone.end();
+    }
 
     [[nodiscard]] bool receivesKeys(const RunningApplication& application) const override {
         m_log.add("receivesKeys " + application.name.toStdString());
-        return m_hasWindows && !m_isKeyboardTaken && m_active == application;
+        return isShown(application) && !m_isKeyboardTaken && m_active == application;
     }
 
     [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
 
     [[nodiscard]] bool activate(const RunningApplication& application) override {
         m_log.add("activate " + application.name.toStdString());
-        if (m_hasWindows)
+        if (!isShown(application))
+            return false;
+        if (m_answersActivation)
             m_active = application;
-        return m_hasWindows;
+        return true;
     }
 
     void onFrontmostChanged(std::function<void()> handler) override {
@@ -53,11 +60,25 @@ public:
     /// The desktop can no longer tell what is in front.
     void setFrontUncertain() { m_front.isCertain = false; }
 
-    /// From now on, the windows of other programs no longer exist.
-    void loseWindows() { m_hasWindows = false; }
+    /// Its window no longer exists; nothing takes its place by itself.
+    void close(const RunningApplication& application) {
+        m_gone.push_back(application.window);
+        if (m_active == application)
+            m_active.reset();
+        if (m_front.application == application)
+            m_front.application.reset();
+        if (m_frontmostChanged)
+            m_frontmostChanged();
+    }
+
+    /// From now on the window manager leaves the focus where it is.
+    void ignoreActivation() { m_answersActivation = false; }
 
     /// Another program, such as a screen lock, has the keyboard for itself.
     void takeKeyboard() { m_isKeyboardTaken = true; }
+
+    /// This one comes to the front, which nobody is told.
+    void setActive(const RunningApplication& application) { m_active = application; }
 
     void changeSpace() {
         if (m_spaceChanged)
@@ -68,7 +89,8 @@ private:
     CallLog& m_log;
     FrontmostApplication m_front;
     std::optional<RunningApplication> m_active;
-    bool m_hasWindows = true;
+    std::vector<std::uint64_t> m_gone;
+    bool m_answersActivation = true;
     bool m_isKeyboardTaken = false;
     std::function<void()> m_frontmostChanged;
     std::function<void()> m_spaceChanged;

@@ -59,6 +59,12 @@ public:
     /// Puts the output on the pasteboard and says so on the button for a while.
     void performCopy();
 
+    /// What people call the application that Insert types into; empty where nobody can tell.
+    void setInsertTarget(const QString& name);
+
+    /// What became of the last delivery, at the preview; empty for nothing to say.
+    void setNotice(const QString& text);
+
     /// Switches between the popover at the menu bar and the detached window.
     void togglePresentationMode();
 
@@ -75,7 +81,6 @@ private:
 
     void refresh();
     void refreshDownstream();
-    [[nodiscard]] bool downstreamDisabled() const;
 
     DateTimeModel& m_model;
     Dependencies m_dependencies;
