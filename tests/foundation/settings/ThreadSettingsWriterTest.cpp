@@ -8,10 +8,15 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QThread>
 #include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace quorvane {
 namespace {
@@ -99,6 +104,20 @@ TEST_F(ThreadSettingsWriterTest, FilesDoNotReplaceOneAnother) {
     EXPECT_TRUE(writer.finish(unboundedly));
     EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}}));
     EXPECT_EQ(disk.commits(), 3);
+}
+
+TEST_F(ThreadSettingsWriterTest, WaitsForAnotherProcessThatWritesInTheFolder) {
+    const auto folder = QFile::encodeName(QFileInfo(path()).path());
+    const int others = ::open(folder.constData(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(::flock(others, LOCK_EX), 0);
+    DiskFileWriter disk;
+    ThreadSettingsWriter writer(disk, m_queue);
+    writer.write(change(path(), u"a"_s, 1), [](bool) {});
+    EXPECT_FALSE(writer.finish(50ms));
+    EXPECT_EQ(stored(), QJsonObject());
+    ::close(others);
+    EXPECT_TRUE(writer.finish(unboundedly));
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}}));
 }
 
 TEST_F(ThreadSettingsWriterTest, OutcomeIsToldOnTheMainThread) {
