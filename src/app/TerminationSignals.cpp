@@ -41,20 +41,20 @@ TerminationSignals::TerminationSignals(std::function<void()> handler)
         if (::eventfd_read(m_descriptor, &count) == 0)
             m_handler();
     });
-    s_descriptor = m_descriptor;
+    handlersDescriptor = m_descriptor;
     handleBy(&TerminationSignals::wakeUp);
 }
 
 TerminationSignals::~TerminationSignals() {
     handleBy(SIG_DFL);
-    s_descriptor = -1;
+    handlersDescriptor = -1;
     m_notifier.reset();
     ::close(m_descriptor);
 }
 
 void TerminationSignals::wakeUp(int /*signal*/) {
     const int error = errno;
-    ::eventfd_write(s_descriptor, 1);
+    ::eventfd_write(handlersDescriptor, 1);
     errno = error;
 }
 

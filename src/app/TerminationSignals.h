@@ -24,7 +24,7 @@ private:
     static void wakeUp(int signal);
 
     /// A signal's handler is given nothing but the signal.
-    static inline std::atomic<int> s_descriptor = -1;
+    static inline std::atomic<int> handlersDescriptor = -1;
 
     std::function<void()> m_handler;
     int m_descriptor;
