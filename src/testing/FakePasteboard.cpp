@@ -52,9 +52,9 @@ void FakePasteboard::save(PasteSource source, SaveHandler done) {
     m_log.add("save");
     const bool isSilent = m_clipboard.owner == Owner::Another && !m_othersAnswer;
     const auto delay = isSilent ? longestSilence : m_saveDelay;
-    m_pending.push_back(m_queue.after(delay, [this, source, isSilent, done = std::move(done)] {
+    m_pending.push_back(m_queue.after(delay, [this, source, done = std::move(done)] {
         PasteboardContents found;
-        if (!isSilent) {
+        if (m_clipboard.owner != Owner::Another || m_othersAnswer) {
             found.isPassing = m_clipboard.holdsPassing();
             found.items = m_clipboard.items;
         }

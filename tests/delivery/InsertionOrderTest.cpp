@@ -131,6 +131,15 @@ TEST_P(InsertionOrderTest, CopyHereStays) {
     EXPECT_EQ(pasteboard.contents().selection, plainText(u"mine"_s).items.front());
 }
 
+TEST_P(InsertionOrderTest, CopyHereWhileTheClipboardIsBeingSavedComesBack) {
+    pasteboard.setOthersAnswer(false);
+    inserter.insert(u"text"_s);
+    queue.advance(100ms);
+    copyHere(u"copied"_s);
+    queue.advance(2s);
+    EXPECT_EQ(pasteboard.contents().items, plainText(u"copied"_s).items);
+}
+
 TEST_P(InsertionOrderTest, CopyOfTheVeryTextThatWasInsertedStays) {
     insert(u"text"_s);
     copyHere(u"text"_s);

@@ -24,6 +24,11 @@ X11Pasteboard::X11Pasteboard(std::shared_ptr<X11Connection> connection, MainQueu
 
 void X11Pasteboard::save(PasteSource source, SaveHandler done) {
     finishClearing();
+    save(source, Attempt::First, std::move(done));
+}
+
+// What is copied while an earlier owner is being read is the user's: it is read instead.
+void X11Pasteboard::save(PasteSource source, Attempt attempt, SaveHandler done) {
     std::optional<X11SelectionSource> primary;
     if (source == PasteSource::Selection)
         primary = m_primary.source();
@@ -34,13 +39,28 @@ void X11Pasteboard::save(PasteSource source, SaveHandler done) {
         m_clock.now(),
         m_clipboard.source(),
         std::move(primary),
-        [this, place, done = std::move(done)](PasteboardContents found) {
+        [this, place, source, attempt, before = owners(), done = std::move(done)](
+            PasteboardContents found) {
             m_saves.erase(place);
-            found.isPassing =
-                m_clipboard.isPassing(found.items.empty() ? PasteboardItem{} : found.items.front());
-            found.selectionIsPassing = found.selection && m_primary.isPassing(*found.selection);
-            done(std::move(found));
+            if (attempt == Attempt::First && hasBeenCopiedSince(before))
+                save(source, Attempt::Last, done);
+            else
+                finishSave(std::move(found), done);
         });
+}
+
+void X11Pasteboard::finishSave(PasteboardContents found, const SaveHandler& done) const {
+    found.isPassing =
+        m_clipboard.isPassing(found.items.empty() ? PasteboardItem{} : found.items.front());
+    found.selectionIsPassing = found.selection && m_primary.isPassing(*found.selection);
+    done(std::move(found));
+}
+
+X11Pasteboard::Owners X11Pasteboard::owners() const {
+    return {
+        m_connection->selectionOwner(m_clipboard.owner().selection()),
+        m_connection->selectionOwner(m_primary.owner().selection()),
+        m_clipboard.owner().since()};
 }
 
 // Carried out later in this event-loop iteration, and not at all if a text is set before, as nearly
@@ -48,6 +68,16 @@ void X11Pasteboard::save(PasteSource source, SaveHandler done) {
 void X11Pasteboard::clear() {
     m_isClearing = true;
     m_clearing = m_queue.after(Seconds(0), [this] { finishClearing(); });
+}
+
+/// An owner that has gone has not copied anything.
+bool X11Pasteboard::hasBeenCopiedSince(const Owners& before) const {
+    const auto now = owners();
+    const auto isNew = [](xcb_window_t window, xcb_window_t windowBefore) {
+        return window != XCB_WINDOW_NONE && window != windowBefore;
+    };
+    return isNew(now.clipboard, before.clipboard) || isNew(now.primary, before.primary) ||
+           now.ourSince != before.ourSince;
 }
 
 PutOutcome X11Pasteboard::setString(const QString& text, TextStay stay, PasteSource source) {

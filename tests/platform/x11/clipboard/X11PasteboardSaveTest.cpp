@@ -204,6 +204,26 @@ TEST_F(X11PasteboardSaveTest, AsksAnOwnerWhomWeHaveNotNoticedYet) {
     EXPECT_EQ(outcomeAfter(silence), PasteboardContents{});
 }
 
+TEST_F(X11PasteboardSaveTest, FindsWhatWeHaveCopiedWhileTheOwnerBeforeWasSilent) {
+    const auto hung = startOwner({silentOffer(u"TARGETS"_s)});
+    startSave();
+    EXPECT_EQ(hung->nextReport(), u"TARGETS"_s);
+    copy(u"ours"_s);
+    m_queue.advance(silence);
+    const auto contents = outcome();
+    ASSERT_EQ(contents.items.size(), 1);
+    EXPECT_EQ(contents.items.front().front().bytes, "ours"_ba);
+}
+
+TEST_F(X11PasteboardSaveTest, FindsWhatAnotherProgramHasCopiedWhileTheOwnerBeforeWasSilent) {
+    const auto hung = startOwner({silentOffer(u"TARGETS"_s)});
+    startSave();
+    EXPECT_EQ(hung->nextReport(), u"TARGETS"_s);
+    const auto next = startOwner({textOffer("newer")});
+    m_queue.advance(silence);
+    EXPECT_EQ(outcome(), contentsWith(textOffer("newer")));
+}
+
 TEST_F(X11PasteboardSaveTest, ASaveThatIsStillUnderWayEndsWithThePasteboard) {
     const auto owner = startOwner({silentOffer(u"TARGETS"_s)});
     bool isDone = false;

@@ -42,6 +42,19 @@ private:
     using Saves = std::list<std::unique_ptr<X11PasteboardSave>>;
     using HandOvers = std::list<std::unique_ptr<X11ClipboardHandOver>>;
 
+    /// Whose the contents of the selections are.
+    struct Owners {
+        xcb_window_t clipboard = XCB_WINDOW_NONE;
+        xcb_window_t primary = XCB_WINDOW_NONE;
+        xcb_timestamp_t ourSince = XCB_CURRENT_TIME; ///< as of when we took CLIPBOARD last
+    };
+
+    enum class Attempt { First, Last };
+
+    void save(PasteSource source, Attempt attempt, SaveHandler done);
+    void finishSave(PasteboardContents found, const SaveHandler& done) const;
+    [[nodiscard]] Owners owners() const;
+    [[nodiscard]] bool hasBeenCopiedSince(const Owners& before) const;
     [[nodiscard]] PutOutcome pass(const QString& text, PasteSource source);
     [[nodiscard]] std::unique_ptr<PasteboardRequest>
     read(const X11SelectionSource& source, TextHandler done);
