@@ -17,7 +17,7 @@ from .axes import AXES, MORE_TERMINALS, STRETCH_AXES, Case
 from .desk import Desk
 from .picker import Picker
 from .report import Report
-from .rounds import CaseRun
+from .rounds import CaseRun, CopiedInstead
 
 _STRETCH = 40
 """Cases in one session."""
@@ -115,7 +115,12 @@ def _run(cases: Iterator[Case], report: Report) -> None:
 def _run_one(desk: Desk, case: Case, before: Sequence[Case], report: Report) -> bool:
     report.begin(case)
     try:
-        CaseRun(desk, case, report).run()
+        try:
+            CaseRun(desk, case, report).run()
+        except CopiedInstead:
+            # A busy machine's window manager may be late once; twice is a failure.
+            report.repeat(case)
+            CaseRun(desk, case, report).run()
     except Exception as error:  # whatever a foreign program did: the soak goes on
         notes = " ".join(getattr(error, "__notes__", ()))
         logs = traceback.format_exc() + desk.session.logs()

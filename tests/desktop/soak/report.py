@@ -17,6 +17,7 @@ class Report:
     def __init__(self, folder: Path) -> None:
         self._folder = folder
         self._cases = 0
+        self._repeated = 0
         self._rounds: Counter[str] = Counter()
         self._failures: Counter[str] = Counter()
         self._seconds: dict[tuple[str, str], list[float]] = defaultdict(list)
@@ -35,6 +36,11 @@ class Report:
         """Counts a case."""
         self._cases += 1
         print(f"{self._cases:4} {case}", flush=True)
+
+    def repeat(self, case: Case) -> None:
+        """Counts a case whose text was copied because the focus came back too late."""
+        self._repeated += 1
+        print(f"Copied instead, the focus came back late; once more: {case}", flush=True)
 
     def time(self, case: Case, stage: str, seconds: float) -> None:
         """Notes how long a stage took."""
@@ -58,6 +64,7 @@ class Report:
     def summary(self) -> str:
         """Counts and times, as a table that can be pasted."""
         head = f"{self._cases} cases, {self._rounds.total()} rounds, {self.failed} failures"
+        head += f" ({self._repeated} cases repeated: the focus came back late, the text was copied)"
         targets = sorted({target for _, target in self._seconds} | set(self._failures))
         rows = [self._row(target, [target]) for target in targets] + [self._row("all", targets)]
         titles = " | ".join(f"{stage}: median, worst" for stage in STAGES)
