@@ -93,7 +93,18 @@ bool X11EventTap::nativeEventFilter(const QByteArray& kind, void* message, qintp
     if (press == nullptr || !isWatched(*press))
         return false;
     m_releaseWatch.watch(press->detail);
-    return decide(*press) == TapVerdict::Swallow;
+    const auto verdict = decide(*press);
+    tellIfUp(press->detail);
+    return verdict == TapVerdict::Swallow;
+}
+
+/// Nothing kept the key's release waiting while the press was on its way through Qt: it may have
+/// gone up before the watch began.
+void X11EventTap::tellIfUp(xcb_keycode_t key) {
+    if (!m_releaseWatch.isAvailable() || x11keystate::isDown(m_connection->xcb(), key))
+        return;
+    m_releaseWatch.stop();
+    m_handlers.released();
 }
 
 void X11EventTap::handleEvent(const xcb_generic_event_t& event) {

@@ -47,6 +47,7 @@ private:
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
     void handleEvent(const xcb_generic_event_t& event);
     void handlePress(const xcb_key_press_event_t& press);
+    void tellIfUp(xcb_keycode_t key);
     void handleRelease(const xcb_key_release_event_t& release);
     [[nodiscard]] TapVerdict decide(const xcb_key_press_event_t& press);
     [[nodiscard]] bool isWatched(const xcb_key_press_event_t& press) const;
