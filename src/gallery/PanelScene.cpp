@@ -3,7 +3,6 @@
 
 #include <controls/FocusRing.h>
 #include <panel/PanelMetrics.h>
-#include <platform_null/NullServices.h>
 
 #include <QLayout>
 
@@ -26,11 +25,11 @@ PopoverView::Callbacks noCallbacks() {
 } // namespace
 
 PanelScene::PanelScene(MainQueue& queue, const Preparation& prepare, const UserLocale& locale)
-    : m_services(makeNullServices(queue)),
+    : m_pasteboard(m_log, queue),
       m_model({sample::clock(), m_defaults, sample::currentZone(), sample::zones(), locale}),
       m_view(
           prepared(m_model, prepare),
-          {*m_services.pasteboard,
+          {m_pasteboard,
            m_keyboard,
            sample::zones(),
            queue,

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Neighbours that stop in the middle: the disk, the bus, the X server's hold on us."""
+"""Neighbours that stop in the middle: disk, bus, clipboard, the X server's hold on us."""
 
 import json
 import signal
@@ -8,6 +8,7 @@ from harness.case import DesktopCase
 from harness.held_disk import HeldDisk
 from harness.key_witness import KeyWitness, Stroke
 from harness.keys import SHORTCUT, Key
+from harness.offer import plain_text
 from harness.quorvane import Quorvane, settings_file
 from harness.silent_bus import SilentBus
 from harness.waiting import wait_until
@@ -71,6 +72,23 @@ class Disk(NeighbourCase):
         self.disk.let_go()
         self.assertNotEqual(0, quorvane.process.wait(10))
         self.assertIn("favoriteTZs", json.loads(settings_file(self.session).read_text()))
+
+
+class ClipboardOwner(NeighbourCase):
+    """A program that has copied something and does not give it, or too much of it."""
+
+    def test_it_goes_on_while_the_clipboard_s_owner_is_stopped(self) -> None:
+        quorvane = self.hidden_quorvane()
+        owner = self.clipboard.own(plain_text("never said"))
+        owner.send_signal(signal.SIGSTOP)
+        self.addCleanup(owner.send_signal, signal.SIGCONT)
+        self.assert_goes_on(quorvane)
+
+    def test_it_goes_on_while_an_owner_lists_targets_without_end(self) -> None:
+        quorvane = self.hidden_quorvane()
+        silent = [offer.target for offer in plain_text("never said")]
+        self.clipboard.own(plain_text("never said"), silent=silent, padding=300_000)
+        self.assert_goes_on(quorvane)
 
 
 class Settings(NeighbourCase):

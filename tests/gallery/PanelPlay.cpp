@@ -108,6 +108,8 @@ void PanelPlay::enterPattern() {
 
 void PanelPlay::copy() {
     view().performCopy();
+    if (m_scene.pasteboard().contents().items.empty())
+        throw std::runtime_error("the panel does not copy");
 }
 
 QWidget* PanelPlay::surface() const {

@@ -27,16 +27,22 @@ class Clipboard:
         self._reader.close()
 
     def own(
-        self, offers: Sequence[Offer], selection: str = "CLIPBOARD", silent: Sequence[str] = ()
+        self,
+        offers: Sequence[Offer],
+        selection: str = "CLIPBOARD",
+        silent: Sequence[str] = (),
+        padding: int = 0,
     ) -> subprocess.Popen[bytes]:
         """Starts a program that owns a selection, and waits until it does.
 
         The targets named as silent are offered and never answered; with TARGETS among them the
-        program says nothing at all.
+        program says nothing at all. The padding is entries of its list of targets that serve no
+        one.
         """
         order = {
             "selection": selection,
             "silent": list(silent),
+            "padding": padding,
             "offers": [offer.to_json() for offer in offers],
         }
         return self._start("clipboard_process", json.dumps(order).encode())

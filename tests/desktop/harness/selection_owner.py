@@ -34,6 +34,8 @@ class SelectionOwner(SelectionClient):
         self._transfers: dict[tuple[int, int], _Transfer] = {}
         self.silent: frozenset[str] = frozenset()
         """The targets that are never answered, as by a program that hangs."""
+        self.padding = 0
+        """How many more entries the list of targets has, which serve no one."""
 
     def own(self, selection: str, offers: list[Offer]) -> None:
         """Takes the selection."""
@@ -79,6 +81,7 @@ class SelectionOwner(SelectionClient):
         if target == "TARGETS":
             names = ["TARGETS", "TIMESTAMP", *self._offers]
             self._put(requestor, store, "ATOM", 32, [self.atom(name) for name in names])
+            self._pad(requestor, store)
         elif target == "TIMESTAMP":
             self._put(requestor, store, "INTEGER", 32, [self._since])
         elif target not in self._offers:
@@ -88,6 +91,14 @@ class SelectionOwner(SelectionClient):
         else:
             self._put_offer(requestor, store, self._offers[target])
         return True
+
+    def _pad(self, requestor: Window, store: int) -> None:
+        atom = self.atom("ATOM")
+        for begin in range(0, self.padding, _CHUNK // 4):
+            part = [self.atom("x-test/padding")] * min(_CHUNK // 4, self.padding - begin)
+            requestor.change_property(
+                store, atom, 32, part, mode=X.PropModeAppend, onerror=CatchError()
+            )
 
     def _begin(self, requestor: Window, store: int, offer: Offer) -> None:
         requestor.change_attributes(event_mask=X.PropertyChangeMask, onerror=CatchError())
