@@ -53,7 +53,7 @@ class PanelAlone(DesktopCase):
             wait_until(lambda: not self.is_shown(inside), f"{inside} to be gone")
 
     def is_shown(self, name: str) -> bool:
-        return any(found.name == name for found in self.tree.showing())
+        return self.tree.shows_named(name)
 
     def test_labels_name_their_groups(self) -> None:
         groups = [found.name for found in self.tree.showing() if found.role == "panel"]

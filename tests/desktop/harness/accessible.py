@@ -104,6 +104,10 @@ class Accessible:
         """Whether something of a role and a name shows now."""
         return self._first(lambda found: found.name == name and found.role == role) is not None
 
+    def shows_named(self, name: str) -> bool:
+        """Whether something of a name shows now."""
+        return self._first(lambda found: found.name == name) is not None
+
     def find_editor(self) -> "Accessible":
         """The first editable text that shows; waits until there is one."""
         return self._await(
@@ -112,7 +116,14 @@ class Accessible:
 
     def showing(self) -> Iterator["Accessible"]:
         """Everything below that shows."""
-        return (found for found in self._descendants() if found.has(State.SHOWING))
+        return (found for found in self._descendants() if found.is_showing())
+
+    def is_showing(self) -> bool:
+        """Whether it shows; what is gone does not."""
+        try:
+            return self.has(State.SHOWING)
+        except BusError:
+            return False
 
     def _await(self, is_wanted: Callable[["Accessible"], bool], what: str) -> "Accessible":
         return wait_until(lambda: self._first(is_wanted), what)

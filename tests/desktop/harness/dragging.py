@@ -43,7 +43,7 @@ class Dragging(SelectionOwner):
             data=(32, data + [0] * (5 - len(data))),
         )
         self._target.send_event(event, event_mask=X.NoEventMask)
-        self.display.flush()
+        self.display.sync()
 
     def _answer_to(self, message: str) -> list[int]:
         awaited = self.atom(message)

@@ -75,7 +75,7 @@ class SelectionOwner(SelectionClient):
             property=store,
         )
         request.requestor.send_event(notice, onerror=CatchError())
-        self.display.flush()
+        self.display.sync()
 
     def _serve(self, requestor: Window, store: int, target: str) -> bool:
         if target == "TARGETS":
@@ -125,4 +125,4 @@ class SelectionOwner(SelectionClient):
         self, requestor: Window, store: int, kind: str, units: int, values: bytes | list[int]
     ) -> None:
         requestor.change_property(store, self.atom(kind), units, values, onerror=CatchError())
-        self.display.flush()
+        self.display.sync()

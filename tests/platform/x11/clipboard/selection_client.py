@@ -71,11 +71,8 @@ class SelectionClient:
                 store, self.atom(kind), units, values, mode=mode, onerror=CatchError()
             )
             mode = X.PropModeAppend
-        # A flush leaves what the socket does not take to the next request.
-        if len(data) > REQUEST:
-            self.display.sync()
-        else:
-            self.display.flush()
+        # A flush leaves what the socket does not take to the next request, which may never come.
+        self.display.sync()
 
     def next_event(self, within: float = 10) -> Event | None:
         """The next event; none if there is none in so many seconds."""

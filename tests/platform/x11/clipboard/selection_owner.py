@@ -84,7 +84,7 @@ class Owner(SelectionClient):
             property=store if served else X.NONE,
         )
         request.requestor.send_event(notice, onerror=CatchError())
-        self.display.flush()
+        self.display.sync()
 
     def serve(self, requestor, store: int, target: str, manner: str) -> bool:
         """The property of one answer."""

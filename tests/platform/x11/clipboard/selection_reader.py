@@ -49,7 +49,7 @@ class Reader(SelectionClient):
     def ask(self, target: str, store: int, time: int, window=None) -> None:
         """Sends a request."""
         (window or self.window).convert_selection(self.selection, self.atom(target), store, time)
-        self.display.flush()
+        self.display.sync()
 
     def answer(self):
         """The owner's answer to the last request."""
