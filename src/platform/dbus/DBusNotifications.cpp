@@ -127,7 +127,7 @@ void DBusNotifications::sendNext() {
 }
 
 void DBusNotifications::call(
-    QDBusMessage question, std::function<void(const QDBusMessage&)> answered) {
+    const QDBusMessage& question, std::function<void(const QDBusMessage&)> answered) {
     auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(
         answer, &QDBusPendingCallWatcher::finished, this, [answer, answered = std::move(answered)] {

@@ -72,7 +72,7 @@ void X11SelectionConversion::readPiece() {
     auto piece = readPropertyPiece(connection, m_inbox.window(), m_property, reading);
     connection.flush();
     if (piece)
-        return takePiece(*std::move(piece));
+        return takePiece(*piece);
     // An increment that was announced late has been read with its predecessor's announcement.
     if (m_isIncremental)
         m_stage = Stage::AwaitingIncrement;
@@ -80,7 +80,7 @@ void X11SelectionConversion::readPiece() {
         finish(std::nullopt);
 }
 
-void X11SelectionConversion::takePiece(X11PropertyPiece piece) {
+void X11SelectionConversion::takePiece(const X11PropertyPiece& piece) {
     if (!m_isIncremental && piece.value.type == m_inbox.connection()->atom("INCR")) {
         m_isIncremental = true;
         m_stage = Stage::AwaitingIncrement;

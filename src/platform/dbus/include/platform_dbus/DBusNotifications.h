@@ -54,7 +54,7 @@ private:
     void notify(const std::shared_ptr<Request>& request, const QDBusMessage& capabilities);
     void adopt(const std::shared_ptr<Request>& request, const QDBusMessage& answer);
     void sendNext();
-    void call(QDBusMessage question, std::function<void(const QDBusMessage&)> answered);
+    void call(const QDBusMessage& question, std::function<void(const QDBusMessage&)> answered);
     [[nodiscard]] bool isShown(uint id, const QDBusMessage& signal) const;
 
     QDBusConnection m_bus;

@@ -54,7 +54,7 @@ private:
     void handle(const xcb_generic_event_t& event);
     void takeAnswer(const xcb_selection_notify_event_t& answer);
     void readPiece();
-    void takePiece(X11PropertyPiece piece);
+    void takePiece(const X11PropertyPiece& piece);
     void takeEnd();
     [[nodiscard]] bool isNewIncrement(const xcb_generic_event_t& event) const;
     void finish(Answer answer);
