@@ -6,7 +6,7 @@ namespace quorvane {
 CapturedLog::CapturedLog(const QString& category)
     : m_category(category),
       m_before(qInstallMessageHandler(take)) {
-    s_current = this;
+    current = this;
     QLoggingCategory::setFilterRules(
         category + QStringLiteral(".debug=true\n") + category + QStringLiteral(".info=true"));
 }
@@ -14,15 +14,15 @@ CapturedLog::CapturedLog(const QString& category)
 CapturedLog::~CapturedLog() {
     QLoggingCategory::setFilterRules({});
     qInstallMessageHandler(m_before);
-    s_current = nullptr;
+    current = nullptr;
 }
 
 // A message handler is a plain function.
 void CapturedLog::take(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (QLatin1StringView(context.category) == s_current->m_category)
-        s_current->m_lines.append(message);
+    if (QLatin1StringView(context.category) == current->m_category)
+        current->m_lines.append(message);
     else
-        s_current->m_before(type, context, message);
+        current->m_before(type, context, message);
 }
 
 } // namespace quorvane

@@ -33,9 +33,9 @@ public:
     virtual ~Pasteboard() = default;
 
     /// Reads everything that the pasteboard holds, and the second pasteboard too where the text is
-    /// to pass through that, and hands it to `done`, in a later iteration of the event loop, about
-    /// a second from now at most: an owner that stays silent for 0.3 s is cut off, and what was
-    /// read until then is handed over.
+    /// to pass through that, and hands it to `done`, in a later iteration of the event loop, a
+    /// second from now at most, or two where somebody copies meanwhile: that is read instead. An
+    /// owner that stays silent for 0.3 s is cut off, and what was read until then is handed over.
     virtual void save(PasteSource source, SaveHandler done) = 0;
 
     virtual void clear() = 0;

@@ -22,7 +22,7 @@ public:
 private:
     static void take(QtMsgType type, const QMessageLogContext& context, const QString& message);
 
-    static inline CapturedLog* s_current = nullptr;
+    static inline CapturedLog* current = nullptr;
 
     QString m_category;
     QStringList m_lines;
