@@ -56,7 +56,11 @@ class Program(ABC):
 
     def focus(self) -> None:
         """Makes the program the one the user works in."""
-        self._session.windows.activate(self.window)
+        windows = self._session.windows
+        windows.activate(self.window)
+        # It may have been active before: a request that is still on its way would take the focus
+        # from the panel that shows next.
+        windows.let_manager_catch_up()
 
     def wait_active(self) -> None:
         """Waits until the program has the keyboard again."""

@@ -17,6 +17,8 @@ class Terminal(Program):
 
     def __init__(self, session: Session, command: Sequence[str], window_class: str) -> None:
         self._typed = session.directory("typed") / window_class
+        # That of an earlier one would tell of a shell that has not started yet.
+        self._typed.unlink(missing_ok=True)
         script = self._typed.with_suffix(".sh")
         script.write_text(f'#!/bin/sh\nstty raw -echo\nexec cat >"{self._typed}"\n')
         script.chmod(0o700)
