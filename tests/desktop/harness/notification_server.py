@@ -1,13 +1,12 @@
 # SPDX-License-Identifier: MIT
 """The desktop's server for notifications, with what it was asked to show."""
 
-import threading
 from dataclasses import dataclass
 from typing import Any
 
-from gi.repository import Gio, GLib
+from gi.repository import GLib
 
-from .message_bus import MessageBus
+from .bus_service import BusService
 from .waiting import wait_until
 
 _NAME = "org.freedesktop.Notifications"
@@ -46,29 +45,14 @@ class Notification:
     desktop_entry: str
 
 
-class NotificationServer:
+class NotificationServer(BusService):
     """Shows what it is asked to; a silent one takes calls and never answers."""
 
     def __init__(self, session_bus_address: str, silent: bool = False) -> None:
         self._silent = silent
         self._shown: dict[int, Notification] = {}
         self._last_id = 0
-        self.asked = threading.Event()
-        self._context = GLib.MainContext()
-        self._loop = GLib.MainLoop(self._context)
-        ready = threading.Event()
-        self._thread = threading.Thread(target=self._serve, args=(session_bus_address, ready))
-        self._thread.start()
-        ready.wait()
-
-    def close(self) -> None:
-        """Ends the server as a crash would."""
-        # From inside: a loop that does not run yet would forget it.
-        end = GLib.idle_source_new()
-        end.set_callback(lambda *_: self._loop.quit())
-        end.attach(self._context)
-        self._thread.join()
-        self._bus.close()
+        super().__init__(session_bus_address, _NAME, _PATH, _INTROSPECTION)
 
     def wait_shown(self) -> Notification:
         """Waits until there is a notification on the screen, and returns it; never two."""
@@ -84,17 +68,6 @@ class NotificationServer:
     def total(self) -> int:
         """How many are on the screen, those included that wait_shown() was told to forget."""
         return self._last_id
-
-    def _serve(self, address: str, ready: threading.Event) -> None:
-        # The program asks while the test waits for something else.
-        self._context.push_thread_default()
-        self._bus = MessageBus(address)
-        interface = Gio.DBusNodeInfo.new_for_xml(_INTROSPECTION).interfaces[0]
-        self._bus.connection.register_object(_PATH, interface, self._answer, None, None)
-        self._bus.request_name(_NAME)
-        ready.set()
-        self._loop.run()
-        self._context.pop_thread_default()
 
     def _answer(self, *call: Any) -> None:
         method, arguments, invocation = call[4], call[5].unpack(), call[6]

@@ -1,12 +1,11 @@
 # SPDX-License-Identifier: MIT
 """The desktop's settings portal, with what it says about the appearance of programs."""
 
-import threading
 from typing import Any
 
-from gi.repository import Gio, GLib
+from gi.repository import GLib
 
-from .message_bus import MessageBus
+from .bus_service import BusService
 
 _NAME = "org.freedesktop.portal.Desktop"
 _PATH = "/org/freedesktop/portal/desktop"
@@ -31,28 +30,13 @@ NO_PREFERENCE, DARK, LIGHT = range(3)
 """The values of color-scheme."""
 
 
-class Portal:
+class Portal(BusService):
     """A portal that tells what the test sets; a silent one takes questions and never answers."""
 
     def __init__(self, session_bus_address: str, silent: bool = False) -> None:
         self._silent = silent
         self._settings: dict[str, GLib.Variant] = {}
-        self.asked = threading.Event()
-        self._context = GLib.MainContext()
-        self._loop = GLib.MainLoop(self._context)
-        ready = threading.Event()
-        self._thread = threading.Thread(target=self._serve, args=(session_bus_address, ready))
-        self._thread.start()
-        ready.wait()
-
-    def close(self) -> None:
-        """Ends the portal as a crash would."""
-        # From inside: a loop that does not run yet would forget it.
-        end = GLib.idle_source_new()
-        end.set_callback(lambda *_: self._loop.quit())
-        end.attach(self._context)
-        self._thread.join()
-        self._bus.close()
+        super().__init__(session_bus_address, _NAME, _PATH, _INTROSPECTION)
 
     def set_scheme(self, scheme: int) -> None:
         """Says light, dark or nothing."""
@@ -70,17 +54,6 @@ class Portal:
         self._settings[key] = value
         arguments = GLib.Variant("(ssv)", (_APPEARANCE, key, value))
         self._bus.connection.emit_signal(None, _PATH, _INTERFACE, "SettingChanged", arguments)
-
-    def _serve(self, address: str, ready: threading.Event) -> None:
-        # The program asks while the test waits for something else.
-        self._context.push_thread_default()
-        self._bus = MessageBus(address)
-        interface = Gio.DBusNodeInfo.new_for_xml(_INTROSPECTION).interfaces[0]
-        self._bus.connection.register_object(_PATH, interface, self._answer, None, None)
-        self._bus.request_name(_NAME)
-        ready.set()
-        self._loop.run()
-        self._context.pop_thread_default()
 
     def _answer(self, *call: Any) -> None:
         invocation = call[-1]

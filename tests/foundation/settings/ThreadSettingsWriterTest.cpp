@@ -6,11 +6,11 @@
 #include <settings/ThreadSettingsWriter.h>
 #include <testing/HangingFileWriter.h>
 
-#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QThread>
 #include <gtest/gtest.h>
 
@@ -54,9 +54,9 @@ TEST_F(ThreadSettingsWriterTest, TimerFiresWhileTheDiskHangs) {
     JsonFile file(path(), writer);
     file.setValue(u"a"_s, 1);
     disk.awaitWriter();
-    QEventLoop loop;
-    const auto timer = m_queue.after(Seconds(0.01), [&] { loop.quit(); });
-    loop.exec();
+    bool hasFired = false;
+    const auto timer = m_queue.after(Seconds(0.01), [&] { hasFired = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hasFired; }));
     EXPECT_EQ(file.value(u"a"_s).toInt(), 1);
     EXPECT_EQ(stored(), QJsonObject());
     disk.letGo();
@@ -124,14 +124,14 @@ TEST_F(ThreadSettingsWriterTest, OutcomeIsToldOnTheMainThread) {
     FaultyFileWriter disk;
     disk.fail(FileStep::Commit);
     ThreadSettingsWriter writer(disk, m_queue);
-    QEventLoop loop;
+    bool isTold = false;
     const auto* here = QThread::currentThread();
     writer.write(change(path(), u"a"_s, 1), [&](bool isWritten) {
         EXPECT_FALSE(isWritten);
         EXPECT_EQ(QThread::currentThread(), here);
-        loop.quit();
+        isTold = true;
     });
-    loop.exec();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isTold; }));
 }
 
 TEST_F(ThreadSettingsWriterTest, NothingToWriteIsFinished) {

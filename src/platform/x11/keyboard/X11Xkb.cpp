@@ -22,8 +22,8 @@ namespace {
 
 static_assert(coreKeyboard == XCB_XKB_ID_USE_CORE_KBD);
 
-/// XkbLatchLockState (The X Keyboard Extension: Protocol Specification, 16.4). libxcb's own has no
-/// field for the latches to set.
+/// XkbLatchLockState (X Keyboard Extension protocol, 16.4). libxcb's own has no field for the
+/// latches to set.
 struct LatchLockState {
     std::uint8_t majorOpcode = 0; ///< libxcb fills in the first three
     std::uint8_t minorOpcode = 0;
