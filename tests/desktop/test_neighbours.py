@@ -9,7 +9,7 @@ from harness.held_disk import HeldDisk
 from harness.key_witness import KeyWitness, Stroke
 from harness.keys import SHORTCUT, Key
 from harness.offer import plain_text
-from harness.quorvane import Quorvane, settings_file
+from harness.quorvane import Quorvane, settings_file, stored_settings, wait_stored
 from harness.silent_bus import SilentBus
 from harness.waiting import wait_until
 from Xlib.display import Display
@@ -61,7 +61,7 @@ class Disk(NeighbourCase):
         self.assertIsNone(quorvane.process.poll())
         self.disk.let_go()
         self.assertEqual(0, quorvane.process.wait(10))
-        self.assertIn("favoriteTZs", json.loads(settings_file(self.session).read_text()))
+        self.assertIn("favoriteTZs", stored_settings(self.session))
 
     def test_a_display_that_breaks_loses_no_setting(self) -> None:
         quorvane = self.held_quorvane()
@@ -71,7 +71,7 @@ class Disk(NeighbourCase):
         self.assertIsNone(quorvane.process.poll())
         self.disk.let_go()
         self.assertNotEqual(0, quorvane.process.wait(10))
-        self.assertIn("favoriteTZs", json.loads(settings_file(self.session).read_text()))
+        self.assertIn("favoriteTZs", stored_settings(self.session))
 
 
 class ClipboardOwner(NeighbourCase):
@@ -97,11 +97,11 @@ class Settings(NeighbourCase):
     def test_a_killed_program_has_stored_what_was_changed(self) -> None:
         quorvane = self.hidden_quorvane()
         self.switch_dock_icon(quorvane)
-        wait_until(lambda: self.stored().get("showInDock"), "the setting on the disk")
+        wait_stored(self.session, showInDock=True)
         quorvane.process.kill()
         quorvane.process.wait()
         self.hidden_quorvane()
-        self.assertTrue(self.stored()["showInDock"])
+        self.assertTrue(stored_settings(self.session)["showInDock"])
 
     def test_two_programs_without_a_bus_keep_each_others_settings(self) -> None:
         no_bus = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"}
@@ -112,19 +112,16 @@ class Settings(NeighbourCase):
         self.assertIsNone(first.process.poll())
         file = settings_file(self.session)
         wait_until(file.exists, "the settings")
-        file.write_text(json.dumps(self.stored() | {"of another version": [1]}))
+        file.write_text(json.dumps(stored_settings(self.session) | {"of another version": [1]}))
         for quorvane in (first, second):
             quorvane.process.terminate()
             self.assertEqual(0, quorvane.process.wait(10))
-        self.assertEqual([1], self.stored()["of another version"])
+        self.assertEqual([1], stored_settings(self.session)["of another version"])
 
     def switch_dock_icon(self, quorvane: Quorvane) -> None:
         quorvane.action("preferences")
         boxes = [box for box in quorvane.tree().showing() if box.role == "check box"]
         next(box for box in boxes if "ock" in box.name or "taskbar" in box.name).press()
-
-    def stored(self) -> dict[str, object]:
-        return json.loads(settings_file(self.session).read_text())
 
 
 class Bus(NeighbourCase):

@@ -6,7 +6,7 @@ import json
 from harness.accessible import State
 from harness.case import DesktopCase
 from harness.keys import INSERT, SHORTCUT, Key
-from harness.quorvane import Quorvane, settings_file
+from harness.quorvane import Quorvane, settings_file, wait_stored
 from harness.tray import Tray
 from harness.waiting import wait_until
 
@@ -94,8 +94,7 @@ class Popover(DesktopCase):
         self.assertIsNone(self.session.windows.menu())
         self.mouse.click(self.quorvane.tree().find_role("push button", "Move to menu bar"))
         self.wait_popover()
-        stored = json.loads(settings_file(self.session).read_text())
-        self.assertEqual(stored["presentationMode"], "Popover")
+        wait_stored(self.session, presentationMode="Popover")
 
     def test_the_icon_switched_off_in_the_preferences_leaves_with_its_popover(self) -> None:
         self.quorvane.action("preferences")

@@ -1,12 +1,10 @@
 # SPDX-License-Identifier: MIT
 """Recording another shortcut in the preferences, with real keys."""
 
-import json
-
 from harness.accessible import Accessible, State
 from harness.case import DesktopCase
 from harness.keys import SHORTCUT, Key
-from harness.quorvane import Quorvane, settings_file
+from harness.quorvane import Quorvane, wait_stored
 from harness.waiting import wait_until
 
 TITLE = "Quorvane Preferences"
@@ -20,8 +18,7 @@ class Recorder(DesktopCase):
         quorvane = self.recording_quorvane()
         self.keyboard.tap(Key.ALT, Key.SUPER, Key.K)
         quorvane.tree().find_described("panel", "Alt, Super, K")
-        stored = json.loads(settings_file(self.session).read_text())
-        self.assertEqual((40, 0x900), (stored["hotKeyCode"], stored["hotKeyModifiers"]))
+        wait_stored(self.session, hotKeyCode=40, hotKeyModifiers=0x900)
         wait_until(
             lambda: quorvane.tree().find(BUTTON).has(State.FOCUSED), "the focus at the button"
         )

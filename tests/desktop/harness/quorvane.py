@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The program under test, run and driven as a user and a desktop would."""
 
+import json
 import subprocess
 from pathlib import Path
 
@@ -90,3 +91,16 @@ class Quorvane:
 def settings_file(session: Session) -> Path:
     """Where the program keeps the settings of a session's user."""
     return session.directory("config") / "quorvane" / "defaults.json"
+
+
+def stored_settings(session: Session) -> dict[str, object]:
+    """What the file of settings holds; nothing while there is none."""
+    file = settings_file(session)
+    return json.loads(file.read_text()) if file.exists() else {}
+
+
+def wait_stored(session: Session, **expected: object) -> None:
+    """Waits until the file holds these values: settings are written beside the program's work."""
+    wait_until(
+        lambda: expected.items() <= stored_settings(session).items(), f"{expected} on the disk"
+    )
