@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "NewerLaws.h"
 #include "TimeZoneAliases.h"
 #include "VectorKinds.h"
 
@@ -55,6 +56,26 @@ QStringList foundByAliasOrIdentifier(const VectorRow& row) {
                                                              : "by_alias_or_identifier");
 }
 
+/// Where a law is newer, the oracle's abbreviation does not tell what a query finds; the confirmed
+/// one does, besides the identifier and the generic name.
+void settleNewerLaws(
+    const VectorRow& row,
+    const VectorRow& season,
+    std::set<QString>& required,
+    std::set<QString>& maybe) {
+    const auto query = normalisedQuery(row.text("query"));
+    const auto byIdentifier = foundByAliasOrIdentifier(row);
+    for (const auto& zone : row.zones().zones(row.zones().zonesByCountry())) {
+        if (!hasNewerLaw(zone.identifier()) || byIdentifier.contains(zone.identifier()))
+            continue;
+        const auto name = confirmedAbbreviation(zone, season.instant("now"), season.locale());
+        if (name.toLower().contains(query))
+            required.insert(zone.identifier());
+        else if (required.erase(zone.identifier()) > 0)
+            maybe.insert(zone.identifier());
+    }
+}
+
 /// Which zones a search lacks, and which it should not have found, in one of the row's seasons.
 QJsonObject searchFaults(const VectorRow& row, const char* seasonName) {
     const VectorRow season(row.value(seasonName).toObject(), row.zones());
@@ -64,8 +85,9 @@ QJsonObject searchFaults(const VectorRow& row, const char* seasonName) {
     for (const auto& zone : search.filtered(row.text("query"), now))
         found.insert(zone.identifier());
 
-    const auto required = setOf(foundByAliasOrIdentifier(row) + season.texts("also"));
-    const auto maybe = setOf(season.texts("maybe"));
+    auto required = setOf(foundByAliasOrIdentifier(row) + season.texts("also"));
+    auto maybe = setOf(season.texts("maybe"));
+    settleNewerLaws(row, season, required, maybe);
     std::set<QString> missing;
     std::set<QString> surplus;
     std::ranges::set_difference(required, found, std::inserter(missing, missing.end()));
@@ -142,6 +164,10 @@ Comparison checkLabel(const VectorRow& row) {
 Comparison checkLabelByZone(const VectorRow& row) {
     const auto zone = row.zone("identifier");
     const auto now = row.instant("now");
+    if (hasNewerLaw(zone.identifier())) {
+        const auto confirmed = confirmedAbbreviation(zone, now, row.locale());
+        return {zoneLabel(zone.identifier(), confirmed), zoneLabel(zone, now, row.locale())};
+    }
     // Where ICU's locale data are older than the oracle's, the row has the label that they give.
     const auto older = row.fields().value("icu72_label"_L1);
     const auto label = zoneLabel(zone, now, row.locale());

@@ -117,15 +117,28 @@ DatabaseTimeZone::Offset DatabaseTimeZone::offsetAt(UDate date) const {
 DatabaseTimeZone::Offset DatabaseTimeZone::computedOffsetAt(UDate date) const {
     const Instant instant{date / U_MILLIS_PER_SECOND};
     const int32_t total = m_zone.secondsFromGMT(instant) * U_MILLIS_PER_SECOND;
-    if (m_own) {
-        Offset own;
-        auto status = U_ZERO_ERROR;
-        m_own->getOffset(date, false, own.raw, own.daylight, status);
-        if (U_SUCCESS(status) && own.total() == total)
-            return own;
-    }
+    if (const auto named = namedOffset(total, date))
+        return *named;
     const int32_t daylight = m_zone.isDaylightTime(instant) ? U_MILLIS_PER_HOUR : 0;
-    return {total - daylight, daylight};
+    return {total - daylight, daylight, false};
+}
+
+std::optional<DatabaseTimeZone::Offset>
+DatabaseTimeZone::namedOffset(int32_t total, UDate date) const {
+    if (!m_own)
+        return std::nullopt;
+    int32_t raw = 0;
+    int32_t daylight = 0;
+    auto status = U_ZERO_ERROR;
+    m_own->getOffset(date, false, raw, daylight, status);
+    if (U_FAILURE(status))
+        return std::nullopt;
+    if (raw + daylight == total)
+        return Offset{raw, daylight, true};
+    if (raw == total)
+        return Offset{raw, 0, true};
+    const int32_t savings = daylight != 0 ? daylight : m_own->getDSTSavings();
+    return raw + savings == total ? std::optional(Offset{raw, savings, true}) : std::nullopt;
 }
 
 DatabaseTimeZone::Offset DatabaseTimeZone::offsetAtLocal(UDate local) const {

@@ -7,12 +7,14 @@
 
 #include <limits>
 #include <memory>
+#include <optional>
 
 namespace quorvane {
 
 /// A zone of the system's database as one of ICU's. Total offsets are the system's. How a total
-/// splits into standard and daylight time decides which name ICU prints; it is ICU's own split
-/// wherever the totals agree, because the names were made for it.
+/// splits into standard and daylight time decides which name ICU prints. It is ICU's own split
+/// where the totals agree, because the names were made for it; elsewhere the one whose name means
+/// the total, for laws change faster than ICU's data: British Columbia's UTC-7 all year is "PDT".
 class DatabaseTimeZone final : public icu::TimeZone {
 public:
     explicit DatabaseTimeZone(const quorvane::TimeZone& zone);
@@ -49,17 +51,23 @@ public:
     DatabaseTimeZone* clone() const override;
     UClassID getDynamicClassID() const override;
 
+    /// Whether ICU's name for the zone, standard or daylight, means the offset in force. If not,
+    /// nothing but the offset itself says the truth.
+    [[nodiscard]] bool hasNameAt(UDate date) const { return offsetAt(date).hasName; }
+
 private:
     /// In milliseconds.
     struct Offset {
         int32_t raw = 0;
         int32_t daylight = 0;
+        bool hasName = false;
 
         [[nodiscard]] int32_t total() const { return raw + daylight; }
     };
 
     [[nodiscard]] Offset offsetAt(UDate date) const;
     [[nodiscard]] Offset computedOffsetAt(UDate date) const;
+    [[nodiscard]] std::optional<Offset> namedOffset(int32_t total, UDate date) const;
     [[nodiscard]] Offset offsetAtLocal(UDate local) const;
 
     quorvane::TimeZone m_zone;

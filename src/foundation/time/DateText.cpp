@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "DatabaseTimeZone.h"
 #include "IcuText.h"
+#include "ZoneTextFormat.h"
 
 #include <time/DateText.h>
 #include <time/IcuTimeZone.h>
@@ -9,6 +11,7 @@
 #include <unicode/smpdtfmt.h>
 
 #include <memory>
+#include <utility>
 
 namespace quorvane {
 
@@ -31,8 +34,8 @@ icu::DateFormat::EStyle icuStyle(FormatStyle style) {
     return icu::DateFormat::kNone;
 }
 
-QString rendered(icu::DateFormat& formatter, Instant instant, const TimeZone& zone) {
-    formatter.adoptTimeZone(icuTimeZoneAt(zone, instant).release());
+QString rendered(icu::DateFormat& formatter, Instant instant, std::unique_ptr<icu::TimeZone> zone) {
+    formatter.adoptTimeZone(zone.release());
     icu::UnicodeString text;
     return fromIcu(formatter.format(icuDate(instant), text));
 }
@@ -44,7 +47,13 @@ QString rendered(
     const UserLocale& locale) {
     auto status = U_ZERO_ERROR;
     icu::SimpleDateFormat formatter(pattern, locale.icuLocale(), status);
-    return U_SUCCESS(status) ? rendered(formatter, instant, zone) : QString();
+    if (U_FAILURE(status))
+        return {};
+    auto icuZone = icuTimeZoneAt(zone, instant);
+    // Costly, and no different for a zone about which ICU and the system agree.
+    if (dynamic_cast<const DatabaseTimeZone*>(icuZone.get()) != nullptr)
+        formatter.adoptTimeZoneFormat(ZoneTextFormat::make(locale).release());
+    return rendered(formatter, instant, std::move(icuZone));
 }
 
 QString skeletonText(
@@ -83,7 +92,7 @@ styledText(Instant instant, const TimeZone& zone, FormatStyles styles, const Use
         icu::UnicodeString pattern;
         simple->applyPattern(withPlainSpaces(simple->toPattern(pattern)));
     }
-    return rendered(*formatter, instant, zone);
+    return rendered(*formatter, instant, icuTimeZoneAt(zone, instant));
 }
 
 QString iso8601Text(Instant instant, const TimeZone& zone, Iso8601Options options) {

@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "IcuText.h"
+#include "ZoneTextFormat.h"
 
 #include <time/IcuTimeZone.h>
 #include <time/ZoneNames.h>
 
 namespace quorvane {
 
-namespace {
-
-std::unique_ptr<icu::TimeZoneFormat> zoneFormat(const UserLocale& locale) {
-    auto status = U_ZERO_ERROR;
-    std::unique_ptr<icu::TimeZoneFormat> format(
-        icu::TimeZoneFormat::createInstance(locale.icuLocale(), status));
-    return U_SUCCESS(status) ? std::move(format) : nullptr;
-}
-
-} // namespace
-
 ZoneNames::ZoneNames(Instant instant, const UserLocale& locale)
     : m_instant(instant),
-      m_format(zoneFormat(locale)) {
+      m_format(ZoneTextFormat::make(locale)) {
 }
 
 std::optional<QString> ZoneNames::abbreviation(const TimeZone& zone) const {

@@ -10,9 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::vector<OracleOffset> runOracle() {
+std::vector<OracleOffset> runOracle(const QStringList& instants) {
     QProcess python;
-    python.start(u"/usr/bin/python3"_s, {QString::fromUtf8(ZONE_ORACLE)}, QIODevice::ReadOnly);
+    python.start(
+        u"/usr/bin/python3"_s,
+        QStringList{QString::fromUtf8(ZONE_ORACLE)} + instants,
+        QIODevice::ReadOnly);
     if (!python.waitForFinished() || python.exitCode() != 0)
         return {};
     std::vector<OracleOffset> offsets;
@@ -28,8 +31,15 @@ std::vector<OracleOffset> runOracle() {
 } // namespace
 
 const std::vector<OracleOffset>& oracleOffsets() {
-    static const auto offsets = runOracle();
+    static const auto offsets = runOracle({});
     return offsets;
+}
+
+std::vector<OracleOffset> oracleOffsetsAt(const std::vector<qint64>& instants) {
+    QStringList arguments;
+    for (const auto instant : instants)
+        arguments.append(QString::number(instant));
+    return runOracle(arguments);
 }
 
 } // namespace quorvane

@@ -17,4 +17,7 @@ struct OracleOffset {
 /// Every zone of the system over two centuries; empty where the interpreter is missing.
 [[nodiscard]] const std::vector<OracleOffset>& oracleOffsets();
 
+/// Every zone of the system at these whole seconds since 1970.
+[[nodiscard]] std::vector<OracleOffset> oracleOffsetsAt(const std::vector<qint64>& instants);
+
 } // namespace quorvane

@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Prints "IDENTIFIER SECONDS OFFSET" for every zone of this system, by CPython's zoneinfo."""
+"""Prints "IDENTIFIER SECONDS OFFSET" for every zone of this system, by CPython's zoneinfo, at the
+instants that are given as seconds since 1970, or over two centuries."""
+import sys
 from datetime import datetime, timezone
 from zoneinfo import ZoneInfo, ZoneInfoNotFoundError
 
@@ -7,7 +9,7 @@ INDEX = "/usr/share/zoneinfo/tzdata.zi"
 
 # Each January and July since 1890, and both sides of the end of 32-bit time and of the years that
 # data files list one by one.
-INSTANTS = [
+INSTANTS = [int(each) for each in sys.argv[1:]] or [
     int(datetime(year, month, 15, 12, tzinfo=timezone.utc).timestamp())
     for year in [*range(1890, 2042), 2100, 2199]
     for month in (1, 7)

@@ -18,7 +18,8 @@ class ZoneNames {
 public:
     ZoneNames(Instant instant, const UserLocale& locale);
 
-    /// The text of the date pattern "zzz": "PST", or "GMT+9" where the locale has no abbreviation.
+    /// The text of the date pattern "zzz": "PST", or "GMT+9" where the locale has no abbreviation
+    /// that means the offset in force.
     /// Never the time zone database's own, which are not those that users of a locale know.
     [[nodiscard]] std::optional<QString> abbreviation(const TimeZone& zone) const;
 
