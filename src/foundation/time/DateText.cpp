@@ -8,14 +8,19 @@
 
 #include <unicode/datefmt.h>
 #include <unicode/dtptngen.h>
+#include <unicode/gregocal.h>
 #include <unicode/smpdtfmt.h>
 
+#include <limits>
 #include <memory>
 #include <utility>
 
 namespace quorvane {
 
 namespace {
+
+// ICU counts calendar days by 32 bits.
+constexpr UDate earliestDate = std::numeric_limits<int32_t>::min() * double{U_MILLIS_PER_DAY};
 
 icu::UnicodeString withPlainSpaces(icu::UnicodeString pattern) {
     return pattern.findAndReplace(
@@ -96,7 +101,16 @@ styledText(Instant instant, const TimeZone& zone, FormatStyles styles, const Use
 }
 
 QString iso8601Text(Instant instant, const TimeZone& zone, Iso8601Options options) {
-    return patternText(instant, zone, iso8601Pattern(options), UserLocale::posix());
+    auto status = U_ZERO_ERROR;
+    const auto posix = UserLocale::posix().icuLocale();
+    icu::SimpleDateFormat formatter(toIcu(iso8601Pattern(options)), posix, status);
+    auto calendar = std::make_unique<icu::GregorianCalendar>(posix, status);
+    // The standard counts by the Gregorian calendar also before there was one.
+    calendar->setGregorianChange(earliestDate, status);
+    if (U_FAILURE(status))
+        return {};
+    formatter.adoptCalendar(calendar.release());
+    return rendered(formatter, instant, icuTimeZoneAt(zone, instant));
 }
 
 QString timeChipText(Instant instant, const TimeZone& zone, const UserLocale& locale) {

@@ -55,6 +55,20 @@ TEST(DateText, AbbreviationsAreTheLocalesNotTheDatabases) {
     EXPECT_EQ(inPattern(march9, "Etc/GMT+12", u"zzz"_s), "GMT-12");
 }
 
+// By CPython: datetime(1582, 10, 4, 12, tzinfo=timezone.utc).timestamp(), and so on; its calendar
+// is proleptic.
+TEST(DateText, IsoDatesAreGregorianBeforeThatCalendarWasIntroduced) {
+    const auto utc = ZoneDatabase::utc();
+    const auto date = iso8601::year | iso8601::month | iso8601::day | iso8601::dashSeparatorInDate;
+    const auto text = [&](double instant) {
+        return iso8601Text({instant}, utc, date).toStdString();
+    };
+    EXPECT_EQ(text(-12219249600), "1582-10-15");
+    EXPECT_EQ(text(-12219336000), "1582-10-14");
+    EXPECT_EQ(text(-14831726400), "1500-01-01");
+    EXPECT_EQ(text(-62135553600), "0001-01-01");
+}
+
 TEST(DateText, GenericNamesAndZoneCodesAreThere) {
     EXPECT_EQ(inPattern(july15, "America/Los_Angeles", u"vvvv"_s), "Pacific Time");
     EXPECT_EQ(

@@ -32,7 +32,7 @@ struct FormatStyles {
 [[nodiscard]] QString
 styledText(Instant instant, const TimeZone& zone, FormatStyles styles, const UserLocale& locale);
 
-/// In ISO 8601, Gregorian calendar.
+/// In ISO 8601: the Gregorian calendar, also for dates before it was introduced.
 [[nodiscard]] QString iso8601Text(Instant instant, const TimeZone& zone, Iso8601Options options);
 
 /// Hour and minute, two digits each, in the locale's clock of 12 or 24 hours.
