@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AppDelegate.h"
 
+#include "DesktopAction.h"
 #include "FieldPaste.h"
 #include "MainMenu.h"
 
@@ -10,31 +11,13 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 Q_LOGGING_CATEGORY(lcApp, "quorvane.app", QtFatalMsg)
-
-struct Action {
-    QLatin1StringView name;
-    void (AppDelegate::*perform)();
-    bool isDelivery = false;
-};
-
-constexpr std::array actions{
-    Action{"toggle"_L1, &AppDelegate::togglePresentation},
-    Action{"insert"_L1, &AppDelegate::performInsert, true},
-    Action{"copy"_L1, &AppDelegate::performCopy, true},
-    Action{"preferences"_L1, &AppDelegate::showPreferences},
-    Action{"quit"_L1, &AppDelegate::terminate},
-};
 
 } // namespace
 
@@ -117,7 +100,13 @@ void AppDelegate::surfaceMainUIForReopen() {
     m_presentation.surface();
 }
 
+void AppDelegate::renewHiddenDates() {
+    if (!m_presentation.isShown())
+        m_model.renewDates();
+}
+
 void AppDelegate::performInsert() {
+    renewHiddenDates();
     const auto text = m_model.formattedOutput();
     m_presentation.rememberTarget();
     m_presentation.hide();
@@ -125,6 +114,7 @@ void AppDelegate::performInsert() {
 }
 
 void AppDelegate::performCopy() {
+    renewHiddenDates();
     const auto text = m_model.formattedOutput();
     if (copyText(*m_dependencies.platform.pasteboard, text) == PutOutcome::Refused)
         qCInfo(lcApp, "not copied: the pasteboard does not take the text");
@@ -144,8 +134,8 @@ void AppDelegate::checkForUpdates() {
 
 void AppDelegate::performAction(const QString& name) {
     m_shortcut.retry();
-    const auto* action = std::ranges::find(actions, name, &Action::name);
-    if (action == actions.end())
+    const auto* action = desktopAction(name);
+    if (action == nullptr)
         qCInfo(lcApp, "no action \"%ls\"", qUtf16Printable(name));
     else if (action->isDelivery && !m_model.isDeliverable())
         qCInfo(lcApp, "nothing to %ls: no zone is selected", qUtf16Printable(name));
@@ -189,6 +179,7 @@ InterfaceCallbacks AppDelegate::interfaceCallbacks() {
     return {
         [this] { return makeContentView(); },
         [this](QWidget& window) { m_mainMenu->attachTo(window); },
+        [this] { m_model.renewDates(); },
         weakly(&AppDelegate::prepareAfterFirstPaint)};
 }
 
@@ -276,7 +267,7 @@ void AppDelegate::observeDesktop() {
     });
     platform.workspace->onActiveSpaceChanged(
         [this] { m_presentation.panel().activeSpaceDidChange(); });
-    connect(&m_model, &DateTimeModel::objectWillChange, &m_notice, &DeliveryNotice::clear);
+    connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
     platform.keyboardLayout->onChanged([this] {
         m_presentation.refreshSoon();
         m_preferences.refreshSoon();

@@ -105,6 +105,7 @@ private:
     [[nodiscard]] Insertion::Callbacks insertionCallbacks();
     [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
 
+    void renewHiddenDates();
     void setupMainMenu();
     void observeDesktop();
     void prepareAfterFirstPaint();

@@ -14,6 +14,7 @@ Presentation::Presentation(Dependencies dependencies, const InterfaceCallbacks& 
     : m_model(dependencies.model),
       m_trayIcon(dependencies.trayIcon),
       m_previousFrontmostApp(dependencies.previousFrontmostApp),
+      m_onAppearing(callbacks.onAppearing),
       m_panel(
           {dependencies.windowFrames,
            dependencies.mainQueue,
@@ -52,6 +53,21 @@ void Presentation::surface() {
 }
 
 void Presentation::present() {
+    if (!isShown())
+        appear();
+    showWindow();
+}
+
+/// Before anything is painted: what was hidden would show the moment at which it was.
+void Presentation::appear() {
+    m_onAppearing();
+    for (auto* view : {m_panel.view(), m_popover.view()}) {
+        if (view != nullptr)
+            view->refreshNow();
+    }
+}
+
+void Presentation::showWindow() {
     prepareViews();
     // The other one may show: the tray has come or gone since.
     if (effectivePresentationMode() == PresentationMode::Window) {
@@ -84,7 +100,7 @@ void Presentation::handlePresentationModeChange(PresentationMode mode) {
     else
         m_popover.discard();
     if (wasShown)
-        present();
+        showWindow();
 }
 
 void Presentation::refreshSoon() {

@@ -34,7 +34,7 @@ public:
     /// Shows the interface, also when it is shown already, which keeps what is remembered.
     void surface();
 
-    /// Shows the interface and remembers nothing.
+    /// Shows the interface and remembers nothing. What was hidden shows this moment.
     void present();
 
     void hide();
@@ -62,12 +62,15 @@ public:
     /// The mode actually used: a popover needs a tray icon to be placed at.
     [[nodiscard]] PresentationMode effectivePresentationMode() const;
 
+    [[nodiscard]] bool isShown() const;
+
     [[nodiscard]] PanelPresentation& panel() { return m_panel; }
 
     [[nodiscard]] PopoverPresentation& popover() { return m_popover; }
 
 private:
-    [[nodiscard]] bool isShown() const;
+    void appear();
+    void showWindow();
     [[nodiscard]] InterfaceCallbacks preparing(InterfaceCallbacks callbacks);
     void prepare(PopoverView& view) const;
     void prepareViews() const;
@@ -75,6 +78,7 @@ private:
     const DateTimeModel& m_model;
     const TrayIcon& m_trayIcon;
     PreviousFrontmostApp& m_previousFrontmostApp;
+    std::function<void()> m_onAppearing;
     QString m_notice;
     PanelPresentation m_panel;
     PopoverPresentation m_popover;

@@ -19,4 +19,11 @@ Composition Composition::startingAt(Instant now, TimeZone zone) {
     return composition;
 }
 
+void Composition::moveTo(Instant now) {
+    const Seconds span(endDate.secondsSince1970 - startDate.secondsSince1970);
+    startDate = now;
+    endDate = now + span;
+    hasEnteredDate = false;
+}
+
 } // namespace quorvane

@@ -5,6 +5,7 @@
 #include <composition/ZoneSlots.h>
 #include <model/DateTimeModel.h>
 #include <settings/SettingsTable.h>
+#include <time/CivilTime.h>
 
 #include <utility>
 
@@ -23,16 +24,40 @@ DateTimeModel::DateTimeModel(const Dependencies& dependencies, QObject* parent)
 
 template <typename T>
 void DateTimeModel::assign(T& field, T value) {
-    Q_EMIT objectWillChange();
+    announce();
     field = std::move(value);
 }
 
+void DateTimeModel::assignDate(Instant& field, Instant value) {
+    const auto zone = m_dependencies.currentZone.current();
+    const bool isEntered = startOfMinute(value, zone) != startOfMinute(field, zone);
+    assign(field, value);
+    m_composition.hasEnteredDate |= isEntered;
+}
+
+void DateTimeModel::announce() {
+    Q_EMIT objectWillChange();
+    Q_EMIT userWillChange();
+}
+
 void DateTimeModel::setStartDate(Instant instant) {
-    assign(m_composition.startDate, instant);
+    assignDate(m_composition.startDate, instant);
 }
 
 void DateTimeModel::setEndDate(Instant instant) {
-    assign(m_composition.endDate, instant);
+    assignDate(m_composition.endDate, instant);
+}
+
+void DateTimeModel::renewDates() {
+    if (m_composition.hasEnteredDate)
+        return;
+    Q_EMIT objectWillChange();
+    m_composition.moveTo(m_dependencies.clock.now());
+}
+
+void DateTimeModel::returnToNow() {
+    announce();
+    m_composition.moveTo(m_dependencies.clock.now());
 }
 
 void DateTimeModel::setIsRange(bool isRange) {
@@ -75,21 +100,21 @@ void DateTimeModel::setHotKey(HotKeyCombo combo) {
 }
 
 void DateTimeModel::setShowInMenuBar(bool show) {
-    Q_EMIT objectWillChange();
+    announce();
     Q_EMIT showInMenuBarWillChange(show);
     m_preferences.showInMenuBar = show;
     setting::showInMenuBar.store(m_dependencies.defaults, m_preferences.showInMenuBar);
 }
 
 void DateTimeModel::setShowInDock(bool show) {
-    Q_EMIT objectWillChange();
+    announce();
     Q_EMIT showInDockWillChange(show);
     m_preferences.showInDock = show;
     setting::showInDock.store(m_dependencies.defaults, m_preferences.showInDock);
 }
 
 void DateTimeModel::setPresentationMode(PresentationMode mode) {
-    Q_EMIT objectWillChange();
+    announce();
     Q_EMIT presentationModeWillChange(mode);
     m_preferences.presentationMode = mode;
     setting::presentationMode.store(

@@ -14,11 +14,17 @@ void CoalescedRefresh::schedule() {
     m_state->due = true;
     m_queue.async([weak = std::weak_ptr(m_state)] {
         const auto state = weak.lock();
-        if (!state)
+        if (!state || !state->due)
             return;
         state->due = false;
         state->refresh();
     });
+}
+
+void CoalescedRefresh::refreshNow() {
+    const auto state = m_state;
+    state->due = false;
+    state->refresh();
 }
 
 } // namespace quorvane

@@ -63,6 +63,11 @@ Instant instantAt(const CivilTime& time, const TimeZone& zone, Instant present) 
     return occurrence(local, after, zone).value_or(withOffset(local, before));
 }
 
+Instant startOfMinute(Instant instant, const TimeZone& zone) {
+    const auto past = civilTime(instant, zone).timeOfDay % std::chrono::minutes(1);
+    return Instant{std::floor(instant.secondsSince1970)} + Seconds(-past);
+}
+
 Instant movedToDay(Instant instant, CivilDay day, const TimeZone& zone) {
     const auto moved = instantAt({day, civilTime(instant, zone).timeOfDay}, zone, instant);
     const double fraction = instant.secondsSince1970 - std::floor(instant.secondsSince1970);

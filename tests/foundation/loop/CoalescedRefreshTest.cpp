@@ -47,6 +47,18 @@ TEST_F(CoalescedRefreshTest, WhatTheRefreshSchedulesComesAfterIt) {
     EXPECT_EQ(m_count, 2);
 }
 
+TEST_F(CoalescedRefreshTest, ARefreshAtOnceStandsForTheOneThatIsDue) {
+    CoalescedRefresh refresh(m_queue, [this] { ++m_count; });
+    refresh.schedule();
+    refresh.refreshNow();
+    EXPECT_EQ(m_count, 1);
+    m_queue.run();
+    EXPECT_EQ(m_count, 1);
+    refresh.schedule();
+    m_queue.run();
+    EXPECT_EQ(m_count, 2);
+}
+
 TEST_F(CoalescedRefreshTest, DestroyedBeforeItsIterationItDoesNothing) {
     std::optional<CoalescedRefresh> refresh;
     refresh.emplace(m_queue, [this] { ++m_count; });

@@ -34,6 +34,14 @@ TEST(CivilTimeTest, TakesTheSecondThatHasBegun) {
     EXPECT_EQ(civilTime({0.75}, ZoneDatabase::utc()), (CivilTime{day(1970, 1, 1), 0s}));
 }
 
+TEST(CivilTimeTest, AMinuteBeginsWhereTheZonesClocksBeginIt) {
+    EXPECT_EQ(startOfMinute({1710021959.75}, zone("Asia/Kathmandu")), march9);
+    EXPECT_EQ(startOfMinute(march9, zone("Asia/Kathmandu")), march9);
+    EXPECT_EQ(startOfMinute({-0.25}, ZoneDatabase::utc()), Instant{-60});
+    // 44 minutes and 30 seconds behind Greenwich until 1972: 23:15:30 at the beginning of 1970.
+    EXPECT_EQ(startOfMinute({0}, zone("Africa/Monrovia")), Instant{-30});
+}
+
 TEST(CivilTimeTest, HoldsForNumbersThatAreNoInstants) {
     const auto utc = ZoneDatabase::utc();
     EXPECT_EQ(civilDay({std::numeric_limits<double>::quiet_NaN()}, utc), day(1970, 1, 1));

@@ -15,7 +15,8 @@ namespace quorvane {
 /// What the user composes. It ends with the run.
 struct Composition {
     Instant startDate;
-    Instant endDate; ///< may be before the start
+    Instant endDate;             ///< may be before the start
+    bool hasEnteredDate = false; ///< either date is the user's own
     bool isRange = false;
     bool includeDate = true;
     bool includeTime = true;
@@ -26,6 +27,9 @@ struct Composition {
 
     /// That of a new run: an hour from `now`, in `zone`.
     [[nodiscard]] static Composition startingAt(Instant now, TimeZone zone);
+
+    /// Moves the start to `now` and keeps the distance to the end. Neither date is the user's then.
+    void moveTo(Instant now);
 };
 
 } // namespace quorvane

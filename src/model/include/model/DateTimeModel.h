@@ -46,6 +46,10 @@ public:
 
     [[nodiscard]] Instant endDate() const { return m_composition.endDate; }
 
+    /// Whether either date is the user's: its day, hour or minute has been changed. It then stays
+    /// as it is, while dates that nobody has entered are those of the next showing.
+    [[nodiscard]] bool hasEnteredDate() const { return m_composition.hasEnteredDate; }
+
     [[nodiscard]] bool isRange() const { return m_composition.isRange; }
 
     [[nodiscard]] bool includeDate() const { return m_composition.includeDate; }
@@ -78,9 +82,18 @@ public:
         return m_preferences.presentationMode;
     }
 
+    /// What the user has entered. Another minute makes the date the user's; the same one, with
+    /// other seconds, does not.
     void setStartDate(Instant instant);
-    /// May be before the start.
+    /// Likewise; may be before the start.
     void setEndDate(Instant instant);
+
+    /// Takes the start from the clock and moves the end along with it, unless either is the user's.
+    void renewDates();
+
+    /// The same on the user's request: it takes back what was entered.
+    void returnToNow();
+
     void setIsRange(bool isRange);
     void setIncludeDate(bool include);
     void setIncludeTime(bool include);
@@ -124,6 +137,9 @@ Q_SIGNALS:
     /// A field is about to change; it still has its old value.
     void objectWillChange();
 
+    /// After objectWillChange(), where it is the user who changes something: not the clock.
+    void userWillChange();
+
     /// These carry the value to come, after objectWillChange() and likewise before it is in place.
     void showInMenuBarWillChange(bool show);
     void showInDockWillChange(bool show);
@@ -132,6 +148,8 @@ Q_SIGNALS:
 private:
     template <typename T>
     void assign(T& field, T value);
+    void assignDate(Instant& field, Instant value);
+    void announce();
 
     [[nodiscard]] TimeZone sampleZone() const;
     [[nodiscard]] FormatSettings formatSettings() const;

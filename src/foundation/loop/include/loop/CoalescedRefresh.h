@@ -16,6 +16,9 @@ public:
     /// Does nothing while a refresh is due; what the refresh itself schedules comes after it.
     void schedule();
 
+    /// Refreshes at once, which covers a refresh that is due.
+    void refreshNow();
+
 private:
     struct State {
         MainQueue::Task refresh;

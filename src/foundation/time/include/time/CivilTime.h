@@ -31,6 +31,9 @@ struct CivilTime {
 /// itself.
 [[nodiscard]] Instant instantAt(const CivilTime& time, const TimeZone& zone, Instant present);
 
+/// When the minute that clocks show in a zone began.
+[[nodiscard]] Instant startOfMinute(Instant instant, const TimeZone& zone);
+
 /// The same time of day, to the fraction of the second, on another day; by the rules above.
 [[nodiscard]] Instant movedToDay(Instant instant, CivilDay day, const TimeZone& zone);
 

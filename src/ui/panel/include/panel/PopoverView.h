@@ -56,6 +56,9 @@ public:
     /// announce.
     void refreshSoon() { m_refresh.schedule(); }
 
+    /// Shows everything anew before it is painted next.
+    void refreshNow() { m_refresh.refreshNow(); }
+
     /// Puts the output on the pasteboard and says so on the button for a while.
     void performCopy();
 
