@@ -11,7 +11,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr int horizontalPadding = 8;
 constexpr int buttonHeight = 24;
 
 } // namespace

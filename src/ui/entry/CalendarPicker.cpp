@@ -2,6 +2,7 @@
 #include "CalendarArrow.h"
 #include "CalendarKeys.h"
 
+#include <controls/TextButton.h>
 #include <controls/TextStyle.h>
 #include <entry/CalendarPicker.h>
 #include <time/CalendarMoves.h>
@@ -29,11 +30,13 @@ CalendarPicker::CalendarPicker(
       m_minDate(std::move(minDate)),
       m_dependencies(dependencies),
       m_title(new QLabel(this)),
-      m_grid(new CalendarGrid(this)) {
+      m_grid(new CalendarGrid(this)),
+      m_today(new TextButton(tr("Today"), this)) {
     m_title->setTextFormat(Qt::PlainText);
     layOut();
     followFont();
     connect(m_grid, &CalendarGrid::picked, this, &CalendarPicker::pick);
+    connect(m_today, &TextButton::clicked, this, [this] { pick(today()); });
     refresh();
 }
 
@@ -63,6 +66,15 @@ void CalendarPicker::changeEvent(QEvent* event) {
 }
 
 void CalendarPicker::layOut() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(padding, padding, padding, padding);
+    column->setSpacing(headerGap);
+    column->addLayout(makeHeader());
+    column->addWidget(m_grid);
+    column->addWidget(m_today, 0, Qt::AlignLeft);
+}
+
+QHBoxLayout* CalendarPicker::makeHeader() {
     auto* back = new CalendarArrow(CalendarArrow::Way::Back, tr("Previous month"), this);
     auto* onward = new CalendarArrow(CalendarArrow::Way::Onward, tr("Next month"), this);
     connect(back, &CalendarArrow::clicked, this, [this] { turnPage(-1); });
@@ -74,12 +86,7 @@ void CalendarPicker::layOut() {
     header->addWidget(m_title, 1);
     header->addWidget(back);
     header->addWidget(onward);
-
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding, padding, padding, padding);
-    column->setSpacing(headerGap);
-    column->addLayout(header);
-    column->addWidget(m_grid);
+    return header;
 }
 
 void CalendarPicker::turnPage(int months) {
@@ -107,8 +114,9 @@ void CalendarPicker::showCursor(CivilDay day) {
 }
 
 void CalendarPicker::mark() {
-    m_grid->mark(
-        {civilDay(m_dependencies.clock.now(), zone()), m_chosen.value_or(m_cursor), earliestDay()});
+    const auto earliest = earliestDay();
+    m_grid->mark({today(), m_chosen.value_or(m_cursor), earliest});
+    m_today->setEnabled(!earliest || today() >= *earliest);
 }
 
 void CalendarPicker::followFont() {

@@ -53,6 +53,13 @@ std::optional<Instant> savedTime(const TimeTexts& texts, Instant date, const Tim
     return instantAt(time, zone, date);
 }
 
+Instant withTimeOf(Instant now, Instant date, const TimeZone& zone) {
+    const auto day = civilDay(date, zone);
+    const auto shown = civilTime(startOfMinute(now, zone), zone);
+    // An hour that occurs twice today is the one that it is now.
+    return instantAt({day, shown.timeOfDay}, zone, day == shown.day ? now : date);
+}
+
 QString steppedHour(QStringView text, qint64 step) {
     const auto hour = parsedNumber(text).value_or(hoursOnDial);
     return QString::number(onDial(steppedAround(hour, step, hoursOnDial)));

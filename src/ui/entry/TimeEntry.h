@@ -26,6 +26,9 @@ struct TimeTexts {
 [[nodiscard]] std::optional<Instant>
 savedTime(const TimeTexts& texts, Instant date, const TimeZone& zone);
 
+/// The hour and minute of `now` on the day of `date`.
+[[nodiscard]] Instant withTimeOf(Instant now, Instant date, const TimeZone& zone);
+
 /// The hour `step` on, round the clock from 12 to 1. A text that is no number counts as 12.
 [[nodiscard]] QString steppedHour(QStringView text, qint64 step);
 

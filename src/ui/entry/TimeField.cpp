@@ -25,8 +25,7 @@ QWidget* TimeField::makeContent() {
         m_date.set(date);
         refresh();
     };
-    return new TimePickerPopover(
-        {m_date.get, set}, m_dependencies.currentZone, m_dependencies.pasteReader);
+    return new TimePickerPopover({m_date.get, set}, m_dependencies);
 }
 
 } // namespace quorvane

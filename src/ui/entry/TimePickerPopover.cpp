@@ -2,6 +2,7 @@
 #include "TimePickerPopover.h"
 
 #include <controls/SegmentedChip.h>
+#include <controls/TextButton.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
 #include <platform/KeyCodes.h>
@@ -29,22 +30,22 @@ constexpr int colonPixels = 26;
 } // namespace
 
 TimePickerPopover::TimePickerPopover(
-    Binding<Instant> date,
-    const CurrentZone& currentZone,
-    const PasteReader& pasteReader,
-    QWidget* parent)
+    Binding<Instant> date, const EntryDependencies& dependencies, QWidget* parent)
     : QWidget(parent),
       m_date(std::move(date)),
-      m_currentZone(currentZone),
-      m_hour(numberField(tr("Hour"), u"12"_s, pasteReader)),
-      m_minute(numberField(tr("Minute"), u"00"_s, pasteReader)),
-      m_period(new SegmentedChip(this)) {
+      m_dependencies(dependencies),
+      m_hour(numberField(tr("Hour"), u"12"_s)),
+      m_minute(numberField(tr("Minute"), u"00"_s)),
+      m_period(new SegmentedChip(this)),
+      m_now(new TextButton(tr("Now"), this)) {
     // A clock reads from left to right in every script.
     setLayoutDirection(Qt::LeftToRight);
     m_period->setAccessibleName(tr("AM or PM"));
     m_period->setMinimumWidth(periodWidth);
     showPeriod(false);
     connect(m_period, &SegmentedChip::chosen, this, [this](int index) { setPM(index == 1); });
+    m_now->setFocusPolicy(Qt::NoFocus);
+    connect(m_now, &TextButton::clicked, this, &TimePickerPopover::takeTimeOfNow);
     layOut();
     addShortcuts();
     setFocusProxy(m_hour);
@@ -79,9 +80,8 @@ void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(gap.center() - foregroundOf(u":"_s, colonFont).center(), u":"_s);
 }
 
-NumberField* TimePickerPopover::numberField(
-    const QString& name, const QString& placeholder, const PasteReader& pasteReader) {
-    auto* field = new NumberField(placeholder, pasteReader, this);
+NumberField* TimePickerPopover::numberField(const QString& name, const QString& placeholder) {
+    auto* field = new NumberField(placeholder, m_dependencies.pasteReader, this);
     field->setAccessibleName(name);
     connect(field, &NumberField::textChanged, this, &TimePickerPopover::save);
     return field;
@@ -97,26 +97,28 @@ TimeTexts TimePickerPopover::texts() const {
 
 void TimePickerPopover::layOut() {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(padding, padding, padding, padding);
+    row->setContentsMargins(padding, padding, padding - TextButton::horizontalPadding, padding);
     row->setSpacing(spacing);
     row->addWidget(m_hour);
     row->addSpacing(spacing + colonWidth);
     row->addWidget(m_minute);
     row->addSpacing(periodLeading);
     row->addWidget(m_period);
+    row->addWidget(m_now);
 }
 
 void TimePickerPopover::addShortcuts() {
-    const auto add = [this](Qt::Key key, bool isPM) {
+    const auto add = [this](Qt::Key key, auto action) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
-        connect(shortcut, &QShortcut::activated, this, [this, isPM] { setPM(isPM); });
+        connect(shortcut, &QShortcut::activated, this, action);
     };
-    add(Qt::Key_A, false);
-    add(Qt::Key_P, true);
+    add(Qt::Key_A, [this] { setPM(false); });
+    add(Qt::Key_P, [this] { setPM(true); });
+    add(Qt::Key_N, [this] { takeTimeOfNow(); });
 }
 
 void TimePickerPopover::load() {
-    const auto time = loadedTime(m_date.get(), m_currentZone.current());
+    const auto time = loadedTime(m_date.get(), zone());
     {
         // What is shown in between is no time that anyone chose.
         const QSignalBlocker hourBlocker(m_hour);
@@ -129,7 +131,7 @@ void TimePickerPopover::load() {
 }
 
 void TimePickerPopover::save() {
-    if (const auto saved = savedTime(texts(), m_date.get(), m_currentZone.current()))
+    if (const auto saved = savedTime(texts(), m_date.get(), zone()))
         m_date.set(*saved);
 }
 
@@ -145,6 +147,13 @@ void TimePickerPopover::step(int amount) {
 void TimePickerPopover::setPM(bool isPM) {
     showPeriod(isPM);
     save();
+}
+
+void TimePickerPopover::takeTimeOfNow() {
+    m_date.set(withTimeOf(m_dependencies.clock.now(), m_date.get(), zone()));
+    load();
+    if (const auto field = focus())
+        fieldWidget(*field)->selectAll();
 }
 
 void TimePickerPopover::showPeriod(bool isPM) {

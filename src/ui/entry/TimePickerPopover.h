@@ -6,7 +6,7 @@
 #include "TimeEntry.h"
 
 #include <controls/Binding.h>
-#include <time/CurrentZone.h>
+#include <entry/EntryDependencies.h>
 
 #include <QWidget>
 
@@ -16,9 +16,11 @@
 namespace quorvane {
 
 class SegmentedChip;
+class TextButton;
 
-/// Hour, minute, and AM or PM of one date. Whatever is typed goes into the date at once if it is a
-/// time, else the date stays. Showing it reads the date, which drops the date's seconds.
+/// Hour, minute, and AM or PM of one date, and a button for those of this moment. Whatever is typed
+/// goes into the date at once if it is a time, else the date stays. Showing it reads the date,
+/// which drops the date's seconds.
 class TimePickerPopover final : public QWidget {
     Q_OBJECT
 
@@ -26,10 +28,7 @@ public:
     enum class Field { Hour, Minute };
 
     TimePickerPopover(
-        Binding<Instant> date,
-        const CurrentZone& currentZone,
-        const PasteReader& pasteReader,
-        QWidget* parent = nullptr);
+        Binding<Instant> date, const EntryDependencies& dependencies, QWidget* parent = nullptr);
 
     /// The number field that has the keyboard's focus.
     [[nodiscard]] std::optional<Field> focus() const;
@@ -40,8 +39,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] NumberField*
-    numberField(const QString& name, const QString& placeholder, const PasteReader& pasteReader);
+    [[nodiscard]] TimeZone zone() const { return m_dependencies.currentZone.current(); }
+
+    [[nodiscard]] NumberField* numberField(const QString& name, const QString& placeholder);
     [[nodiscard]] NumberField* fieldWidget(Field field) const;
     [[nodiscard]] TimeTexts texts() const;
     void layOut();
@@ -50,16 +50,18 @@ private:
     void save();
     void step(int amount);
     void setPM(bool isPM);
+    void takeTimeOfNow();
     void showPeriod(bool isPM);
     void setFocus(Field field, Qt::FocusReason reason);
     void installKeyMonitor();
     [[nodiscard]] LocalKeyMonitor::Verdict handleKey(std::uint32_t keyCode);
 
     Binding<Instant> m_date;
-    const CurrentZone& m_currentZone;
+    EntryDependencies m_dependencies;
     NumberField* m_hour;
     NumberField* m_minute;
     SegmentedChip* m_period;
+    TextButton* m_now;
     std::unique_ptr<LocalKeyMonitor> m_keyMonitor;
 };
 

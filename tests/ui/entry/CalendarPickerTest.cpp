@@ -71,6 +71,34 @@ TEST_F(CalendarPickerTest, PickedDayKeepsTheTimeOfDayToTheFraction) {
     EXPECT_NE(QApplication::activePopupWidget(), nullptr);
 }
 
+// It is 13:00 of Friday, November 20, 2026.
+TEST_F(CalendarPickerTest, TodayTakesTheDayAndLeavesTheTime) {
+    date = date + 12.25s;
+    open();
+    clickOn(button(u"Today"_s));
+    // 17:05:12.25 in New York, now without daylight time.
+    EXPECT_EQ(date, Instant{1795212312.25});
+    EXPECT_EQ(title(), u"November 2026"_s);
+    EXPECT_TRUE(isSelected(u"Friday, November 20, 2026"_s));
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(CalendarPickerTest, TodayIsReachedByTabAndRefusedBeforeTheMinimum) {
+    open();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), u"Today"_s);
+    minimum = clock.now() + 24h;
+    chip->refresh();
+    EXPECT_FALSE(button(u"Today"_s).isEnabled());
+    minimum = clock.now() + 10h;
+    chip->refresh();
+    EXPECT_TRUE(button(u"Today"_s).isEnabled());
+    const auto before = date;
+    minimum = clock.now() + 24h;
+    button(u"Today"_s).click();
+    EXPECT_EQ(date, before);
+}
+
 TEST_F(CalendarPickerTest, DaysFollowTheCurrentZone) {
     currentZone.set(*zones.zone(u"Asia/Tokyo"_s)); // 2024-03-10 07:05 there
     open();

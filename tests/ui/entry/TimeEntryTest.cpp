@@ -44,6 +44,36 @@ INSTANTIATE_TEST_SUITE_P(
         Loaded{13h + 7min, {u"1"_s, u"07"_s, true}},
         Loaded{23h + 59min, {u"11"_s, u"59"_s, true}}));
 
+struct TimeOfNow {
+    Instant now;
+    Instant date;
+    Instant result;
+};
+
+class TimeOfNowTest : public testing::TestWithParam<TimeOfNow> {};
+
+TEST_P(TimeOfNowTest, TakesTheMinuteThatClocksShowOnTheDaysOwnTerms) {
+    const auto [now, date, result] = GetParam();
+    EXPECT_EQ(withTimeOf(now, date, zone("America/New_York")), result);
+}
+
+// From `date -u -d ... +%s`.
+constexpr Instant november20{1795197600}; // 2026-11-20T18:00:00Z, 13:00
+constexpr Instant november3{1730615420};  // 2024-11-03T06:30:20Z, 01:30:20 for the second time
+
+INSTANTIATE_TEST_SUITE_P(
+    ,
+    TimeOfNowTest,
+    testing::Values(
+        TimeOfNow{november20, midnight + 9h + 15s, midnight + 13h},
+        TimeOfNow{november20 + 59.5s, midnight, midnight + 13h},
+        // That hour occurs twice only on the day itself; 2024-11-03T05:30:00Z is the first time.
+        TimeOfNow{november3, midnight, midnight + 1h + 30min},
+        TimeOfNow{november3, Instant{1730610000}, Instant{1730615400}},
+        TimeOfNow{november20 + -12h, Instant{1730610000}, Instant{1730610000}},
+        // 02:30 is skipped on 10 March 2024 and becomes 03:30, 07:30Z.
+        TimeOfNow{november20 + -10h + -30min, Instant{1710050000}, Instant{1710055800}}));
+
 struct Saved {
     TimeTexts texts;
     std::optional<Seconds> timeOfDay;

@@ -70,7 +70,10 @@ TEST_F(TimePickerMeasuresTest, FieldsAndSegmentsStandInARow) {
     EXPECT_EQ(minute().y(), 16);
     EXPECT_EQ(period().width(), 80);
     EXPECT_EQ(period().x() - minute().geometry().right() - 1, 10 + 4);
-    EXPECT_EQ(entry().width() - period().geometry().right() - 1, 16);
+    // What one sees of the button is its word, 8 within it.
+    const auto now = button(u"Now"_s).geometry();
+    EXPECT_EQ(now.x() - period().geometry().right() - 1, 10);
+    EXPECT_EQ(entry().width() - now.right() - 1, 16 - 8);
     EXPECT_EQ(entry().height(), 16 + 48 + 16);
 }
 

@@ -221,6 +221,24 @@ TEST_F(TimePickerPopoverTest, ThePeriodHasKeysOfItsOwn) {
     EXPECT_EQ(hour().text(), u"9"_s);
 }
 
+// The clock shows 13:00.
+TEST_F(TimePickerPopoverTest, NowTakesHourAndMinuteAndLeavesTheDay) {
+    openOn(9h + 15min + 10s);
+    press(Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(timeOfDay(), 13h);
+    EXPECT_EQ(hour().text(), u"1"_s);
+    EXPECT_EQ(hour().selectedText(), u"1"_s);
+    EXPECT_EQ(minute().text(), u"00"_s);
+    EXPECT_TRUE(isPM());
+    press(Qt::Key_Right);
+    press(Qt::Key_Up);
+    EXPECT_EQ(timeOfDay(), 13h + 1min);
+    clock.set(clock.now() + 14min + 59s);
+    clickOn(button(u"Now"_s));
+    EXPECT_EQ(timeOfDay(), 13h + 14min);
+    EXPECT_EQ(minute().selectedText(), u"14"_s);
+}
+
 TEST_F(TimePickerPopoverTest, ThePeriodIsNamed) {
     openOn(9h + 15min);
     EXPECT_NE(widgetByRole(window, QAccessible::Client, u"AM or PM"_s), nullptr);
@@ -245,7 +263,7 @@ TEST_F(TimePickerPopoverTest, KeysAreTheWindowsOwnAgainOnceItIsClosed) {
 
 TEST_F(TimePickerPopoverTest, KeysAreTheWindowsOwnWhileItIsHidden) {
     QLineEdit other(u"abc"_s, &window);
-    TimePickerPopover content(binding(), currentZone, {}, &window);
+    TimePickerPopover content(binding(), dependencies(), &window);
     showWindow();
     content.hide();
     other.setFocus();

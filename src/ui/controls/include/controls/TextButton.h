@@ -10,6 +10,9 @@ class TextButton final : public PressableControl {
     Q_OBJECT
 
 public:
+    /// On either side of the word.
+    static constexpr int horizontalPadding = 8;
+
     explicit TextButton(const QString& label, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;

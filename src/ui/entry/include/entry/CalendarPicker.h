@@ -11,9 +11,12 @@
 #include <functional>
 #include <optional>
 
+class QHBoxLayout;
 class QLabel;
 
 namespace quorvane {
+
+class TextButton;
 
 /// The earliest instant whose day may be chosen; asked whenever it matters. Absent, or none: any.
 using MinDate = std::function<std::optional<Instant>()>;
@@ -40,6 +43,7 @@ protected:
 
 private:
     void layOut();
+    [[nodiscard]] QHBoxLayout* makeHeader();
     void turnPage(int months);
     void pick(CivilDay day);
     void showCursor(CivilDay day);
@@ -47,6 +51,8 @@ private:
     void followFont();
 
     [[nodiscard]] TimeZone zone() const { return m_dependencies.currentZone.current(); }
+
+    [[nodiscard]] CivilDay today() const { return civilDay(m_dependencies.clock.now(), zone()); }
 
     [[nodiscard]] CivilDay chosenDay() const { return civilDay(m_date.get(), zone()); }
 
@@ -57,6 +63,7 @@ private:
     EntryDependencies m_dependencies;
     QLabel* m_title;
     CalendarGrid* m_grid;
+    TextButton* m_today;
     std::optional<CivilDay> m_chosen; ///< as last shown
     CivilDay m_cursor;                ///< where the keyboard is; its month is the page
 };
