@@ -103,7 +103,8 @@ const View views[] = {
      }},
     {"Time",
      [](World& world) {
-         return std::make_unique<TimePickerPopover>(world.date, world.currentZone, PasteReader());
+         return std::make_unique<TimePickerPopover>(
+             world.date, EntryDependencies{world.clock, world.currentZone, world.locale, {}});
      }},
     {"Zones",
      [](World& world) {
