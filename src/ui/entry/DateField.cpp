@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "ChipSteps.h"
+
 #include <entry/DateField.h>
 #include <time/DateText.h>
 
@@ -23,12 +25,27 @@ void DateField::refresh() {
 }
 
 QWidget* DateField::makeContent() {
-    const auto set = [this](Instant date) {
-        m_date.set(date);
-        refresh();
-    };
-    m_calendar = new CalendarPicker({m_date.get, set}, m_minDate, m_dependencies);
+    m_calendar = new CalendarPicker(
+        {m_date.get,
+         [this](Instant date) {
+             set(date);
+         }},
+        m_minDate,
+        m_dependencies);
     return m_calendar;
+}
+
+void DateField::step(int amount) {
+    const auto zone = m_dependencies.currentZone.current();
+    const auto minimum = m_minDate ? m_minDate() : std::nullopt;
+    const auto earliest = minimum ? std::optional(civilDay(*minimum, zone)) : std::nullopt;
+    const auto day = movedByDays(civilDay(m_date.get(), zone), amount, earliest);
+    set(movedToDay(m_date.get(), day, zone));
+}
+
+void DateField::set(Instant date) {
+    m_date.set(date);
+    refresh();
 }
 
 } // namespace quorvane

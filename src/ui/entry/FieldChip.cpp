@@ -3,7 +3,9 @@
 #include <controls/TextStyle.h>
 #include <entry/FieldChip.h>
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <utility>
@@ -48,6 +50,35 @@ void FieldChip::paintControl(QPainter& painter, const Theme& theme) {
     ChipSurface::paint(painter, rect(), theme, visualState(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     contentRow(theme).paint(painter, rect().adjusted(padding, 0, -padding, 0), layoutDirection());
+}
+
+void FieldChip::keyPressEvent(QKeyEvent* event) {
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    // A button would walk among its siblings.
+    if (isPlain && event->key() == Qt::Key_Up)
+        step(1);
+    else if (isPlain && event->key() == Qt::Key_Down)
+        step(-1);
+    else
+        PressableControl::keyPressEvent(event);
+}
+
+void FieldChip::wheelEvent(QWheelEvent* event) {
+    // Fine wheels turn by less than a notch at a time. What is left of one way does not count for
+    // the other.
+    const int angle = event->angleDelta().y();
+    if (angle == 0) {
+        event->ignore();
+        return;
+    }
+    if ((angle > 0) != (m_turned > 0))
+        m_turned = 0;
+    m_turned += angle;
+    const int notches = m_turned / QWheelEvent::DefaultDeltasPerStep;
+    m_turned %= QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0)
+        step(notches);
+    event->accept();
 }
 
 void FieldChip::hideEvent(QHideEvent* event) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ChipSteps.h"
 #include "TimePickerPopover.h"
 
 #include <entry/TimeField.h>
@@ -8,9 +9,11 @@
 
 namespace quorvane {
 
-TimeField::TimeField(Binding<Instant> date, const EntryDependencies& dependencies, QWidget* parent)
+TimeField::TimeField(
+    Binding<Instant> date, MinDate minDate, const EntryDependencies& dependencies, QWidget* parent)
     : FieldChip(Symbol::Clock, dependencies.popoverEffects, parent),
       m_date(std::move(date)),
+      m_minDate(std::move(minDate)),
       m_dependencies(dependencies) {
     refresh();
 }
@@ -21,11 +24,22 @@ void TimeField::refresh() {
 }
 
 QWidget* TimeField::makeContent() {
-    const auto set = [this](Instant date) {
-        m_date.set(date);
-        refresh();
-    };
-    return new TimePickerPopover({m_date.get, set}, m_dependencies);
+    return new TimePickerPopover(
+        {m_date.get,
+         [this](Instant date) {
+             set(date);
+         }},
+        m_dependencies);
+}
+
+void TimeField::step(int amount) {
+    const auto minimum = m_minDate ? m_minDate() : std::nullopt;
+    set(movedByMinutes(m_date.get(), amount, minimum, m_dependencies.currentZone.current()));
+}
+
+void TimeField::set(Instant date) {
+    m_date.set(date);
+    refresh();
 }
 
 } // namespace quorvane

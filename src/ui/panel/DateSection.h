@@ -9,11 +9,16 @@
 #include <entry/TimeField.h>
 #include <model/DateTimeModel.h>
 
+class QHBoxLayout;
+
 namespace quorvane {
 
 class CheckBox;
+class TextButton;
+class WrappedText;
 
-/// "When": which parts of the date are written, the start, and the end of a range.
+/// "When": which parts of the date are written, the start, and the end of a range with its length.
+/// A button takes back what the user has entered, for the present moment.
 class DateSection final : public Section {
     Q_OBJECT
 
@@ -44,15 +49,22 @@ private:
 
     [[nodiscard]] DateTimePair
     dateTimePair(const Binding<Instant>& selection, const MinDate& minDate, const PairNames& names);
+    [[nodiscard]] QHBoxLayout* makeRangeRow();
     void layOut();
+    void setTabOrders();
     void connectBoxes();
+    void addNow();
     void refresh(const DateTimePair& pair);
+    void refreshNow();
+    void refreshLength();
 
     DateTimeModel& m_model;
     EntryDependencies m_dependencies;
     CheckBox* m_includeDate;
     CheckBox* m_includeTime;
     CheckBox* m_isRange;
+    WrappedText* m_length;
+    TextButton* m_now;
     DateTimePair m_start;
     DateTimePair m_end;
 };

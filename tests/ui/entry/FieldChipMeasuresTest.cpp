@@ -17,7 +17,7 @@ namespace {
 class FieldChipMeasuresTest : public EntryFixture {
 protected:
     DateField day{binding(), {}, dependencies(), &window};
-    TimeField time{binding(), dependencies(), &window};
+    TimeField time{binding(), {}, dependencies(), &window};
 };
 
 TEST_F(FieldChipMeasuresTest, SymbolIsFiveBeforeTheTextAndBothTenFromTheFrame) {

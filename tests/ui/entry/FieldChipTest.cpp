@@ -12,14 +12,29 @@ using namespace std::chrono_literals;
 
 class FieldChipTest : public EntryFixture {
 protected:
-    DateField dateChip{binding(), {}, dependencies(), &window};
-    TimeField timeChip{binding(), dependencies(), &window};
+    std::optional<Instant> minimum;
+    DateField dateChip{binding(), [this] { return minimum; }, dependencies(), &window};
+    TimeField timeChip{binding(), [this] { return minimum; }, dependencies(), &window};
 
     FieldChipTest() {
         dateChip.move(20, 20);
         timeChip.move(160, 20);
         dateChip.setAccessibleDescription(u"Start date"_s);
         showWindow();
+    }
+
+    static void turnWheel(QWidget& chip, int angle) {
+        const auto place = QPointF(chip.rect().center());
+        QWheelEvent event(
+            place,
+            chip.mapToGlobal(place),
+            {},
+            {0, angle},
+            Qt::NoButton,
+            Qt::NoModifier,
+            Qt::NoScrollPhase,
+            false);
+        QCoreApplication::sendEvent(&chip, &event);
     }
 
     static QWidget* popover() { return QApplication::activePopupWidget(); }
@@ -83,6 +98,53 @@ TEST_F(FieldChipTest, EscapeClosesAndGivesTheFocusBack) {
     press(Qt::Key_Escape);
     EXPECT_EQ(popover(), nullptr);
     EXPECT_TRUE(timeChip.hasFocus());
+}
+
+TEST_F(FieldChipTest, ArrowsStepTheFocusedChip) {
+    dateChip.setFocus();
+    press(Qt::Key_Up);
+    EXPECT_EQ(dateChip.text(), u"Mar 10, 2024"_s);
+    EXPECT_TRUE(dateChip.hasFocus());
+    press(Qt::Key_Down);
+    press(Qt::Key_Down, Qt::KeypadModifier);
+    EXPECT_EQ(dateChip.text(), u"Mar 8, 2024"_s);
+    timeChip.setFocus();
+    press(Qt::Key_Down);
+    EXPECT_EQ(timeChip.text(), u"05:04 PM"_s);
+    press(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(timeChip.text(), u"05:04 PM"_s);
+    EXPECT_EQ(popover(), nullptr);
+}
+
+TEST_F(FieldChipTest, TheWheelStepsAtEachNotch) {
+    timeChip.setFocus();
+    turnWheel(dateChip, 120);
+    EXPECT_EQ(dateChip.text(), u"Mar 10, 2024"_s);
+    turnWheel(dateChip, -360);
+    EXPECT_EQ(dateChip.text(), u"Mar 7, 2024"_s);
+    turnWheel(timeChip, 60);
+    EXPECT_EQ(timeChip.text(), u"05:05 PM"_s);
+    turnWheel(timeChip, 60);
+    EXPECT_EQ(timeChip.text(), u"05:06 PM"_s);
+    turnWheel(timeChip, 100);
+    turnWheel(timeChip, -100);
+    turnWheel(timeChip, -20);
+    EXPECT_EQ(timeChip.text(), u"05:05 PM"_s);
+    turnWheel(timeChip, 0);
+    EXPECT_EQ(timeChip.text(), u"05:05 PM"_s);
+}
+
+TEST_F(FieldChipTest, StepsEndAtTheMinimumsDay) {
+    minimum = date + -5h;
+    dateChip.setFocus();
+    press(Qt::Key_Down);
+    EXPECT_EQ(dateChip.text(), u"Mar 9, 2024"_s);
+    date = date + -17h + -5min;
+    timeChip.refresh();
+    ASSERT_EQ(timeChip.text(), u"12:00 AM"_s);
+    timeChip.setFocus();
+    press(Qt::Key_Down);
+    EXPECT_EQ(timeChip.text(), u"12:00 AM"_s);
 }
 
 TEST_F(FieldChipTest, SecondPressOnTheChipCloses) {

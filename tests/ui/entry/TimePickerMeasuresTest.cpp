@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 class TimePickerMeasuresTest : public EntryFixture {
 protected:
-    TimeField chip{binding(), dependencies(), &window};
+    TimeField chip{binding(), {}, dependencies(), &window};
 
     TimePickerMeasuresTest() {
         QFont font(u"Inter"_s);

@@ -16,7 +16,7 @@ constexpr Instant midnight{1709960400};
 
 class TimePickerPopoverTest : public EntryFixture {
 protected:
-    TimeField chip{binding(), dependencies(), &window};
+    TimeField chip{binding(), {}, dependencies(), &window};
 
     TimePickerPopoverTest() { chip.setGeometry(20, 20, 120, 30); }
 

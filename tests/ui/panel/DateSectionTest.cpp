@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "DateSection.h"
+
 #include "PopoverFixture.h"
 
+#include <controls/WrappedText.h>
 #include <entry/CalendarDay.h>
 
 #include <algorithm>
@@ -10,6 +13,7 @@ namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 unsigned dayOfMonth(CivilDay day) {
     return static_cast<unsigned>(std::chrono::year_month_day(day).day());
@@ -17,6 +21,9 @@ unsigned dayOfMonth(CivilDay day) {
 
 class DateSectionTest : public PopoverFixture {
 protected:
+    /// The caption beside "to".
+    WrappedText& length() { return *view.findChild<DateSection*>()->findChild<WrappedText*>(); }
+
     /// The days that an open calendar refuses, of the month that it shows.
     std::vector<unsigned> refusedDays(const QString& chip) {
         const auto controls = view.findChildren<PressableControl*>();
@@ -75,6 +82,76 @@ TEST_F(DateSectionTest, EarliestEndMovesWithTheStart) {
     model.setStartDate(Instant{1709416800}); // 2024-03-02T22:00:00Z
     queue.run();
     EXPECT_EQ(refusedDays(u"End date"_s), std::vector{1U});
+}
+
+TEST_F(DateSectionTest, NowStandsThereWhileADateIsTheUsers) {
+    auto& now = button(u"Now"_s);
+    EXPECT_FALSE(now.isVisible());
+    model.setEndDate(model.endDate() + 1min);
+    queue.run();
+    EXPECT_TRUE(now.isVisible());
+    EXPECT_GT(now.x(), view.findChild<TimeField*>()->geometry().right());
+    clock.set(clock.now() + 2h);
+    now.setFocus();
+    now.click();
+    queue.run();
+    EXPECT_FALSE(now.isVisible());
+    EXPECT_TRUE(view.findChild<DateField*>()->hasFocus());
+    EXPECT_EQ(model.startDate(), clock.now());
+    EXPECT_EQ(model.endDate(), clock.now() + 1h + 1min);
+}
+
+TEST_F(DateSectionTest, NowHasAKeyThatIsThePopoversOwnWhileOneIsOpen) {
+    model.setStartDate(model.startDate() + -24h);
+    queue.run();
+    clock.set(clock.now() + 2h);
+    auto* time = view.findChild<TimeField*>();
+    QTest::mouseClick(time, Qt::LeftButton);
+    auto* popover = QApplication::activePopupWidget();
+    QTest::keyClick(popover->windowHandle(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(model.startDate(), clock.now() + -24h);
+    QTest::keyClick(popover->windowHandle(), Qt::Key_Escape);
+    QTest::keyClick(view.windowHandle(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(model.startDate(), clock.now());
+    EXPECT_FALSE(model.hasEnteredDate());
+}
+
+TEST_F(DateSectionTest, DatesEnteredByTheirControlsAreTheUsers) {
+    auto* time = view.findChild<TimeField*>();
+    clock.set(clock.now() + 30s);
+    model.renewDates();
+    // Opening it drops the seconds.
+    QTest::mouseClick(time, Qt::LeftButton);
+    EXPECT_EQ(model.startDate(), clock.now() + -30s);
+    EXPECT_FALSE(model.hasEnteredDate());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QTest::keyClick(time, Qt::Key_Up);
+    EXPECT_EQ(model.startDate(), clock.now() + 30s);
+    EXPECT_TRUE(model.hasEnteredDate());
+}
+
+TEST_F(DateSectionTest, ARangeTellsItsLength) {
+    EXPECT_FALSE(length().isVisible());
+    box(u"to"_s).click();
+    queue.run();
+    EXPECT_TRUE(length().isVisible());
+    EXPECT_EQ(length().text(), u"1 h"_s);
+    model.setEndDate(model.startDate() + -2h);
+    queue.run();
+    EXPECT_EQ(length().text(), u"\u22122 h"_s);
+    EXPECT_EQ(length().accessibleName(), u"Ends 2 hours before it begins"_s);
+    EXPECT_EQ(box(u"to"_s).accessibleDescription(), u"Ends 2 hours before it begins"_s);
+    // New York's clocks are put forward on 10 March.
+    model.setEndDate(model.startDate() + 75h);
+    queue.run();
+    EXPECT_EQ(length().text(), u"3 d 4 h"_s);
+    box(u"Time"_s).click();
+    queue.run();
+    EXPECT_EQ(length().text(), u"3 d"_s);
+    box(u"to"_s).click();
+    queue.run();
+    EXPECT_FALSE(length().isVisible());
+    EXPECT_EQ(box(u"to"_s).accessibleDescription(), QString());
 }
 
 } // namespace

@@ -83,26 +83,27 @@ TEST_F(PanelKeyboardTest, TabGoesFromTheHeaderToInsert) {
     } while (!order.back().startsWith(u"Insert"_s) && order.size() < 40);
     EXPECT_EQ(
         order.join(u'\n').toStdString(),
-        (QStringList{u"Move to menu bar"_s,
-                     u"More"_s,
-                     u"Close"_s,
-                     u"Date"_s,
-                     u"Time"_s,
-                     u"Start date"_s,
-                     u"Start time"_s,
-                     u"to"_s,
-                     u"End date"_s,
-                     u"End time"_s,
-                     u"Add time zone"_s,
-                     u"Remove"_s,
-                     u"Add"_s,
-                     u"Remove"_s,
-                     u"Format"_s,
-                     u"Inline"_s,
-                     u"Custom format"_s,
-                     u"Preview"_s,
-                     u"Copy"_s,
-                     u"Insert (Ctrl+Return)"_s})
+        (QStringList{
+             u"Move to menu bar"_s,
+             u"More"_s,
+             u"Close"_s,
+             u"Date"_s,
+             u"Time"_s,
+             u"Start date"_s,
+             u"Start time"_s,
+             u"Lasts 1 hour"_s,
+             u"End date"_s,
+             u"End time"_s,
+             u"Add time zone"_s,
+             u"Remove"_s,
+             u"Add"_s,
+             u"Remove"_s,
+             u"Format"_s,
+             u"Inline"_s,
+             u"Custom format"_s,
+             u"Preview"_s,
+             u"Copy"_s,
+             u"Insert (Ctrl+Return)"_s})
             .join(u'\n')
             .toStdString());
 }

@@ -10,7 +10,7 @@
 
 namespace quorvane {
 
-/// The chip of a date's day; it opens a calendar.
+/// The chip of a date's day; it opens a calendar, and steps by a day.
 class DateField final : public FieldChip {
     Q_OBJECT
 
@@ -26,8 +26,11 @@ public:
 
 protected:
     [[nodiscard]] QWidget* makeContent() override;
+    void step(int amount) override;
 
 private:
+    void set(Instant date);
+
     Binding<Instant> m_date;
     MinDate m_minDate;
     EntryDependencies m_dependencies;
