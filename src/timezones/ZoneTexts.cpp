@@ -2,7 +2,7 @@
 #include <time/ZoneNames.h>
 #include <timezones/ZoneTexts.h>
 
-#include <QStringList>
+#include <QRegularExpression>
 
 #include <cstdlib>
 
@@ -12,12 +12,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QChar minus(0x2212);
+
 QStringList pieces(const QString& identifier) {
     return identifier.split(u'/', Qt::SkipEmptyParts);
 }
 
 bool isOffset(const QString& abbreviation) {
     return abbreviation.startsWith("GMT+"_L1) || abbreviation.startsWith("GMT-"_L1);
+}
+
+/// Equal labels with the places of their zones.
+QStringList toldApart(const QStringList& labels, const std::vector<TimeZone>& zones) {
+    QStringList result = labels;
+    for (qsizetype index = 0; index < labels.size(); ++index) {
+        const auto place = placeName(zones[static_cast<std::size_t>(index)].identifier());
+        if (labels.count(labels[index]) > 1 && place != labels[index])
+            result[index] = u"%1 %2"_s.arg(labels[index], place);
+    }
+    return result;
 }
 
 } // namespace
@@ -49,8 +62,36 @@ QString zoneLabel(const QString& identifier, const std::optional<QString>& abbre
     return abbreviation && !isOffset(*abbreviation) ? *abbreviation : cityName(identifier);
 }
 
+QString placeName(const QString& identifier) {
+    const auto city = cityName(identifier);
+    static const QRegularExpression oppositeSign(u"^GMT([+-])([0-9]+)$"_s);
+    const auto match = oppositeSign.match(city);
+    if (!match.hasMatch() || match.captured(2).toInt() == 0)
+        return city;
+    const auto sign = match.captured(1) == u"+"_s ? minus : QChar(u'+');
+    return "UTC"_L1 + sign + match.captured(2);
+}
+
+QString placeAndOffset(const TimeZone& zone, Instant instant) {
+    const auto place = placeName(zone.identifier());
+    const auto offset = offsetString(zone, instant).replace(u'-', minus);
+    return place.startsWith("UTC"_L1) ? place : u"%1, %2"_s.arg(place, offset);
+}
+
 QString zoneLabel(const TimeZone& zone, Instant instant, const UserLocale& locale) {
-    return zoneLabel(zone.identifier(), zoneAbbreviation(zone, instant, locale));
+    return zoneLabels({zone}, instant, locale).front();
+}
+
+QStringList
+zoneLabels(const std::vector<TimeZone>& zones, Instant instant, const UserLocale& locale) {
+    const ZoneNames names(instant, locale);
+    QStringList labels;
+    for (const auto& zone : zones) {
+        const auto name = names.shortName(zone);
+        const auto& identifier = zone.identifier();
+        labels.append(name ? zoneLabel(identifier, name) : placeName(identifier));
+    }
+    return toldApart(labels, zones);
 }
 
 } // namespace quorvane

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Zones.h"
 
+#include <time/ZoneNames.h>
 #include <timezones/ZoneTexts.h>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace quorvane {
 namespace {
@@ -76,6 +79,77 @@ TEST(ZoneLabel, FollowsTheSeason) {
     const auto losAngeles = zone("America/Los_Angeles");
     EXPECT_EQ(zoneLabel(losAngeles, winter, locale("en_US")), u"PST"_s);
     EXPECT_EQ(zoneLabel(losAngeles, summer, locale("en_US")), u"PDT"_s);
+}
+
+// CLDR writes offsets as "UTC+9" (fr, fi), "GMT−5" with U+2212 (sv, lt), "GMT -5" (hr), with a word
+// and digits of its own (bg, ar), and with marks of direction (he, fa).
+TEST(ZoneLabel, OffsetInAnyLanguageIsNoName) {
+    const ZoneDatabase database;
+    for (const char* language :
+         {"fr_FR",
+          "fi_FI",
+          "sv_SE",
+          "lt_LT",
+          "hr_HR",
+          "bg_BG",
+          "ar_EG",
+          "he_IL",
+          "fa_IR",
+          "de_DE"}) {
+        for (const auto instant : {winter, summer}) {
+            for (const auto& each : database.zones(database.zonesByCountry())) {
+                const auto label = zoneLabel(each, instant, locale(language));
+                EXPECT_TRUE(std::ranges::none_of(label, [](QChar c) { return c.isDigit(); }))
+                    << language << ' ' << each.identifier().toStdString() << ' '
+                    << label.toStdString();
+            }
+        }
+    }
+    EXPECT_EQ(zoneLabel(zone("America/New_York"), winter, locale("fr_FR")), u"New York"_s);
+    EXPECT_EQ(zoneLabel(zone("Europe/Paris"), winter, locale("fr_FR")), u"Paris"_s);
+    EXPECT_EQ(zoneLabel(zone("America/New_York"), winter, locale("fr_CA")), u"HNE"_s);
+    EXPECT_EQ(zoneLabel(zone("Europe/Berlin"), winter, locale("de_DE")), u"MEZ"_s);
+    EXPECT_EQ(zoneLabel(ZoneDatabase::utc(), winter, locale("fr_FR")), u"UTC"_s);
+}
+
+TEST(ZoneLabel, EnglishLabelsAreThoseOfTheAbbreviation) {
+    const ZoneDatabase database;
+    const auto english = locale("en_US");
+    for (const auto& each : database.zones(database.zonesByCountry()))
+        EXPECT_EQ(
+            zoneLabel(each, winter, english),
+            zoneLabel(each.identifier(), zoneAbbreviation(each, winter, english)));
+}
+
+TEST(ZoneLabels, EqualOnesAddTheirCities) {
+    const auto labels = [](const QStringList& identifiers, const char* language) {
+        return zoneLabels(ZoneDatabase().zones(identifiers), winter, locale(language));
+    };
+    EXPECT_EQ(
+        labels({u"Europe/Paris"_s, u"Europe/London"_s, u"Europe/Berlin"_s}, "en_GB"),
+        (QStringList{u"CET Paris"_s, u"GMT"_s, u"CET Berlin"_s}));
+    EXPECT_EQ(
+        labels({u"UTC"_s, u"Etc/UTC"_s, u"Asia/Tokyo"_s}, "en_US"),
+        (QStringList{u"UTC"_s, u"UTC"_s, u"Tokyo"_s}));
+    EXPECT_EQ(labels({}, "en_US"), QStringList());
+}
+
+TEST(PlaceName, ZoneWhoseNameHasTheOppositeSignIsItsOffset) {
+    EXPECT_EQ(placeName(u"Etc/GMT+12"_s), u"UTC−12"_s);
+    EXPECT_EQ(placeName(u"Etc/GMT-14"_s), u"UTC+14"_s);
+    EXPECT_EQ(placeName(u"Etc/GMT+0"_s), u"GMT+0"_s);
+    EXPECT_EQ(placeName(u"America/Sao_Paulo"_s), u"Sao Paulo"_s);
+    for (const char* language : {"en_US", "fr_FR", "he_IL"})
+        EXPECT_EQ(zoneLabel(zone("Etc/GMT+12"), winter, locale(language)), u"UTC−12"_s);
+    EXPECT_EQ(zoneLabel(u"Etc/GMT+12"_s, std::nullopt), u"GMT+12"_s) << "the rule by itself";
+}
+
+TEST(PlaceAndOffset, AreBothSaidUnlessOneSaysTheOther) {
+    EXPECT_EQ(placeAndOffset(zone("America/Toronto"), winter), u"Toronto, UTC−5"_s);
+    EXPECT_EQ(placeAndOffset(zone("America/Toronto"), summer), u"Toronto, UTC−4"_s);
+    EXPECT_EQ(placeAndOffset(zone("Asia/Kathmandu"), winter), u"Kathmandu, UTC+5:45"_s);
+    EXPECT_EQ(placeAndOffset(zone("Etc/GMT+12"), winter), u"UTC−12"_s);
+    EXPECT_EQ(placeAndOffset(ZoneDatabase::utc(), winter), u"UTC"_s);
 }
 
 } // namespace

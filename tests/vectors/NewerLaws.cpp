@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <map>
 #include <optional>
 #include <vector>
@@ -55,6 +56,12 @@ std::optional<int> oracleSeconds(const QString& identifier, Instant now) {
 }
 
 } // namespace
+
+QString placeByOracle(const TimeZone& zone, Instant now) {
+    constexpr QChar minus(0x2212);
+    const auto hours = oracleSeconds(zone.identifier(), now).value_or(0) / 3600;
+    return (hours < 0 ? u"UTC"_s + minus : u"UTC+"_s) + QString::number(std::abs(hours));
+}
 
 bool hasNewerLaw(const QString& identifier) {
     return std::ranges::find(newerLaws, identifier, &NewerLaw::identifier) != newerLaws.end();

@@ -17,4 +17,7 @@ namespace quorvane {
 [[nodiscard]] QString
 confirmedAbbreviation(const TimeZone& zone, Instant now, const UserLocale& locale);
 
+/// "UTC−12": the whole hours that CPython's zoneinfo has for the zone at that instant.
+[[nodiscard]] QString placeByOracle(const TimeZone& zone, Instant now);
+
 } // namespace quorvane

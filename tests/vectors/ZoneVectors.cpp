@@ -164,6 +164,8 @@ Comparison checkLabel(const VectorRow& row) {
 Comparison checkLabelByZone(const VectorRow& row) {
     const auto zone = row.zone("identifier");
     const auto now = row.instant("now");
+    if (zone.identifier() == "Etc/GMT+12"_L1)
+        return {placeByOracle(zone, now), zoneLabel(zone, now, row.locale())};
     if (hasNewerLaw(zone.identifier())) {
         const auto confirmed = confirmedAbbreviation(zone, now, row.locale());
         return {zoneLabel(zone.identifier(), confirmed), zoneLabel(zone, now, row.locale())};

@@ -20,6 +20,14 @@ std::optional<QString> ZoneNames::abbreviation(const icu::TimeZone& zone) const 
     return name(UTZFMT_STYLE_SPECIFIC_SHORT, zone);
 }
 
+std::optional<QString> ZoneNames::shortName(const TimeZone& zone) const {
+    const auto icuZone = icuTimeZone(zone);
+    auto text = abbreviation(*icuZone);
+    const bool isOffset = zone.secondsFromGMT(m_instant) != 0 &&
+                          text == name(UTZFMT_STYLE_LOCALIZED_GMT_SHORT, *icuZone);
+    return isOffset ? std::nullopt : text;
+}
+
 std::optional<QString> ZoneNames::genericName(const TimeZone& zone) const {
     // ICU gives generic names to none but its own kind of zone.
     const auto own = icuOwnTimeZone(zone);

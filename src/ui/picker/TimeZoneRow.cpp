@@ -11,8 +11,8 @@ TimeZoneRow::TimeZoneRow(TimeZone zone, Instant now, UserLocale locale)
       m_locale(std::move(locale)) {
 }
 
-QString TimeZoneRow::city() const {
-    return cityName(m_zone.identifier());
+QString TimeZoneRow::place() const {
+    return placeName(m_zone.identifier());
 }
 
 std::optional<QString> TimeZoneRow::regionName() const {
@@ -25,6 +25,10 @@ QString TimeZoneRow::offsetString() const {
 
 QString TimeZoneRow::abbreviation() const {
     return zoneAbbreviation(m_zone, m_now, m_locale).value_or(QString());
+}
+
+std::optional<QString> TimeZoneRow::shortName() const {
+    return ZoneNames(m_now, m_locale).shortName(m_zone);
 }
 
 } // namespace quorvane

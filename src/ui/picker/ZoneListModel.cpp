@@ -73,7 +73,7 @@ QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {
     const auto row = rowOf(zone);
     switch (role) {
     case Qt::DisplayRole:
-        return row.city();
+        return row.place();
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return zone.identifier();

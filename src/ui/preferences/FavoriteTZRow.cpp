@@ -6,10 +6,8 @@ namespace quorvane {
 using namespace Qt::StringLiterals;
 
 std::optional<QString> FavoriteTZRow::abbreviation() const {
-    auto abbreviation = m_row.abbreviation();
-    if (abbreviation.isEmpty() || abbreviation.startsWith("GMT"_L1))
-        return std::nullopt;
-    return abbreviation;
+    const auto name = m_row.shortName();
+    return name && name->startsWith("GMT"_L1) ? std::nullopt : name;
 }
 
 QString FavoriteTZRow::description() const {

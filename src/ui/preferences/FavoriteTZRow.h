@@ -11,12 +11,13 @@ public:
     explicit FavoriteTZRow(TimeZoneRow row) : m_row(std::move(row)) {}
 
     /// "New York" of "America/New_York".
-    [[nodiscard]] QString label() const { return m_row.city(); }
+    [[nodiscard]] QString label() const { return m_row.place(); }
 
     /// "UTC-5".
     [[nodiscard]] QString offsetString() const { return m_row.offsetString(); }
 
-    /// None where the zone has none, or one that begins with "GMT": that says what the offset says.
+    /// None where the locale has no name for it, or one that begins with "GMT": that says what the
+    /// offset says.
     [[nodiscard]] std::optional<QString> abbreviation() const;
 
     /// Offset and abbreviation, as one reads them out.

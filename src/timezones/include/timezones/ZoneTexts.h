@@ -5,8 +5,10 @@
 #include <time/UserLocale.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
+#include <vector>
 
 namespace quorvane {
 
@@ -23,12 +25,25 @@ namespace quorvane {
 /// "New York" of "America/New_York"; an identifier of slashes alone is its own city.
 [[nodiscard]] QString cityName(const QString& identifier);
 
-/// The short name of a zone: its abbreviation, or its city where the abbreviation is missing or is
-/// no more than an offset ("GMT+9").
+/// What a list shows for the zone's place: its city, or "UTC−12" for Etc/GMT+12 and its like,
+/// whose sign means the opposite of what people read.
+[[nodiscard]] QString placeName(const QString& identifier);
+
+/// "Toronto, UTC−5": the place of a zone and its offset at an instant; the one alone where it
+/// says the other.
+[[nodiscard]] QString placeAndOffset(const TimeZone& zone, Instant instant);
+
+/// The abbreviation, or the city where that is missing or is no more than an offset ("GMT+9").
 [[nodiscard]] QString
 zoneLabel(const QString& identifier, const std::optional<QString>& abbreviation);
 
-/// As above, by the zone's abbreviation at an instant.
+/// The short name of a zone at an instant: its abbreviation, or its place where the locale has no
+/// other than the offset.
 [[nodiscard]] QString zoneLabel(const TimeZone& zone, Instant instant, const UserLocale& locale);
+
+/// The short names of zones that stand side by side. Two that would be the same get their places:
+/// "CET Paris", "CET Berlin".
+[[nodiscard]] QStringList
+zoneLabels(const std::vector<TimeZone>& zones, Instant instant, const UserLocale& locale);
 
 } // namespace quorvane

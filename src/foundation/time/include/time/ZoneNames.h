@@ -27,6 +27,10 @@ public:
     /// costs more than the name does.
     [[nodiscard]] std::optional<QString> abbreviation(const icu::TimeZone& zone) const;
 
+    /// The abbreviation if it is a name: none where it is no more than the offset in the locale's
+    /// own form, "GMT+9" or "UTC+9". That of no offset, "GMT" or "UTC", is a name.
+    [[nodiscard]] std::optional<QString> shortName(const TimeZone& zone) const;
+
     /// The text of the date pattern "vvvv", the same all year round: "Pacific Time". None for a
     /// zone that is newer than ICU's data.
     [[nodiscard]] std::optional<QString> genericName(const TimeZone& zone) const;

@@ -18,8 +18,8 @@ public:
 
     [[nodiscard]] const TimeZone& zone() const { return m_zone; }
 
-    /// "New York" of "America/New_York".
-    [[nodiscard]] QString city() const;
+    /// "New York" of "America/New_York"; see placeName().
+    [[nodiscard]] QString place() const;
 
     /// "America"; none for an identifier that is not divided.
     [[nodiscard]] std::optional<QString> regionName() const;
@@ -29,6 +29,9 @@ public:
 
     /// "EST"; "GMT-3" where the locale has no name.
     [[nodiscard]] QString abbreviation() const;
+
+    /// "EST"; none where the locale has no name.
+    [[nodiscard]] std::optional<QString> shortName() const;
 
 private:
     TimeZone m_zone;
