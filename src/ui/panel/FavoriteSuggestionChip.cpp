@@ -17,8 +17,7 @@ constexpr SymbolStyle markStyle{9, SymbolStyle::bold};
 
 FavoriteSuggestionChip::FavoriteSuggestionChip(
     const TimeZone& timeZone, const QString& label, std::function<void()> onAdd, QWidget* parent)
-    : ZoneChip(timeZone, label, std::move(onAdd), parent) {
-    setAccessibleDescription(tr("Add"));
+    : ZoneChip(timeZone, label, {tr("Add"), std::move(onAdd)}, parent) {
 }
 
 ContentRow FavoriteSuggestionChip::content(const Theme& theme) const {

@@ -4,6 +4,7 @@
 #include <controls/DevicePixels.h>
 #include <panel/TimeZoneChip.h>
 
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace quorvane {
@@ -30,9 +31,16 @@ double fillOpacity(PressableControl::VisualState state) {
 
 TimeZoneChip::TimeZoneChip(
     const TimeZone& timeZone, const QString& label, std::function<void()> onRemove, QWidget* parent)
-    : ZoneChip(timeZone, label, std::move(onRemove), parent) {
-    setToolTip(tr("Remove"));
-    setAccessibleDescription(tr("Remove"));
+    : ZoneChip(timeZone, label, {tr("Remove"), std::move(onRemove)}, parent) {
+}
+
+void TimeZoneChip::keyPressEvent(QKeyEvent* event) {
+    const bool removes = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (removes && modifiers == Qt::NoModifier && !event->isAutoRepeat())
+        click();
+    else
+        ZoneChip::keyPressEvent(event);
 }
 
 ContentRow TimeZoneChip::content(const Theme& theme) const {

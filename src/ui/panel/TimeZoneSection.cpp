@@ -67,19 +67,15 @@ void TimeZoneSection::layOutChips() {
         setTabOrder(before, chip);
         before = chip;
     }
+    m_focus.setChips(m_chips);
 }
 
 void TimeZoneSection::moveFocusFrom(const std::vector<ZoneChip*>& before) {
     const auto focused = std::ranges::find_if(before, [](auto* chip) { return chip->hasFocus(); });
-    const bool isGone = focused != before.end() && std::ranges::count(m_chips, *focused) == 0;
-    if (!isGone)
+    if (focused == before.end() || std::ranges::count(m_chips, *focused) > 0)
         return;
-    if (m_chips.empty()) {
-        m_add->setFocus(Qt::OtherFocusReason);
-        return;
-    }
-    const auto place = std::min(focused - before.begin(), std::ssize(m_chips) - 1);
-    m_chips[static_cast<std::size_t>(place)]->setFocus(Qt::OtherFocusReason);
+    QWidget* heir = m_focus.stop();
+    (heir != nullptr ? heir : m_add)->setFocus(Qt::OtherFocusReason);
 }
 
 void TimeZoneSection::showTimeZonePicker() {
@@ -102,9 +98,11 @@ bool TimeZoneSection::isPicking() const {
 }
 
 std::vector<TimeZoneSection::Slot> TimeZoneSection::slotsOfModel() const {
+    const auto zones = m_model.timeZoneSlots();
+    const auto labels = zoneLabels(zones, m_dependencies.clock.now(), m_dependencies.locale);
     std::vector<Slot> slots;
-    for (const auto& zone : m_model.timeZoneSlots())
-        slots.push_back({zone, isSelected(zone)});
+    for (const auto& zone : zones)
+        slots.push_back({zone, labels[std::ssize(slots)], isSelected(zone)});
     return slots;
 }
 
@@ -116,22 +114,24 @@ ZoneChip* TimeZoneSection::takeOrMakeChip(const Slot& slot) {
     const auto found = std::ranges::find_if(m_chips, [&](const auto* chip) {
         return chip->timeZone() == slot.zone && isChipOfSelected(chip) == slot.isSelected;
     });
+    ZoneChip* chip = nullptr;
     if (found != m_chips.end()) {
-        auto* chip = *found;
+        chip = *found;
         m_chips.erase(found);
-        chip->setLabel(shortName(slot.zone));
-        return chip;
+    } else {
+        chip = makeChip(slot);
     }
+    chip->setTexts(slot.label, placeAndOffset(slot.zone, m_dependencies.clock.now()));
+    return chip;
+}
+
+ZoneChip* TimeZoneSection::makeChip(const Slot& slot) {
     const auto zone = slot.zone;
     if (slot.isSelected)
         return new TimeZoneChip(
-            zone, shortName(zone), [this, zone] { remove(zone); }, this);
+            zone, slot.label, [this, zone] { remove(zone); }, this);
     return new FavoriteSuggestionChip(
-        zone, shortName(zone), [this, zone] { add(zone); }, this);
-}
-
-QString TimeZoneSection::shortName(const TimeZone& zone) const {
-    return zoneLabel(zone, m_dependencies.clock.now(), m_dependencies.locale);
+        zone, slot.label, [this, zone] { add(zone); }, this);
 }
 
 void TimeZoneSection::add(const TimeZone& zone) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Section.h"
+#include "ZoneChipFocus.h"
 
 #include <controls/FlowLayout.h>
 #include <model/DateTimeModel.h>
@@ -42,6 +43,7 @@ private:
     /// What a chip shows.
     struct Slot {
         TimeZone zone;
+        QString label;
         bool isSelected;
     };
 
@@ -52,7 +54,7 @@ private:
     /// adds a zone.
     void moveFocusFrom(const std::vector<ZoneChip*>& before);
     [[nodiscard]] ZoneChip* takeOrMakeChip(const Slot& slot);
-    [[nodiscard]] QString shortName(const TimeZone& zone) const;
+    [[nodiscard]] ZoneChip* makeChip(const Slot& slot);
     void add(const TimeZone& zone);
     void remove(const TimeZone& zone);
 
@@ -61,6 +63,7 @@ private:
     IconButton* m_add;
     FlowLayout* m_flow;
     std::vector<ZoneChip*> m_chips;
+    ZoneChipFocus m_focus;
     QPointer<Sheet> m_picker;
 };
 

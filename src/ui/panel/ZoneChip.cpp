@@ -7,16 +7,24 @@
 
 namespace quorvane {
 
-ZoneChip::ZoneChip(
-    const TimeZone& timeZone, const QString& label, std::function<void()> onPress, QWidget* parent)
+ZoneChip::ZoneChip(const TimeZone& timeZone, const QString& label, Press press, QWidget* parent)
     : PressableControl(parent),
-      m_timeZone(timeZone) {
+      m_timeZone(timeZone),
+      m_pressName(std::move(press.name)) {
     setText(label);
+    setToolTip(m_pressName);
+    setAccessibleDescription(m_pressName);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(this, &ZoneChip::clicked, this, std::move(onPress));
+    connect(this, &ZoneChip::clicked, this, std::move(press.run));
 }
 
-void ZoneChip::setLabel(const QString& label) {
+void ZoneChip::setTexts(const QString& label, const QString& place) {
+    //: The place and offset of a time zone, then what a click does: "Toronto, UTC−5. Remove"
+    const auto description = tr("%1. %2").arg(place, m_pressName);
+    if (toolTip() != description) {
+        setToolTip(description);
+        setAccessibleDescription(description);
+    }
     setText(label);
     updateGeometry();
 }

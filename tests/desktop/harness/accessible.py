@@ -94,9 +94,9 @@ class Accessible:
         )
 
     def find_described(self, role: str, description: str) -> "Accessible":
-        """The showing object of a role and a description; waits until there is one."""
+        """The showing object of a role whose description ends so; waits until there is one."""
         return self._await(
-            lambda found: found.role == role and found.description == description,
+            lambda found: found.role == role and found.description.endswith(description),
             f'a {role} described as "{description}"',
         )
 

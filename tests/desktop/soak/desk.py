@@ -151,7 +151,7 @@ class Desk:
 
     def _suggestions(self) -> list[str]:
         showing = self.quorvane.tree().showing()
-        names = [item.name for item in showing if item.description == "Add"]
+        names = [item.name for item in showing if item.description.endswith("Add")]
         return names if len(names) == len(_ZONES) else []
 
     def _chip(self, name: str) -> Accessible | None:

@@ -78,7 +78,7 @@ protected:
 
     [[nodiscard]] QWidget* described(const QString& description) const {
         for (auto* control : view.findChildren<PressableControl*>()) {
-            if (control->isVisible() && control->accessibleDescription() == description)
+            if (control->isVisible() && control->accessibleDescription().endsWith(description))
                 return control;
         }
         return nullptr;

@@ -46,19 +46,37 @@ TEST_F(ZoneChipTest, PressAnywhereAddsOnce) {
     EXPECT_EQ(removed, 0);
 }
 
-TEST_F(ZoneChipTest, SaysWhatAPressDoes) {
-    EXPECT_EQ(chosen.toolTip(), u"Remove"_s);
-    EXPECT_EQ(accessible(chosen).text(QAccessible::Name), u"Ho Chi Minh"_s);
-    EXPECT_EQ(accessible(chosen).text(QAccessible::Description), u"Remove"_s);
-    EXPECT_EQ(accessible(suggested).text(QAccessible::Name), u"PST"_s);
-    EXPECT_EQ(accessible(suggested).text(QAccessible::Description), u"Add"_s);
+TEST_F(ZoneChipTest, DeleteAndBackspaceRemoveAndNeverAdd) {
+    for (const auto key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+        removed = 0;
+        QTest::keyClick(&chosen, key);
+        EXPECT_EQ(removed, 1);
+        QTest::keyClick(&chosen, key, Qt::ControlModifier);
+        EXPECT_EQ(removed, 1);
+        QTest::keyClick(&suggested, key);
+        EXPECT_EQ(added, 0);
+    }
 }
 
-TEST_F(ZoneChipTest, FollowsItsLabel) {
+TEST_F(ZoneChipTest, SaysWhereItIsAndWhatAPressDoes) {
+    chosen.setTexts(u"ICT"_s, u"Ho Chi Minh, UTC+7"_s);
+    suggested.setTexts(u"PST"_s, u"Los Angeles, UTC−8"_s);
+    EXPECT_EQ(accessible(chosen).text(QAccessible::Name), u"ICT"_s);
+    EXPECT_EQ(accessible(suggested).text(QAccessible::Name), u"PST"_s);
+    const auto expectDescription = [](QWidget& chip, const QString& text) {
+        EXPECT_EQ(chip.toolTip(), text);
+        EXPECT_EQ(accessible(chip).text(QAccessible::Description), text);
+    };
+    expectDescription(chosen, u"Ho Chi Minh, UTC+7. Remove"_s);
+    expectDescription(suggested, u"Los Angeles, UTC−8. Add"_s);
+}
+
+TEST_F(ZoneChipTest, FollowsItsTexts) {
     const int width = suggested.sizeHint().width();
-    suggested.setLabel(u"America"_s);
+    suggested.setTexts(u"America"_s, u"Los Angeles, UTC−7"_s);
     EXPECT_GT(suggested.sizeHint().width(), width);
     EXPECT_EQ(accessible(suggested).text(QAccessible::Name), u"America"_s);
+    EXPECT_EQ(suggested.toolTip(), u"Los Angeles, UTC−7. Add"_s);
 }
 
 TEST_F(ZoneChipTest, RightToLeftChangesItsPictureAndNotItsSize) {

@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-/// A selected time zone; pressing it anywhere removes it.
+/// A selected time zone; pressing it anywhere removes it, as do Delete and Backspace.
 class TimeZoneChip final : public ZoneChip {
     Q_OBJECT
 
@@ -18,6 +18,7 @@ public:
 
 protected:
     [[nodiscard]] ContentRow content(const Theme& theme) const override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintControl(QPainter& painter, const Theme& theme) override;
 };
 

@@ -14,26 +14,29 @@ class ZoneChip : public PressableControl {
     Q_OBJECT
 
 public:
-    /// `label` names the zone shortly (see timezones/ZoneTexts.h); it changes with the seasons.
-    ZoneChip(
-        const TimeZone& timeZone,
-        const QString& label,
-        std::function<void()> onPress,
-        QWidget* parent);
-
     [[nodiscard]] const TimeZone& timeZone() const { return m_timeZone; }
 
-    void setLabel(const QString& label);
+    /// What names the zone shortly, and its place and offset in full, which tooltip and description
+    /// say (see timezones/ZoneTexts.h). Both change with the seasons.
+    void setTexts(const QString& label, const QString& place);
 
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    struct Press {
+        QString name; ///< what it does, as one reads it
+        std::function<void()> run;
+    };
+
+    ZoneChip(const TimeZone& timeZone, const QString& label, Press press, QWidget* parent);
+
     [[nodiscard]] double cornerRadius() const override;
     [[nodiscard]] virtual ContentRow content(const Theme& theme) const = 0;
     [[nodiscard]] QFont labelFont() const;
 
 private:
     TimeZone m_timeZone;
+    QString m_pressName;
 };
 
 } // namespace quorvane
