@@ -122,8 +122,9 @@ void AppDelegate::performCopy() {
 
 void AppDelegate::showPreferences() {
     m_shortcut.retry();
+    const auto device = m_presentation.lastInput();
     m_presentation.hide();
-    m_preferences.showWindow();
+    m_preferences.showWindow(device);
 }
 
 void AppDelegate::checkForUpdates() {

@@ -56,8 +56,8 @@ public:
     /// Start-up, once the main loop runs: shows the interface and arms the shortcut.
     void applicationDidFinishLaunching();
 
-    /// Shows the interface, or hides it; what the shortcut does.
-    void togglePresentation() { m_presentation.toggle(); }
+    /// Shows the interface, or hides it; what the shortcut does, and a key that the desktop binds.
+    void togglePresentation() { m_presentation.toggle(InputDevice::Keyboard); }
 
     /// Shows the interface, also when it is shown already: the user opened the program again.
     void surfaceMainUIForReopen();

@@ -2,6 +2,7 @@
 #include "PanelPresentation.h"
 
 #include <app/Panel.h>
+#include <controls/FocusRing.h>
 
 #include <QWindow>
 
@@ -35,8 +36,10 @@ void PanelPresentation::setupPanel() {
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-void PanelPresentation::show() {
+void PanelPresentation::show(InputDevice device) {
     setupPanel();
+    if (!m_panel->isVisible())
+        FocusRing::of(*m_panel)->setLastInput(device);
     m_frame->moveOntoScreen();
     m_panel->winId();
     auto& traits = m_dependencies.windowTraits;

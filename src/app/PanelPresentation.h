@@ -4,6 +4,7 @@
 #include "InterfaceCallbacks.h"
 #include "PanelFrame.h"
 
+#include <controls/InputDevice.h>
 #include <loop/MainQueue.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
@@ -36,7 +37,7 @@ public:
     PanelPresentation(const PanelPresentation&) = delete;
     PanelPresentation& operator=(const PanelPresentation&) = delete;
 
-    void show();
+    void show(InputDevice device);
     void hide();
 
     /// Destroys the window; its frame is kept.

@@ -4,6 +4,8 @@
 #include "StatusPopover.h"
 #include "TrayIcon.h"
 
+#include <controls/FocusRing.h>
+
 #include <utility>
 
 namespace quorvane {
@@ -42,8 +44,10 @@ void PopoverPresentation::setupPopover() {
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-void PopoverPresentation::show() {
+void PopoverPresentation::show(InputDevice device) {
     setupPopover();
+    if (!m_popover->isVisible())
+        FocusRing::of(*m_popover)->setLastInput(device);
     if (m_dependencies.trayIcon.hasButton())
         m_popover->showAt(m_anchor.place(m_dependencies.trayIcon.frame()));
 }

@@ -4,6 +4,7 @@
 #include "InterfaceCallbacks.h"
 #include "PopoverAnchor.h"
 
+#include <controls/InputDevice.h>
 #include <loop/Deadline.h>
 #include <loop/MainQueue.h>
 #include <platform/WindowTraits.h>
@@ -38,7 +39,7 @@ public:
     PopoverPresentation& operator=(const PopoverPresentation&) = delete;
 
     /// Shows nothing while the desktop has no place for the icon.
-    void show();
+    void show(InputDevice device);
     void close();
 
     /// Destroys the window.

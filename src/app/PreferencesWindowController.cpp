@@ -5,6 +5,8 @@
 #include "PreferencesWindow.h"
 #include "Screens.h"
 
+#include <controls/FocusRing.h>
+
 #include <QScreen>
 #include <QWindow>
 
@@ -20,8 +22,10 @@ PreferencesWindowController::PreferencesWindowController(
 
 PreferencesWindowController::~PreferencesWindowController() = default;
 
-void PreferencesWindowController::showWindow() {
+void PreferencesWindowController::showWindow(InputDevice device) {
     setupWindow();
+    if (!m_window->isVisible())
+        FocusRing::of(*m_window)->setLastInput(device);
     m_window->show();
     m_dependencies.windowTraits.activate(*m_window->windowHandle());
 }

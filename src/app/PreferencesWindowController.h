@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/InputDevice.h>
 #include <controls/PasteReader.h>
 #include <model/DateTimeModel.h>
 #include <platform/WindowTraits.h>
@@ -45,8 +46,8 @@ public:
     PreferencesWindowController(const PreferencesWindowController&) = delete;
     PreferencesWindowController& operator=(const PreferencesWindowController&) = delete;
 
-    /// Shows the window and gives it the focus.
-    void showWindow();
+    /// Shows the window and gives it the focus; opened by keyboard it shows where that is.
+    void showWindow(InputDevice device);
 
     /// Shows the contents anew, for changes that the model does not announce.
     void refreshSoon();

@@ -4,6 +4,8 @@
 #include "PreviousFrontmostApp.h"
 #include "TrayIcon.h"
 
+#include <controls/FocusRing.h>
+
 #include <QCursor>
 
 #include <utility>
@@ -36,13 +38,13 @@ PresentationMode Presentation::effectivePresentationMode() const {
     return m_model.presentationMode();
 }
 
-void Presentation::toggle() {
+void Presentation::toggle(InputDevice device) {
     if (isShown()) {
         hide();
         return;
     }
     m_previousFrontmostApp.remember();
-    present();
+    present(device);
 }
 
 void Presentation::surface() {
@@ -52,10 +54,10 @@ void Presentation::surface() {
     present();
 }
 
-void Presentation::present() {
+void Presentation::present(InputDevice device) {
     if (!isShown())
         appear();
-    showWindow();
+    showWindow(device);
 }
 
 /// Before anything is painted: what was hidden would show the moment at which it was.
@@ -67,15 +69,15 @@ void Presentation::appear() {
     }
 }
 
-void Presentation::showWindow() {
+void Presentation::showWindow(InputDevice device) {
     prepareViews();
     // The other one may show: the tray has come or gone since.
     if (effectivePresentationMode() == PresentationMode::Window) {
         m_popover.close();
-        m_panel.show();
+        m_panel.show(device);
     } else {
         m_panel.hide();
-        m_popover.show();
+        m_popover.show(device);
     }
 }
 
@@ -88,19 +90,20 @@ void Presentation::handleIconClick() {
     if (m_popover.takeDismissingClick())
         return;
     m_popover.anchor().noteClick(QCursor::pos());
-    toggle();
+    toggle(InputDevice::Pointer);
     m_popover.anchor().clickHandled();
 }
 
 void Presentation::handlePresentationModeChange(PresentationMode mode) {
     const bool wasShown = isShown();
+    const auto device = lastInput();
     hide();
     if (mode == PresentationMode::Popover)
         m_panel.discard();
     else
         m_popover.discard();
     if (wasShown)
-        showWindow();
+        showWindow(device);
 }
 
 void Presentation::refreshSoon() {
@@ -121,6 +124,14 @@ void Presentation::frontmostDidChange() {
         return;
     rememberTarget();
     prepareViews();
+}
+
+InputDevice Presentation::lastInput() const {
+    for (const auto* view : {m_panel.view(), m_popover.view()}) {
+        if (view != nullptr && view->isVisible())
+            return FocusRing::lastInput(*view->window());
+    }
+    return InputDevice::Pointer;
 }
 
 void Presentation::setNotice(const QString& text) {

@@ -5,6 +5,7 @@
 #include "PanelPresentation.h"
 #include "PopoverPresentation.h"
 
+#include <controls/InputDevice.h>
 #include <model/DateTimeModel.h>
 
 namespace quorvane {
@@ -28,14 +29,15 @@ public:
 
     Presentation(Dependencies dependencies, const InterfaceCallbacks& callbacks);
 
-    /// Hides the interface, or shows it and remembers what was in front.
-    void toggle();
+    /// Hides the interface, or shows it and remembers what was in front. What opens the interface
+    /// decides whether one sees at once where the keyboard is.
+    void toggle(InputDevice device);
 
     /// Shows the interface, also when it is shown already, which keeps what is remembered.
     void surface();
 
     /// Shows the interface and remembers nothing. What was hidden shows this moment.
-    void present();
+    void present(InputDevice device = InputDevice::Pointer);
 
     void hide();
 
@@ -56,6 +58,9 @@ public:
     /// Another application may be in front: what is shown names it.
     void frontmostDidChange();
 
+    /// What the user has worked with last in the interface, if it is shown.
+    [[nodiscard]] InputDevice lastInput() const;
+
     /// A caption at the preview; empty for none.
     void setNotice(const QString& text);
 
@@ -70,7 +75,7 @@ public:
 
 private:
     void appear();
-    void showWindow();
+    void showWindow(InputDevice device);
     [[nodiscard]] InterfaceCallbacks preparing(InterfaceCallbacks callbacks);
     void prepare(PopoverView& view) const;
     void prepareViews() const;

@@ -34,6 +34,20 @@ TEST_F(PreferencesWindowControllerTest, HidesPanelAndPopover) {
     }
 }
 
+TEST_F(PreferencesWindowControllerTest, ShowsTheFocusAtOnceWhenOpenedByKeyboard) {
+    launchAs(PresentationMode::Window);
+    ASSERT_FALSE(showsFocus(panel()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Comma, Qt::ControlModifier);
+    ASSERT_TRUE(isShown(preferences()));
+    EXPECT_TRUE(showsFocus(preferences()));
+}
+
+TEST_F(PreferencesWindowControllerTest, DoesNotShowTheFocusWhenOpenedFromTheIconsMenu) {
+    launchAs(PresentationMode::Window);
+    delegate->showPreferences();
+    EXPECT_FALSE(showsFocus(preferences()));
+}
+
 TEST_F(PreferencesWindowControllerTest, CannotBeMinimised) {
     launchAs(PresentationMode::Window);
     delegate->showPreferences();

@@ -3,7 +3,10 @@
 
 #include "DelegateFixture.h"
 
+#include <controls/FocusRing.h>
 #include <settings/SettingsTable.h>
+
+#include <QTest>
 
 namespace quorvane {
 
@@ -29,6 +32,13 @@ protected:
     void setMode(PresentationMode mode) {
         delegate->model().setPresentationMode(mode);
         queue.run();
+    }
+
+    /// Whether the window, which gets the focus now, shows where in it that is.
+    [[nodiscard]] static bool showsFocus(QWidget* window) {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        return FocusRing::of(*window)->isVisible();
     }
 
     void clickIcon() {

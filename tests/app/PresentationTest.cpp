@@ -54,6 +54,25 @@ TEST_F(PresentationTest, WithoutABarThePopoverFallsBackToThePanel) {
     EXPECT_EQ(delegate->effectivePresentationMode(), PresentationMode::Popover);
 }
 
+TEST_F(PresentationTest, ShowsTheFocusAtOnceWhenOpenedByKeyboard) {
+    for (const auto mode : {PresentationMode::Window, PresentationMode::Popover}) {
+        launchAs(mode);
+        const auto window = [&] {
+            return mode == PresentationMode::Window ? panel() : popover();
+        };
+        EXPECT_FALSE(showsFocus(window()));
+        pressShortcut();
+        pressShortcut();
+        EXPECT_TRUE(showsFocus(window()));
+        clickIcon();
+        clickIcon();
+        EXPECT_FALSE(showsFocus(window()));
+        delegate->performAction(u"toggle"_s);
+        delegate->performAction(u"toggle"_s);
+        EXPECT_TRUE(showsFocus(window()));
+    }
+}
+
 TEST_F(PresentationTest, IconAndShortcutToggleThePopover) {
     launchAs(PresentationMode::Popover);
     clickIcon();

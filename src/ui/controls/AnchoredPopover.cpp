@@ -31,7 +31,7 @@ AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const Popove
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(content);
     setFocusProxy(content->focusProxy() != nullptr ? content->focusProxy() : content);
-    new FocusRing(this);
+    (new FocusRing(this))->setLastInput(FocusRing::lastInput(*anchor->window()));
     anchor->window()->installEventFilter(this);
 }
 
@@ -87,8 +87,14 @@ void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
 void AnchoredPopover::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
     if (m_anchor && m_anchor->window()->isVisible())
-        m_anchor->setFocus(Qt::PopupFocusReason);
+        giveFocusBack();
     Q_EMIT closed();
+}
+
+void AnchoredPopover::giveFocusBack() {
+    if (auto* ring = FocusRing::of(*m_anchor->window()))
+        ring->setLastInput(FocusRing::lastInput(*this));
+    m_anchor->setFocus(Qt::PopupFocusReason);
 }
 
 QRect AnchoredPopover::surface() const {

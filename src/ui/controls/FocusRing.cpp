@@ -7,6 +7,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace quorvane {
@@ -36,6 +37,48 @@ bool isByKeyboard(Qt::FocusReason reason) {
            reason == Qt::ShortcutFocusReason;
 }
 
+bool isModifier(int key) {
+    switch (key) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether the key moves the focus, or acts on what has it.
+bool isNavigation(const QKeyEvent& event) {
+    constexpr auto allowed = Qt::ShiftModifier | Qt::KeypadModifier;
+    if ((event.modifiers() & ~allowed) != Qt::NoModifier)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 FocusRing::FocusRing(QWidget* window) : QWidget(window), m_window(window) {
@@ -45,6 +88,21 @@ FocusRing::FocusRing(QWidget* window) : QWidget(window), m_window(window) {
     hide();
     // Only the widget that gets the focus is told the reason.
     qApp->installEventFilter(this);
+}
+
+FocusRing* FocusRing::of(const QWidget& window) {
+    return window.findChild<FocusRing*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+InputDevice FocusRing::lastInput(const QWidget& window) {
+    const auto* ring = of(window);
+    return ring != nullptr ? ring->m_lastInput : InputDevice::Pointer;
+}
+
+void FocusRing::setLastInput(InputDevice device) {
+    m_lastInput = device;
+    m_keyboardMoves = device == InputDevice::Keyboard;
+    surroundFocused();
 }
 
 void FocusRing::surround(QWidget* target) {
@@ -57,6 +115,13 @@ void FocusRing::surround(QWidget* target) {
 
 bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
+    // A key that belongs to a shortcut comes as no press.
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::MouseButtonPress:
+        if (auto* widget = qobject_cast<QWidget*>(watched); widget && widget->window() == m_window)
+            noteInput(*event);
+        break;
     case QEvent::FocusIn:
         if (auto* widget = qobject_cast<QWidget*>(watched); widget && widget->window() == m_window)
             noteFocus(widget, static_cast<QFocusEvent*>(event)->reason());
@@ -78,6 +143,28 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     return false;
+}
+
+void FocusRing::noteInput(const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) {
+        m_lastInput = InputDevice::Pointer;
+        return;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (isModifier(key.key()))
+        return;
+    m_lastInput = InputDevice::Keyboard;
+    if (event.type() != QEvent::KeyPress || !isNavigation(key) || m_keyboardMoves)
+        return;
+    m_keyboardMoves = true;
+    surroundFocused();
+}
+
+/// For a widget that has the focus already, and so will not be told of it.
+void FocusRing::surroundFocused() {
+    auto* focused = m_window->focusWidget();
+    const bool isFocused = focused != nullptr && focused->hasFocus();
+    surround(m_keyboardMoves && isFocused ? focused : nullptr);
 }
 
 void FocusRing::noteFocus(QWidget* widget, Qt::FocusReason reason) {

@@ -56,7 +56,7 @@ void CalendarPicker::keyPressEvent(QKeyEvent* event) {
     }
     showCursor(*day);
     mark();
-    m_grid->dayAt(m_cursor)->setFocus(Qt::TabFocusReason);
+    m_grid->dayAt(m_cursor)->setFocus(Qt::OtherFocusReason);
 }
 
 void CalendarPicker::changeEvent(QEvent* event) {

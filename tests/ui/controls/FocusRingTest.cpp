@@ -44,6 +44,68 @@ TEST_F(FocusRingTest, ShowsForTheKeyboardsFocusAndNotForThePointers) {
     EXPECT_FALSE(ring.isVisible());
 }
 
+TEST_F(FocusRingTest, ShowsFromTheFirstKeyThatMovesOrPresses) {
+    for (const auto key :
+         {Qt::Key_Tab,
+          Qt::Key_Left,
+          Qt::Key_Right,
+          Qt::Key_Up,
+          Qt::Key_Down,
+          Qt::Key_Home,
+          Qt::Key_End,
+          Qt::Key_PageUp,
+          Qt::Key_PageDown,
+          Qt::Key_Space,
+          Qt::Key_Return,
+          Qt::Key_Enter}) {
+        ring.setLastInput(InputDevice::Pointer);
+        second->setFocus(Qt::OtherFocusReason);
+        ASSERT_FALSE(ring.isVisible());
+        QTest::keyClick(second, key);
+        ASSERT_TRUE(ring.isVisible()) << key;
+        EXPECT_EQ(ring.geometry(), around(*QApplication::focusWidget())) << key;
+    }
+}
+
+TEST_F(FocusRingTest, StaysHiddenForOtherKeys) {
+    first->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(first, Qt::Key_Shift);
+    QTest::keyClick(first, Qt::Key_X);
+    QTest::keyClick(first, Qt::Key_Home, Qt::AltModifier);
+    QTest::keyClick(first, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(ring.isVisible());
+}
+
+TEST_F(FocusRingTest, FollowsWhatTheProgramFocusesForAKey) {
+    first->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(first, Qt::Key_Down);
+    second->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(ring.geometry(), around(*second));
+}
+
+TEST_F(FocusRingTest, ShowsAtOnceInAWindowThatIsOpenedByKeyboard) {
+    for (const auto device : {InputDevice::Pointer, InputDevice::Keyboard}) {
+        ControlWindow opened;
+        const auto& button = opened.add(new TextButton(u"Only"_s));
+        FocusRing openedRing(&opened);
+        openedRing.setLastInput(device);
+        ASSERT_TRUE(opened.open());
+        ASSERT_TRUE(button.hasFocus());
+        EXPECT_EQ(openedRing.isVisible(), device == InputDevice::Keyboard);
+    }
+}
+
+TEST_F(FocusRingTest, KnowsWhatTheWindowWasWorkedWithLast) {
+    EXPECT_EQ(FocusRing::lastInput(window), InputDevice::Pointer);
+    QTest::keyClick(first, Qt::Key_Control);
+    EXPECT_EQ(FocusRing::lastInput(window), InputDevice::Pointer);
+    QTest::keyClick(first, Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(FocusRing::lastInput(window), InputDevice::Keyboard);
+    QTest::mouseClick(second, Qt::LeftButton);
+    EXPECT_EQ(FocusRing::lastInput(window), InputDevice::Pointer);
+    EXPECT_EQ(FocusRing::lastInput(group), InputDevice::Pointer);
+}
+
 TEST_F(FocusRingTest, FollowsItsTargetAndWhatThatStandsIn) {
     first->setFocus(Qt::TabFocusReason);
     first->move(100, 90);

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "EntryFixture.h"
 
+#include <controls/FocusRing.h>
 #include <entry/CalendarPicker.h>
 #include <entry/DateField.h>
 
 #include <QLabel>
 
+#include <functional>
 #include <memory>
 
 namespace quorvane {
@@ -20,13 +22,28 @@ protected:
     std::unique_ptr<DateField> chip;
 
     void open(const char* locale = "en_US") {
+        open([this] { clickOn(*chip); }, locale);
+    }
+
+    void open(const std::function<void()>& opening, const char* locale = "en_US") {
         chip = std::make_unique<DateField>(
             binding(), [this] { return minimum; }, dependencies(locale), &window);
         chip->move(20, 20);
         chip->show();
         showWindow();
-        clickOn(*chip);
+        opening();
         ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    }
+
+    /// Whether the ring is drawn above and below the day's disc.
+    bool hasRing(const QString& text) {
+        auto* popover = QApplication::activePopupWidget();
+        const auto image = popover->grab().toImage();
+        const auto cell = QRect(day(text).mapTo(popover, QPoint()), day(text).size());
+        const auto ring = Theme::of(popover->palette()).accentText.rgb();
+        // The disc ends two points within the cell; the ring is two wide, one away from it.
+        return image.pixel(cell.center().x(), cell.top()) == ring &&
+               image.pixel(cell.center().x(), cell.bottom()) == ring;
     }
 
     QAbstractButton& day(const QString& text) { return button(text); }
@@ -144,6 +161,28 @@ TEST_F(CalendarPickerTest, ArrowKeysWalkAcrossTheEdgesOfMonths) {
     press(Qt::Key_Down);
     EXPECT_EQ(focused(), u"Friday, March 8, 2024"_s);
     EXPECT_TRUE(writes.empty());
+}
+
+TEST_F(CalendarPickerTest, CursorShowsAtOnceWhenOpenedByKeyboard) {
+    const FocusRing ring(&window);
+    open([this] {
+        chip->setFocus(Qt::MouseFocusReason);
+        press(Qt::Key_Space);
+    });
+    EXPECT_TRUE(hasRing(u"Saturday, March 9, 2024"_s));
+    press(Qt::Key_Left);
+    EXPECT_TRUE(hasRing(u"Friday, March 8, 2024"_s));
+    EXPECT_FALSE(hasRing(u"Saturday, March 9, 2024"_s));
+}
+
+TEST_F(CalendarPickerTest, CursorShowsFromTheFirstArrowWhenOpenedByTheMouse) {
+    const FocusRing ring(&window);
+    open();
+    EXPECT_FALSE(hasRing(u"Saturday, March 9, 2024"_s));
+    press(Qt::Key_Down);
+    EXPECT_TRUE(hasRing(u"Saturday, March 16, 2024"_s));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(ring.isVisible());
 }
 
 TEST_F(CalendarPickerTest, PageKeysWalkByMonthsAndHomeAndEndAlongTheWeek) {

@@ -44,6 +44,7 @@ private:
     [[nodiscard]] QRect surface() const;
     [[nodiscard]] QRect anchorRect() const;
     void place();
+    void giveFocusBack();
 
     QPointer<QWidget> m_anchor;
     QWidget* m_content;
