@@ -170,7 +170,8 @@ void StatesBoard::addButtons() {
 void StatesBoard::addKeyCaps() {
     addRow(u"key caps"_s, [](State) { return nullptr; });
     int left = columnStart(0);
-    for (const auto& label : {u"⌃"_s, u"⌥"_s, u"⇧"_s, u"⌘"_s, u"D"_s}) {
+    for (const auto& label :
+         {u"Ctrl"_s, u"Alt"_s, u"Shift"_s, u"Super"_s, u"D"_s, u"←"_s, u"↑"_s, u"…"_s}) {
         auto* cap = new KeyCap(label, this);
         const auto size = cap->sizeHint();
         cap->setGeometry(QRect(QPoint(left, rowCenter() - size.height() / 2), size));

@@ -18,7 +18,7 @@ struct ModifierRow {
     QStringView glyph;
 };
 
-// In the order in which key caps are shown.
+// In the order of displayKeys().
 constexpr std::array modifierTable{
     ModifierRow{modifier::control, combomodifier::control, u"⌃"},
     ModifierRow{modifier::option, combomodifier::option, u"⌥"},
@@ -74,15 +74,6 @@ std::optional<ModifierFlags> toModifierFlags(std::uint32_t modifiers) {
     return flags;
 }
 
-QStringList modifierGlyphs(std::uint32_t modifiers) {
-    QStringList glyphs;
-    for (const auto& row : modifierTable) {
-        if ((modifiers & row.modifier) != 0)
-            glyphs.append(row.glyph.toString());
-    }
-    return glyphs;
-}
-
 HotKeyCombo HotKeyCombo::load(const DefaultsStore& store) {
     const auto keyCode = setting::hotKeyCode.storedIn(store);
     if (!keyCode)
@@ -113,7 +104,11 @@ HotKeyCombo::Decoded HotKeyCombo::decode(const QJsonObject& coded) {
 }
 
 QStringList HotKeyCombo::displayKeys(const KeyboardLayout& layout) const {
-    auto labels = modifierGlyphs(modifiers);
+    QStringList labels;
+    for (const auto& row : modifierTable) {
+        if ((modifiers & row.modifier) != 0)
+            labels.append(row.glyph.toString());
+    }
     labels.append(keyChar(layout));
     return labels;
 }

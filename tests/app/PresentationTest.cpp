@@ -212,11 +212,12 @@ TEST_F(PresentationTest, ModeChangeWhileHiddenShowsNothingAndDiscardsTheOldOne) 
 
 TEST_F(PresentationTest, SwitchInTheHeaderLeadsToTheOtherMode) {
     launchAs(PresentationMode::Window);
-    auto* toPopover = widgetByRole(*panel(), QAccessible::Button, u"Move to menu bar"_s);
+    auto* toPopover =
+        widgetByRole(*panel(), QAccessible::Button, u"Open as popover at the tray icon"_s);
     qobject_cast<QAbstractButton*>(toPopover)->click();
     queue.run();
     ASSERT_TRUE(isShown(popover()));
-    auto* toPanel = widgetByRole(*popover(), QAccessible::Button, u"Detach as window"_s);
+    auto* toPanel = widgetByRole(*popover(), QAccessible::Button, u"Open as panel"_s);
     qobject_cast<QAbstractButton*>(toPanel)->click();
     queue.run();
     EXPECT_TRUE(isShown(panel()));

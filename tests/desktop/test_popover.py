@@ -89,17 +89,17 @@ class Popover(DesktopCase):
         self.wait_no_popover()
 
     def test_the_header_leads_to_the_panel_and_back(self) -> None:
-        self.mouse.click(self.quorvane.tree().find_role("push button", "Detach as window"))
+        self.mouse.click(self.quorvane.tree().find_role("push button", "Open as panel"))
         self.quorvane.wait_active()
         self.assertIsNone(self.session.windows.menu())
-        self.mouse.click(self.quorvane.tree().find_role("push button", "Move to menu bar"))
+        self.mouse.click(self.quorvane.tree().find_role("push button", "Open as popover at the tray icon"))
         self.wait_popover()
         wait_stored(self.session, presentationMode="Popover")
 
     def test_the_icon_switched_off_in_the_preferences_leaves_with_its_popover(self) -> None:
         self.quorvane.action("preferences")
         self.wait_no_popover()
-        switch = self.quorvane.tree().find_role("check box", "Show icon in menu bar")
+        switch = self.quorvane.tree().find_role("check box", "Show icon in system tray")
         self.keyboard.tap(*SHORTCUT)
         self.wait_popover()
         switch.press()

@@ -9,6 +9,10 @@ from harness.waiting import wait_until
 
 TITLE = "Quorvane Preferences"
 BUTTON = "Record new shortcut"
+SUPER_NOTICE = (
+    "If your desktop opens a menu on Super alone, press Super last: "
+    "pressed first, it opens that menu instead."
+)
 
 
 class Recorder(DesktopCase):
@@ -17,7 +21,8 @@ class Recorder(DesktopCase):
     def test_a_recorded_shortcut_is_stored_and_armed_at_once(self) -> None:
         quorvane = self.recording_quorvane()
         self.keyboard.tap(Key.ALT, Key.SUPER, Key.K)
-        quorvane.tree().find_described("panel", "Alt, Super, K")
+        quorvane.tree().find_described("panel", f"Alt, Super, K. {SUPER_NOTICE}")
+        quorvane.tree().find(SUPER_NOTICE)
         wait_stored(self.session, hotKeyCode=40, hotKeyModifiers=0x900)
         wait_until(
             lambda: quorvane.tree().find(BUTTON).has(State.FOCUSED), "the focus at the button"

@@ -146,7 +146,7 @@ class Desktops(DesktopCase):
         quorvane.action("toggle")
         panel = quorvane.wait_active()
         switch = quorvane.tree().find_role(
-            "check box", "Show icon in Dock (poorly supported — use at own annoyance)"
+            "check box", "Show windows in taskbar"
         )
         skip = "_NET_WM_STATE_SKIP_TASKBAR"
         both = (panel, preferences)
@@ -167,4 +167,4 @@ class Desktops(DesktopCase):
         self.assertEqual(quorvane.launch().wait(10), 0)
         quorvane.wait_active()
         quorvane.action("preferences")
-        quorvane.tree().find("Open Quorvane from Finder to access Preferences.")
+        quorvane.tree().find("Open Quorvane from the applications menu to reach Preferences.")

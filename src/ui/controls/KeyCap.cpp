@@ -8,13 +8,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace quorvane {
 
 namespace {
 
 constexpr int capSize = 22;
-constexpr int horizontalPadding = 4;
+constexpr int horizontalPadding = 5;
 constexpr double cornerRadius = 5;
 constexpr double edgeWidth = 0.5;
 constexpr int fontSize = 12;
@@ -23,9 +24,45 @@ QFont capFont(const QFont& font) {
     return fixedSizeFont(font, fontSize, QFont::DemiBold);
 }
 
-/// Letters stand on the line; whatever is no letter (arrows, "…") has no line to stand on.
+/// Letters stand on the line; whatever is no letter ("…", "-") has no line to stand on.
 bool standsOnLine(const QString& label) {
     return label.front().isLetterOrNumber();
+}
+
+/// The angle of an arrow key's label to an arrow that points to the left; none of other labels.
+std::optional<int> arrowAngle(const QString& label) {
+    constexpr QStringView clockwise = u"←↑→↓";
+    const auto index = label.size() == 1 ? clockwise.indexOf(label.front()) : -1;
+    return index < 0 ? std::nullopt : std::optional(static_cast<int>(index) * 90);
+}
+
+/// An arrow key's label as a drawing: in many fonts the arrow is missing, or of another weight than
+/// the letters beside it.
+void paintArrow(QPainter& painter, QPointF center, int angle, const QColor& color) {
+    constexpr double reach = 4.5;
+    constexpr double head = 3.25;
+    constexpr double penWidth = 1.5;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, penWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(center);
+    painter.rotate(angle);
+    painter.drawLine(QPointF(-reach, 0), QPointF(reach, 0));
+    painter.drawPolyline(QPolygonF{{head - reach, -head}, {-reach, 0.0}, {head - reach, head}});
+    painter.restore();
+}
+
+/// Where a label starts: all letters of a row on one line, capitals in the middle of the cap.
+QPointF textOrigin(const QPainter& painter, const QRectF& cap, const QString& label) {
+    const auto font = painter.font();
+    if (!standsOnLine(label))
+        return cap.center() - foregroundOf(label, font).center();
+    const QFontMetricsF metrics(font);
+    const double ratio = painter.device()->devicePixelRatioF();
+    const double baseline = cap.center().y() + metrics.capHeight() / 2;
+    return {
+        cap.center().x() - metrics.horizontalAdvance(label) / 2,
+        std::round(baseline * ratio) / ratio};
 }
 
 } // namespace
@@ -54,14 +91,13 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
         QRectF(cornerRadius, 0, width() - 2 * cornerRadius, edge), theme.keyCapHighlight);
     if (text().isEmpty())
         return;
-    const auto font = capFont(this->font());
-    painter.setFont(font);
-    painter.setPen(theme.secondaryText);
-    if (standsOnLine(text())) {
-        painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    if (const auto angle = arrowAngle(text())) {
+        paintArrow(painter, QRectF(rect()).center(), *angle, theme.secondaryText);
         return;
     }
-    painter.drawText(QRectF(rect()).center() - foregroundOf(text(), font).center(), text());
+    painter.setFont(capFont(font()));
+    painter.setPen(theme.secondaryText);
+    painter.drawText(textOrigin(painter, rect(), text()), text());
 }
 
 } // namespace quorvane

@@ -2,12 +2,13 @@
 #include "PopoverHeader.h"
 
 #include <controls/IconButton.h>
-#include <controls/KeyCap.h>
+#include <controls/KeyCapRow.h>
 #include <controls/MenuButton.h>
 #include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
 #include <panel/PanelMetrics.h>
+#include <recorder/KeyNames.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,7 +27,6 @@ constexpr int headerHeight = 48;
 constexpr SymbolStyle appSymbol{20, SymbolStyle::regular};
 constexpr int titleGap = 8;
 constexpr int capsGap = 12;
-constexpr int capSpacing = 4;
 constexpr int buttonSpacing = 4;
 constexpr int buttonOverhang = 8; ///< what the last button paints ends with the column
 
@@ -34,7 +34,7 @@ constexpr int buttonOverhang = 8; ///< what the last button paints ends with the
 
 PopoverHeader::PopoverHeader(Callbacks callbacks, const PopoverEffects& effects, QWidget* parent)
     : QWidget(parent),
-      m_caps(new QHBoxLayout),
+      m_caps(new KeyCapRow(this)),
       m_presentation(new IconButton(IconButton::Kind::Header, Symbol::Macwindow, {}, this)) {
     setFixedHeight(headerHeight);
     auto* more =
@@ -52,14 +52,13 @@ void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
         panelmetrics::sideMargin + static_cast<int>(appSymbol.size) + titleGap;
     auto* title = new QLabel(u"Quorvane"_s, this);
     title->setFont(textFont(font(), TextStyle::Title));
-    m_caps->setSpacing(capSpacing);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addSpacing(titleStart);
     row->addWidget(title);
     row->addSpacing(capsGap);
-    row->addLayout(m_caps);
+    row->addWidget(m_caps);
     row->addStretch();
     for (auto* button : buttons) {
         row->addSpacing(buttonSpacing);
@@ -68,29 +67,17 @@ void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
     row->addSpacing(panelmetrics::sideMargin - buttonOverhang);
 }
 
-void PopoverHeader::setKeys(const QStringList& labels, const QStringList& names) {
-    const bool areTheSame = m_keys == labels && m_keyNames == names;
-    if (areTheSame)
-        return;
-    m_keys = labels;
-    m_keyNames = names;
-    while (auto* item = m_caps->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-    for (qsizetype index = 0; index < labels.size(); ++index) {
-        auto* cap = new KeyCap(labels[index], this);
-        cap->setAccessibleName(names[index]);
-        cap->setToolTip(names[index]);
-        m_caps->addWidget(cap);
-    }
+void PopoverHeader::setShortcut(const HotKeyCombo& shortcut, const KeyboardLayout& layout) {
+    m_caps->setKeys(capLabels(shortcut, layout), spokenKeys(shortcut, layout));
+    m_caps->setToolTip(shortcutText(shortcut, layout));
 }
 
 void PopoverHeader::setPresentationMode(PresentationMode mode) {
     if (mode == PresentationMode::Popover)
-        m_presentation->setFace(Symbol::Macwindow, tr("Detach as window"));
+        m_presentation->setFace(Symbol::Macwindow, tr("Open as panel"));
     else
-        m_presentation->setFace(Symbol::MenubarArrowUpRectangle, tr("Move to menu bar"));
+        m_presentation->setFace(
+            Symbol::MenubarArrowUpRectangle, tr("Open as popover at the tray icon"));
 }
 
 void PopoverHeader::paintEvent(QPaintEvent* /*event*/) {

@@ -3,19 +3,18 @@
 
 #include <controls/Command.h>
 #include <controls/PopoverEffects.h>
+#include <hotkey/HotKeyCombo.h>
 #include <model/PresentationMode.h>
 
-#include <QStringList>
 #include <QWidget>
 
 #include <functional>
 #include <vector>
 
-class QHBoxLayout;
-
 namespace quorvane {
 
 class IconButton;
+class KeyCapRow;
 
 /// The panel's title row: the program, its shortcut, and what concerns the panel as a whole.
 class PopoverHeader final : public QWidget {
@@ -30,8 +29,8 @@ public:
 
     PopoverHeader(Callbacks callbacks, const PopoverEffects& effects, QWidget* parent);
 
-    /// One key cap per label; `names`, of the same count, are what screen readers say.
-    void setKeys(const QStringList& labels, const QStringList& names);
+    /// The shortcut that shows and hides this.
+    void setShortcut(const HotKeyCombo& shortcut, const KeyboardLayout& layout);
 
     /// The mode that the switch leads away from.
     void setPresentationMode(PresentationMode mode);
@@ -42,10 +41,8 @@ protected:
 private:
     void layOut(const std::vector<QWidget*>& buttons);
 
-    QHBoxLayout* m_caps;
+    KeyCapRow* m_caps;
     IconButton* m_presentation;
-    QStringList m_keys;
-    QStringList m_keyNames;
 };
 
 } // namespace quorvane

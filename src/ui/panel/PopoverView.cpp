@@ -10,7 +10,6 @@
 
 #include <delivery/CopyText.h>
 #include <panel/PopoverView.h>
-#include <recorder/KeyNames.h>
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -163,10 +162,7 @@ void PopoverView::connectControls() {
 }
 
 void PopoverView::refresh() {
-    const auto hotKey = m_model.hotKey();
-    m_header->setKeys(
-        hotKey.displayKeys(m_dependencies.keyboardLayout),
-        spokenKeys(hotKey, m_dependencies.keyboardLayout));
+    m_header->setShortcut(m_model.hotKey(), m_dependencies.keyboardLayout);
     m_header->setPresentationMode(m_model.presentationMode());
     m_dateSection->refresh();
     m_timeZoneSection->refresh();

@@ -25,12 +25,11 @@ QWidget* makeNote(const QString& text, QWidget* parent) {
 } // namespace
 
 IconsSection::IconsSection(DateTimeModel& model, QWidget* parent)
-    : PreferencesSection(tr("Menu Bar & Dock"), parent),
+    : PreferencesSection(tr("Tray & Taskbar"), parent),
       m_model(model),
-      m_menuBar(new SwitchRow(tr("Show icon in menu bar"), this)),
-      m_dock(
-          new SwitchRow(tr("Show icon in Dock (poorly supported — use at own annoyance)"), this)),
-      m_note(makeNote(tr("Open Quorvane from Finder to access Preferences."), this)) {
+      m_menuBar(new SwitchRow(tr("Show icon in system tray"), this)),
+      m_dock(new SwitchRow(tr("Show windows in taskbar"), this)),
+      m_note(makeNote(tr("Open Quorvane from the applications menu to reach Preferences."), this)) {
     column().addSpacing(preferencesmetrics::rowSpacing - SwitchRow::overhang);
     column().addWidget(m_menuBar);
     column().addSpacing(preferencesmetrics::rowSpacing - 2 * SwitchRow::overhang);

@@ -31,27 +31,31 @@ ShortcutSection::ShortcutSection(
     column().addLayout(row);
     column().addSpacing(preferencesmetrics::captionSpacing);
     column().addWidget(new WrappedText(
-        tr("Requires at least one modifier key (⌃ ⌥ ⇧ ⌘)."),
+        tr("Requires at least one modifier key (Ctrl, Alt, Shift, Super)."),
         TextStyle::Caption,
         WrappedText::Color::Secondary));
-    addWarning();
+    addNotice();
+    connect(m_recorder, &ShortcutRecorder::noticeChanged, this, &ShortcutSection::showNotice);
 }
 
 void ShortcutSection::setActivity(ShortcutRecorder::Activity activity) {
     m_recorder->setActivity(activity);
-    const auto warning = ShortcutRecorder::warningOf(activity);
-    m_warning->setText(warning);
-    m_warningRow->setVisible(!warning.isEmpty());
 }
 
-void ShortcutSection::addWarning() {
-    m_warningRow = new QWidget(this);
-    m_warning = new WrappedText({}, TextStyle::Caption, WrappedText::Color::Primary, m_warningRow);
-    auto* row = new QVBoxLayout(m_warningRow);
+void ShortcutSection::showNotice() {
+    const auto notice = m_recorder->notice();
+    m_notice->setText(notice);
+    m_noticeRow->setVisible(!notice.isEmpty());
+}
+
+void ShortcutSection::addNotice() {
+    m_noticeRow = new QWidget(this);
+    m_notice = new WrappedText({}, TextStyle::Caption, WrappedText::Color::Primary, m_noticeRow);
+    auto* row = new QVBoxLayout(m_noticeRow);
     row->setContentsMargins(0, preferencesmetrics::captionSpacing, 0, 0);
-    row->addWidget(m_warning);
-    m_warningRow->hide();
-    column().addWidget(m_warningRow);
+    row->addWidget(m_notice);
+    column().addWidget(m_noticeRow);
+    showNotice();
 }
 
 } // namespace quorvane

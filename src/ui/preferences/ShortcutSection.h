@@ -23,15 +23,16 @@ public:
 
     [[nodiscard]] ShortcutRecorder& recorder() const { return *m_recorder; }
 
-    /// Where presses of the shortcut do not reach the program, a line below the others says why.
+    /// What there is to say about it, and about the shortcut itself, is a line below the others.
     void setActivity(ShortcutRecorder::Activity activity);
 
 private:
-    void addWarning();
+    void addNotice();
+    void showNotice();
 
     ShortcutRecorder* m_recorder;
-    WrappedText* m_warning = nullptr;
-    QWidget* m_warningRow = nullptr; ///< the text with its distance from what is above
+    WrappedText* m_notice = nullptr;
+    QWidget* m_noticeRow = nullptr; ///< the text with its distance from what is above
 };
 
 } // namespace quorvane

@@ -15,15 +15,28 @@ constexpr auto context = "KeyNames";
 
 struct ModifierName {
     std::uint32_t modifier;
+    const char* label;
     const char* name;
 };
 
 // In the order of the key caps.
 constexpr std::array modifierNames{
-    ModifierName{combomodifier::control, QT_TRANSLATE_NOOP("KeyNames", "Control")},
-    ModifierName{combomodifier::option, QT_TRANSLATE_NOOP("KeyNames", "Alt")},
-    ModifierName{combomodifier::shift, QT_TRANSLATE_NOOP("KeyNames", "Shift")},
-    ModifierName{combomodifier::command, QT_TRANSLATE_NOOP("KeyNames", "Super")},
+    ModifierName{
+        combomodifier::control,
+        QT_TRANSLATE_NOOP("KeyNames", "Ctrl"),
+        QT_TRANSLATE_NOOP("KeyNames", "Control")},
+    ModifierName{
+        combomodifier::option,
+        QT_TRANSLATE_NOOP("KeyNames", "Alt"),
+        QT_TRANSLATE_NOOP("KeyNames", "Alt")},
+    ModifierName{
+        combomodifier::shift,
+        QT_TRANSLATE_NOOP("KeyNames", "Shift"),
+        QT_TRANSLATE_NOOP("KeyNames", "Shift")},
+    ModifierName{
+        combomodifier::command,
+        QT_TRANSLATE_NOOP("KeyNames", "Super"),
+        QT_TRANSLATE_NOOP("KeyNames", "Super")},
 };
 
 struct KeyName {
@@ -92,7 +105,14 @@ constexpr std::array keyNames{
     KeyName{keycode::menu, QT_TRANSLATE_NOOP("KeyNames", "Menu")},
 };
 
-/// What is on the cap, if one can read it there.
+constexpr std::array arrowLabels{
+    std::pair{keycode::leftArrow, u"←"},
+    std::pair{keycode::rightArrow, u"→"},
+    std::pair{keycode::downArrow, u"↓"},
+    std::pair{keycode::upArrow, u"↑"},
+};
+
+/// What is printed on a key that has no name, if one can read it there.
 std::optional<QString> readableLabel(std::uint32_t keyCode, const KeyboardLayout& layout) {
     const auto typed = layout.characters(static_cast<std::uint16_t>(keyCode));
     const auto label = HotKeyCombo{keyCode, 0}.keyChar(layout);
@@ -100,15 +120,44 @@ std::optional<QString> readableLabel(std::uint32_t keyCode, const KeyboardLayout
     return typesSomething && label.front().isPrint() ? std::optional(label) : std::nullopt;
 }
 
-} // namespace
+QString keyLabel(std::uint32_t keyCode, const KeyboardLayout& layout) {
+    for (const auto& [arrow, label] : arrowLabels) {
+        if (arrow == keyCode)
+            return QString::fromUtf16(label);
+    }
+    return spokenKey(keyCode, layout);
+}
 
-QStringList spokenModifiers(std::uint32_t modifiers) {
-    QStringList names;
+QStringList modifierTexts(std::uint32_t modifiers, const char* ModifierName::*text) {
+    QStringList texts;
     for (const auto& row : modifierNames) {
         if ((modifiers & row.modifier) != 0)
-            names.append(QCoreApplication::translate(context, row.name));
+            texts.append(QCoreApplication::translate(context, row.*text));
     }
-    return names;
+    return texts;
+}
+
+} // namespace
+
+QStringList modifierLabels(std::uint32_t modifiers) {
+    return modifierTexts(modifiers, &ModifierName::label);
+}
+
+QStringList capLabels(const HotKeyCombo& combo, const KeyboardLayout& layout) {
+    return modifierLabels(combo.modifiers) << keyLabel(combo.keyCode, layout);
+}
+
+QString shortcutText(const HotKeyCombo& combo, const KeyboardLayout& layout) {
+    return (modifierLabels(combo.modifiers) << spokenKey(combo.keyCode, layout)).join(u'+');
+}
+
+bool typesVisibleCharacter(std::uint32_t keyCode, const KeyboardLayout& layout) {
+    return std::ranges::find(keyNames, keyCode, &KeyName::keyCode) == keyNames.end() &&
+           readableLabel(keyCode, layout).has_value();
+}
+
+QStringList spokenModifiers(std::uint32_t modifiers) {
+    return modifierTexts(modifiers, &ModifierName::name);
 }
 
 QString spokenKey(std::uint32_t keyCode, const KeyboardLayout& layout) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <controls/DevicePixels.h>
 #include <controls/IconButton.h>
-#include <controls/KeyCap.h>
+#include <controls/KeyCapRow.h>
 #include <controls/Theme.h>
 #include <recorder/KeyCapture.h>
 #include <recorder/KeyNames.h>
@@ -10,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-#include <iterator>
 #include <utility>
 
 namespace quorvane {
@@ -20,7 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int capsStart = 5;
-constexpr int capSpacing = 4;
 constexpr int buttonInset = 3;
 constexpr double cornerRadius = 8;
 constexpr double frameWidth = 2;
@@ -45,6 +43,7 @@ ShortcutRecorder::ShortcutRecorder(
                setRecording(false);
            }},
           this)),
+      m_caps(new KeyCapRow(this)),
       m_button(new IconButton(IconButton::Kind::Framed, Symbol::Keyboard, {}, this)) {
     setAccessibleName(tr("Shortcut"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -55,18 +54,12 @@ ShortcutRecorder::ShortcutRecorder(
     // A press of the button must not take the focus from the recording that it is to end.
     m_button->setFocusPolicy(Qt::TabFocus);
     connect(m_button, &IconButton::clicked, this, &ShortcutRecorder::toggle);
-    auto* caps = new QHBoxLayout;
-    caps->setSpacing(capSpacing);
-    for (auto*& cap : m_caps) {
-        cap = new KeyCap({}, this);
-        caps->addWidget(cap);
-    }
     // Spacings, not margins: a layout mirrors those.
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addSpacing(capsStart);
-    row->addLayout(caps);
+    row->addWidget(m_caps);
     row->addStretch();
     row->addWidget(m_button);
     row->addSpacing(buttonInset);
@@ -75,8 +68,8 @@ ShortcutRecorder::ShortcutRecorder(
 
 QStringList ShortcutRecorder::keys() const {
     if (!m_isRecording)
-        return combo().displayKeys(m_keyboardLayout);
-    return modifierGlyphs(toCarbonModifiers(m_previewMods)) << ellipsis;
+        return capLabels(combo(), m_keyboardLayout);
+    return modifierLabels(toCarbonModifiers(m_previewMods)) << ellipsis;
 }
 
 void ShortcutRecorder::setActivity(Activity activity) {
@@ -88,6 +81,7 @@ void ShortcutRecorder::refresh() {
     refreshCaps();
     refreshTexts();
     update();
+    Q_EMIT noticeChanged();
 }
 
 QSize ShortcutRecorder::sizeHint() const {
@@ -112,6 +106,7 @@ void ShortcutRecorder::toggle() {
 
 void ShortcutRecorder::record(HotKeyCombo combo) {
     m_combo.set(combo);
+    m_hasRecorded = true;
     setRecording(false);
 }
 
@@ -128,8 +123,8 @@ QStringList ShortcutRecorder::keyNames() const {
     return spokenModifiers(toCarbonModifiers(m_previewMods)) << tr("Waiting for a key");
 }
 
-QString ShortcutRecorder::warningOf(Activity activity) {
-    switch (activity) {
+QString ShortcutRecorder::notice() const {
+    switch (m_activity) {
     case Activity::HeldElsewhere:
         return tr("Another program holds this shortcut.");
     case Activity::NoSuchKey:
@@ -139,26 +134,30 @@ QString ShortcutRecorder::warningOf(Activity activity) {
     case Activity::Active:
         break;
     }
+    return price();
+}
+
+/// What can no longer be typed while Shift and a key are the shortcut.
+QString ShortcutRecorder::lostByShift(const QString& key) {
+    return key.front().isLetter()
+               ? tr("While this is the shortcut, you cannot type a capital %1 anywhere.").arg(key)
+               : tr("While this is the shortcut, you cannot type what Shift+%1 types.").arg(key);
+}
+
+/// What a shortcut that works costs.
+QString ShortcutRecorder::price() const {
+    const auto [keyCode, modifiers] = combo();
+    if (modifiers == combomodifier::shift && typesVisibleCharacter(keyCode, m_keyboardLayout))
+        return lostByShift(spokenKey(keyCode, m_keyboardLayout));
+    if (m_hasRecorded && (modifiers & combomodifier::command) != 0)
+        return tr("If your desktop opens a menu on Super alone, press Super last: pressed first, "
+                  "it opens that menu instead.");
     return {};
 }
 
-QString ShortcutRecorder::warning() const {
-    return m_isRecording ? QString() : warningOf(m_activity);
-}
-
 void ShortcutRecorder::refreshCaps() {
-    const auto labels = keys();
-    const auto names = keyNames();
-    for (qsizetype index = 0; index < std::ssize(m_caps); ++index) {
-        auto* cap = m_caps[static_cast<std::size_t>(index)];
-        cap->setVisible(index < labels.size());
-        if (index >= labels.size())
-            continue;
-        cap->setText(labels[index]);
-        cap->setAccessibleName(names[index]);
-        cap->setAccessibleDescription(warning());
-        cap->setToolTip(warning().isEmpty() ? names[index] : warning());
-    }
+    m_caps->setKeys(keys(), keyNames());
+    m_caps->setToolTip(m_isRecording ? QString() : shortcutText(combo(), m_keyboardLayout));
 }
 
 void ShortcutRecorder::refreshTexts() {
@@ -166,8 +165,8 @@ void ShortcutRecorder::refreshTexts() {
         m_isRecording ? Symbol::XmarkCircleFill : Symbol::Keyboard,
         m_isRecording ? tr("Cancel") : tr("Record new shortcut"));
     const auto spoken = keyNames().join(u", "_s);
-    const auto described = warning().isEmpty() ? spoken : spoken + u". "_s + warning();
-    setAccessibleDescription(m_isRecording ? tr("Recording: %1").arg(described) : described);
+    const auto described = notice().isEmpty() ? spoken : spoken + u". "_s + notice();
+    setAccessibleDescription(m_isRecording ? tr("Recording: %1").arg(spoken) : described);
     // Told when the focus comes back to it: this is what the recording has led to.
     m_button->setAccessibleDescription(m_isRecording ? QString() : described);
 }

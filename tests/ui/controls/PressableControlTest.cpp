@@ -180,11 +180,11 @@ TEST_F(PressableControlTest, SymbolButtonIsNamedByItsTooltip) {
 }
 
 TEST_F(PressableControlTest, SymbolButtonTakesAnotherNameWithItsSymbol) {
-    auto& toggle = window.add(
-        new IconButton(IconButton::Kind::Header, Symbol::Macwindow, u"Detach as window"_s));
-    toggle.setFace(Symbol::MenubarArrowUpRectangle, u"Move to menu bar"_s);
-    EXPECT_EQ(toggle.toolTip(), u"Move to menu bar"_s);
-    EXPECT_EQ(accessible(toggle).text(QAccessible::Name), u"Move to menu bar"_s);
+    auto& toggle =
+        window.add(new IconButton(IconButton::Kind::Header, Symbol::Macwindow, u"Open as panel"_s));
+    toggle.setFace(Symbol::MenubarArrowUpRectangle, u"Open as popover at the tray icon"_s);
+    EXPECT_EQ(toggle.toolTip(), u"Open as popover at the tray icon"_s);
+    EXPECT_EQ(accessible(toggle).text(QAccessible::Name), u"Open as popover at the tray icon"_s);
     EXPECT_FALSE(accessible(toggle).state().expandable);
 }
 

@@ -64,7 +64,7 @@ std::unique_ptr<QWidget> makeFields(World&) {
         search->setText(u"york"_s);
         row->addWidget(pattern);
         row->addWidget(search);
-        row->addWidget(new KeyCap(u"⌘"_s, parent));
+        row->addWidget(new KeyCap(u"Super"_s, parent));
         column->addWidget(parent);
     }
     return window;

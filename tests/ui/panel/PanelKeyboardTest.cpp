@@ -84,7 +84,7 @@ TEST_F(PanelKeyboardTest, TabGoesFromTheHeaderToInsert) {
     EXPECT_EQ(
         order.join(u'\n').toStdString(),
         (QStringList{
-             u"Move to menu bar"_s,
+             u"Open as popover at the tray icon"_s,
              u"More"_s,
              u"Close"_s,
              u"Date"_s,

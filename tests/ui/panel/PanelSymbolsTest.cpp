@@ -31,7 +31,10 @@ const std::vector<Row> panelRows{
     {QAccessible::Grouping, u"Time Zones"_s, "globe", regular},
     {QAccessible::Grouping, u"Format"_s, "textformat.alt", regular},
     {QAccessible::Grouping, u"Preview"_s, "eye.square", regular},
-    {QAccessible::Button, u"Move to menu bar"_s, "menubar.arrow.up.rectangle", regular},
+    {QAccessible::Button,
+     u"Open as popover at the tray icon"_s,
+     "menubar.arrow.up.rectangle",
+     regular},
     {QAccessible::ButtonMenu, u"More"_s, "ellipsis", regular},
     {QAccessible::Button, u"Close"_s, "xmark", regular},
     {QAccessible::Button, u"Add time zone"_s, "plus", regular},
@@ -122,7 +125,7 @@ TEST_F(PanelSymbolsTest, SwitchOfThePresentationShowsWhereItLeads) {
     model.setPresentationMode(PresentationMode::Popover);
     queue.run();
     EXPECT_EQ(
-        symbolsOf(button(u"Detach as window"_s), regular, theme().secondaryText),
+        symbolsOf(button(u"Open as panel"_s), regular, theme().secondaryText),
         QStringList{u"macwindow"_s});
 }
 

@@ -19,16 +19,25 @@ protected:
         return widgetByRole(*QApplication::activePopupWidget(), QAccessible::MenuItem, title);
     }
 
+    std::vector<KeyCap*> visibleCaps() {
+        std::vector<KeyCap*> visible;
+        for (auto* cap : view.findChildren<KeyCap*>()) {
+            if (!cap->isHidden())
+                visible.push_back(cap);
+        }
+        return visible;
+    }
+
     QStringList caps() {
         QStringList labels;
-        for (const auto* cap : view.findChildren<KeyCap*>())
+        for (const auto* cap : visibleCaps())
             labels.append(cap->text());
         return labels;
     }
 
     QStringList capNames() {
         QStringList names;
-        for (const auto* cap : view.findChildren<KeyCap*>())
+        for (const auto* cap : visibleCaps())
             names.append(cap->accessibleName());
         return names;
     }
@@ -37,11 +46,13 @@ protected:
 TEST_F(PopoverHeaderTest, SwitchLeadsToTheOtherModeAndSaysWhere) {
     model.setPresentationMode(PresentationMode::Popover);
     queue.run();
-    button(u"Detach as window"_s).click();
+    button(u"Open as panel"_s).click();
     queue.run();
     EXPECT_EQ(model.presentationMode(), PresentationMode::Window);
-    EXPECT_EQ(button(u"Move to menu bar"_s).toolTip(), u"Move to menu bar"_s);
-    button(u"Move to menu bar"_s).click();
+    EXPECT_EQ(
+        button(u"Open as popover at the tray icon"_s).toolTip(),
+        u"Open as popover at the tray icon"_s);
+    button(u"Open as popover at the tray icon"_s).click();
     EXPECT_EQ(model.presentationMode(), PresentationMode::Popover);
 }
 
@@ -98,13 +109,24 @@ TEST_F(PopoverHeaderTest, KeyCapsFollowTheShortcut) {
     model.setHotKey({2, combomodifier::control});
     queue.run();
     EXPECT_EQ(caps().size(), 2);
-    EXPECT_EQ(caps().front(), u"⌃"_s);
+    EXPECT_EQ(caps().front(), u"Ctrl"_s);
 }
 
-TEST_F(PopoverHeaderTest, KeyCapsAreNamedAlsoWhereTheirLabelsSayNothing) {
+TEST_F(PopoverHeaderTest, OneTooltipOverTheRowOfCapsSaysTheWholeShortcut) {
+    model.setHotKey({f5, combomodifier::control | combomodifier::command});
+    queue.run();
+    ASSERT_EQ(visibleCaps().size(), 3U);
+    const auto tooltip = u"Ctrl+Super+F5"_s;
+    for (const auto* cap : visibleCaps()) {
+        EXPECT_EQ(cap->toolTip(), QString());
+        EXPECT_EQ(cap->parentWidget()->toolTip(), tooltip);
+    }
+}
+
+TEST_F(PopoverHeaderTest, KeyCapsAreNamedForThoseWhoHearThem) {
     model.setHotKey({f5, combomodifier::control});
     queue.run();
-    EXPECT_EQ(caps(), (QStringList{u"⌃"_s, u"?"_s}));
+    EXPECT_EQ(caps(), (QStringList{u"Ctrl"_s, u"F5"_s}));
     EXPECT_EQ(capNames(), (QStringList{u"Control"_s, u"F5"_s}));
     model.setHotKey({f6, combomodifier::control});
     queue.run();

@@ -67,11 +67,42 @@ TEST(KeyNames, WhatHasNoNameIsTold) {
     EXPECT_EQ(spokenKey(2, none), u"Key 2"_s);
 }
 
+TEST(KeyNames, CapsShowWhatIsPrintedOnTheKeys) {
+    EXPECT_EQ(
+        capLabels({2, 0x1b00}, layout()),
+        (QStringList{u"Ctrl"_s, u"Alt"_s, u"Shift"_s, u"Super"_s, u"D"_s}));
+    const std::array<std::pair<std::uint16_t, QString>, 8> table{
+        {{KEY_F5, u"F5"_s},
+         {KEY_SPACE, u"Space"_s},
+         {KEY_ENTER, u"Return"_s},
+         {KEY_LEFT, u"←"_s},
+         {KEY_UP, u"↑"_s},
+         {KEY_RIGHT, u"→"_s},
+         {KEY_DOWN, u"↓"_s},
+         {KEY_KP5, u"Keypad 5"_s}}};
+    for (const auto& [evdevCode, label] : table)
+        EXPECT_EQ(
+            capLabels({keyCodeFromEvdev(evdevCode), 0x200}, layout()),
+            (QStringList{u"Shift"_s, label}));
+}
+
+TEST(KeyNames, ShortcutIsOneWordInTexts) {
+    EXPECT_EQ(shortcutText({2, 0x1300}, layout()), u"Ctrl+Shift+Super+D"_s);
+    EXPECT_EQ(shortcutText({keyCodeFromEvdev(KEY_LEFT), 0x800}, layout()), u"Alt+Left Arrow"_s);
+}
+
+TEST(KeyNames, OnlyKeysWithASignOnThemTypeOne) {
+    EXPECT_TRUE(typesVisibleCharacter(2, layout()));
+    EXPECT_FALSE(typesVisibleCharacter(49, layout())) << "Space";
+    EXPECT_FALSE(typesVisibleCharacter(87, layout())) << "the keypad's 5";
+    EXPECT_FALSE(typesVisibleCharacter(93, layout())) << "types a control character";
+}
+
 TEST(KeyNames, OneNameForEachCap) {
     const HotKeyCombo combo{96, 0x1300};
     EXPECT_EQ(
         spokenKeys(combo, layout()), (QStringList{u"Control"_s, u"Shift"_s, u"Super"_s, u"F5"_s}));
-    EXPECT_EQ(combo.displayKeys(layout()).size(), spokenKeys(combo, layout()).size());
+    EXPECT_EQ(capLabels(combo, layout()).size(), spokenKeys(combo, layout()).size());
 }
 
 } // namespace

@@ -76,12 +76,15 @@ protected:
         recorder->layout()->activate();
         std::vector<KeyCap*> sorted;
         for (auto* cap : recorder->findChildren<KeyCap*>()) {
+            cap->parentWidget()->layout()->activate();
             if (cap->isVisible())
                 sorted.push_back(cap);
         }
-        std::ranges::sort(sorted, {}, [](const auto* cap) { return cap->x(); });
+        std::ranges::sort(sorted, {}, [this](const auto* cap) { return start(cap); });
         return sorted;
     }
+
+    int start(const KeyCap* cap) const { return cap->mapTo(recorder, QPoint()).x(); }
 
     QStringList shown() {
         QStringList labels;
@@ -105,7 +108,7 @@ protected:
 TEST_F(ShortcutRecorderTest, ShowsTheShortcutWhileIdle) {
     EXPECT_FALSE(recorder->isRecording());
     EXPECT_EQ(recorder->previewMods(), modifier::none);
-    EXPECT_EQ(shown(), (QStringList{u"⌃"_s, u"⇧"_s, u"⌘"_s, u"D"_s}));
+    EXPECT_EQ(shown(), (QStringList{u"Ctrl"_s, u"Shift"_s, u"Super"_s, u"D"_s}));
     EXPECT_EQ(button(record).toolTip(), record);
 }
 
@@ -116,12 +119,12 @@ TEST_F(ShortcutRecorderTest, ButtonStartsARecordingThatShowsWhatIsHeld) {
     keyboard.press(control);
     keyboard.press(super);
     EXPECT_EQ(recorder->previewMods(), modifier::control | modifier::command);
-    EXPECT_EQ(shown(), (QStringList{u"⌃"_s, u"⌘"_s, u"…"_s}));
+    EXPECT_EQ(shown(), (QStringList{u"Ctrl"_s, u"Super"_s, u"…"_s}));
     keyboard.press(shift);
     keyboard.press(alt);
-    EXPECT_EQ(shown(), (QStringList{u"⌃"_s, u"⌥"_s, u"⇧"_s, u"⌘"_s, u"…"_s}));
+    EXPECT_EQ(shown(), (QStringList{u"Ctrl"_s, u"Alt"_s, u"Shift"_s, u"Super"_s, u"…"_s}));
     keyboard.release(control);
-    EXPECT_EQ(shown(), (QStringList{u"⌥"_s, u"⇧"_s, u"⌘"_s, u"…"_s}));
+    EXPECT_EQ(shown(), (QStringList{u"Alt"_s, u"Shift"_s, u"Super"_s, u"…"_s}));
 }
 
 TEST_F(ShortcutRecorderTest, PlainKeyChangesNothing) {
@@ -148,7 +151,7 @@ TEST_F(ShortcutRecorderTest, KeyWithModifiersIsTheNewShortcut) {
     EXPECT_TRUE(wasRecordingAtWrite);
     EXPECT_FALSE(recorder->isRecording());
     EXPECT_EQ(recorder->previewMods(), modifier::none);
-    EXPECT_EQ(shown(), (QStringList{u"⌥"_s, u"⌘"_s, u"K"_s}));
+    EXPECT_EQ(shown(), (QStringList{u"Alt"_s, u"Super"_s, u"K"_s}));
 }
 
 TEST_F(ShortcutRecorderTest, SameShortcutAgainIsWrittenAgain) {
@@ -179,7 +182,7 @@ TEST_F(ShortcutRecorderTest, EscapeLeavesTheOldShortcut) {
     EXPECT_FALSE(recorder->isRecording());
     EXPECT_EQ(recorder->previewMods(), modifier::none);
     EXPECT_TRUE(writes.empty());
-    EXPECT_EQ(shown(), (QStringList{u"⌃"_s, u"⇧"_s, u"⌘"_s, u"D"_s}));
+    EXPECT_EQ(shown(), (QStringList{u"Ctrl"_s, u"Shift"_s, u"Super"_s, u"D"_s}));
 }
 
 TEST_F(ShortcutRecorderTest, ButtonEndsTheRecordingAndLeavesTheOldShortcut) {
@@ -238,8 +241,8 @@ TEST_F(ShortcutRecorderTest, IsDescribedByTheNamesOfItsKeys) {
     EXPECT_EQ(description(), u"Recording: Control, Waiting for a key"_s);
     keyboard.press(super);
     keyboard.type(f5);
-    EXPECT_EQ(description(), u"Control, Super, F5"_s);
-    EXPECT_EQ(shown().back(), u"?"_s);
+    EXPECT_TRUE(description().startsWith(u"Control, Super, F5"_s));
+    EXPECT_EQ(shown().back(), u"F5"_s);
     EXPECT_EQ(spoken().back(), u"F5"_s);
 }
 
@@ -254,22 +257,65 @@ TEST_F(ShortcutRecorderTest, RecordingIsToldByWhatHasTheFocus) {
 TEST_F(ShortcutRecorderTest, ShortcutOfAnotherProgramIsSaidNotToBeActive) {
     recorder->setActivity(ShortcutRecorder::Activity::HeldElsewhere);
     const auto warning = u"Another program holds this shortcut."_s;
+    EXPECT_EQ(recorder->notice(), warning);
     EXPECT_EQ(description(), u"Control, Shift, Super, D. "_s + warning);
-    ASSERT_EQ(caps().size(), 4U);
-    for (const auto* cap : caps()) {
-        EXPECT_EQ(cap->toolTip(), warning);
-        EXPECT_EQ(cap->accessibleDescription(), warning);
-    }
     startRecording();
     EXPECT_EQ(description(), u"Recording: Waiting for a key"_s);
     keyboard.type(escape);
     recorder->setActivity(ShortcutRecorder::Activity::Unavailable);
-    EXPECT_EQ(caps().front()->toolTip(), u"Global shortcuts are not available on this desktop."_s);
+    EXPECT_EQ(recorder->notice(), u"Global shortcuts are not available on this desktop."_s);
     recorder->setActivity(ShortcutRecorder::Activity::NoSuchKey);
-    EXPECT_EQ(caps().front()->toolTip(), u"This keyboard has no such key."_s);
+    EXPECT_EQ(recorder->notice(), u"This keyboard has no such key."_s);
     recorder->setActivity(ShortcutRecorder::Activity::Active);
-    EXPECT_EQ(caps().front()->toolTip(), u"Control"_s);
+    EXPECT_EQ(recorder->notice(), QString());
     EXPECT_EQ(description(), u"Control, Shift, Super, D"_s);
+}
+
+TEST_F(ShortcutRecorderTest, OneTooltipOverTheRowOfCapsSaysTheWholeShortcut) {
+    ASSERT_EQ(caps().size(), 4U);
+    auto* row = caps().front()->parentWidget();
+    EXPECT_EQ(row->toolTip(), u"Ctrl+Shift+Super+D"_s);
+    for (const auto* cap : caps()) {
+        EXPECT_EQ(cap->parentWidget(), row);
+        EXPECT_EQ(cap->toolTip(), QString());
+    }
+    startRecording();
+    EXPECT_EQ(row->toolTip(), QString());
+}
+
+TEST_F(ShortcutRecorderTest, ShortcutWithSuperSaysThatADesktopsMenuMayComeFirst) {
+    EXPECT_EQ(recorder->notice(), QString()) << "nothing was recorded here";
+    startRecording();
+    keyboard.type(k, {control, super});
+    const auto notice = u"If your desktop opens a menu on Super alone, press Super last: pressed "
+                        "first, it opens that menu instead."_s;
+    EXPECT_EQ(recorder->notice(), notice);
+    EXPECT_EQ(description(), u"Control, Super, K. "_s + notice);
+    for (const auto* cap : caps())
+        EXPECT_EQ(cap->accessibleDescription(), QString()) << "it would be read several times";
+    startRecording();
+    keyboard.type(k, {control, alt});
+    EXPECT_EQ(recorder->notice(), QString());
+}
+
+TEST_F(ShortcutRecorderTest, ShiftAloneIsTakenAndSaidToCostTheCapital) {
+    startRecording();
+    keyboard.type(k, {shift});
+    ASSERT_EQ(writes, (std::vector{HotKeyCombo{40, 0x200}}));
+    EXPECT_EQ(
+        recorder->notice(), u"While this is the shortcut, you cannot type a capital K anywhere."_s);
+    startRecording();
+    keyboard.type(f5, {shift});
+    EXPECT_EQ(recorder->notice(), QString()) << "Shift+F5 types nothing";
+}
+
+TEST_F(ShortcutRecorderTest, ShiftWithASignIsSaidToCostThatSign) {
+    layout.setKey(18, u"1");
+    combo = {18, 0x200};
+    EXPECT_EQ(
+        recorder->notice(), u"While this is the shortcut, you cannot type what Shift+1 types."_s);
+    combo = {49, 0x200};
+    EXPECT_EQ(recorder->notice(), QString()) << "Space types a space without Shift, too";
 }
 
 TEST_F(ShortcutRecorderTest, LabelsFollowTheLayout) {
@@ -281,7 +327,7 @@ TEST_F(ShortcutRecorderTest, LabelsFollowTheLayout) {
 TEST_F(ShortcutRecorderTest, HasTheMeasuresOfTheDesign) {
     recorder->layout()->activate();
     EXPECT_EQ(recorder->size().height(), 32);
-    EXPECT_EQ(caps().front()->x(), 5);
+    EXPECT_EQ(start(caps().front()), 5);
     EXPECT_EQ(caps()[1]->x() - caps()[0]->geometry().right() - 1, 4);
     EXPECT_EQ(button(record).geometry(), QRect(recorder->width() - 3 - 26, 3, 26, 26));
 }
@@ -301,7 +347,7 @@ TEST_F(ShortcutRecorderTest, MirrorsWhereTextRunsFromRightToLeft) {
     window.setLayoutDirection(Qt::RightToLeft);
     recorder->layout()->activate();
     EXPECT_EQ(button(record).x(), 3);
-    EXPECT_EQ(caps().back()->text(), u"⌃"_s);
+    EXPECT_EQ(caps().back()->text(), u"Ctrl"_s);
 }
 
 } // namespace

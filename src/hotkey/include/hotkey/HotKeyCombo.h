@@ -34,9 +34,6 @@ inline constexpr std::uint32_t control = 0x1000;
 /// match.
 [[nodiscard]] std::optional<ModifierFlags> toModifierFlags(std::uint32_t modifiers);
 
-/// What their key caps show: those of "⌃", "⌥", "⇧", "⌘" that are set, in this order.
-[[nodiscard]] QStringList modifierGlyphs(std::uint32_t modifiers);
-
 /// The global shortcut: a key by its position and a set of modifiers.
 struct HotKeyCombo {
     static constexpr auto defaultKeyCode =
@@ -73,7 +70,8 @@ struct HotKeyCombo {
     [[nodiscard]] QJsonObject encoded() const;
     [[nodiscard]] static Decoded decode(const QJsonObject& coded);
 
-    /// The labels of the key caps: the modifiers as Control, Option, Shift, Command, then the key.
+    /// The shortcut in the glyphs of a Mac's keys: those of "⌃", "⌥", "⇧", "⌘" that are set, in
+    /// this order, then the key. What a key cap shows here are the words of recorder/KeyNames.h.
     [[nodiscard]] QStringList displayKeys(const KeyboardLayout& layout) const;
 
     /// What the key types in the layout, in upper case; "?" where there is nothing to show. A key

@@ -5,8 +5,9 @@
 
 namespace quorvane {
 
-/// One key of a shortcut, drawn as a small key. Its text is the key's label, a modifier's glyph or
-/// a key's name; give it an accessible name where the label is a glyph.
+/// One key of a shortcut, drawn as a small key. Its text is what is printed on the key; the arrows
+/// "←", "↑", "→" and "↓" are drawn. Give it an accessible name where the label is none that one
+/// would say.
 class KeyCap final : public QLabel {
     Q_OBJECT
 

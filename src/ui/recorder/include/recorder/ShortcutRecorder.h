@@ -8,12 +8,10 @@
 
 #include <QStringList>
 
-#include <array>
-
 namespace quorvane {
 
 class IconButton;
-class KeyCap;
+class KeyCapRow;
 class KeyCapture;
 
 /// Shows a shortcut as key caps, and records another one: its button starts and ends the recording,
@@ -50,16 +48,20 @@ public:
     /// The labels of the key caps: of the shortcut, or of what is held while recording, and "…".
     [[nodiscard]] QStringList keys() const;
 
-    /// What is to be said where it is not Active; else empty.
-    [[nodiscard]] static QString warningOf(Activity activity);
+    /// What the user should know about the shortcut: why it does not work, or what it costs. Empty
+    /// where there is nothing to say. Part of the description, except while recording.
+    [[nodiscard]] QString notice() const;
 
-    /// Told by the caps' tooltips and the description where it is not Active.
     void setActivity(Activity activity);
 
     /// Shows binding and keyboard layout as they are now.
     void refresh();
 
     [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// notice() may have become another.
+    void noticeChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -71,7 +73,8 @@ private:
     void setRecording(bool isRecording);
 
     [[nodiscard]] QStringList keyNames() const;
-    [[nodiscard]] QString warning() const;
+    [[nodiscard]] QString price() const;
+    [[nodiscard]] static QString lostByShift(const QString& key);
     void refreshCaps();
     void refreshTexts();
 
@@ -79,12 +82,11 @@ private:
     const KeyboardLayout& m_keyboardLayout;
     Activity m_activity = Activity::Active;
     bool m_isRecording = false;
+    bool m_hasRecorded = false; ///< the shortcut that is shown was chosen here
     ModifierFlags m_previewMods;
 
     KeyCapture* m_capture;
-    /// As many as there can be: a recording may end while its window is torn down, which is no
-    /// time to make widgets.
-    std::array<KeyCap*, 5> m_caps{};
+    KeyCapRow* m_caps;
     IconButton* m_button;
 };
 
