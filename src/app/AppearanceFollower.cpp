@@ -8,6 +8,8 @@
 
 namespace quorvane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ColorScheme schemeFor(const DesktopAppearance& appearance) {
@@ -27,6 +29,14 @@ QPalette paletteFor(const DesktopAppearance& appearance) {
         schemeFor(appearance),
         appearance.wantsMoreContrast ? ContrastLevel::High : ContrastLevel::Normal,
         appearance.accent ? std::optional(color(*appearance.accent)) : std::nullopt);
+}
+
+QFont fontFor(const DesktopAppearance& appearance, const QFont& otherwise) {
+    if (!appearance.font)
+        return otherwise;
+    QFont font(appearance.font->family);
+    font.setPointSizeF(appearance.font->points);
+    return font;
 }
 
 } // namespace
@@ -58,9 +68,19 @@ AppearanceFollower::PaletteFrom AppearanceFollower::paletteSource() {
                : PaletteFrom::Desktop;
 }
 
-AppearanceFollower::AppearanceFollower(Appearance& appearance, PaletteFrom source)
+AppearanceFollower::FontFrom AppearanceFollower::fontSource() {
+    // What Qt takes on X11 where no desktop names a font.
+    constexpr int builtInPoints = 9;
+    const auto font = QApplication::font();
+    const bool isBuiltIn = font.family() == u"Sans Serif"_s && font.pointSize() == builtInPoints;
+    return isBuiltIn ? FontFrom::BuiltIn : FontFrom::Desktop;
+}
+
+AppearanceFollower::AppearanceFollower(Appearance& appearance, PaletteFrom palette, FontFrom font)
     : m_appearance(appearance),
-      m_source(source),
+      m_paletteFrom(palette),
+      m_fontFrom(font),
+      m_ownFont(QApplication::font()),
       m_style(new MotionStyle) {
     QApplication::setStyle(m_style);
     apply();
@@ -75,8 +95,11 @@ void AppearanceFollower::apply() {
     const auto wanted = m_appearance.current();
     if (m_style)
         m_style->setMotionWanted(!wanted.wantsLessMotion);
-    if (m_source == PaletteFrom::BuiltIn)
+    if (m_paletteFrom == PaletteFrom::BuiltIn)
         QApplication::setPalette(paletteFor(wanted));
+    const auto font = fontFor(wanted, m_ownFont);
+    if (m_fontFrom == FontFrom::BuiltIn && QApplication::font() != font)
+        QApplication::setFont(font);
 }
 
 } // namespace quorvane

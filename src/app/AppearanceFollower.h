@@ -3,22 +3,27 @@
 
 #include <platform/Appearance.h>
 
+#include <QFont>
 #include <QPointer>
 
 namespace quorvane {
 
 /// Makes the application look as the desktop wants it, now and at every change. Where the desktop
 /// gives its programs a palette, colours and contrast are those of that palette, which Qt follows;
-/// elsewhere the built-in palette takes on scheme, accent and contrast. Must live as long as the
-/// application shows anything.
+/// elsewhere the built-in palette takes on scheme, accent and contrast. The same goes for the font.
+/// Must live as long as the application shows anything.
 class AppearanceFollower {
 public:
     enum class PaletteFrom { BuiltIn, Desktop };
+    enum class FontFrom { BuiltIn, Desktop };
 
     /// Where the palette that the application has now comes from.
     [[nodiscard]] static PaletteFrom paletteSource();
 
-    AppearanceFollower(Appearance& appearance, PaletteFrom source);
+    /// Where its font comes from.
+    [[nodiscard]] static FontFrom fontSource();
+
+    AppearanceFollower(Appearance& appearance, PaletteFrom palette, FontFrom font);
     ~AppearanceFollower();
 
     AppearanceFollower(const AppearanceFollower&) = delete;
@@ -30,7 +35,9 @@ private:
     void apply();
 
     Appearance& m_appearance;
-    PaletteFrom m_source;
+    PaletteFrom m_paletteFrom;
+    FontFrom m_fontFrom;
+    QFont m_ownFont;               ///< for when the desktop names none any more
     QPointer<MotionStyle> m_style; ///< null once a desktop has replaced it
 };
 

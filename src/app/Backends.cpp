@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Backends.h"
 
+#include <platform/LayeredAppearance.h>
 #include <platform_dbus/DBusNotifications.h>
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
@@ -8,12 +9,15 @@
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_x11/X11Services.h>
 #include <platform_x11/XWayland.h>
+#include <platform_xdg/FileAppearance.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
+#include <settings/UserFolders.h>
 
 #include <QDesktopServices>
 #include <QLoggingCategory>
 
 #include <optional>
+#include <utility>
 
 namespace quorvane {
 
@@ -48,10 +52,19 @@ void addServicesOfEveryDisplay(
             "no session bus: neither its tray, nor the settings portal, nor notifications");
     services.softwareCentre = std::make_unique<XdgSoftwareCentre>(
         MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
-    services.appearance = std::make_unique<PortalAppearance>(bus);
     services.notifications = std::make_unique<DBusNotifications>(bus, queue);
     services.statusBar = std::make_unique<TrayStatusBar>(bus);
     services.pasteboard = std::make_unique<QtPasteboard>(queue, clipboardAccess(qtPlatform));
+}
+
+/// The portal's word counts most, then what the settings manager of the display says, which
+/// `services` has by now, then what stands in files.
+void completeAppearance(PlatformServices& services, const Environment& environment) {
+    LayeredAppearance::Sources sources;
+    sources.push_back(std::make_unique<PortalAppearance>(QDBusConnection::sessionBus()));
+    sources.push_back(std::move(services.appearance));
+    sources.push_back(std::make_unique<FileAppearance>(settingsFolders(environment)));
+    services.appearance = std::make_unique<LayeredAppearance>(std::move(sources));
 }
 
 const char* nameOf(X11Reach reach) {
@@ -79,6 +92,7 @@ PlatformServices makePlatformServices(
         qCInfo(lcBackend, "no X server answers: the clipboard through Qt");
     else
         qCInfo(lcBackend, "%s", nameOf(*x11));
+    completeAppearance(services, environment);
     return services;
 }
 

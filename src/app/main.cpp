@@ -70,7 +70,9 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
     auto platform = makePlatformServices(
         environment, QGuiApplication::platformName(), mainQueue, endingIn(mainQueue));
     const AppearanceFollower appearanceFollower(
-        *platform.appearance, AppearanceFollower::paletteSource());
+        *platform.appearance,
+        AppearanceFollower::paletteSource(),
+        AppearanceFollower::fontSource());
 
     AppDelegate delegate(
         {clock,

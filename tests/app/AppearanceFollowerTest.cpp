@@ -14,6 +14,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using PaletteFrom = AppearanceFollower::PaletteFrom;
+using FontFrom = AppearanceFollower::FontFrom;
 using Scheme = DesktopAppearance::Scheme;
 
 class AppearanceFollowerTest : public testing::Test {
@@ -39,12 +40,12 @@ TEST_F(AppearanceFollowerTest, StylesOwnPaletteComesFromNoDesktop) {
 }
 
 TEST_F(AppearanceFollowerTest, WithoutAPreferenceThePaletteIsLight) {
-    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn, FontFrom::Desktop);
     EXPECT_EQ(background(), QColor(0xf6f6f8));
 }
 
 TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastAreFollowedAtOnce) {
-    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn, FontFrom::Desktop);
     desktop.change({.scheme = Scheme::Dark});
     EXPECT_EQ(background(), QColor(0x1d1e21));
     EXPECT_EQ(Theme::of(QApplication::palette()).accent, QColor(0x4666ea));
@@ -63,16 +64,31 @@ TEST_F(AppearanceFollowerTest, SchemeAccentAndContrastAreFollowedAtOnce) {
 TEST_F(AppearanceFollowerTest, PaletteOfADesktopIsLeftToQt) {
     const QPalette given(Qt::darkGreen);
     QApplication::setPalette(given);
-    const AppearanceFollower follower(desktop, PaletteFrom::Desktop);
+    const AppearanceFollower follower(desktop, PaletteFrom::Desktop, FontFrom::Desktop);
     desktop.change({.scheme = Scheme::Dark, .wantsMoreContrast = true});
     EXPECT_EQ(background(), given.color(QPalette::Window));
+}
+
+TEST_F(AppearanceFollowerTest, FontOfTheDesktopIsTakenWhereQtKnowsNone) {
+    const auto before = QApplication::font();
+    {
+        const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn, FontFrom::BuiltIn);
+        desktop.change({.font = DesktopAppearance::Font{u"Noto Sans Mono"_s, 15}});
+        EXPECT_EQ(QApplication::font().family(), u"Noto Sans Mono"_s);
+        EXPECT_EQ(QApplication::font().pointSizeF(), 15);
+        desktop.change({});
+        EXPECT_EQ(QApplication::font(), before);
+    }
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn, FontFrom::Desktop);
+    desktop.change({.font = DesktopAppearance::Font{u"Noto Sans Mono"_s, 15}});
+    EXPECT_EQ(QApplication::font(), before);
 }
 
 TEST_F(AppearanceFollowerTest, MotionStopsAndComesBackWhileTheProgramRuns) {
     QApplication::setStyle(u"fusion"_s);
     const int usual = animationDuration();
     ASSERT_GT(usual, 0);
-    const AppearanceFollower follower(desktop, PaletteFrom::Desktop);
+    const AppearanceFollower follower(desktop, PaletteFrom::Desktop, FontFrom::Desktop);
     EXPECT_EQ(animationDuration(), usual);
     desktop.change({.wantsLessMotion = true});
     EXPECT_EQ(animationDuration(), 0);
@@ -81,14 +97,14 @@ TEST_F(AppearanceFollowerTest, MotionStopsAndComesBackWhileTheProgramRuns) {
 }
 
 TEST_F(AppearanceFollowerTest, StyleThatTheDesktopReplacesIsNoLongerUsed) {
-    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn);
+    const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn, FontFrom::Desktop);
     QApplication::setStyle(u"windows"_s);
     desktop.change({.scheme = Scheme::Dark, .wantsLessMotion = true});
     EXPECT_EQ(background(), QColor(0x1d1e21));
 }
 
 TEST_F(AppearanceFollowerTest, NothingIsFollowedAfterDestruction) {
-    { const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn); }
+    { const AppearanceFollower follower(desktop, PaletteFrom::BuiltIn, FontFrom::Desktop); }
     desktop.change({.scheme = Scheme::Dark});
     EXPECT_EQ(background(), QColor(0xf6f6f8));
 }

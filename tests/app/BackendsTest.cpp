@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Backends.h"
 
-#include <platform_dbus/PortalAppearance.h>
+#include <platform/LayeredAppearance.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
 #include <testing/VirtualMainQueue.h>
@@ -36,7 +36,7 @@ TEST_F(BackendsTest, ServicesThatNeedNoCertainDisplayAreThereOnEveryDisplay) {
     for (const auto& qtPlatform : {u"xcb"_s, u"wayland"_s, u"offscreen"_s}) {
         const auto made = services(u"null"_s, qtPlatform);
         EXPECT_NE(dynamic_cast<TrayStatusBar*>(made.statusBar.get()), nullptr);
-        EXPECT_NE(dynamic_cast<PortalAppearance*>(made.appearance.get()), nullptr);
+        EXPECT_NE(dynamic_cast<LayeredAppearance*>(made.appearance.get()), nullptr);
         EXPECT_NE(dynamic_cast<XdgSoftwareCentre*>(made.softwareCentre.get()), nullptr);
     }
 }

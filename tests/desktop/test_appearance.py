@@ -9,6 +9,7 @@ from harness.case import DesktopCase
 from harness.portal import Portal
 from harness.quorvane import Quorvane
 from harness.screenshot import Picture
+from harness.settings_manager import SettingsManager
 from harness.waiting import PATIENCE, wait_until
 
 _LIGHT_GROUND = 0xF6F6F8
@@ -85,6 +86,35 @@ class Appearance(DesktopCase):
         self.assertTrue(desktop.asked.wait(PATIENCE))
         desktop.set_scheme(portal.DARK)
         self.wait_appearance(quorvane, _DARK_GROUND, _DARK_ACCENT)
+
+    def start_settings_manager(self, **settings: str | int) -> SettingsManager:
+        """A settings manager on the session's display, for the length of the test."""
+        named = {name.replace("_", "/", 1): value for name, value in settings.items()}
+        started = SettingsManager(self.session.display, named)
+        self.addCleanup(started.close)
+        return started
+
+    def test_a_desktop_without_a_portal_tells_its_theme_by_xsettings(self) -> None:
+        manager = self.start_settings_manager(Net_ThemeName="Greybird-dark")
+        quorvane = Quorvane(self.session)
+        self.wait_appearance(quorvane, _DARK_GROUND, _DARK_ACCENT)
+        manager.set({"Net/ThemeName": "Greybird"})
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
+        manager.set({"Gtk/ApplicationPreferDarkTheme": 1})
+        self.wait_appearance(quorvane, _DARK_GROUND, _DARK_ACCENT)
+        desktop = self.start_portal()
+        desktop.set_scheme(portal.LIGHT)
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
+
+    def test_gtk_s_file_of_settings_is_followed_where_nobody_shares_them(self) -> None:
+        folder = self.session.directory("config") / "gtk-3.0"
+        folder.mkdir(parents=True)
+        file = folder / "settings.ini"
+        file.write_text("[Settings]\ngtk-theme-name=Adwaita-dark\n")
+        quorvane = Quorvane(self.session)
+        self.wait_appearance(quorvane, _DARK_GROUND, _DARK_ACCENT)
+        file.write_text("[Settings]\ngtk-theme-name=Adwaita\n")
+        self.wait_appearance(quorvane, _LIGHT_GROUND, _LIGHT_ACCENT)
 
     def test_without_a_portal_the_program_works(self) -> None:
         editor = self.editor()

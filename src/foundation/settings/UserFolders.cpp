@@ -29,13 +29,20 @@ QString homeOfUser() {
     return found == nullptr ? QDir::homePath() : QFile::decodeName(found->pw_dir);
 }
 
+QString homeIn(const Environment& environment) {
+    return absolutePathOr(environment("HOME"), homeOfUser());
+}
+
+QString configHome(const Environment& environment) {
+    return absolutePathOr(environment("XDG_CONFIG_HOME"), homeIn(environment) + u"/.config"_s);
+}
+
 } // namespace
 
 UserFolders UserFolders::fromEnvironment(const Environment& environment) {
-    const auto home = absolutePathOr(environment("HOME"), homeOfUser());
-    const auto config = absolutePathOr(environment("XDG_CONFIG_HOME"), home + u"/.config"_s);
-    const auto state = absolutePathOr(environment("XDG_STATE_HOME"), home + u"/.local/state"_s);
-    return {config + u"/quorvane"_s, state + u"/quorvane"_s};
+    const auto state =
+        absolutePathOr(environment("XDG_STATE_HOME"), homeIn(environment) + u"/.local/state"_s);
+    return {configHome(environment) + u"/quorvane"_s, state + u"/quorvane"_s};
 }
 
 QString UserFolders::defaultsFile() const {
@@ -44,6 +51,16 @@ QString UserFolders::defaultsFile() const {
 
 QString UserFolders::windowsFile() const {
     return state + u"/windows.json"_s;
+}
+
+QStringList settingsFolders(const Environment& environment) {
+    QStringList folders{configHome(environment)};
+    const auto system = environment("XDG_CONFIG_DIRS").value_or(QString());
+    for (const auto& folder : (system.isEmpty() ? u"/etc/xdg"_s : system).split(u':')) {
+        if (QDir::isAbsolutePath(folder))
+            folders.append(folder);
+    }
+    return folders;
 }
 
 } // namespace quorvane

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <platform_x11/X11Services.h>
+#include <x11_appearance/X11Appearance.h>
 #include <x11_clipboard/X11Pasteboard.h>
 #include <x11_keyboard/X11AccessibilityRight.h>
 #include <x11_keyboard/X11EventTapService.h>
@@ -39,6 +40,7 @@ bool addX11Services(
         return false;
     const std::shared_ptr<X11Keymap> keymap =
         X11Keymap::open(mainQueue, X11Keymap::Source::UsersKeys, onLost);
+    services.appearance = std::make_unique<X11Appearance>(connection);
     services.pasteboard = std::make_unique<X11Pasteboard>(connection, mainQueue);
     services.keyboardLayout = std::make_unique<X11KeyboardLayout>(keymap);
     services.windowTraits = std::make_unique<X11WindowTraits>(connection);

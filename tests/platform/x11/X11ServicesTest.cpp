@@ -35,11 +35,9 @@ TEST_F(ServicesOnX11, ReplaceThoseThatDoNothing) {
 }
 
 TEST_F(ServicesOnX11, LeaveToOthersWhatTheServerDoesNotHave) {
-    const auto* appearance = m_services.appearance.get();
     const auto* softwareCentre = m_services.softwareCentre.get();
     const auto* statusBar = m_services.statusBar.get();
     ASSERT_TRUE(addX11Services(m_services, m_queue, X11Reach::Session));
-    EXPECT_EQ(m_services.appearance.get(), appearance);
     EXPECT_EQ(m_services.softwareCentre.get(), softwareCentre);
     EXPECT_EQ(m_services.statusBar.get(), statusBar);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <optional>
 
@@ -19,8 +21,16 @@ struct DesktopAppearance {
         friend bool operator==(const Accent&, const Accent&) = default;
     };
 
+    struct Font {
+        QString family;
+        double points;
+
+        friend bool operator==(const Font&, const Font&) = default;
+    };
+
     std::optional<Scheme> scheme{}; ///< none: the user has no preference
     std::optional<Accent> accent{};
+    std::optional<Font> font{};
     bool wantsMoreContrast = false;
     bool wantsLessMotion = false;
 
@@ -32,11 +42,12 @@ class Appearance {
 public:
     virtual ~Appearance() = default;
 
-    /// What is known; before the first answer, nothing.
+    /// What is known. From a source that answers at once it is known from the beginning, so that
+    /// the first paint has it; of one that has to be waited for, nothing before its first answer.
     [[nodiscard]] virtual DesktopAppearance current() const = 0;
 
-    /// Asks the desktop, and from then on follows it. Returns at once: the first paint does not
-    /// wait for a desktop that is slow to answer.
+    /// Asks what has to be waited for, and from then on follows it. Returns at once: the first
+    /// paint does not wait for a desktop that is slow to answer.
     virtual void read() = 0;
 
     /// Called whenever current() has become another; replaces an earlier handler.

@@ -4,6 +4,7 @@
 #include <settings/Environment.h>
 
 #include <QString>
+#include <QStringList>
 
 namespace quorvane {
 
@@ -20,5 +21,9 @@ struct UserFolders {
     [[nodiscard]] QString defaultsFile() const;
     [[nodiscard]] QString windowsFile() const;
 };
+
+/// Where programs look for settings, by the same specification: the user's own folder, then the
+/// system's ($XDG_CONFIG_DIRS, by default /etc/xdg).
+[[nodiscard]] QStringList settingsFolders(const Environment& environment);
 
 } // namespace quorvane
