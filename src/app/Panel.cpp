@@ -11,8 +11,8 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleHints>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include <utility>
 
@@ -69,8 +69,24 @@ void Panel::resizeEvent(QResizeEvent* event) {
 }
 
 void Panel::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
-        windowHandle()->startSystemMove();
+    if (event->button() == Qt::LeftButton)
+        m_pressed = event->globalPosition().toPoint();
+}
+
+// Not at the press: a click may be over before the window manager takes the pointer, which the
+// panel would then follow until the next click.
+void Panel::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_pressed || !event->buttons().testFlag(Qt::LeftButton))
+        return;
+    const auto way = event->globalPosition().toPoint() - *m_pressed;
+    if (way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
+        return;
+    m_pressed.reset();
+    Q_EMIT dragged();
+}
+
+void Panel::mouseReleaseEvent(QMouseEvent*) {
+    m_pressed.reset();
 }
 
 void Panel::leaveEvent(QEvent* event) {

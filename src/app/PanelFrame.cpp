@@ -9,6 +9,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -32,38 +33,56 @@ constexpr std::size_t rememberedRequests = 8;
 
 PanelFrame::PanelFrame(Panel& panel, Dependencies dependencies)
     : m_panel(panel),
-      m_dependencies(dependencies) {
+      m_dependencies(dependencies),
+      m_userMoves(panel, dependencies.queue, dependencies.windowTraits),
+      m_contentHeight(panelplacement::contentHeight(panel.fittingHeight())),
+      m_height(m_contentHeight) {
+    if (const auto stored = dependencies.frames.frame(frameName)) {
+        m_usersHeight = panelplacement::storedHeight(*stored);
+        m_height = m_usersHeight.value_or(m_contentHeight);
+        m_usersFrame = QRect(stored->topLeft(), QSize(panelmetrics::width, m_height));
+    }
     connect(&panel, &Panel::fittingHeightChanged, this, &PanelFrame::fit);
     connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitAfterPointerLeft);
+    connect(&panel, &Panel::frameChanged, this, &PanelFrame::handleFrameChanged);
+    connect(&panel, &Panel::dragged, this, &PanelFrame::startMove);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PanelFrame::handleScreenRemoved);
+    connect(&m_screens, &ScreenChanges::changed, this, &PanelFrame::handleScreensChanged);
 }
 
-void PanelFrame::restore() {
-    const auto stored = panelplacement::restored(m_dependencies.frames.frame(frameName));
-    if (stored) {
-        m_userHeight = stored->height();
-        request(*stored);
+void PanelFrame::place() {
+    if (m_panel.isVisible()) {
+        handleScreensChanged();
         return;
     }
+    m_hasAskedAgain = false;
+    m_requested.clear();
+    m_home = homeFrame();
+    goHome();
+}
+
+void PanelFrame::goHome() {
+    m_heldInPlace = false;
+    request(panelplacement::resized(m_home, wantedHeight(), homeArea()));
+}
+
+QRect PanelFrame::homeArea() const {
+    return screens::screenAround(m_home.center(), m_dependencies.workspace).availableGeometry();
+}
+
+QRect PanelFrame::homeFrame() {
+    if (m_usersFrame && panelplacement::touchesAny(*m_usersFrame, screens::availableAreas()))
+        return *m_usersFrame;
     const auto area = screens::mainScreen(m_dependencies.workspace).availableGeometry();
-    const QSize size(
-        panelmetrics::width,
-        std::min(panelplacement::contentHeight(m_panel.fittingHeight()), area.height()));
-    request(panelplacement::centred(size, area));
+    return panelplacement::centred(
+        {panelmetrics::width, std::min(wantedHeight(), area.height())}, area);
 }
 
-void PanelFrame::moveOntoScreen() {
-    if (!panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas()))
-        centre();
-}
-
-void PanelFrame::follow() {
-    connect(
-        &m_panel,
-        &Panel::frameChanged,
-        this,
-        &PanelFrame::handleFrameChanged,
-        Qt::UniqueConnection);
+int PanelFrame::wantedHeight() {
+    const int needed = panelplacement::contentHeight(m_panel.fittingHeight());
+    if (std::exchange(m_contentHeight, needed) != needed)
+        m_height = std::max(needed, m_usersHeight.value_or(0));
+    return m_height;
 }
 
 void PanelFrame::saveNow() {
@@ -75,20 +94,22 @@ void PanelFrame::request(const QRect& frame) {
     m_requested.push_back(frame);
     if (m_requested.size() > rememberedRequests)
         m_requested.pop_front();
+    m_lastHeight = frame.height();
+    m_userMoves.noteRequest();
     m_panel.setGeometry(frame);
 }
 
 void PanelFrame::fit() {
     const auto frame = m_panel.geometry();
-    const auto area =
-        screens::screenAround(frame.center(), m_dependencies.workspace).availableGeometry();
-    const int height =
-        std::max(panelplacement::contentHeight(m_panel.fittingHeight()), m_userHeight.value_or(0));
-    const auto fitting = panelplacement::resized(frame, height, area);
+    const auto fitting = panelplacement::resized(m_home, wantedHeight(), homeArea());
+    if (fitting.topLeft() == frame.topLeft() || !m_panel.underMouse()) {
+        goHome();
+        return;
+    }
     // The control under the pointer must not move away from it. Until the pointer has left, what
     // does not fit scrolls.
-    m_heldInPlace = fitting.top() != frame.top() && m_panel.underMouse();
-    request(m_heldInPlace ? panelplacement::resizedInPlace(frame, height, area) : fitting);
+    m_heldInPlace = true;
+    request(panelplacement::resizedInPlace(frame, wantedHeight(), homeArea()));
 }
 
 void PanelFrame::fitAfterPointerLeft() {
@@ -97,7 +118,7 @@ void PanelFrame::fitAfterPointerLeft() {
 }
 
 void PanelFrame::handleScreenRemoved(QScreen* removed) {
-    // A hidden panel is moved onto a screen when it shows again.
+    // A hidden panel is placed when it shows again.
     const bool isLost =
         m_panel.isVisible() &&
         !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas(removed));
@@ -108,24 +129,65 @@ void PanelFrame::handleScreenRemoved(QScreen* removed) {
     m_recentring = m_dependencies.queue.after(Seconds(0), [this] { centre(); });
 }
 
+void PanelFrame::handleScreensChanged() {
+    if (m_panel.isVisible() &&
+        !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas()))
+        centre();
+}
+
 void PanelFrame::centre() {
+    m_recentring.reset();
     const auto area = screens::mainScreen(m_dependencies.workspace).availableGeometry();
-    request(panelplacement::centred(m_panel.size(), area));
+    m_home = panelplacement::centred(
+        {panelmetrics::width, std::min(wantedHeight(), area.height())}, area);
+    request(m_home);
+}
+
+void PanelFrame::startMove() {
+    // The click may be over by now, and the panel would follow the pointer until the next one.
+    const auto held = m_dependencies.windowTraits.heldInput();
+    if (m_panel.windowHandle() == nullptr || (held && held->buttons == 0))
+        return;
+    m_heldInPlace = false;
+    m_userMoves.begin();
+    m_panel.windowHandle()->startSystemMove();
 }
 
 void PanelFrame::handleFrameChanged() {
     const auto frame = m_panel.geometry();
     if (std::ranges::count(m_requested, frame) > 0)
         return;
-    if (frame.height() != m_requested.back().height())
-        m_userHeight = frame.height();
-    m_requested = {frame};
+    if (m_userMoves.causeOfChange() == UserMoves::Cause::User)
+        takeOver(frame);
+    else
+        handleManagersChange(frame);
+}
+
+void PanelFrame::takeOver(const QRect& usersFrame) {
+    if (std::exchange(m_lastHeight, usersFrame.height()) != usersFrame.height())
+        m_usersHeight = m_height = usersFrame.height();
+    m_usersFrame = m_home = usersFrame;
+    m_requested.clear();
+    m_heldInPlace = false;
+    m_asking.reset();
     m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
+}
+
+void PanelFrame::handleManagersChange(const QRect& frame) {
+    m_lastHeight = frame.height();
+    // Later ones answer a request of ours, or changed screens.
+    if (m_userMoves.hasSettled())
+        return;
+    if (std::exchange(m_hasAskedAgain, true))
+        m_home.moveTopLeft(frame.topLeft());
+    else
+        m_asking = m_dependencies.queue.after(Seconds(0), [this] { goHome(); });
 }
 
 void PanelFrame::save() {
     m_saving.reset();
-    m_dependencies.frames.setFrame(frameName, m_panel.geometry());
+    m_dependencies.frames.setFrame(
+        frameName, panelplacement::stored(m_usersFrame->topLeft(), m_usersHeight));
 }
 
 } // namespace quorvane

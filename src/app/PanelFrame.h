@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "UserMoves.h"
+
 #include <loop/Deadline.h>
 #include <loop/MainQueue.h>
+#include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
 #include <settings/WindowFrameStore.h>
 
@@ -18,8 +21,9 @@ namespace quorvane {
 
 class Panel;
 
-/// Keeps the panel where the user put it and on a screen, and at least as high as its content needs
-/// and as the user made it.
+/// Keeps the panel where the user put it, else in the middle of the screen where the user works,
+/// and at least as high as its content needs and as the user made it. What a window manager does to
+/// it by itself, and its own growth, are neither kept nor stored.
 class PanelFrame final : public QObject {
     Q_OBJECT
 
@@ -29,39 +33,51 @@ public:
         WindowFrameStore& frames;
         MainQueue& queue;
         const Workspace& workspace;
+        const WindowTraits& windowTraits;
     };
 
     PanelFrame(Panel& panel, Dependencies dependencies);
 
-    /// Applies the stored frame, else one that fits the content in the middle of the screen.
-    void restore();
-
-    /// Moves the panel into the middle of the screen if no screen shows any part of it.
-    void moveOntoScreen();
-
-    /// Takes changes of the frame that it did not request for the user's from now on, and saves
-    /// them. Harmless when called again.
-    void follow();
+    /// Before every show. A panel that shows already is moved only if no screen shows any part of
+    /// it.
+    void place();
 
     /// Saves a change that is due to be saved.
     void saveNow();
 
 private:
+    [[nodiscard]] QRect homeFrame();
+    [[nodiscard]] QRect homeArea() const;
+    [[nodiscard]] int wantedHeight();
+    void goHome();
     void request(const QRect& frame);
     void fit();
     void fitAfterPointerLeft();
     void handleFrameChanged();
+    void takeOver(const QRect& usersFrame);
+    void handleManagersChange(const QRect& frame);
     void handleScreenRemoved(QScreen* removed);
+    void handleScreensChanged();
     void centre();
+    void startMove();
     void save();
 
     Panel& m_panel;
     Dependencies m_dependencies;
-    std::optional<int> m_userHeight;      ///< the least height; only the user makes the panel lower
+    UserMoves m_userMoves;
+    ScreenChanges m_screens;
+    std::optional<QRect> m_usersFrame;    ///< where the user put it, as high as it was then
+    std::optional<int> m_usersHeight;     ///< the least height; only the user makes the panel lower
+    QRect m_home;                         ///< where it stands, but for growth
+    int m_contentHeight;                  ///< that the height was last chosen for
+    int m_height;                         ///< of choice, though no screen may have room for it
+    int m_lastHeight = 0;                 ///< requested or reported
     std::deque<QRect> m_requested;        ///< the latest, which the window manager reports later
     std::optional<Deadline> m_saving;     ///< pending while a change is not saved yet
+    std::optional<Deadline> m_asking;     ///< pending before it asks once more for its place
     std::optional<Deadline> m_recentring; ///< pending after its screen was removed
-    bool m_heldInPlace = false;           ///< it grows once the pointer has left
+    bool m_hasAskedAgain = false;         ///< since it was placed
+    bool m_heldInPlace = false;           ///< it moves once the pointer has left
 };
 
 } // namespace quorvane

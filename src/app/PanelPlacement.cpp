@@ -10,6 +10,13 @@
 
 namespace quorvane::panelplacement {
 
+namespace {
+
+// A stored frame has some height. No window is as low as this.
+constexpr int noHeight = 1;
+
+} // namespace
+
 int fittingHeight(QWidget& content) {
     content.ensurePolished();
     const auto* layout = content.layout();
@@ -30,10 +37,12 @@ QRect centred(QSize size, const QRect& available) {
     return frame;
 }
 
-std::optional<QRect> restored(const std::optional<QRect>& stored) {
-    if (!stored)
-        return std::nullopt;
-    return QRect(stored->topLeft(), QSize(panelmetrics::width, stored->height()));
+QRect stored(QPoint place, std::optional<int> usersHeight) {
+    return {place, QSize(panelmetrics::width, usersHeight.value_or(noHeight))};
+}
+
+std::optional<int> storedHeight(const QRect& stored) {
+    return stored.height() < minimumContentHeight ? std::nullopt : std::optional(stored.height());
 }
 
 bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas) {

@@ -25,8 +25,12 @@ inline constexpr int minimumContentHeight = 300;
 /// the area is smaller.
 [[nodiscard]] QRect centred(QSize size, const QRect& available);
 
-/// The stored frame with the width that the content has today; none without a stored frame.
-[[nodiscard]] std::optional<QRect> restored(const std::optional<QRect>& stored);
+/// What is stored for a panel that the user put there; the height is none where the user left it
+/// to the content.
+[[nodiscard]] QRect stored(QPoint place, std::optional<int> usersHeight);
+
+/// The height of a stored frame, if the user chose it.
+[[nodiscard]] std::optional<int> storedHeight(const QRect& stored);
 
 /// Whether any of the areas shows a part of the panel.
 [[nodiscard]] bool touchesAny(const QRect& frame, const std::vector<QRect>& availableAreas);

@@ -26,8 +26,10 @@ void PanelPresentation::setupPanel() {
     m_frame = std::make_unique<PanelFrame>(
         *m_panel,
         PanelFrame::Dependencies{
-            m_dependencies.windowFrames, m_dependencies.mainQueue, m_dependencies.workspace});
-    m_frame->restore();
+            m_dependencies.windowFrames,
+            m_dependencies.mainQueue,
+            m_dependencies.workspace,
+            m_dependencies.windowTraits});
     QObject::connect(
         m_panel.get(),
         &Panel::painted,
@@ -40,14 +42,12 @@ void PanelPresentation::show(InputDevice device) {
     setupPanel();
     if (!m_panel->isVisible())
         FocusRing::of(*m_panel)->setLastInput(device);
-    m_frame->moveOntoScreen();
+    m_frame->place();
     m_panel->winId();
     auto& traits = m_dependencies.windowTraits;
     traits.preparePanel(*m_panel->windowHandle());
     m_panel->show();
     m_panel->raise();
-    // Not earlier: the user did not choose the frame that the panel is shown with.
-    m_frame->follow();
     traits.presentPanel(*m_panel->windowHandle());
 }
 

@@ -30,9 +30,11 @@ TEST(PanelPlacement, CentredOnATooSmallScreenShowsTheTopLeft) {
     EXPECT_EQ(centred({width, 400}, {10, 20, 300, 200}), QRect(10, 20, width, 400));
 }
 
-TEST(PanelPlacement, StoredFrameKeepsPlaceAndHeightButNotWidth) {
-    EXPECT_EQ(restored(QRect(30, 40, 700, 555)), QRect(30, 40, width, 555));
-    EXPECT_EQ(restored(std::nullopt), std::nullopt);
+TEST(PanelPlacement, OnlyAHeightOfTheUsersIsStored) {
+    EXPECT_EQ(stored({30, 40}, 555).topLeft(), QPoint(30, 40));
+    for (const int height : {300, 301, 555})
+        EXPECT_EQ(storedHeight(stored({30, 40}, height)), height);
+    EXPECT_EQ(storedHeight(stored({30, 40}, std::nullopt)), std::nullopt);
 }
 
 TEST(PanelPlacement, OnePixelOnAnyScreenIsEnough) {

@@ -13,7 +13,15 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 
-class PanelPresentationTest : public DelegateFixture {};
+class PanelPresentationTest : public DelegateFixture {
+protected:
+    void drag(int x, int y) {
+        auto& traits = static_cast<FakeWindowTraits&>(*platform.windowTraits);
+        traits.held = HeldInput{{}, 1};
+        panel()->move(x, y);
+        traits.held = HeldInput{};
+    }
+};
 
 TEST_F(PanelPresentationTest, FollowsToAnotherVirtualDesktopWhileVisible) {
     launch();
@@ -29,7 +37,7 @@ TEST_F(PanelPresentationTest, FollowsToAnotherVirtualDesktopWhileVisible) {
 TEST_F(PanelPresentationTest, IsAtItsPlaceAgainAfterARestart) {
     launch();
     const auto height = panel()->height();
-    panel()->move(40, 30);
+    drag(40, 30);
     queue.advance(1s);
     makeDelegate();
     launch();
@@ -67,7 +75,7 @@ TEST_F(PanelPresentationTest, FrameThatTheUserDidNotChooseIsNotSaved) {
 
 TEST_F(PanelPresentationTest, QuitSavesAFrameThatIsNotYetSaved) {
     launch();
-    panel()->move(60, 50);
+    drag(60, 50);
     delegate->terminate();
     EXPECT_EQ(frames().frame(u"PanelV2"_s)->topLeft(), QPoint(60, 50));
 }

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QSignalSpy>
+#include <QStyleHints>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -44,6 +46,52 @@ TEST_F(PanelTest, ReportsAChangedFittingHeight) {
     QApplication::sendPostedEvents();
     EXPECT_EQ(spy.count(), 1);
     EXPECT_GE(panel.fittingHeight(), 700);
+}
+
+class PanelDrag : public PanelTest {
+protected:
+    PanelDrag() { panel.show(); }
+
+    void send(QEvent::Type type, QPoint place, Qt::MouseButtons held) {
+        const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, place, panel.mapToGlobal(place), button, held, Qt::NoModifier);
+        QApplication::sendEvent(&panel, &event);
+    }
+
+    const int distance = QGuiApplication::styleHints()->startDragDistance();
+    const QPoint start{8, 100};
+    QSignalSpy drags{&panel, &Panel::dragged};
+};
+
+TEST_F(PanelDrag, ClickIsNoDrag) {
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, start, Qt::NoButton);
+    send(QEvent::MouseMove, start + QPoint(distance, distance), Qt::NoButton);
+    EXPECT_EQ(drags.count(), 0);
+}
+
+TEST_F(PanelDrag, BeginsOnceThePointerHasGoneTheDistanceOfADrag) {
+    ASSERT_GT(distance, 1);
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+    send(QEvent::MouseMove, start + QPoint(distance - 1, 0), Qt::LeftButton);
+    EXPECT_EQ(drags.count(), 0);
+    send(QEvent::MouseMove, start + QPoint(distance, 0), Qt::LeftButton);
+    EXPECT_EQ(drags.count(), 1);
+    send(QEvent::MouseMove, start + QPoint(3 * distance, 0), Qt::LeftButton);
+    EXPECT_EQ(drags.count(), 1);
+}
+
+TEST_F(PanelDrag, BeginsOnlyWithTheLeftButton) {
+    QMouseEvent press(
+        QEvent::MouseButtonPress,
+        start,
+        panel.mapToGlobal(start),
+        Qt::RightButton,
+        Qt::RightButton,
+        Qt::NoModifier);
+    QApplication::sendEvent(&panel, &press);
+    send(QEvent::MouseMove, start + QPoint(3 * distance, 0), Qt::RightButton);
+    EXPECT_EQ(drags.count(), 0);
 }
 
 } // namespace

@@ -243,6 +243,8 @@ TEST_F(PresentationTest, KeyCapsFollowTheKeyboardLayout) {
 
 TEST_F(PresentationTest, PlaceOfADiscardedPanelIsKept) {
     launchAs(PresentationMode::Window);
+    auto& traits = static_cast<FakeWindowTraits&>(*platform.windowTraits);
+    traits.held = HeldInput{{}, 1};
     panel()->move(33, 44);
     setMode(PresentationMode::Popover);
     setMode(PresentationMode::Window);

@@ -122,6 +122,8 @@ public:
     }
 
     [[nodiscard]] bool isComposited() const override { return false; }
+
+    [[nodiscard]] std::optional<HeldInput> heldInput() const override { return std::nullopt; }
 };
 
 class NullAppearance final : public Appearance {

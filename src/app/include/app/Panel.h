@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPoint>
 #include <QWidget>
+
+#include <optional>
 
 namespace quorvane {
 
@@ -28,18 +31,24 @@ Q_SIGNALS:
 
     void pointerLeft();
 
+    /// The user drags the background: the desktop is to move the panel with the pointer.
+    void dragged();
+
 protected:
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QWidget* m_content;
     int m_fittingHeight;
+    std::optional<QPoint> m_pressed; ///< where, on the screen; none once it has become a drag
 };
 
 } // namespace quorvane

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/HeldInput.h>
+
+#include <optional>
+
 class QWindow;
 
 namespace quorvane {
@@ -31,6 +35,10 @@ public:
 
     /// Whether windows are composited, so that a translucent one shows what is below it.
     [[nodiscard]] virtual bool isComposited() const = 0;
+
+    /// What is held at this moment, also while another program takes the input; none where the
+    /// desktop does not tell.
+    [[nodiscard]] virtual std::optional<HeldInput> heldInput() const = 0;
 };
 
 } // namespace quorvane

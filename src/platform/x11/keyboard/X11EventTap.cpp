@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "X11EventTap.h"
 
-#include "X11KeyState.h"
 #include "X11Xkb.h"
 
 #include <platform/KeyCodes.h>
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Events.h>
+#include <x11_server/X11KeyState.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-#include "X11KeyState.h"
 #include "X11ModifierMap.h"
 #include "X11Xkb.h"
 
 #include <platform/PasteTarget.h>
 #include <x11_keyboard/X11AccessibilityRight.h>
 #include <x11_keyboard/X11KeyPoster.h>
+#include <x11_server/X11KeyState.h>
 #include <x11_server/X11ServerGrab.h>
 
 #include <QLoggingCategory>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <x11_server/QtX11.h>
+#include <x11_server/X11KeyState.h>
 #include <x11_server/X11PropertyValue.h>
+#include <x11_server/XcbReply.h>
 #include <x11_windows/X11WindowTraits.h>
 
 #include <QGuiApplication>
@@ -13,6 +15,7 @@ namespace quorvane {
 namespace {
 
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
+constexpr int pressedButtons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
 
 constexpr X11WindowStates::Pair panelStates{"_NET_WM_STATE_STICKY", "_NET_WM_STATE_ABOVE"};
 constexpr X11WindowStates::Pair hiddenFromTaskbar{
@@ -54,6 +57,17 @@ bool X11WindowTraits::isComposited() const {
     // The running compositing manager of a screen owns this selection (EWMH, _NET_WM_CM_Sn).
     const auto name = QStringLiteral("_NET_WM_CM_S%1").arg(m_connection->screenNumber());
     return m_connection->selectionOwner(m_connection->atom(name)) != XCB_WINDOW_NONE;
+}
+
+std::optional<HeldInput> X11WindowTraits::heldInput() const {
+    auto* xcb = m_connection->xcb();
+    const XcbReply<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(xcb, xcb_query_pointer(xcb, m_connection->root()), nullptr));
+    if (!pointer)
+        return std::nullopt;
+    return HeldInput{
+        x11keystate::keysDown(xcb),
+        static_cast<std::uint8_t>((pointer->mask & pressedButtons) / XCB_BUTTON_MASK_1)};
 }
 
 bool X11WindowTraits::eventFilter(QObject* watched, QEvent* event) {

@@ -26,7 +26,12 @@ public:
 
     [[nodiscard]] bool isComposited() const override { return composited; }
 
+    [[nodiscard]] std::optional<HeldInput> heldInput() const override { return held; }
+
     bool composited = false;
+
+    /// Nothing is held until a test says so.
+    std::optional<HeldInput> held = HeldInput{};
 
 private:
     static std::string named(const std::string& call, const QWindow& window) {

@@ -30,7 +30,7 @@ public:
         return isShown(application) && !m_isKeyboardTaken && m_active == application;
     }
 
-    [[nodiscard]] QScreen* focusedScreen() const override { return nullptr; }
+    [[nodiscard]] QScreen* focusedScreen() const override { return m_screen; }
 
     [[nodiscard]] bool activate(const RunningApplication& application) override {
         m_log.add("activate " + application.name.toStdString());
@@ -74,6 +74,9 @@ public:
     /// From now on the window manager leaves the focus where it is.
     void ignoreActivation() { m_answersActivation = false; }
 
+    /// Null: the desktop does not tell.
+    void setFocusedScreen(QScreen* screen) { m_screen = screen; }
+
     /// Another program, such as a screen lock, has the keyboard for itself.
     void takeKeyboard() { m_isKeyboardTaken = true; }
 
@@ -89,6 +92,7 @@ private:
     CallLog& m_log;
     FrontmostApplication m_front;
     std::optional<RunningApplication> m_active;
+    QScreen* m_screen = nullptr;
     std::vector<std::uint64_t> m_gone;
     bool m_answersActivation = true;
     bool m_isKeyboardTaken = false;

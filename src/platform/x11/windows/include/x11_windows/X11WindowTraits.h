@@ -27,6 +27,7 @@ public:
     void orderFront(QWindow& window) override;
     void activate(QWindow& window) override;
     [[nodiscard]] bool isComposited() const override;
+    [[nodiscard]] std::optional<HeldInput> heldInput() const override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

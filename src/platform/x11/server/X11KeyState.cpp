@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "X11KeyState.h"
-
+#include <x11_server/X11KeyState.h>
 #include <x11_server/XcbReply.h>
 
 #include <algorithm>

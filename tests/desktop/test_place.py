@@ -1,0 +1,304 @@
+# SPDX-License-Identifier: MIT
+"""Where the panel stands: what is the user's, what is not, and screens that come and go."""
+
+import json
+from collections.abc import Callable, Sequence
+
+from harness.accessible import Accessible
+from harness.case import DesktopCase
+from harness.floating_window import FloatingWindow
+from harness.keys import Key
+from harness.quorvane import Quorvane
+from harness.waiting import wait_until
+
+_CONTENT_WIDTH = 504
+
+Frame = tuple[int, int, int, int]
+
+
+class PlaceCase(DesktopCase):
+    """The panel's place, seen and changed."""
+
+    middles: Sequence[int] = (640,)  # of the screens
+
+    def frame(self, quorvane: Quorvane) -> Frame:
+        window = quorvane.panel()
+        assert window is not None
+        return self.session.windows.frame(window)
+
+    def wait_at(self, quorvane: Quorvane, x: int, y: int, tolerance: int = 0) -> None:
+        quorvane.wait_active()
+
+        def is_there() -> bool:
+            left, top, _, _ = self.frame(quorvane)
+            return abs(left - x) <= tolerance and abs(top - y) <= tolerance
+
+        self.wait_steady(quorvane, is_there, f"the panel at {x}, {y}")
+
+    def show_again(self, quorvane: Quorvane) -> None:
+        quorvane.hide()
+        self.summon(quorvane)
+
+    def change(self, quorvane: Quorvane, frame: Frame) -> None:
+        """Gives the panel another frame as a window manager's own keys do: one of them is held."""
+        window = quorvane.wait_active()
+        x, y, width, height = frame
+        with self.keyboard.held(Key.SUPER):
+            self.session.windows.resize(window, width, height)
+            self.session.windows.move(window, x, y)
+            wait_until(lambda: self.saved_place() == (x, y), f"{x}, {y} to be saved")
+
+    def move(self, quorvane: Quorvane, x: int, y: int) -> None:
+        """Moves a panel that nobody has moved."""
+        self.wait_in_the_middle(quorvane)
+        self.change(quorvane, (x, y, *self.frame(quorvane)[2:]))
+
+    def wait_in_the_middle(self, quorvane: Quorvane) -> None:
+        """Waits for a panel that nobody has moved; a place in points may lie between pixels."""
+        quorvane.wait_active()
+
+        def is_there() -> bool:
+            left, top, width, height = self.frame(quorvane)
+            is_centred = min(abs(left + width / 2 - middle) for middle in self.middles) <= 1
+            return is_centred and abs(top + height / 2 - 400) <= 1
+
+        self.wait_steady(quorvane, is_there, "the panel in the middle of a screen")
+
+    def wait_steady(self, quorvane: Quorvane, condition: Callable[[], bool], what: str) -> None:
+        """Waits until the panel is there; window managers move it once more while it comes."""
+        wait_until(condition, what)
+        self.session.windows.let_manager_catch_up()
+        # Answered once the program has seen what the window manager did.
+        self.preview(quorvane)
+        self.assertTrue(condition())
+
+    def drag(self, quorvane: Quorvane) -> tuple[int, int]:
+        """Drags a panel that is at rest up and to the left, and returns its place."""
+        left, top, _, height = self.frame(quorvane)
+        start = left + 4, top + height // 2
+        self.mouse.press_at(*start)
+        self.addCleanup(self.mouse.release)
+        # The window manager counts from where the pointer is when it takes it over.
+        ways = iter(range(20, 380, 4))
+
+        def follows() -> bool:
+            way = next(ways)
+            self.mouse.move_to(start[0] - way, start[1] - way // 4)
+            return self.frame(quorvane)[:2] != (left, top)
+
+        wait_until(follows, "the panel to follow the pointer")
+        self.mouse.release()
+        wait_until(lambda: self.saved_place() is not None, "the place to be saved")
+        return self.frame(quorvane)[:2]
+
+    def preview(self, quorvane: Quorvane) -> Accessible:
+        return quorvane.tree().find_role("text", "Preview")
+
+    def toggle_range(self, quorvane: Quorvane) -> None:
+        """Has the panel grow or shrink, wherever the pointer is."""
+        quorvane.tree().find_role("check box", "to").press()
+
+    def point_outside(self) -> None:
+        self.mouse.move_to(1, 1)
+
+    def saved_place(self) -> tuple[int, int] | None:
+        file = self.session.directory("state") / "quorvane" / "windows.json"
+        frame = json.loads(file.read_text()).get("PanelV2") if file.exists() else None
+        return (frame["x"], frame["y"]) if frame else None
+
+
+class PanelsPlace(PlaceCase):
+    """What the user gave the panel stays, and nothing else does."""
+
+    def test_five_shows_leave_a_panel_that_nobody_moved_in_the_middle(self) -> None:
+        quorvane = Quorvane(self.session)
+        for _ in range(5):
+            self.wait_in_the_middle(quorvane)
+            self.show_again(quorvane)
+        self.assertIsNone(self.saved_place())
+
+    def test_five_shows_and_a_restart_leave_a_dragged_panel_at_its_place(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.wait_in_the_middle(quorvane)
+        place = self.drag(quorvane)
+        for _ in range(5):
+            self.show_again(quorvane)
+            self.wait_at(quorvane, *place)
+        self.assertEqual(quorvane.quit(), 0)
+        quorvane = Quorvane(self.session)
+        self.wait_at(quorvane, *place)
+        self.assertEqual(self.saved_place(), place)
+
+    def test_a_killed_program_has_saved_its_place(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.move(quorvane, 70, 50)
+        quorvane.process.kill()
+        quorvane.process.wait()
+        quorvane = Quorvane(self.session)
+        self.wait_at(quorvane, 70, 50)
+
+    def test_growth_is_not_what_the_next_start_shows(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.wait_in_the_middle(quorvane)
+        height = self.frame(quorvane)[3]
+        self.toggle_range(quorvane)
+        wait_until(lambda: self.frame(quorvane)[3] > height, "the panel to grow")
+        place = self.drag(quorvane)
+        quorvane.quit()
+        quorvane = Quorvane(self.session)
+        self.wait_at(quorvane, *place)
+        self.assertEqual(self.frame(quorvane)[3], height)
+
+    def test_a_panel_that_grew_comes_back(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.wait_in_the_middle(quorvane)
+        height = self.frame(quorvane)[3]
+        before = 160, 800 - height - 10, _CONTENT_WIDTH, height
+        self.move(quorvane, *before[:2])
+        self.point_outside()
+        self.toggle_range(quorvane)
+        wait_until(lambda: self.frame(quorvane)[1] < before[1], "the panel to grow upwards")
+        self.toggle_range(quorvane)
+        wait_until(lambda: self.frame(quorvane) == before, "the panel to come back")
+        self.assertEqual(self.saved_place(), before[:2])
+
+    def test_a_height_that_the_user_gives_goes_to_the_preview_and_stays(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.move(quorvane, 60, 40)
+        preview = self.preview(quorvane)
+        before = preview.extents[3]
+        height = self.frame(quorvane)[3] + 60
+        self.change(quorvane, (62, 42, _CONTENT_WIDTH, height))
+        wait_until(lambda: preview.extents[3] == before + 60, "the preview to have the surplus")
+        # A row more takes it back from there.
+        self.mouse.click(quorvane.tree().find_role("check box", "to"))
+        wait_until(lambda: preview.extents[3] < before + 60, "the preview to give some of it")
+        self.assertEqual(self.frame(quorvane)[3], height)
+        quorvane.quit()
+        quorvane = Quorvane(self.session)
+        self.wait_at(quorvane, 62, 42)
+        self.assertEqual(self.frame(quorvane)[3], height)
+
+
+class Clicks(PlaceCase):
+    """Presses on the panel's background that are no drag."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.quorvane = Quorvane(self.session)
+        self.wait_in_the_middle(self.quorvane)
+        self.before = self.frame(self.quorvane)
+        self.start = self.before[0] + 6, self.preview(self.quorvane).extents[1] + 4
+
+    def assert_does_not_stick(self) -> None:
+        for distance in (40, 80, 120):
+            self.mouse.move_to(self.start[0] - distance, self.start[1] - distance)
+            # Answered once the program has seen the pointer, and the window manager its request.
+            self.preview(self.quorvane)
+            self.session.windows.let_manager_catch_up()
+        self.assertEqual(self.frame(self.quorvane), self.before)
+
+    def test_a_click_of_no_length_does_not_stick_the_panel_to_the_pointer(self) -> None:
+        self.mouse.click_at(*self.start)
+        self.assert_does_not_stick()
+
+    def test_nor_does_a_flick_that_is_over_before_it_is_seen(self) -> None:
+        self.mouse.flick(self.start, (self.start[0] - 30, self.start[1] - 30))
+        self.assert_does_not_stick()
+
+
+class Scaled(PlaceCase):
+    """Places are in the program's points: on a screen of another scale, and mirrored."""
+
+    def check(self, **environment: str) -> None:
+        quorvane = Quorvane(self.session, **environment)
+        for _ in range(2):
+            self.wait_in_the_middle(quorvane)
+            self.show_again(quorvane)
+        self.wait_in_the_middle(quorvane)
+        place = self.drag(quorvane)
+        for _ in range(3):
+            self.show_again(quorvane)
+            self.wait_at(quorvane, *place, tolerance=1)
+        quorvane.quit()
+        quorvane = Quorvane(self.session, **environment)
+        self.wait_at(quorvane, *place, tolerance=1)
+
+    def test_at_one_and_a_half(self) -> None:
+        self.check(QT_SCALE_FACTOR="1.5")
+
+    def test_from_right_to_left(self) -> None:
+        self.check(LANG="he_IL.UTF-8")
+
+
+class Screens(PlaceCase):
+    """Two screens, of which one goes."""
+
+    middles = (320, 960)
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.session.run(["xrandr", "--setmonitor", "A", "640/169x800/211+0+0", "screen"])
+        self.session.run(["xrandr", "--setmonitor", "B", "640/169x800/211+640+0", "none"])
+
+    def lose_the_second(self) -> None:
+        self.session.run(["xrandr", "--delmonitor", "B"])
+
+    def wait_centred(self, quorvane: Quorvane, left: int) -> None:
+        wait_until(
+            lambda: self.frame(quorvane)[0] == left + (640 - _CONTENT_WIDTH) // 2,
+            f"the panel in the middle of the screen at {left}",
+        )
+
+    def wait_centred_on_the_first(self, quorvane: Quorvane) -> None:
+        self.wait_centred(quorvane, 0)
+
+    def test_until_it_is_moved_it_comes_where_the_user_works(self) -> None:
+        quorvane = self.hidden_quorvane()
+        work = FloatingWindow(self.session)
+        self.addCleanup(work.close)
+        for left in (640, 0, 640):
+            work.show_at(left + 60)
+            self.summon(quorvane)
+            self.wait_centred(quorvane, left)
+            quorvane.hide()
+        self.assertIsNone(self.saved_place())
+        self.summon(quorvane)
+        self.move(quorvane, 20, 100)
+        quorvane.hide()
+        work.show_at(700)
+        self.summon(quorvane)
+        self.wait_at(quorvane, 20, 100)
+
+    def test_a_screen_lost_while_the_panel_shows(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.move(quorvane, 700, 100)
+        self.lose_the_second()
+        # Whatever corner of it the window manager may have pulled over there.
+        self.wait_centred_on_the_first(quorvane)
+        self.assertTrue(quorvane.is_active())
+
+    def test_a_screen_lost_while_the_panel_is_hidden(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.move(quorvane, 700, 100)
+        quorvane.hide()
+        self.lose_the_second()
+        self.summon(quorvane)
+        self.wait_centred_on_the_first(quorvane)
+
+    def test_a_screen_lost_between_two_runs(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.move(quorvane, 700, 100)
+        quorvane.quit()
+        self.lose_the_second()
+        quorvane = Quorvane(self.session)
+        quorvane.wait_active()
+        self.wait_centred_on_the_first(quorvane)
+
+    def test_a_panel_that_a_screen_still_shows_stays(self) -> None:
+        quorvane = Quorvane(self.session)
+        self.move(quorvane, 400, 100)
+        self.lose_the_second()
+        quorvane.hide()
+        self.summon(quorvane)
+        self.wait_at(quorvane, 400, 100)
