@@ -31,6 +31,7 @@ class ClipboardOrder(DesktopCase):
         quorvane = self.hidden_quorvane()
         editor.focus()
         self.clipboard.own(_MINE)
+        self.enter_a_date(quorvane)
         self.summon(quorvane)
         text = quorvane.preview()
         for _ in range(2):
@@ -52,6 +53,7 @@ class ClipboardOrder(DesktopCase):
         quorvane = self.hidden_quorvane()
         editor.focus()
         self.clipboard.own(_MINE)
+        self.enter_a_date(quorvane)
         self.summon(quorvane)
         text = quorvane.preview()
         self.keyboard.tap(*INSERT)

@@ -38,6 +38,7 @@ class ChosenTarget(DesktopCase):
         second = self.editor("featherpad")
         quorvane = self.hidden_quorvane()
         first.focus()
+        self.enter_a_date(quorvane)
         text = self.insert(quorvane, first)
         second.focus()
         quorvane.action("insert")

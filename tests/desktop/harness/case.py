@@ -6,11 +6,12 @@ import sys
 import unittest
 
 from .clipboard import Clipboard
-from .keys import INSERT, SHORTCUT, Keyboard
+from .keys import INSERT, SHORTCUT, Key, Keyboard
 from .mouse import Mouse
 from .quorvane import Quorvane
 from .session import Session
 from .targets import EDITORS, Editor, Target
+from .waiting import wait_until
 
 _NO_WINDOW_MANAGER = "none"
 
@@ -53,6 +54,15 @@ class DesktopCase(unittest.TestCase):
         """Presses the shortcut and waits for the panel."""
         self.keyboard.tap(*SHORTCUT)
         quorvane.wait_active()
+
+    def enter_a_date(self, quorvane: Quorvane) -> None:
+        """Steps the start, with which all that follows is of one moment: nothing moves it on."""
+        self.summon(quorvane)
+        before = quorvane.preview()
+        self.keyboard.tap(Key.UP)
+        wait_until(lambda: quorvane.preview() != before, "another day in the preview")
+        self.keyboard.tap(*SHORTCUT)
+        quorvane.wait_hidden()
 
     def insert(self, quorvane: Quorvane, target: Target) -> str:
         """Runs the workflow from the shortcut to the text in the target, and returns the text."""

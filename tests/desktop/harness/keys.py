@@ -32,6 +32,7 @@ class Key(IntEnum):
     SHIFT = 50
     C = 54
     V = 55
+    N = 57
     COMMA = 59
     ALT = 64
     SPACE = 65

@@ -13,6 +13,11 @@ PROGRAM = Path(os.environ.get("QUORVANE_PROGRAM", TREE / "build" / "quorvane"))
 HELD_DISK = Path(os.environ.get("QUORVANE_HELD_DISK", TREE / "build" / "tests" / "held-disk.so"))
 """What is preloaded into a program whose disk a test holds."""
 
+MOVED_CLOCK = Path(
+    os.environ.get("QUORVANE_MOVED_CLOCK_LIBRARY", TREE / "build" / "tests" / "moved-clock.so")
+)
+"""What is preloaded into a program whose clock a test moves."""
+
 TEXT_FIELD = Path(
     os.environ.get("QUORVANE_TEXT_FIELD", TREE / "build" / "tests" / "quorvane-text-field")
 )
