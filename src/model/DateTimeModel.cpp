@@ -4,6 +4,7 @@
 #include <composition/PresetList.h>
 #include <composition/ZoneSlots.h>
 #include <model/DateTimeModel.h>
+#include <model/RememberedChoices.h>
 #include <settings/SettingsTable.h>
 #include <time/CivilTime.h>
 
@@ -18,6 +19,8 @@ DateTimeModel::DateTimeModel(const Dependencies& dependencies, QObject* parent)
           Composition::startingAt(dependencies.clock.now(), dependencies.currentZone.current())),
       m_preferences(Preferences::load(
           dependencies.defaults, dependencies.currentZone.current(), dependencies.zones)) {
+    if (m_preferences.remembersChoices)
+        rememberedchoices::recall(m_composition, dependencies.defaults, dependencies.zones);
     // Those of a first start stay when the user moves to another zone.
     setFavoriteTimeZoneIdentifiers(QStringList(m_preferences.favoriteTimeZoneIdentifiers));
 }
@@ -33,6 +36,12 @@ void DateTimeModel::assignDate(Instant& field, Instant value) {
     const bool isEntered = startOfMinute(value, zone) != startOfMinute(field, zone);
     assign(field, value);
     m_composition.hasEnteredDate |= isEntered;
+}
+
+template <typename Setting, typename Value>
+void DateTimeModel::remember(const Setting& setting, const Value& value) {
+    if (m_preferences.remembersChoices)
+        setting.store(m_dependencies.defaults, value);
 }
 
 void DateTimeModel::announce() {
@@ -66,26 +75,32 @@ void DateTimeModel::setIsRange(bool isRange) {
 
 void DateTimeModel::setIncludeDate(bool include) {
     assign(m_composition.includeDate, include);
+    remember(setting::includeDate, m_composition.includeDate);
 }
 
 void DateTimeModel::setIncludeTime(bool include) {
     assign(m_composition.includeTime, include);
+    remember(setting::includeTime, m_composition.includeTime);
 }
 
 void DateTimeModel::setSelectedTimeZones(std::vector<TimeZone> zones) {
     assign(m_composition.selectedTimeZones, std::move(zones));
+    remember(setting::selectedZones, rememberedchoices::zoneIdentifiers(m_composition));
 }
 
 void DateTimeModel::setFormatPreset(DateFormatPreset preset) {
     assign(m_composition.formatPreset, preset);
+    remember(setting::formatPreset, rawValue(m_composition.formatPreset));
 }
 
 void DateTimeModel::setCustomFormatString(const QString& pattern) {
     assign(m_composition.customFormatString, pattern);
+    remember(setting::customFormat, m_composition.customFormatString);
 }
 
 void DateTimeModel::setMultiZoneLayout(MultiZoneLayout layout) {
     assign(m_composition.multiZoneLayout, layout);
+    remember(setting::multiZoneLayout, rawValue(m_composition.multiZoneLayout));
 }
 
 void DateTimeModel::setFavoriteTimeZoneIdentifiers(const QStringList& identifiers) {
@@ -119,6 +134,15 @@ void DateTimeModel::setPresentationMode(PresentationMode mode) {
     m_preferences.presentationMode = mode;
     setting::presentationMode.store(
         m_dependencies.defaults, rawValue(m_preferences.presentationMode));
+}
+
+void DateTimeModel::setRemembersChoices(bool remember) {
+    assign(m_preferences.remembersChoices, remember);
+    m_dependencies.defaults.setTogether([this] {
+        setting::remembersChoices.store(m_dependencies.defaults, m_preferences.remembersChoices);
+        if (m_preferences.remembersChoices)
+            rememberedchoices::store(m_composition, m_dependencies.defaults);
+    });
 }
 
 QString

@@ -25,7 +25,8 @@ Preferences Preferences::load(
         .hotKey = storedHotKey(defaults),
         .showInMenuBar = setting::showInMenuBar.valueIn(defaults),
         .showInDock = setting::showInDock.valueIn(defaults),
-        .presentationMode = storedPresentationMode(defaults)};
+        .presentationMode = storedPresentationMode(defaults),
+        .remembersChoices = setting::remembersChoices.valueIn(defaults)};
 }
 
 } // namespace quorvane

@@ -242,6 +242,16 @@ std::vector<Assignment> assignments() {
          [](auto& m) { m.setPresentationMode(PresentationMode::Popover); },
          [](auto& m) { return m.presentationMode() == PresentationMode::Popover; },
          {u"presentationMode"_s}},
+        {"remembersChoices",
+         [](auto& m) { m.setRemembersChoices(true); },
+         [](auto& m) { return m.remembersChoices(); },
+         {u"rememberFormatAndZones"_s,
+          u"formatPreset"_s,
+          u"customFormat"_s,
+          u"multiZoneLayout"_s,
+          u"includeDate"_s,
+          u"includeTime"_s,
+          u"selectedTZs"_s}},
     };
 }
 
@@ -320,6 +330,7 @@ TEST_F(DateTimeModelTest, WhatTheUserComposedEndsWithTheRun) {
         const auto model = makeModel();
         for (const auto& field : assignments())
             field.assign(*model);
+        model->setRemembersChoices(false);
     }
     const auto next = makeModel();
     EXPECT_EQ(next->formatPreset(), DateFormatPreset::LongForm);

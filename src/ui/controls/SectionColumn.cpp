@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "SectionColumn.h"
-
 #include <controls/OverlayScrollBar.h>
-#include <panel/PanelMetrics.h>
+#include <controls/SectionColumn.h>
 
 #include <QEvent>
 #include <QVBoxLayout>
 
 namespace quorvane {
 
-SectionColumn::SectionColumn(QWidget* parent) : QScrollArea(parent) {
+SectionColumn::SectionColumn(const QMargins& margins, int spacing, QWidget* parent)
+    : QScrollArea(parent) {
     auto* column = new QWidget;
     m_sections = new QVBoxLayout(column);
-    constexpr int side = panelmetrics::sideMargin - panelmetrics::overhang;
-    m_sections->setContentsMargins(
-        side, panelmetrics::sectionSpacing, side, panelmetrics::sectionSpacing);
-    m_sections->setSpacing(panelmetrics::sectionSpacing);
+    m_sections->setContentsMargins(margins);
+    m_sections->setSpacing(spacing);
     setWidget(column);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -29,6 +26,10 @@ SectionColumn::SectionColumn(QWidget* parent) : QScrollArea(parent) {
 
 void SectionColumn::add(QWidget* section, int stretch) {
     m_sections->addWidget(section, stretch);
+}
+
+void SectionColumn::addSpacing(int height) {
+    m_sections->addSpacing(height);
 }
 
 int SectionColumn::heightForWidth(int width) const {

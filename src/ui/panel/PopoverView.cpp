@@ -5,10 +5,11 @@
 #include "FormatSection.h"
 #include "PopoverHeader.h"
 #include "PreviewSection.h"
-#include "SectionColumn.h"
 #include "TimeZoneSection.h"
 
+#include <controls/SectionColumn.h>
 #include <delivery/CopyText.h>
+#include <panel/PanelMetrics.h>
 #include <panel/PopoverView.h>
 
 #include <QKeyEvent>
@@ -120,7 +121,10 @@ PopoverHeader* PopoverView::makeHeader() {
 }
 
 void PopoverView::layOut() {
-    auto* sections = new SectionColumn(this);
+    using namespace panelmetrics;
+    constexpr int side = sideMargin - overhang;
+    auto* sections =
+        new SectionColumn({side, sectionSpacing, side, sectionSpacing}, sectionSpacing, this);
     sections->add(m_dateSection);
     sections->add(m_timeZoneSection);
     sections->add(m_formatSection);

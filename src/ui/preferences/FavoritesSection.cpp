@@ -122,6 +122,9 @@ void FavoritesSection::layOut() {
     column().addSpacing(preferencesmetrics::rowSpacing);
     column().addLayout(search);
     column().addSpacing(listGap);
+    // It asks for no more than the least, which leaves it all that there is.
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_list->setMinimumHeight(preferencesmetrics::leastListHeight);
     column().addWidget(m_list, 1);
 }
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "FavoritesSection.h"
+#include "GeneralSection.h"
 #include "IconsSection.h"
 #include "ShortcutSection.h"
 
 #include <controls/SearchField.h>
+#include <controls/SectionColumn.h>
 #include <controls/Theme.h>
 #include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
@@ -48,6 +50,7 @@ PreferencesView::PreferencesView(
           m_dependencies.mainQueue,
           this)),
       m_icons(new IconsSection(model, this)),
+      m_general(new GeneralSection(model, this)),
       m_favorites(new FavoritesSection(
           model, m_dependencies.zones, m_dependencies.clock, m_dependencies.pasteReader, this)) {
     setFixedWidth(preferencesmetrics::size.width());
@@ -73,21 +76,25 @@ void PreferencesView::showEvent(QShowEvent* event) {
 }
 
 void PreferencesView::layOut() {
-    using namespace preferencesmetrics;
-    // Switches are taller than what they paint, and so their section extends below it.
-    constexpr int afterSwitches = dividerSpacing - IconsSection::overhang;
+    constexpr int margin = preferencesmetrics::margin;
+    auto* sections = new SectionColumn({margin, margin, margin, 0}, 0, this);
+    sections->add(m_shortcut);
+    addDivider(*sections, 0);
+    sections->add(m_icons);
+    addDivider(*sections, IconsSection::overhang);
+    sections->add(m_general);
+    addDivider(*sections, GeneralSection::overhang);
+    sections->add(m_favorites, 1);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(margin, margin, margin, 0);
-    column->setSpacing(0);
-    column->addWidget(m_shortcut);
-    column->addSpacing(dividerSpacing);
-    column->addWidget(new Divider(this));
-    column->addSpacing(dividerSpacing);
-    column->addWidget(m_icons);
-    column->addSpacing(afterSwitches);
-    column->addWidget(new Divider(this));
-    column->addSpacing(dividerSpacing);
-    column->addWidget(m_favorites, 1);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(sections);
+}
+
+/// Below a section that extends by `overhang` beyond what it paints.
+void PreferencesView::addDivider(SectionColumn& column, int overhang) {
+    column.addSpacing(preferencesmetrics::dividerSpacing - overhang);
+    column.add(new Divider(this));
+    column.addSpacing(preferencesmetrics::dividerSpacing);
 }
 
 void PreferencesView::change(HotKeyCombo combo) {
@@ -99,6 +106,7 @@ void PreferencesView::change(HotKeyCombo combo) {
 void PreferencesView::refresh() {
     m_shortcut->setActivity(m_dependencies.shortcutActivity());
     m_icons->refresh();
+    m_general->refresh();
     m_favorites->refresh();
 }
 

@@ -25,6 +25,24 @@ TEST(SettingsTable, EveryRowHasItsKeyAndDefault) {
     EXPECT_EQ(setting::hotKeyModifiers.valueIn(empty), 4864); // Control, Shift and Command
 }
 
+TEST(SettingsTable, EveryRememberedChoiceHasItsKeyAndDefault) {
+    const MemoryDefaults empty;
+    EXPECT_EQ(setting::remembersChoices.key, "rememberFormatAndZones"_L1);
+    EXPECT_FALSE(setting::remembersChoices.valueIn(empty));
+    EXPECT_EQ(setting::formatPreset.key, "formatPreset"_L1);
+    EXPECT_EQ(setting::formatPreset.valueIn(empty), u"Long"_s);
+    EXPECT_EQ(setting::customFormat.key, "customFormat"_L1);
+    EXPECT_EQ(setting::customFormat.valueIn(empty), u"yyyy-MM-dd HH:mm zzz"_s);
+    EXPECT_EQ(setting::multiZoneLayout.key, "multiZoneLayout"_L1);
+    EXPECT_EQ(setting::multiZoneLayout.valueIn(empty), u"Inline"_s);
+    EXPECT_EQ(setting::includeDate.key, "includeDate"_L1);
+    EXPECT_TRUE(setting::includeDate.valueIn(empty));
+    EXPECT_EQ(setting::includeTime.key, "includeTime"_L1);
+    EXPECT_TRUE(setting::includeTime.valueIn(empty));
+    EXPECT_EQ(setting::selectedZones.key, "selectedTZs"_L1);
+    EXPECT_EQ(setting::selectedZones.storedIn(empty), std::nullopt);
+}
+
 TEST(SettingsTable, WindowFramesHaveTheirKeys) {
     EXPECT_EQ(windowframesetting::x, "x"_L1);
     EXPECT_EQ(windowframesetting::y, "y"_L1);

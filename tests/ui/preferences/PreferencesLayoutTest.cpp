@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesFixture.h"
 
+#include <controls/SectionColumn.h>
+
 #include <QLayout>
 
 namespace quorvane {
@@ -89,6 +91,8 @@ TEST_F(PreferencesLayoutTest, NothingOverlapsInSmallAndLargeFonts) {
             label(u"Tray & Taskbar"_s),
             label(u"Show icon in system tray"_s),
             label(u"Show windows in taskbar"_s),
+            label(u"General"_s),
+            label(u"Remember format and zones"_s),
             label(u"Favorite Time Zones"_s),
             label(u"Favorites appear as one-click chips in the popover."_s),
             &field(),
@@ -106,6 +110,28 @@ TEST_F(PreferencesLayoutTest, NothingOverlapsInSmallAndLargeFonts) {
         EXPECT_GE(
             list().visualRect(row(0)).height(),
             QFontMetrics(view->font()).height() + QFontMetrics(view->font()).height() * 10 / 13);
+    }
+}
+
+TEST_F(PreferencesLayoutTest, WhatIsLongerThanTheWindowScrollsAndTheFocusIsSeen) {
+    const auto& area = *view->findChild<SectionColumn*>();
+    settle();
+    EXPECT_EQ(area.verticalScrollBar()->maximum(), 0);
+    setBody(24);
+    view->resize(preferencesmetrics::size);
+    settle();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(view->size(), preferencesmetrics::size);
+    ASSERT_GT(area.verticalScrollBar()->maximum(), 0);
+    EXPECT_GE(list().height(), preferencesmetrics::leastListHeight);
+    button(u"Record new shortcut"_s).setFocus(Qt::TabFocusReason);
+    for (int tab = 0; tab < 6; ++tab) {
+        QTest::keyClick(view->windowHandle(), Qt::Key_Tab);
+        const auto* focused = view->focusWidget();
+        const QRect seen(area.viewport()->mapTo(view.get(), QPoint()), area.viewport()->size());
+        EXPECT_TRUE(seen.intersects(placeOf(*focused))) << focused->accessibleName().toStdString();
+        EXPECT_TRUE(focused == &list() || seen.contains(placeOf(*focused)))
+            << focused->accessibleName().toStdString();
     }
 }
 

@@ -14,6 +14,7 @@ using namespace physicalkey;
 const auto menuBar = u"Show icon in system tray"_s;
 const auto dock = u"Show windows in taskbar"_s;
 const auto wayBack = u"Open Quorvane from the applications menu to reach Preferences."_s;
+const auto remember = u"Remember format and zones"_s;
 
 class PreferencesViewTest : public PreferencesFixture {
 protected:
@@ -51,6 +52,7 @@ TEST_F(PreferencesViewTest, HeadingsNameTheirGroups) {
     };
     EXPECT_EQ(groupOf(recorder()), u"Keyboard Shortcut"_s);
     EXPECT_EQ(groupOf(box(menuBar)), u"Tray & Taskbar"_s);
+    EXPECT_EQ(groupOf(box(remember)), u"General"_s);
     EXPECT_EQ(groupOf(list()), u"Favorite Time Zones"_s);
 }
 
@@ -226,6 +228,16 @@ TEST_F(PreferencesViewTest, SwitchesFollowTheModel) {
     EXPECT_TRUE(queue.isIdle());
 }
 
+TEST_F(PreferencesViewTest, FormatAndZonesAreRememberedOnRequest) {
+    EXPECT_FALSE(box(remember).isChecked());
+    QTest::mouseClick(label(remember), Qt::LeftButton);
+    EXPECT_TRUE(model->remembersChoices());
+    EXPECT_TRUE(defaults.boolForKey(setting::remembersChoices.key));
+    model->setRemembersChoices(false);
+    queue.run();
+    EXPECT_FALSE(box(remember).isChecked());
+}
+
 TEST_F(PreferencesViewTest, OpensReadyToSearch) {
     EXPECT_EQ(view->focusWidget(), &field());
     QTest::keyClicks(view->focusWidget(), u"kathmandu"_s);
@@ -237,6 +249,7 @@ TEST_F(PreferencesViewTest, TabGoesFromTopToBottom) {
     const std::vector<QWidget*> order{
         &box(menuBar),
         &box(dock),
+        &box(remember),
         &field(),
         &starredOnly(),
         &list(),

@@ -12,7 +12,8 @@
 
 namespace quorvane {
 
-/// What the user composes. It ends with the run.
+/// What the user composes. It ends with the run, but for what the user wants remembered (see
+/// RememberedChoices.h).
 struct Composition {
     Instant startDate;
     Instant endDate;             ///< may be before the start

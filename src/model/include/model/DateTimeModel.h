@@ -82,6 +82,9 @@ public:
         return m_preferences.presentationMode;
     }
 
+    /// Whether format, layout, boxes and zones come back at the next start.
+    [[nodiscard]] bool remembersChoices() const { return m_preferences.remembersChoices; }
+
     /// What the user has entered. Another minute makes the date the user's; the same one, with
     /// other seconds, does not.
     void setStartDate(Instant instant);
@@ -95,6 +98,8 @@ public:
     void returnToNow();
 
     void setIsRange(bool isRange);
+
+    // These are stored as well while choices are remembered.
     void setIncludeDate(bool include);
     void setIncludeTime(bool include);
     void setSelectedTimeZones(std::vector<TimeZone> zones);
@@ -109,6 +114,8 @@ public:
     void setShowInMenuBar(bool show);
     void setShowInDock(bool show);
     void setPresentationMode(PresentationMode mode);
+    /// Switched on, it stores the choices as they are.
+    void setRemembersChoices(bool remember);
 
     [[nodiscard]] const UserLocale& locale() const { return m_dependencies.locale; }
 
@@ -149,6 +156,8 @@ private:
     template <typename T>
     void assign(T& field, T value);
     void assignDate(Instant& field, Instant value);
+    template <typename Setting, typename Value>
+    void remember(const Setting& setting, const Value& value);
     void announce();
 
     [[nodiscard]] TimeZone sampleZone() const;

@@ -17,6 +17,7 @@ struct Preferences {
     bool showInMenuBar = true;
     bool showInDock = false;
     PresentationMode presentationMode = PresentationMode::Window;
+    bool remembersChoices = false; ///< format and zones survive a restart, too
 
     /// What is stored, with defaults for the rest; the favourites of a first start are made from
     /// the current zone. A stored shortcut that is out of range stops the process.

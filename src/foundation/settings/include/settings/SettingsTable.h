@@ -28,6 +28,23 @@ inline constexpr StoredSetting<qint64> hotKeyCode{QLatin1StringView("hotKeyCode"
 inline constexpr StoredSetting<qint64> hotKeyModifiers{
     QLatin1StringView("hotKeyModifiers"), 0x1300};
 
+/// Whether the choices below are kept. While it is off they are neither read nor written.
+inline constexpr StoredSetting<bool> remembersChoices{
+    QLatin1StringView("rememberFormatAndZones"), false};
+
+/// Raw values of composition/DateFormatPreset.h and MultiZoneLayout.h; any other text counts as
+/// nothing stored. Identifiers that name no zone are left out. Without date and time both are shown.
+inline constexpr StoredSetting<QString, QLatin1StringView> formatPreset{
+    QLatin1StringView("formatPreset"), QLatin1StringView("Long")};
+inline constexpr StoredSetting<QString, QLatin1StringView> customFormat{
+    QLatin1StringView("customFormat"), QLatin1StringView("yyyy-MM-dd HH:mm zzz")};
+inline constexpr StoredSetting<QString, QLatin1StringView> multiZoneLayout{
+    QLatin1StringView("multiZoneLayout"), QLatin1StringView("Inline")};
+inline constexpr StoredSetting<bool> includeDate{QLatin1StringView("includeDate"), true};
+inline constexpr StoredSetting<bool> includeTime{QLatin1StringView("includeTime"), true};
+inline constexpr StoredSetting<QStringList, MadeAtFirstStart> selectedZones{
+    QLatin1StringView("selectedTZs"), {}};
+
 } // namespace setting
 
 /// In windows.json: an object for each window, under its autosave name, with these four numbers.

@@ -7,16 +7,19 @@ class QVBoxLayout;
 
 namespace quorvane {
 
-/// The sections below each other. It asks for the height that they need; where it gets less, it
+/// The sections of a window below each other. It asks for the height that they need; where it gets less, it
 /// scrolls.
 class SectionColumn final : public QScrollArea {
     Q_OBJECT
 
 public:
-    explicit SectionColumn(QWidget* parent);
+    /// `margins` around all of them, `spacing` between two.
+    SectionColumn(const QMargins& margins, int spacing, QWidget* parent);
 
     /// Takes the section; whatever height is left over goes to the sections that stretch.
     void add(QWidget* section, int stretch = 0);
+
+    void addSpacing(int height);
 
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
 

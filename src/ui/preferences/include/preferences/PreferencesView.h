@@ -16,12 +16,14 @@
 namespace quorvane {
 
 class FavoritesSection;
+class GeneralSection;
 class IconsSection;
+class SectionColumn;
 class ShortcutSection;
 
-/// The settings that the main interface does not show: the shortcut, where the icon shows, and the
-/// favourite zones. Changes take effect at once. As wide as its window is to be; the list takes
-/// whatever height there is.
+/// The settings that the main interface does not show: the shortcut, where the icon shows, how the
+/// program begins, and the favourite zones. Changes take effect at once. As wide as its window is to
+/// be; the list takes whatever height there is, and where that is too little everything scrolls.
 class PreferencesView final : public QWidget {
     Q_OBJECT
 
@@ -59,6 +61,7 @@ protected:
 
 private:
     void layOut();
+    void addDivider(SectionColumn& column, int overhang);
     void change(HotKeyCombo combo);
     void refresh();
 
@@ -70,6 +73,7 @@ private:
 
     ShortcutSection* m_shortcut;
     IconsSection* m_icons;
+    GeneralSection* m_general;
     FavoritesSection* m_favorites;
 };
 
