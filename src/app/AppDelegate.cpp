@@ -75,7 +75,13 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            *m_dependencies.platform.pasteboard,
            *m_dependencies.platform.keyPoster,
            m_dependencies.mainQueue},
-          insertionCallbacks()) {
+          insertionCallbacks()),
+      m_timeFollower(
+          {*m_dependencies.platform.timeChanges,
+           m_dependencies.mainQueue,
+           m_dependencies.clock,
+           m_dependencies.currentZone},
+          [this] { refreshSoon(); }) {
 }
 
 AppDelegate::~AppDelegate() {
@@ -269,10 +275,12 @@ void AppDelegate::observeDesktop() {
     platform.workspace->onActiveSpaceChanged(
         [this] { m_presentation.panel().activeSpaceDidChange(); });
     connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
-    platform.keyboardLayout->onChanged([this] {
-        m_presentation.refreshSoon();
-        m_preferences.refreshSoon();
-    });
+    platform.keyboardLayout->onChanged([this] { refreshSoon(); });
+}
+
+void AppDelegate::refreshSoon() {
+    m_presentation.refreshSoon();
+    m_preferences.refreshSoon();
 }
 
 /// Does what the first opening of the interface need not wait for; once, though panel and popover

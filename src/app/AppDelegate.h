@@ -9,6 +9,7 @@
 #include "PreferencesWindowController.h"
 #include "Presentation.h"
 #include "PreviousFrontmostApp.h"
+#include "TimeFollower.h"
 #include "TrayIcon.h"
 
 #include <platform/PlatformServices.h>
@@ -108,6 +109,7 @@ private:
     void renewHiddenDates();
     void setupMainMenu();
     void observeDesktop();
+    void refreshSoon();
     void prepareAfterFirstPaint();
 
     Dependencies m_dependencies;
@@ -123,6 +125,7 @@ private:
     std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< null before the first paint
     DeliveryNotice m_notice;
     Insertion m_insertion;
+    TimeFollower m_timeFollower;
     bool m_terminating = false;
 };
 

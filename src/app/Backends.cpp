@@ -6,12 +6,14 @@
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
 #include <platform_qt/QtPasteboard.h>
+#include <platform_system/SystemTimeChanges.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_x11/X11Services.h>
 #include <platform_x11/XWayland.h>
 #include <platform_xdg/FileAppearance.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
 #include <settings/UserFolders.h>
+#include <time/SystemCurrentZone.h>
 
 #include <QDesktopServices>
 #include <QLoggingCategory>
@@ -44,7 +46,10 @@ QtPasteboard::Access clipboardAccess(const QString& qtPlatform) {
 }
 
 void addServicesOfEveryDisplay(
-    PlatformServices& services, const QString& qtPlatform, MainQueue& queue) {
+    PlatformServices& services,
+    const Environment& environment,
+    const QString& qtPlatform,
+    MainQueue& queue) {
     const auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         qCInfo(
@@ -55,6 +60,8 @@ void addServicesOfEveryDisplay(
     services.notifications = std::make_unique<DBusNotifications>(bus, queue);
     services.statusBar = std::make_unique<TrayStatusBar>(bus);
     services.pasteboard = std::make_unique<QtPasteboard>(queue, clipboardAccess(qtPlatform));
+    services.timeChanges =
+        std::make_unique<SystemTimeChanges>(SystemCurrentZone::settingFile(environment));
 }
 
 /// The portal's word counts most, then what the settings manager of the display says, which
@@ -81,7 +88,7 @@ PlatformServices makePlatformServices(
     MainQueue& queue,
     const std::function<void()>& onDisplayLost) {
     auto services = makeNullServices(queue);
-    addServicesOfEveryDisplay(services, qtPlatform, queue);
+    addServicesOfEveryDisplay(services, environment, qtPlatform, queue);
     const auto x11 = wantedX11(environment, qtPlatform);
     if (!x11)
         qCInfo(

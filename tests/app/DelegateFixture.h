@@ -14,6 +14,7 @@
 #include <testing/FakePasteboard.h>
 #include <testing/FakeSoftwareCentre.h>
 #include <testing/FakeStatusBar.h>
+#include <testing/FakeTimeChanges.h>
 #include <testing/FakeWindowTraits.h>
 #include <testing/FakeWorkspace.h>
 #include <testing/FixedClock.h>
@@ -125,6 +126,7 @@ protected:
     FakeAccessibilityRight* right = nullptr;
     FakeKeyPoster* keyPoster = nullptr;
     FakeAppearance* appearance = nullptr;
+    FakeTimeChanges* timeChanges = nullptr;
     PlatformServices platform;
     std::unique_ptr<AppDelegate> delegate;
 
@@ -145,6 +147,8 @@ private:
         auto centre = std::make_unique<FakeNotifications>(log, queue);
         auto permission = std::make_unique<FakeAccessibilityRight>(log);
         auto poster = std::make_unique<FakeKeyPoster>(log);
+        auto changes = std::make_unique<FakeTimeChanges>();
+        timeChanges = changes.get();
         notifications = centre.get();
         right = permission.get();
         keyPoster = poster.get();
@@ -159,7 +163,8 @@ private:
             std::move(desktop),
             std::move(centre),
             std::make_unique<FakeSoftwareCentre>(log),
-            std::move(bar)};
+            std::move(bar),
+            std::move(changes)};
     }
 
     QTemporaryDir m_folder;

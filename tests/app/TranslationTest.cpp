@@ -6,6 +6,7 @@
 #include <controls/PressableControl.h>
 #include <time/DateText.h>
 #include <time/MonthGrid.h>
+#include <time/SpanText.h>
 #include <time/ZoneNames.h>
 
 #include <QLineEdit>
@@ -127,6 +128,7 @@ private:
         for (const auto preset : allDateFormatPresets)
             addData(model.formatSingle(clock.now(), currentZone.current(), preset));
         addData(timeChipText(clock.now(), currentZone.current(), model.locale()));
+        addData(spanWords({0, 1, 0}, model.locale()));
         const auto grid = monthGrid(civilDay(clock.now(), currentZone.current()), model.locale());
         addData(grid.title);
         for (const auto& name : grid.weekdayNames)

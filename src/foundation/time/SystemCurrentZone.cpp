@@ -37,6 +37,14 @@ QString systemIdentifier(QString identifier) {
     return isUtc ? u"UTC"_s : identifier;
 }
 
+std::optional<QString> zoneVariable(const Environment& environment) {
+    auto variable = environment("TZ");
+    // POSIX leaves what follows a colon to the implementation; here it means the same as without.
+    if (variable && variable->startsWith(u':'))
+        variable->remove(0, 1);
+    return variable;
+}
+
 /// What follows the database's folder in a path; empty for a path elsewhere.
 QString tailInDatabase(const fs::path& path) {
     constexpr std::string_view folder = "/zoneinfo/";
@@ -66,15 +74,17 @@ TimeZone SystemCurrentZone::current() const {
     return m_zones.zone(systemIdentifier(identifier())).value_or(ZoneDatabase::utc());
 }
 
-QString SystemCurrentZone::identifier() const {
-    auto variable = m_environment("TZ");
+QString SystemCurrentZone::settingFile(const Environment& environment) {
+    const auto variable = zoneVariable(environment);
     if (!variable)
-        return identifierOfFile(m_root / "etc/localtime");
-    // POSIX leaves what follows a colon to the implementation; here it means the same as without.
-    if (variable->startsWith(u':'))
-        variable->remove(0, 1);
-    const fs::path path(variable->toStdString());
-    return path.is_absolute() ? identifierOfFile(m_root / path.relative_path()) : *variable;
+        return u"/etc/localtime"_s;
+    return variable->startsWith(u'/') ? *variable : QString();
+}
+
+QString SystemCurrentZone::identifier() const {
+    const fs::path file(settingFile(m_environment).toStdString());
+    return file.empty() ? zoneVariable(m_environment).value_or(QString())
+                        : identifierOfFile(m_root / file.relative_path());
 }
 
 QString SystemCurrentZone::identifierOfFile(Path file) const {

@@ -159,6 +159,11 @@ public:
     }
 };
 
+class NullTimeChanges final : public TimeChanges {
+public:
+    void onChanged(std::function<void()>) override {}
+};
+
 } // namespace
 
 PlatformServices makeNullServices(MainQueue& mainQueue) {
@@ -174,6 +179,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .notifications = std::make_unique<NullNotifications>(mainQueue),
         .softwareCentre = std::make_unique<NullSoftwareCentre>(),
         .statusBar = std::make_unique<NullStatusBar>(),
+        .timeChanges = std::make_unique<NullTimeChanges>(),
     };
 }
 

@@ -10,6 +10,7 @@
 #include <platform/Pasteboard.h>
 #include <platform/SoftwareCentre.h>
 #include <platform/StatusBar.h>
+#include <platform/TimeChanges.h>
 #include <platform/WindowTraits.h>
 #include <platform/Workspace.h>
 
@@ -32,6 +33,7 @@ struct PlatformServices {
     std::unique_ptr<Notifications> notifications;
     std::unique_ptr<SoftwareCentre> softwareCentre;
     std::unique_ptr<StatusBar> statusBar;
+    std::unique_ptr<TimeChanges> timeChanges;
 };
 
 } // namespace quorvane

@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] TimeZone current() const override;
 
+    /// The file by which the zone is set, whether it exists or not; empty where TZ names a zone.
+    [[nodiscard]] static QString settingFile(const Environment& environment);
+
 private:
     using Path = std::filesystem::path;
 
