@@ -37,6 +37,11 @@ void composeDays(DateTimeModel& model) {
     sample::composeRange(model, sample::daysLater);
 }
 
+void composeBackwards(DateTimeModel& model) {
+    model.setIsRange(true);
+    model.setEndDate(sample::now + std::chrono::hours(-50));
+}
+
 void addPickers(BoardPicture& board, const BoardSetting& setting) {
     {
         PanelPlay play(setting, composeOneDay);
@@ -80,6 +85,9 @@ QImage panelBoard(const BoardSetting& setting) {
     BoardPicture board(QApplication::palette(), panelColumns);
     board.add(u"First open"_s, PanelPlay(setting).picture());
     board.add(u"Range, four zones, Lines"_s, PanelPlay(setting, composeOneDay).picture());
+    board.add(
+        u"End before the start, a date of the user's"_s,
+        PanelPlay(setting, composeBackwards).picture());
     {
         PanelPlay play(setting, composePattern);
         play.enterPattern();
