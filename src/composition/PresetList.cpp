@@ -23,6 +23,10 @@ bool isAlwaysOffered(DateFormatPreset preset) {
     return preset == DateFormatPreset::UnixTimestamp || preset == DateFormatPreset::Custom;
 }
 
+bool isOffered(DateFormatPreset preset, const std::vector<DateFormatPreset>& available) {
+    return std::ranges::find(available, preset) != available.end();
+}
+
 } // namespace
 
 std::vector<DateFormatPreset>
@@ -39,10 +43,24 @@ availableFormatPresets(Instant sample, const TimeZone& zone, const FormatSetting
     return available;
 }
 
+std::optional<DateFormatPreset> equivalentFormatPreset(
+    DateFormatPreset preset,
+    const std::vector<DateFormatPreset>& available,
+    Instant sample,
+    const TimeZone& zone,
+    const FormatSettings& settings) {
+    if (isOffered(preset, available))
+        return preset;
+    const auto textOf = [&](DateFormatPreset each) {
+        return formatSingle(sample, zone, each, settings);
+    };
+    const auto found = std::ranges::find(available, textOf(preset), textOf);
+    return found == available.end() ? std::nullopt : std::optional(*found);
+}
+
 DateFormatPreset
 reconciledFormatPreset(DateFormatPreset preset, const std::vector<DateFormatPreset>& available) {
-    const bool isOffered = std::ranges::find(available, preset) != available.end();
-    return isOffered ? preset : available.front();
+    return isOffered(preset, available) ? preset : available.front();
 }
 
 } // namespace quorvane

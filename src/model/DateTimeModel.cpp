@@ -170,6 +170,20 @@ std::vector<DateFormatPreset> DateTimeModel::availableFormatPresets() const {
         m_composition.startDate, sampleZone(), formatSettings());
 }
 
+std::optional<DateFormatPreset>
+DateTimeModel::equivalentFormatPreset(const std::vector<DateFormatPreset>& available) const {
+    return quorvane::equivalentFormatPreset(
+        m_composition.formatPreset,
+        available,
+        m_composition.startDate,
+        sampleZone(),
+        formatSettings());
+}
+
+QString DateTimeModel::sampleText(DateFormatPreset preset) const {
+    return formatSingle(m_composition.startDate, sampleZone(), preset);
+}
+
 void DateTimeModel::reconcileFormatPreset() {
     const auto reconciled =
         reconciledFormatPreset(m_composition.formatPreset, availableFormatPresets());

@@ -69,6 +69,23 @@ TEST(PresetList, CustomIsOfferedThoughItSaysTheSame) {
     EXPECT_THAT(presets, testing::Contains(Iso8601));
 }
 
+// In May the name of the month is its own abbreviation.
+TEST(PresetList, PresetThatIsLeftOutHasTheOneOfTheSameTextInItsPlace) {
+    constexpr Instant may9{1715292000}; // 2024-05-09T22:00:00Z
+    const auto inMay = settings(with, without);
+    const auto losAngeles = zone("America/Los_Angeles");
+    const auto offered = availableFormatPresets(may9, losAngeles, inMay);
+    ASSERT_THAT(offered, testing::Not(testing::Contains(MediumForm)));
+    const auto equivalent = [&](DateFormatPreset preset) {
+        return equivalentFormatPreset(preset, offered, may9, losAngeles, inMay);
+    };
+    EXPECT_EQ(equivalent(MediumForm), LongForm);
+    EXPECT_EQ(equivalent(ShortForm), ShortForm);
+    EXPECT_EQ(
+        equivalentFormatPreset(MediumForm, {ShortForm, Custom}, may9, losAngeles, inMay),
+        std::nullopt);
+}
+
 TEST(PresetList, PresetThatIsNoLongerOfferedGivesWayToTheFirst) {
     EXPECT_EQ(reconciledFormatPreset(TimeOnly, {MediumForm, Custom}), MediumForm);
     EXPECT_EQ(reconciledFormatPreset(Custom, {MediumForm, Custom}), Custom);

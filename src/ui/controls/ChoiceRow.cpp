@@ -3,12 +3,14 @@
 
 #include <controls/SymbolPainter.h>
 
+#include <QPainter>
+#include <QStyle>
+
 namespace quorvane {
 
 namespace {
 
-constexpr int slotWidth = 12;
-constexpr int slotGap = 8;
+constexpr int sampleDistance = 16;
 constexpr SymbolStyle markStyle{12, SymbolStyle::semibold};
 
 } // namespace
@@ -19,16 +21,36 @@ ChoiceRow::ChoiceRow(const QString& title, bool isChosen, QWidget* parent)
     setChecked(isChosen);
 }
 
+void ChoiceRow::setSample(const QString& sample) {
+    m_sample = sample;
+    setAccessibleDescription(sample);
+    update();
+}
+
 QSize ChoiceRow::sizeHint() const {
-    return {2 * horizontalPadding + slotWidth + slotGap + titleWidth(), rowHeight};
+    return {titleStart + titleWidth() + horizontalPadding, rowHeight};
 }
 
 void ChoiceRow::paintContent(QPainter& painter, const Theme& theme) {
     const QRect slot(horizontalPadding, 0, slotWidth, rowHeight);
     if (isChecked())
         paintSymbol(painter, Symbol::Checkmark, markStyle, placed(slot), theme.accentText);
-    constexpr int titleStart = horizontalPadding + slotWidth + slotGap;
     paintTitle(painter, theme, rect().adjusted(titleStart, 0, -horizontalPadding, 0));
+    paintSample(painter, theme);
+}
+
+void ChoiceRow::paintSample(QPainter& painter, const Theme& theme) const {
+    const auto place =
+        rect().adjusted(titleStart + titleWidth() + sampleDistance, 0, -horizontalPadding, 0);
+    const auto shown =
+        QFontMetrics(titleFont()).elidedText(m_sample, Qt::ElideRight, place.width());
+    painter.setFont(titleFont());
+    painter.setPen(theme.secondaryText);
+    painter.drawText(
+        placed(place),
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignRight)) |
+            Qt::AlignVCenter | Qt::TextSingleLine,
+        shown);
 }
 
 } // namespace quorvane

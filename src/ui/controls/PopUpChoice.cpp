@@ -9,15 +9,21 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace quorvane {
 
 namespace {
 
-std::vector<MenuRow*> makeRows(const QStringList& titles, std::optional<int> selected) {
+std::vector<MenuRow*>
+makeRows(const QStringList& titles, const QStringList& samples, std::optional<int> selected) {
     std::vector<MenuRow*> rows;
     rows.reserve(static_cast<std::size_t>(titles.size()));
-    for (int index = 0; index < titles.size(); ++index)
-        rows.push_back(new ChoiceRow(titles[index], index == selected, nullptr));
+    for (int index = 0; index < titles.size(); ++index) {
+        auto* row = new ChoiceRow(titles[index], index == selected, nullptr);
+        row->setSample(samples.value(index));
+        rows.push_back(row);
+    }
     return rows;
 }
 
@@ -35,14 +41,16 @@ PopUpChoice::PopUpChoice(PopoverEffects effects, QWidget* parent)
     m_button->installEventFilter(this);
 }
 
-void PopUpChoice::setChoices(const QStringList& titles, std::optional<int> selected) {
+void PopUpChoice::setChoices(
+    const QStringList& titles, std::optional<int> selected, const QString& unlisted) {
     // A list that is open shows other titles than one would choose from.
     if (titles != m_titles)
         m_button->list().close();
     m_titles = titles;
     const bool isOneOfThem = selected && *selected >= 0 && *selected < titles.size();
     m_selected = isOneOfThem ? selected : std::nullopt;
-    m_button->setTitle(isOneOfThem ? titles[*selected] : QString(), titles);
+    const auto listed = isOneOfThem ? titles[*selected] : QString();
+    m_button->setTitle(unlisted.isEmpty() ? listed : unlisted, titles);
 }
 
 void PopUpChoice::setLabel(const QString& label) {
@@ -55,11 +63,17 @@ void PopUpChoice::open() {
 
 QWidget* PopUpChoice::makeList() {
     // The keyboard starts at the selected title, without one at the first.
+    const auto samples = m_samples ? m_samples() : QStringList();
     auto* menu = new RowMenu(
-        QAccessible::List, makeRows(m_titles, m_selected), m_selected.value_or(0), nullptr);
+        QAccessible::List,
+        makeRows(m_titles, samples, m_selected),
+        m_selected.value_or(0),
+        nullptr);
+    menu->setMinimumWidth(std::max(menu->minimumWidth(), width()));
     connect(menu, &RowMenu::chosen, this, [this](int index) {
         m_button->list().close();
         choose(index);
+        Q_EMIT chosenInList(index);
     });
     return menu;
 }

@@ -28,7 +28,8 @@ std::optional<int> SegmentedRow::selectedIndex() const {
                                      : std::optional(static_cast<int>(found - m_segments.begin()));
 }
 
-void SegmentedRow::setChoices(const QStringList& titles, std::optional<int> selected) {
+void SegmentedRow::setChoices(
+    const QStringList& titles, std::optional<int> selected, const QString& /*unlisted*/) {
     m_titles = titles;
     setSegmentCount(titles.size());
     for (qsizetype index = 0; index < titles.size(); ++index)

@@ -44,6 +44,8 @@ FormatSection::FormatSection(
            }}),
       m_customFormat(new TextField(std::move(pasteReader), this)) {
     m_preset->setLabel(tr("Format"));
+    m_preset->setSamples([this] { return presetSamples(); });
+    connect(m_preset, &MacPopUpButton::chosenInList, this, &FormatSection::enterPatternIfCustom);
     m_layout->setLabel(tr("Layout"));
     m_layout->setFixedWidth(layoutWidth);
     m_customFormat->setFont(outputFont(font()));
@@ -55,12 +57,29 @@ FormatSection::FormatSection(
 }
 
 void FormatSection::refresh() {
-    m_presetChoice.setItems(m_model.availableFormatPresets());
+    const auto offered = m_model.availableFormatPresets();
+    m_presetChoice.setItems(offered, m_model.equivalentFormatPreset(offered));
     m_layoutChoice.refresh();
     m_layout->setVisible(m_model.includeTime() && m_model.selectedTimeZones().size() > 1);
     m_customFormat->setVisible(m_model.formatPreset() == DateFormatPreset::Custom);
     if (m_customFormat->text() != m_model.customFormatString())
         m_customFormat->setText(m_model.customFormatString());
+}
+
+QStringList FormatSection::presetSamples() const {
+    QStringList samples;
+    for (const auto preset : m_model.availableFormatPresets())
+        samples.append(m_model.sampleText(preset));
+    return samples;
+}
+
+// Who chooses "Custom…" goes on to the pattern; it shows already while the keys come.
+void FormatSection::enterPatternIfCustom() {
+    if (m_model.formatPreset() != DateFormatPreset::Custom)
+        return;
+    refresh();
+    m_customFormat->setFocus(Qt::OtherFocusReason);
+    m_customFormat->end(false);
 }
 
 void FormatSection::layOut() {

@@ -29,6 +29,8 @@ public:
 
 private:
     void layOut();
+    [[nodiscard]] QStringList presetSamples() const;
+    void enterPatternIfCustom();
 
     DateTimeModel& m_model;
     MacPopUpButton* m_preset;

@@ -11,8 +11,10 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 namespace quorvane {
@@ -85,6 +87,39 @@ TEST_F(MenuMeasuresTest, TitleStandsEightBehindTheSlot) {
     }
     const QFontMetricsF metrics(textFont(window.font(), TextStyle::Callout));
     EXPECT_NEAR(first, 12 + 12 + 8 + metrics.leftBearing(u'H'), 1);
+}
+
+/// Where what differs from an empty row's background begins and ends, in points.
+std::pair<int, int> extentOf(QWidget& row, int from) {
+    const auto image = picture(row);
+    const QRgb background = image.pixel(from, 0);
+    int first = image.width();
+    int last = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = from; x < image.width(); ++x) {
+            if (std::abs(qGray(image.pixel(x, y)) - qGray(background)) > 40) {
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+        }
+    }
+    return {first, last};
+}
+
+TEST_F(MenuMeasuresTest, SampleEndsWithTheRowsRoomAndNeverReachesTheTitle) {
+    auto& menu = show({u"A"_s, u"H"_s});
+    auto& plain = row(menu, 1);
+    plain.setFixedWidth(300);
+    const auto titleEnd = extentOf(plain, 32).second;
+    plain.setSample(u"H"_s);
+    EXPECT_NEAR(extentOf(plain, 100).second, 300 - 12 - 1, 2);
+    EXPECT_EQ(plain.sizeHint().width(), 32 + titleWidth(u"H"_s) + 12);
+    plain.setSample(u"H"_s.repeated(200));
+    const auto [first, last] = extentOf(plain, titleEnd + 2);
+    EXPECT_GE(first, titleEnd + 14);
+    EXPECT_LE(last, 300 - 12);
+    window.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_NEAR(extentOf(plain, 0).first, 12, 2);
 }
 
 TEST_F(MenuMeasuresTest, PopUpHasSixBetweenItsTitleAndItsChevron) {

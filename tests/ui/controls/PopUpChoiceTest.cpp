@@ -168,14 +168,64 @@ TYPED_TEST(PopUpChoiceTest, ListOfOtherTitlesIsNotLeftOpen) {
     EXPECT_FALSE(this->isOpen());
 }
 
-TYPED_TEST(PopUpChoiceTest, SelectionThatIsNoItemShowsNoTitle) {
+TYPED_TEST(PopUpChoiceTest, SelectionThatIsNoItemShowsItsTitle) {
     this->selection = u"Custom"_s;
     this->choice.refresh();
     EXPECT_EQ(this->popUp.selectedIndex(), std::nullopt);
-    EXPECT_EQ(this->button().text(), QString());
+    EXPECT_EQ(this->button().text(), u"Custom"_s);
+    EXPECT_EQ(accessible(this->button()).text(QAccessible::Value), u"Custom"_s);
     this->popUp.open();
+    for (const auto* row : this->rows())
+        EXPECT_FALSE(row->isChecked());
     QTest::mouseClick(this->rows()[0], Qt::LeftButton);
     EXPECT_EQ(this->selection, u"Full"_s);
+}
+
+TYPED_TEST(PopUpChoiceTest, ItemThatStandsForTheSelectionIsMarkedAndCanBeChosen) {
+    this->selection = u"Short"_s;
+    this->choice.setItems({u"Full"_s, u"Long"_s, u"Medium"_s}, u"Medium"_s);
+    EXPECT_EQ(this->button().text(), u"Short"_s);
+    this->popUp.open();
+    EXPECT_TRUE(this->rows()[2]->isChecked());
+    EXPECT_EQ(this->focusedRow(), this->rows()[2]);
+    QTest::mouseClick(this->rows()[2], Qt::LeftButton);
+    EXPECT_EQ(this->selection, u"Medium"_s);
+    EXPECT_EQ(this->button().text(), u"Medium"_s);
+}
+
+TYPED_TEST(PopUpChoiceTest, SamplesAreAskedForWhenTheListOpensAndDescribeItsRows) {
+    int asked = 0;
+    this->popUp.setSamples([&asked] {
+        ++asked;
+        return QStringList{u"one"_s, {}, u"three"_s};
+    });
+    this->choice.refresh();
+    EXPECT_EQ(asked, 0);
+    this->popUp.open();
+    EXPECT_EQ(asked, 1);
+    QStringList descriptions;
+    for (auto* row : this->rows()) {
+        descriptions.append(accessible(*row).text(QAccessible::Description));
+        EXPECT_FALSE(accessible(*row).text(QAccessible::Name).contains(u"one"_s));
+    }
+    EXPECT_EQ(descriptions, (QStringList{u"one"_s, {}, u"three"_s}));
+}
+
+TYPED_TEST(PopUpChoiceTest, ListTellsOfWhatIsChosenInItAlone) {
+    QSignalSpy inList(&this->popUp, &PopUpChoice::chosenInList);
+    QTest::keyClick(&this->button(), Qt::Key_Down);
+    EXPECT_EQ(inList.count(), 0);
+    this->popUp.open();
+    QTest::keyClick(this->focusedRow(), Qt::Key_Return);
+    ASSERT_EQ(inList.count(), 1);
+    EXPECT_EQ(inList.at(0).at(0).toInt(), 2);
+}
+
+TYPED_TEST(PopUpChoiceTest, ListIsNoNarrowerThanTheControl) {
+    this->popUp.setFixedWidth(311);
+    this->window.layout()->activate();
+    this->popUp.open();
+    EXPECT_EQ(this->rows()[0]->width(), 311);
 }
 
 TYPED_TEST(PopUpChoiceTest, ChoiceOutOfRangeIsIgnored) {

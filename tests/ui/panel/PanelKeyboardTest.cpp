@@ -106,6 +106,27 @@ TEST_F(PanelKeyboardTest, TabGoesFromTheHeaderToInsert) {
             .toStdString());
 }
 
+TEST_F(PanelKeyboardTest, ChoosingCustomLeadsToThePattern) {
+    choose(u"Format"_s, u"Custom…"_s);
+    auto& pattern = field(u"Custom format"_s);
+    ASSERT_TRUE(pattern.hasFocus());
+    EXPECT_FALSE(pattern.hasSelectedText());
+    EXPECT_EQ(pattern.cursorPosition(), pattern.text().size());
+    press(Qt::Key_S);
+    queue.run();
+    EXPECT_EQ(model.customFormatString(), u"yyyy-MM-dd HH:mm zzzs"_s);
+}
+
+TEST_F(PanelKeyboardTest, ArrowsOnTheClosedPopUpMayPassCustom) {
+    model.setFormatPreset(DateFormatPreset::UnixTimestamp);
+    queue.run();
+    popUp(u"Format"_s).setFocus();
+    press(Qt::Key_Down);
+    queue.run();
+    EXPECT_EQ(model.formatPreset(), DateFormatPreset::Custom);
+    EXPECT_TRUE(popUp(u"Format"_s).hasFocus());
+}
+
 TEST_F(PanelKeyboardTest, ControlReturnInsertsFromATextField) {
     choose(u"Format"_s, u"Custom…"_s);
     field(u"Custom format"_s).setFocus();

@@ -13,6 +13,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace quorvane {
@@ -133,6 +134,14 @@ public:
     /// See composition/PresetList.h; the sample is the start in the first selected zone, else the
     /// current one.
     [[nodiscard]] std::vector<DateFormatPreset> availableFormatPresets() const;
+
+    /// The one of these presets that stands for the chosen one: itself, or the one whose sample is
+    /// the same; none if there is none.
+    [[nodiscard]] std::optional<DateFormatPreset>
+    equivalentFormatPreset(const std::vector<DateFormatPreset>& available) const;
+
+    /// What the preset gives for the start, in the zone that availableFormatPresets() compares in.
+    [[nodiscard]] QString sampleText(DateFormatPreset preset) const;
 
     /// Changes the preset to the first available one if it is no longer available.
     void reconcileFormatPreset();

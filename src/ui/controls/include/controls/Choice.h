@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace quorvane {
@@ -33,24 +34,34 @@ public:
     Choice(const Choice&) = delete;
     Choice& operator=(const Choice&) = delete;
 
-    void setItems(std::vector<Item> items) {
+    /// Where the selection is none of the items, `standIn` is marked among them in its place.
+    void setItems(std::vector<Item> items, std::optional<Item> standIn = {}) {
         m_items = std::move(items);
+        m_standIn = std::move(standIn);
         refresh();
     }
 
-    /// Shows titles and selection as they are now. Of equal items the first is the selected one.
+    /// Shows titles and selection as they are now. Of equal items the first is the selected one;
+    /// the title of a selection that is none of the items shows as well.
     void refresh() {
         QStringList titles;
         for (const auto& item : m_items)
             titles.append(m_title(item));
-        const auto found = std::ranges::find(m_items, m_binding.get());
-        m_widget.setChoices(
-            titles,
-            found == m_items.end() ? std::nullopt
-                                   : std::optional(static_cast<int>(found - m_items.begin())));
+        const auto selection = m_binding.get();
+        if (const auto index = indexOf(selection))
+            m_widget.setChoices(titles, index);
+        else
+            m_widget.setChoices(
+                titles, m_standIn ? indexOf(*m_standIn) : std::nullopt, m_title(selection));
     }
 
 private:
+    [[nodiscard]] std::optional<int> indexOf(const Item& item) const {
+        const auto found = std::ranges::find(m_items, item);
+        return found == m_items.end() ? std::nullopt
+                                      : std::optional(static_cast<int>(found - m_items.begin()));
+    }
+
     void choose(int index) {
         if (index >= 0 && static_cast<std::size_t>(index) < m_items.size())
             m_binding.set(m_items[static_cast<std::size_t>(index)]);
@@ -59,6 +70,7 @@ private:
 
     ChoiceWidget& m_widget;
     std::vector<Item> m_items;
+    std::optional<Item> m_standIn;
     Title m_title;
     Binding<Item> m_binding;
     QMetaObject::Connection m_connection;

@@ -21,7 +21,15 @@ public:
 
     /// Shows these titles, with that one selected; an index outside them selects none. The user's
     /// choice is not announced by this.
-    virtual void setChoices(const QStringList& titles, std::optional<int> selected) = 0;
+    void setChoices(const QStringList& titles, std::optional<int> selected) {
+        setChoices(titles, selected, {});
+    }
+
+    /// Likewise; what is selected is called `unlisted` and is none of the titles, where that is not
+    /// empty. The title at `selected` only stands for it. A control without room for another title
+    /// does not show it.
+    virtual void
+    setChoices(const QStringList& titles, std::optional<int> selected, const QString& unlisted) = 0;
 
     /// What the choice is about, for assistive technology.
     virtual void setLabel(const QString& label) { setAccessibleName(label); }

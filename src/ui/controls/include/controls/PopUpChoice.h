@@ -4,12 +4,14 @@
 #include <controls/ChoiceWidget.h>
 #include <controls/PopoverEffects.h>
 
+#include <functional>
+
 namespace quorvane {
 
 class PopUpButton;
 
 /// Shows the selected title, and a list of all of them in a popover when it is pressed. Choosing
-/// one closes the list, also when it is the selected one.
+/// one closes the list, also when it is the selected one. The list is no narrower than the control.
 class PopUpChoice : public ChoiceWidget {
     Q_OBJECT
 
@@ -20,12 +22,25 @@ public:
 
     [[nodiscard]] std::optional<int> selectedIndex() const override { return m_selected; }
 
-    void setChoices(const QStringList& titles, std::optional<int> selected) override;
+    using ChoiceWidget::setChoices;
+    void setChoices(
+        const QStringList& titles, std::optional<int> selected, const QString& unlisted) override;
     void setLabel(const QString& label) override;
+
+    /// What each title comes to, in the order of the titles.
+    using Samples = std::function<QStringList()>;
+
+    /// The list shows them beside its titles; they are asked for each time it opens.
+    void setSamples(Samples samples) { m_samples = std::move(samples); }
 
     void open();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The user chose a title in the list, after chosen(): not by the arrows on the closed control,
+    /// which may be on their way to another title.
+    void chosenInList(int index);
 
 private:
     [[nodiscard]] QWidget* makeList();
@@ -35,6 +50,7 @@ private:
     PopUpButton* m_button;
     QStringList m_titles;
     std::optional<int> m_selected;
+    Samples m_samples;
 };
 
 } // namespace quorvane

@@ -20,7 +20,9 @@ public:
     [[nodiscard]] const QStringList& titles() const override { return m_titles; }
 
     [[nodiscard]] std::optional<int> selectedIndex() const override;
-    void setChoices(const QStringList& titles, std::optional<int> selected) override;
+    using ChoiceWidget::setChoices;
+    void setChoices(
+        const QStringList& titles, std::optional<int> selected, const QString& unlisted) override;
 
     [[nodiscard]] QSize sizeHint() const override;
 
