@@ -7,6 +7,7 @@
 #include <model/RememberedChoices.h>
 #include <settings/SettingsTable.h>
 #include <time/CivilTime.h>
+#include <time/DateText.h>
 
 #include <utility>
 
@@ -182,6 +183,10 @@ DateTimeModel::equivalentFormatPreset(const std::vector<DateFormatPreset>& avail
 
 QString DateTimeModel::sampleText(DateFormatPreset preset) const {
     return formatSingle(m_composition.startDate, sampleZone(), preset);
+}
+
+QString DateTimeModel::patternSample(const QString& pattern) const {
+    return patternText(m_composition.startDate, sampleZone(), pattern, m_dependencies.locale);
 }
 
 void DateTimeModel::reconcileFormatPreset() {

@@ -4,6 +4,7 @@
 #include "FormatSection.h"
 #include "MenuRow.h"
 #include "NumberField.h"
+#include "PatternHelpButton.h"
 #include "PopUpButton.h"
 #include "TimeZoneSection.h"
 
@@ -104,6 +105,10 @@ void PanelPlay::hoverPlus() {
 void PanelPlay::enterPattern() {
     press(visible<TextField>(visible<FormatSection>(view())));
     QTest::keyClick(&visible<TextField>(visible<FormatSection>(view())), Qt::Key_End);
+}
+
+void PanelPlay::openPatternPage() {
+    open(visible<PatternHelpButton>(view()));
 }
 
 void PanelPlay::copy() {

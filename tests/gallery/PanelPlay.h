@@ -28,6 +28,7 @@ public:
     void hoverRow(int row);
     void hoverPlus();
     void enterPattern();
+    void openPatternPage();
     void copy();
 
     [[nodiscard]] PopoverView& view() { return m_scene.view(); }

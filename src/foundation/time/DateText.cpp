@@ -3,6 +3,7 @@
 #include "IcuText.h"
 #include "ZoneTextFormat.h"
 
+#include <time/DatePattern.h>
 #include <time/DateText.h>
 #include <time/IcuTimeZone.h>
 
@@ -45,6 +46,14 @@ QString rendered(icu::DateFormat& formatter, Instant instant, std::unique_ptr<ic
     return fromIcu(formatter.format(icuDate(instant), text));
 }
 
+// ISO 8601, 4.3.2: weeks begin on Monday, and the first one of a year has four of its days.
+void countIsoWeeks(icu::DateFormat& formatter) {
+    std::unique_ptr<icu::Calendar> calendar(formatter.getCalendar()->clone());
+    calendar->setFirstDayOfWeek(UCAL_MONDAY);
+    calendar->setMinimalDaysInFirstWeek(4);
+    formatter.adoptCalendar(calendar.release());
+}
+
 QString rendered(
     const icu::UnicodeString& pattern,
     Instant instant,
@@ -54,6 +63,8 @@ QString rendered(
     icu::SimpleDateFormat formatter(pattern, locale.icuLocale(), status);
     if (U_FAILURE(status))
         return {};
+    if (hasIsoWeek(fromIcu(pattern)))
+        countIsoWeeks(formatter);
     auto icuZone = icuTimeZoneAt(zone, instant);
     // Costly, and no different for a zone about which ICU and the system agree.
     if (dynamic_cast<const DatabaseTimeZone*>(icuZone.get()) != nullptr)

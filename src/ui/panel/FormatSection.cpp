@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "FormatSection.h"
 
+#include "PatternEntry.h"
+
 #include <controls/MacPopUpButton.h>
 #include <controls/MacSegmentedControl.h>
-#include <controls/TextField.h>
-#include <panel/OutputPreview.h>
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -42,17 +42,17 @@ FormatSection::FormatSection(
            [&model](MultiZoneLayout layout) {
                model.setMultiZoneLayout(layout);
            }}),
-      m_customFormat(new TextField(std::move(pasteReader), this)) {
+      m_pattern(new PatternEntry(
+          effects,
+          std::move(pasteReader),
+          [&model](const QString& pattern) { return model.patternSample(pattern); },
+          this)) {
     m_preset->setLabel(tr("Format"));
     m_preset->setSamples([this] { return presetSamples(); });
     connect(m_preset, &MacPopUpButton::chosenInList, this, &FormatSection::enterPatternIfCustom);
     m_layout->setLabel(tr("Layout"));
     m_layout->setFixedWidth(layoutWidth);
-    m_customFormat->setFont(outputFont(font()));
-    m_customFormat->setAccessibleName(tr("Custom format"));
-    m_customFormat->setPlaceholderText(tr("e.g. yyyy-MM-dd HH:mm zzz"));
-    connect(
-        m_customFormat, &QLineEdit::textEdited, &m_model, &DateTimeModel::setCustomFormatString);
+    connect(m_pattern, &PatternEntry::edited, &m_model, &DateTimeModel::setCustomFormatString);
     layOut();
 }
 
@@ -61,9 +61,8 @@ void FormatSection::refresh() {
     m_presetChoice.setItems(offered, m_model.equivalentFormatPreset(offered));
     m_layoutChoice.refresh();
     m_layout->setVisible(m_model.includeTime() && m_model.selectedTimeZones().size() > 1);
-    m_customFormat->setVisible(m_model.formatPreset() == DateFormatPreset::Custom);
-    if (m_customFormat->text() != m_model.customFormatString())
-        m_customFormat->setText(m_model.customFormatString());
+    m_pattern->setVisible(m_model.formatPreset() == DateFormatPreset::Custom);
+    m_pattern->setPattern(m_model.customFormatString());
 }
 
 QStringList FormatSection::presetSamples() const {
@@ -78,8 +77,7 @@ void FormatSection::enterPatternIfCustom() {
     if (m_model.formatPreset() != DateFormatPreset::Custom)
         return;
     refresh();
-    m_customFormat->setFocus(Qt::OtherFocusReason);
-    m_customFormat->end(false);
+    m_pattern->enter();
 }
 
 void FormatSection::layOut() {
@@ -88,7 +86,7 @@ void FormatSection::layOut() {
     choices->addWidget(m_preset, 1);
     choices->addWidget(m_layout);
     body().addLayout(choices);
-    body().addWidget(m_customFormat);
+    body().addWidget(m_pattern);
 }
 
 } // namespace quorvane

@@ -12,7 +12,7 @@ namespace quorvane {
 
 class MacPopUpButton;
 class MacSegmentedControl;
-class TextField;
+class PatternEntry;
 
 /// The format of the output: a preset, the user's own pattern, and how several zones stand.
 class FormatSection final : public Section {
@@ -37,7 +37,7 @@ private:
     MacSegmentedControl* m_layout;
     Choice<DateFormatPreset> m_presetChoice;
     Choice<MultiZoneLayout> m_layoutChoice;
-    TextField* m_customFormat; ///< follows the choices in the Tab order
+    PatternEntry* m_pattern; ///< follows the choices in the Tab order
 };
 
 } // namespace quorvane

@@ -86,6 +86,19 @@ TEST(DateText, PatternIsTakenAsItIs) {
     EXPECT_EQ(inPattern(march9, "UTC", u"yyyy n MM 'end'"_s), "2024  ");
 }
 
+// Dates by strftime("%G-W%V-%u"). In the USA weeks begin on Sunday, in Egypt on Saturday.
+TEST(DateText, WeekBehindAQuotedWIsOneOfIso8601InEveryLocale) {
+    const auto isoWeek = u"YYYY-'W'ww-e"_s;
+    for (const auto* name : {"en_US", "de_DE", "en_GB", "pt_BR"}) {
+        EXPECT_EQ(inPattern({1795348800}, "UTC", isoWeek, name), "2026-W47-7") << name;
+        EXPECT_EQ(inPattern({1798804800}, "UTC", isoWeek, name), "2026-W53-5") << name;
+        EXPECT_EQ(inPattern({1799064000}, "UTC", isoWeek, name), "2027-W01-1") << name;
+        EXPECT_EQ(inPattern({1735560000}, "UTC", isoWeek, name), "2025-W01-1") << name;
+    }
+    EXPECT_EQ(inPattern({1798804800}, "UTC", u"YYYY ww"_s, "en_US"), "2027 01");
+    EXPECT_EQ(inPattern({1798804800}, "UTC", u"YYYY ww"_s, "de_DE"), "2026 53");
+}
+
 TEST(DateText, OffsetZeroIsZOnlyForTheLetterX) {
     EXPECT_EQ(inPattern(march9, "UTC", u"X XXXXX Z"_s), "Z Z +0000");
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverFixture.h"
 
+#include <QClipboard>
+
 namespace quorvane {
 namespace {
 
@@ -99,8 +101,9 @@ TEST_F(PanelKeyboardTest, TabGoesFromTheHeaderToInsert) {
              u"Format"_s,
              u"Inline"_s,
              u"Custom format"_s,
+             u"Letters of a pattern"_s,
              u"Preview"_s,
-             u"Copy"_s,
+             u"Ctrl+C"_s,
              u"Insert (Ctrl+Return)"_s})
             .join(u'\n')
             .toStdString());
@@ -125,6 +128,48 @@ TEST_F(PanelKeyboardTest, ArrowsOnTheClosedPopUpMayPassCustom) {
     queue.run();
     EXPECT_EQ(model.formatPreset(), DateFormatPreset::Custom);
     EXPECT_TRUE(popUp(u"Format"_s).hasFocus());
+}
+
+TEST_F(PanelKeyboardTest, ControlCCopiesAsTheButtonDoes) {
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"March 9, 2024 at 5:05 PM EST"_s));
+    EXPECT_EQ(button(u"Copied"_s).toolTip(), u"Copy (Ctrl+C)"_s);
+}
+
+TEST_F(PanelKeyboardTest, ControlCCopiesFromFieldsThatHaveNothingSelected) {
+    choose(u"Format"_s, u"Custom…"_s);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"2024-03-09 17:05 EST"_s));
+    find<QWidget>(QAccessible::EditableText, u"Preview"_s).setFocus();
+    field(u"Custom format"_s).setText(u"yyyy"_s);
+    model.setCustomFormatString(u"yyyy"_s);
+    queue.run();
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"2024"_s));
+    EXPECT_EQ(button(u"Copied"_s).text(), u"Copied"_s);
+}
+
+TEST_F(PanelKeyboardTest, ControlCLeavesASelectionToItsField) {
+    choose(u"Format"_s, u"Custom…"_s);
+    auto& pattern = field(u"Custom format"_s);
+    pattern.setSelection(0, 4);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(pasteboard.contents().items.empty());
+    EXPECT_EQ(QApplication::clipboard()->text(), u"yyyy"_s);
+    auto& output = find<QPlainTextEdit>(QAccessible::EditableText, u"Preview"_s);
+    output.setFocus();
+    output.selectAll();
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(pasteboard.contents().items.empty());
+    EXPECT_EQ(QApplication::clipboard()->text(), u"2024-03-09 17:05 EST"_s);
+}
+
+TEST_F(PanelKeyboardTest, ControlCDoesNothingWhileThereIsNothingToCopy) {
+    model.setSelectedTimeZones({});
+    queue.run();
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(pasteboard.contents().items.empty());
+    EXPECT_TRUE(button(u"Copy"_s).isVisible());
 }
 
 TEST_F(PanelKeyboardTest, ControlReturnInsertsFromATextField) {

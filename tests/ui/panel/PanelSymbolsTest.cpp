@@ -38,6 +38,7 @@ const std::vector<Row> panelRows{
     {QAccessible::ButtonMenu, u"More"_s, "ellipsis", regular},
     {QAccessible::Button, u"Close"_s, "xmark", regular},
     {QAccessible::Button, u"Add time zone"_s, "plus", regular},
+    {QAccessible::Button, u"Letters of a pattern"_s, "questionmark.circle", regular},
     {QAccessible::Button, u"Copy"_s, "doc.on.doc", regular},
 };
 

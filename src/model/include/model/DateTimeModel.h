@@ -143,6 +143,9 @@ public:
     /// What the preset gives for the start, in the zone that availableFormatPresets() compares in.
     [[nodiscard]] QString sampleText(DateFormatPreset preset) const;
 
+    /// Likewise for a pattern, whatever the preset and the pattern are.
+    [[nodiscard]] QString patternSample(const QString& pattern) const;
+
     /// Changes the preset to the first available one if it is no longer available.
     void reconcileFormatPreset();
 

@@ -24,7 +24,8 @@ struct FormatStyles {
 /// these texts have a plain space: they are pasted into forms that accept no other.
 
 /// By a date pattern (UTS #35), taken as it is. A letter that the pattern language lacks ends the
-/// text there; an empty pattern gives an empty text.
+/// text there; an empty pattern gives an empty text. Weeks are the locale's, but those of ISO 8601
+/// where the pattern has one as that writes it: 'W'ww.
 [[nodiscard]] QString patternText(
     Instant instant, const TimeZone& zone, const QString& pattern, const UserLocale& locale);
 
