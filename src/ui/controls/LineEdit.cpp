@@ -39,6 +39,15 @@ void LineEdit::paste() {
     pasteFrom(PasteFrom::Clipboard);
 }
 
+bool LineEdit::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && !hasSelectedText() &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        event->ignore();
+        return false;
+    }
+    return QLineEdit::event(event);
+}
+
 void LineEdit::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Paste))
         pasteFrom(pastedBy(*event));

@@ -35,6 +35,11 @@ OverlayScrollBar::OverlayScrollBar(QAbstractScrollArea* area)
     follow();
 }
 
+void OverlayScrollBar::setSuppressed(bool suppressed) {
+    m_isSuppressed = suppressed;
+    follow();
+}
+
 bool OverlayScrollBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutDirectionChange)
         follow();
@@ -54,7 +59,7 @@ void OverlayScrollBar::follow() {
     setValue(original->value());
     const QRect edge(m_area->width() - barWidth, 0, barWidth, m_area->height());
     setGeometry(QStyle::visualRect(m_area->layoutDirection(), m_area->rect(), edge));
-    setVisible(maximum() > minimum());
+    setVisible(!m_isSuppressed && maximum() > minimum());
     raise();
 }
 

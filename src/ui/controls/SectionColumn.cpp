@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <controls/OverlayScrollBar.h>
+#include <controls/ScrollingSection.h>
 #include <controls/SectionColumn.h>
 
 #include <QEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quorvane {
 
@@ -32,8 +36,18 @@ void SectionColumn::addSpacing(int height) {
     m_sections->addSpacing(height);
 }
 
+void SectionColumn::addScrolling(QWidget* section, ScrollingSection& scrolling) {
+    m_scrolling = &scrolling;
+    add(section, 1);
+    connect(
+        verticalScrollBar(), &QScrollBar::rangeChanged, section, [&scrolling](int least, int most) {
+            scrolling.setScrollBarShown(most <= least);
+        });
+}
+
 int SectionColumn::heightForWidth(int width) const {
-    return m_sections->totalHeightForWidth(width);
+    const int heldBack = m_scrolling != nullptr ? m_scrolling->heldBack() : 0;
+    return m_sections->totalHeightForWidth(width) + heldBack;
 }
 
 QSize SectionColumn::sizeHint() const {
@@ -46,10 +60,25 @@ QSize SectionColumn::minimumSizeHint() const {
 }
 
 bool SectionColumn::eventFilter(QObject* watched, QEvent* event) {
+    const bool isLaidOutAnew = watched == widget() && event->type() == QEvent::LayoutRequest;
+    if (isLaidOutAnew)
+        shareHeight();
     const bool filtered = QScrollArea::eventFilter(watched, event);
-    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+    if (isLaidOutAnew)
         updateGeometry();
     return filtered;
+}
+
+void SectionColumn::resizeEvent(QResizeEvent* event) {
+    shareHeight();
+    QScrollArea::resizeEvent(event);
+}
+
+void SectionColumn::shareHeight() {
+    if (m_scrolling == nullptr)
+        return;
+    const int missing = heightForWidth(viewport()->width()) - viewport()->height();
+    m_scrolling->holdBack(std::max(missing, 0));
 }
 
 } // namespace quorvane

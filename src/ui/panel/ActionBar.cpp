@@ -33,6 +33,9 @@ ActionBar::ActionBar(MainQueue& queue, QWidget* parent)
     row->setSpacing(buttonSpacing);
     row->addWidget(m_copy, 1);
     row->addWidget(m_insert, 1);
+    const auto copyKeys = QKeySequence(Qt::CTRL | Qt::Key_C).toString(QKeySequence::NativeText);
+    m_copy->setToolTip(tr("Copy (%1)").arg(copyKeys));
+    m_copy->setAccessibleDescription(copyKeys);
     setInsertTarget({});
 }
 

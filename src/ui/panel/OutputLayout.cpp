@@ -131,12 +131,16 @@ int OutputLayout::fill(QTextLayout& layout, int width, int limit) const {
     const int height = rowHeight();
     const QFontMetricsF font(document()->defaultFont());
     const double baseline = std::floor((height - font.height()) / 2) + font.ascent();
-    layout.setTextOption(document()->defaultTextOption());
+    const auto option = document()->defaultTextOption();
+    const bool isFromRight = option.alignment().testFlag(Qt::AlignRight);
+    layout.setTextOption(option);
     layout.beginLayout();
     int rows = 0;
     for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width - 2 * margin);
-        line.setPosition({margin, rows * height + baseline - line.ascent()});
+        const int indent = rows > 0 ? m_indent : 0;
+        line.setLineWidth(width - 2 * margin - indent);
+        line.setPosition(
+            {margin + (isFromRight ? 0 : indent), rows * height + baseline - line.ascent()});
         if (++rows == limit)
             break;
     }

@@ -30,6 +30,10 @@ public:
     /// What rows and margins may take, in points. Another width discards the rows.
     void setWidth(int width);
 
+    /// How far the rows of a paragraph stand in from its first one, in points; for what is laid out
+    /// from now on.
+    void setHangingIndent(int indent) { m_indent = indent; }
+
     /// In points: half as much again as the font's size, or what the font needs if that is more.
     [[nodiscard]] int rowHeight() const;
 
@@ -53,6 +57,7 @@ private:
     int fill(QTextLayout& layout, int width, int limit) const;
 
     int m_width = 0;
+    int m_indent = 0;
 };
 
 } // namespace quorvane

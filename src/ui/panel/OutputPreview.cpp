@@ -9,6 +9,7 @@
 #include <panel/OutputPreview.h>
 
 #include <QFontDatabase>
+#include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,6 +31,9 @@ constexpr int mostRows = 40;
 constexpr int cornerRadius = 8;
 constexpr double selectionOpacity = 0.24; // a text field's
 constexpr int tabWidth = 8;               // characters
+constexpr int hangingIndent = 2;          // characters
+constexpr int leastRowsOfScrolling = 5;
+constexpr int longestLineInMenu = 320; // points
 
 /// More than the rows that can show; laying this much out takes a fraction of a frame.
 constexpr qsizetype firstPart = 4000;
@@ -62,8 +66,8 @@ OutputPreview::OutputPreview(MainQueue& queue, QWidget* parent)
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    new OverlayScrollBar(this);
-    setWordWrapMode(QTextOption::WrapAnywhere);
+    m_scrollBar = new OverlayScrollBar(this);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -80,6 +84,9 @@ void OutputPreview::setOutput(const QString& output) {
     m_output = output;
     m_shown = documentText(output);
     m_shownLength = firstPartLength(m_shown, firstPart);
+    // The rows of one line alone need no sign of where it begins.
+    m_layout->setHangingIndent(
+        m_shown.contains(u'\n') ? hangingIndent * fontMetrics().horizontalAdvance(u' ') : 0);
     setPlainText(m_shown.left(m_shownLength));
     if (m_shownLength < m_shown.size())
         m_pause = m_queue.after(pauseBeforeRest, [this] {
@@ -102,12 +109,40 @@ bool OutputPreview::hasHeightForWidth() const {
 }
 
 int OutputPreview::heightForWidth(int width) const {
-    const int rows = std::min(m_layout->rowCount(width, mostRows), mostRows);
-    return std::max(rows * m_layout->rowHeight() + 2 * padding, leastHeight);
+    const int wanted = wantedHeight(width);
+    const int least = leastRowsOfScrolling * m_layout->rowHeight() + 2 * padding;
+    return std::max(wanted - m_heldBack, std::min(wanted, least));
+}
+
+void OutputPreview::holdBack(int height) {
+    const int least = leastRowsOfScrolling * m_layout->rowHeight() + 2 * padding;
+    const int heldBack = wantedHeight(width()) - height >= least ? height : 0;
+    if (heldBack == m_heldBack)
+        return;
+    m_heldBack = heldBack;
+    updateGeometry();
+}
+
+int OutputPreview::heldBack() const {
+    return wantedHeight(width()) - heightForWidth(width());
+}
+
+void OutputPreview::setScrollBarShown(bool shown) {
+    m_scrollBar->setSuppressed(!shown);
 }
 
 FocusOutline OutputPreview::focusOutline() const {
     return {QRectF(rect()), cornerRadius};
+}
+
+bool OutputPreview::event(QEvent* event) {
+    // Without a selection the keys for copying are the window's.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        event->setAccepted(textCursor().hasSelection());
+        return event->isAccepted();
+    }
+    return QPlainTextEdit::event(event);
 }
 
 bool OutputPreview::viewportEvent(QEvent* event) {
@@ -139,12 +174,25 @@ bool OutputPreview::viewportEvent(QEvent* event) {
 
 void OutputPreview::keyPressEvent(QKeyEvent* event) {
     showRest();
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        const auto place = cursorRect().center();
+        QContextMenuEvent request(QContextMenuEvent::Keyboard, place, mapToGlobal(place));
+        contextMenuEvent(&request);
+        return;
+    }
     QPlainTextEdit::keyPressEvent(event);
 }
 
 void OutputPreview::contextMenuEvent(QContextMenuEvent* event) {
     showRest();
-    QPlainTextEdit::contextMenuEvent(event);
+    auto* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (document()->blockCount() > 1) {
+        const bool isByKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+        const auto place = middleOfRow(event->pos()).toPoint();
+        addCopyOfLine(*menu, lineAt(isByKeyboard ? textCursor() : cursorForPosition(place)));
+    }
+    menu->popup(event->globalPos());
 }
 
 void OutputPreview::resizeEvent(QResizeEvent* event) {
@@ -172,6 +220,21 @@ QMimeData* OutputPreview::createMimeDataFromSelection() const {
     auto* mime = new QMimeData;
     mime->setText(m_output.mid(start, cursor.selectionEnd() - start));
     return mime;
+}
+
+QString OutputPreview::lineAt(const QTextCursor& cursor) const {
+    const auto block = cursor.block();
+    return m_output.mid(block.position(), block.length() - 1);
+}
+
+void OutputPreview::addCopyOfLine(QMenu& menu, const QString& line) {
+    auto shown = menu.fontMetrics().elidedText(line, Qt::ElideRight, longestLineInMenu);
+    shown.replace(u'&', QStringLiteral("&&"));
+    auto* copy = new QAction(tr("Copy “%1”").arg(shown), &menu);
+    connect(copy, &QAction::triggered, this, [this, line] { Q_EMIT copyRequested(line); });
+    const auto others = menu.actions();
+    menu.insertAction(others.value(0), copy);
+    menu.insertSeparator(others.value(0));
 }
 
 void OutputPreview::adoptColors() {
@@ -218,6 +281,11 @@ QPointF OutputPreview::middleOfRow(QPointF position) const {
     const int height = m_layout->rowHeight();
     const double row = std::floor((position.y() - top) / height);
     return {position.x(), top + (row + 0.5) * height};
+}
+
+int OutputPreview::wantedHeight(int width) const {
+    const int rows = std::min(m_layout->rowCount(width, mostRows), mostRows);
+    return std::max(rows * m_layout->rowHeight() + 2 * padding, leastHeight);
 }
 
 void OutputPreview::showRest() {

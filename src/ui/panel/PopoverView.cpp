@@ -51,8 +51,12 @@ PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callba
 PopoverView::~PopoverView() = default;
 
 void PopoverView::performCopy() {
+    copy(m_model.formattedOutput());
+}
+
+void PopoverView::copy(const QString& text) {
     auto& button = m_actionBar->copyButton();
-    if (copyText(m_dependencies.pasteboard, m_model.formattedOutput()) == PutOutcome::Taken)
+    if (copyText(m_dependencies.pasteboard, text) == PutOutcome::Taken)
         button.confirm();
     else
         button.refuse();
@@ -128,7 +132,7 @@ void PopoverView::layOut() {
     sections->add(m_dateSection);
     sections->add(m_timeZoneSection);
     sections->add(m_formatSection);
-    sections->add(m_previewSection, 1);
+    sections->addScrolling(m_previewSection, *m_previewSection);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -155,11 +159,15 @@ void PopoverView::addShortcuts() {
     add(Qt::CTRL | Qt::Key_Return, insert);
     add(Qt::CTRL | Qt::Key_Enter, insert);
     add(preferencesKeys, [this] { m_callbacks.onShowPreferences(); });
+    // A text field that has something to copy takes them for itself.
+    for (const auto& keys : QKeySequence::keyBindings(QKeySequence::Copy))
+        add(keys, [this] { m_actionBar->copyButton().click(); });
 }
 
 void PopoverView::connectControls() {
     connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });
     connect(&m_actionBar->copyButton(), &CopyButton::clicked, this, &PopoverView::performCopy);
+    connect(m_previewSection, &PreviewSection::copyRequested, this, &PopoverView::copy);
     connect(&m_actionBar->insertButton(), &ActionButton::clicked, this, [this] {
         m_callbacks.onInsert();
     });

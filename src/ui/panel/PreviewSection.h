@@ -3,6 +3,7 @@
 
 #include "Section.h"
 
+#include <controls/ScrollingSection.h>
 #include <loop/MainQueue.h>
 
 namespace quorvane {
@@ -11,7 +12,7 @@ class OutputPreview;
 class WrappedText;
 
 /// The output as it will be delivered.
-class PreviewSection final : public Section {
+class PreviewSection final : public Section, public ScrollingSection {
     Q_OBJECT
 
 public:
@@ -20,12 +21,28 @@ public:
 
     void setOutput(const QString& output);
 
+    /// Whether there is an output; while there is none for want of a zone, it asks for one.
+    void setAvailable(bool available);
+
+    void holdBack(int height) override;
+    [[nodiscard]] int heldBack() const override;
+    void setScrollBarShown(bool shown) override;
+
     /// A caption below the output; empty for none.
     void setNotice(const QString& text);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The user wants this part of the output on the clipboard.
+    void copyRequested(const QString& text);
+
 private:
+    void placePrompt();
+
     OutputPreview* m_preview;
     WrappedText* m_notice;
+    WrappedText* m_prompt; ///< over the preview and its dimming
 };
 
 } // namespace quorvane

@@ -200,6 +200,173 @@ TEST_F(OutputPreviewTest, RowsAreEquallyHigh) {
     EXPECT_EQ(at(10).y() - at(8).y(), rowHeight);
 }
 
+/// The rows that a text is shown in.
+QStringList rowsOf(const QPlainTextEdit& preview) {
+    QStringList rows;
+    for (auto block = preview.document()->begin(); block.isValid(); block = block.next()) {
+        const auto& layout = *block.layout();
+        for (int row = 0; row < layout.lineCount(); ++row) {
+            const auto line = layout.lineAt(row);
+            rows.append(block.text().mid(line.textStart(), line.textLength()));
+        }
+    }
+    return rows;
+}
+
+TEST_F(OutputPreviewTest, RowsBreakBetweenWords) {
+    const auto output = u"November 20, 2026 at 12:45 PM PST / November 20, 2026 at 3:45 PM EST / "
+                        "November 20, 2026 at 8:45 PM GMT+1 / 2026-11-20T20:45:00+00:00"_s;
+    const auto words = output.split(u' ');
+    for (const int width : {230, 260, 300, 468}) {
+        window.resize(width, 400);
+        preview->setOutput({});
+        preview->setOutput(output);
+        window.layout()->activate();
+        const auto rows = rowsOf(*preview);
+        ASSERT_GT(rows.size(), 1);
+        EXPECT_EQ(rows.join(QString()), output);
+        for (const auto& row : rows) {
+            for (const auto& word : row.trimmed().split(u' '))
+                EXPECT_TRUE(words.contains(word)) << word.toStdString() << " at " << width;
+        }
+    }
+}
+
+TEST_F(OutputPreviewTest, WordThatIsLongerThanARowIsBroken) {
+    const double advance = QFontMetricsF(preview->font()).horizontalAdvance(u'm');
+    const int perRow = static_cast<int>((panelWidth - 20) / advance);
+    show(u"ab "_s + QString(perRow + 3, u'm'));
+    const auto rows = rowsOf(*preview);
+    EXPECT_EQ(rows.join(QString()), preview->toPlainText());
+    ASSERT_GE(rows.size(), 2);
+    EXPECT_LE(rows.size(), 3);
+}
+
+TEST_F(OutputPreviewTest, FurtherRowsOfALineStandInFromWhereLinesBegin) {
+    const auto line = u"one two three four five six seven eight nine ten "_s;
+    const auto lefts = [this] {
+        QList<int> places;
+        for (auto block = preview->document()->begin(); block.isValid(); block = block.next()) {
+            const auto& layout = *block.layout();
+            for (int row = 0; row < layout.lineCount(); ++row)
+                places.append(qRound(layout.lineAt(row).naturalTextRect().left()));
+        }
+        return places;
+    };
+    const int indent = 2 * preview->fontMetrics().horizontalAdvance(u' ');
+    show(line.repeated(2) + u'\n' + line);
+    EXPECT_EQ(lefts(), (QList<int>{10, 10 + indent, 10}));
+    EXPECT_EQ(preview->height(), 3 * rowHeight + 20);
+    show(line.repeated(2));
+    EXPECT_EQ(lefts(), (QList<int>{10, 10})) << "there is no other line to tell it from";
+}
+
+TEST_F(OutputPreviewTest, FurtherRowsStandInFromTheMirroredPanelsEdge) {
+    window.setLayoutDirection(Qt::RightToLeft);
+    const auto word = u"\u05D0\u05D1\u05D2 "_s;
+    show(word.repeated(30).trimmed() + u'\n' + word);
+    const auto& layout = *preview->document()->begin().layout();
+    ASSERT_GE(layout.lineCount(), 2);
+    const int indent = 2 * preview->fontMetrics().horizontalAdvance(u' ');
+    const auto right = [&](int row) {
+        const auto line = layout.lineAt(row);
+        return line.x() + line.width();
+    };
+    EXPECT_EQ(right(0), panelWidth - 10);
+    EXPECT_EQ(right(1), panelWidth - 10 - indent);
+}
+
+TEST_F(OutputPreviewTest, RowsThatStandInAreSelectedWhereTheyShow) {
+    const auto line = u"one two three four five six seven eight nine ten "_s;
+    show(line.repeated(2) + u'\n' + line);
+    const int second = static_cast<int>(rowsOf(*preview).front().size());
+    drag(at(second), at(second + 3));
+    EXPECT_EQ(copied(), line.repeated(2).mid(second, 3));
+}
+
+/// The menu's first command, when the menu is asked for there.
+class OutputPreviewMenuTest : public OutputPreviewTest {
+protected:
+    QStringList requested;
+
+    OutputPreviewMenuTest() {
+        QObject::connect(preview, &OutputPreview::copyRequested, [this](const QString& text) {
+            requested.append(text);
+        });
+    }
+
+    static QMenu& menu() { return *qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+    void click(QPoint place) {
+        QContextMenuEvent event(
+            QContextMenuEvent::Mouse, place, preview->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(preview->viewport(), &event);
+    }
+
+    static QStringList commands() {
+        QStringList texts;
+        for (const auto* action : menu().actions()) {
+            if (!action->isSeparator())
+                texts.append(action->text().section(u'\t', 0, 0).remove(u'&'));
+        }
+        return texts;
+    }
+};
+
+TEST_F(OutputPreviewMenuTest, LineUnderThePointerIsOfferedAlone) {
+    show(u"one\ntwo & three\nfour"_s);
+    click(at(6));
+    EXPECT_EQ(commands(), (QStringList{u"Copy “two  three”"_s, u"Copy"_s, u"Select All"_s}));
+    menu().actions().front()->trigger();
+    EXPECT_EQ(requested, QStringList{u"two & three"_s});
+    menu().close();
+    click({at(0).x(), 10 + 2 * rowHeight + 1});
+    menu().actions().front()->trigger();
+    EXPECT_EQ(requested.back(), u"four"_s);
+    menu().close();
+}
+
+TEST_F(OutputPreviewMenuTest, KeysChooseTheLineOfTheCursor) {
+    show(u"one\ntwo\nthree"_s);
+    preview->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(preview, Qt::Key_Down);
+    QTest::keyClick(preview, Qt::Key_F10, Qt::ShiftModifier);
+    QTest::keyClick(&menu(), Qt::Key_Down);
+    QTest::keyClick(&menu(), Qt::Key_Return);
+    EXPECT_EQ(requested, QStringList{u"two"_s});
+    QTest::keyClick(preview, Qt::Key_Down);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {1, 1}, window.mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(preview, &event);
+    menu().actions().front()->trigger();
+    EXPECT_EQ(requested.back(), u"three"_s);
+    menu().close();
+}
+
+TEST_F(OutputPreviewMenuTest, LineIsTheTextExactly) {
+    show(u"one\n17\u202F:05\u00A0h\nthree"_s);
+    click(at(5));
+    menu().actions().front()->trigger();
+    EXPECT_EQ(requested, QStringList{u"17\u202F:05\u00A0h"_s});
+    menu().close();
+}
+
+TEST_F(OutputPreviewMenuTest, LongLineIsShortenedInTheMenuAlone) {
+    const auto longLine = u"long "_s.repeated(100);
+    show(longLine + u"\ntwo"_s);
+    click(at(2));
+    EXPECT_LT(commands().front().size(), 100);
+    menu().actions().front()->trigger();
+    EXPECT_EQ(requested, QStringList{longLine});
+    menu().close();
+}
+
+TEST_F(OutputPreviewMenuTest, OnlyLineIsNotOfferedApart) {
+    show(u"one"_s);
+    click(at(1));
+    EXPECT_EQ(commands(), (QStringList{u"Copy"_s, u"Select All"_s}));
+    menu().close();
+}
+
 TEST_F(OutputPreviewTest, LongLineWrapsAnywhereAndNeverScrollsSideways) {
     const double advance = QFontMetricsF(preview->font()).horizontalAdvance(u'm');
     const int perRow = static_cast<int>((panelWidth - 20) / advance);

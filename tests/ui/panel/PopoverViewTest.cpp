@@ -239,6 +239,28 @@ TEST_F(PopoverViewTest, CopyOfSeveralLinesIsOneText) {
         plainText(u"March 9, 2024 at 5:05 PM EST\nMarch 9, 2024 at 10:05 PM GMT"_s));
 }
 
+TEST_F(PopoverViewTest, OneLineIsCopiedAsTheWholeIs) {
+    model.setSelectedTimeZones(
+        {*zones.zone(u"America/New_York"_s), *zones.zone(u"Europe/London"_s)});
+    model.setMultiZoneLayout(MultiZoneLayout::Lines);
+    queue.run();
+    auto& output = find<QWidget>(QAccessible::EditableText, u"Preview"_s);
+    output.setFocus();
+    const auto copyLine = [&] {
+        QTest::keyClick(&output, Qt::Key_F10, Qt::ShiftModifier);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    };
+    QTest::keyClick(&output, Qt::Key_Down);
+    copyLine();
+    EXPECT_EQ(pasteboard.contents(), plainText(u"March 9, 2024 at 10:05 PM GMT"_s));
+    EXPECT_TRUE(button(u"Copied"_s).isVisible());
+    queue.advance(1500ms);
+    pasteboard.setRefusing(true);
+    copyLine();
+    EXPECT_TRUE(button(u"Could not copy"_s).isVisible());
+}
+
 TEST_F(PopoverViewTest, CopyTwiceIsConfirmedUntilTheFirstOneEnds) {
     auto& copy = button(u"Copy"_s);
     copy.click();

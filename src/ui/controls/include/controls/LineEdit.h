@@ -13,6 +13,8 @@ namespace quorvane {
 /// It replaces what was selected, or goes where the cursor was, when it was asked for. It is given
 /// up if the text is another by then, if the field was hidden, or if another paste was asked for.
 ///
+/// The keys for copying are the window's while nothing is selected.
+///
 /// A text that another program drags over the field is read meanwhile: it can be dropped as soon as
 /// it has come.
 class LineEdit : public QLineEdit {
@@ -27,6 +29,7 @@ public Q_SLOTS:
     void paste();
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -16,6 +16,9 @@ public:
     /// Stands in for the area's own vertical bar, which is hidden.
     explicit OverlayScrollBar(QAbstractScrollArea* area);
 
+    /// Keeps it from showing, also while there is something to scroll.
+    void setSuppressed(bool suppressed);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -26,6 +29,7 @@ private:
     [[nodiscard]] QRectF thumb() const;
 
     QAbstractScrollArea* m_area;
+    bool m_isSuppressed = false;
 };
 
 } // namespace quorvane

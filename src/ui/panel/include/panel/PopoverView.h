@@ -82,6 +82,8 @@ private:
     void addShortcuts();
     void connectControls();
 
+    void copy(const QString& text);
+
     void refresh();
     void refreshDownstream();
 
