@@ -60,6 +60,7 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            m_dependencies.zones,
            m_dependencies.mainQueue,
            m_dependencies.clock,
+           m_dependencies.windowFrames,
            *m_dependencies.platform.workspace,
            *m_dependencies.platform.windowTraits,
            fieldPaste(*m_dependencies.platform.pasteboard)},
@@ -155,6 +156,7 @@ void AppDelegate::terminate() {
         return;
     Q_EMIT willTerminate();
     m_presentation.panel().saveFrameNow();
+    m_preferences.saveFrameNow();
     m_insertion.finish([&pasteboard = *m_dependencies.platform.pasteboard] {
         pasteboard.handOver([] {
             // Not quit(), which asks each window first.

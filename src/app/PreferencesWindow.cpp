@@ -5,6 +5,7 @@
 #include <preferences/PreferencesMetrics.h>
 
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quorvane {
@@ -23,6 +24,9 @@ PreferencesWindow::PreferencesWindow(QWidget* content)
     setFixedWidth(preferencesmetrics::size.width());
     resize(preferencesmetrics::size);
     new FocusRing(this);
+    // A shortcut, unlike a key press, is found in layouts without a Latin W as well.
+    auto* closing = new QShortcut(Qt::CTRL | Qt::Key_W, this);
+    connect(closing, &QShortcut::activated, this, &QWidget::close);
 }
 
 void PreferencesWindow::keyPressEvent(QKeyEvent* event) {

@@ -5,7 +5,8 @@
 
 namespace quorvane {
 
-/// The window around the preferences. Closing it, also by Escape, only hides it.
+/// The window around the preferences. Closing it, also by Escape or Ctrl+W, only
+/// hides it.
 class PreferencesWindow final : public QWidget {
     Q_OBJECT
 

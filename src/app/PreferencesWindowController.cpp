@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesWindowController.h"
 
-#include "PanelPlacement.h"
 #include "PreferencesWindow.h"
-#include "Screens.h"
 
 #include <controls/FocusRing.h>
 
-#include <QScreen>
 #include <QWindow>
 
 #include <utility>
@@ -26,8 +23,18 @@ void PreferencesWindowController::showWindow(InputDevice device) {
     setupWindow();
     if (!m_window->isVisible())
         FocusRing::of(*m_window)->setLastInput(device);
+    m_frame->place();
+    // Closing has destroyed the native window.
+    m_window->winId();
+    auto& traits = m_dependencies.windowTraits;
+    traits.prepareDialog(*m_window->windowHandle());
     m_window->show();
-    m_dependencies.windowTraits.activate(*m_window->windowHandle());
+    traits.activate(*m_window->windowHandle());
+}
+
+void PreferencesWindowController::saveFrameNow() {
+    if (m_frame)
+        m_frame->saveNow();
 }
 
 void PreferencesWindowController::refreshSoon() {
@@ -54,8 +61,13 @@ void PreferencesWindowController::setupWindow() {
         m_callbacks.onHotKeyChange);
     m_window = std::make_unique<PreferencesWindow>(m_view);
     m_callbacks.attachMainMenu(*m_window);
-    const auto& screen = screens::mainScreen(m_dependencies.workspace);
-    m_window->setGeometry(panelplacement::centred(m_window->size(), screen.availableGeometry()));
+    m_frame = std::make_unique<PreferencesFrame>(
+        *m_window,
+        PreferencesFrame::Dependencies{
+            m_dependencies.windowFrames,
+            m_dependencies.mainQueue,
+            m_dependencies.workspace,
+            m_dependencies.windowTraits});
 }
 
 } // namespace quorvane

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "PreferencesFrame.h"
+
 #include <controls/InputDevice.h>
 #include <controls/PasteReader.h>
 #include <model/DateTimeModel.h>
@@ -29,6 +31,7 @@ public:
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
         const Clock& clock;
+        WindowFrameStore& windowFrames;
         const Workspace& workspace;
         WindowTraits& windowTraits;
         PasteReader pasteReader;
@@ -49,6 +52,9 @@ public:
     /// Shows the window and gives it the focus; opened by keyboard it shows where that is.
     void showWindow(InputDevice device);
 
+    /// Saves a frame that is due to be saved.
+    void saveFrameNow();
+
     /// Shows the contents anew, for changes that the model does not announce.
     void refreshSoon();
 
@@ -62,6 +68,7 @@ private:
     Callbacks m_callbacks;
     QPointer<PreferencesView> m_view;
     std::unique_ptr<PreferencesWindow> m_window;
+    std::unique_ptr<PreferencesFrame> m_frame; ///< exists as long as the window
 };
 
 } // namespace quorvane

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PresentationFixture.h"
+#include "WindowActivation.h"
 
 #include <QTest>
 
@@ -58,14 +59,62 @@ TEST_F(PreferencesWindowControllerTest, CannotBeMinimised) {
     EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
 }
 
-TEST_F(PreferencesWindowControllerTest, EscapeClosesTheWindowAndKeepsIt) {
+TEST_F(PreferencesWindowControllerTest, EscapeAndCtrlWCloseTheWindowAndKeepIt) {
     launchAs(PresentationMode::Window);
+    for (const auto& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)}) {
+        delegate->showPreferences();
+        auto* window = preferences();
+        ASSERT_TRUE(isShown(window));
+        makeActive(*window);
+        QTest::keySequence(window, keys);
+        EXPECT_FALSE(isShown(window)) << keys.toString().toStdString();
+        delegate->showPreferences();
+        EXPECT_EQ(preferences(), window);
+    }
+}
+
+TEST_F(PreferencesWindowControllerTest, IsADialogToWindowManagers) {
+    launch();
     delegate->showPreferences();
-    auto* window = preferences();
-    QTest::keyClick(window, Qt::Key_Escape);
-    EXPECT_FALSE(isShown(window));
+    const auto& traits = static_cast<FakeWindowTraits&>(*platform.windowTraits);
+    EXPECT_EQ(traits.dialog, preferences()->windowHandle());
+}
+
+TEST_F(PreferencesWindowControllerTest, IsCentredAtEachShowUntilTheUserHasMovedIt) {
+    launch();
     delegate->showPreferences();
-    EXPECT_EQ(preferences(), window);
+    const auto area = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(preferences()->geometry().center().x(), area.center().x());
+    const auto centred = preferences()->geometry();
+    // The window manager, twice: what it insists on is left.
+    const auto elsewhere = centred.translated(2, 24);
+    for (const auto& left : {centred, elsewhere}) {
+        preferences()->setGeometry(elsewhere);
+        queue.run();
+        EXPECT_EQ(preferences()->geometry(), left);
+    }
+    preferences()->close();
+    delegate->showPreferences();
+    EXPECT_EQ(preferences()->geometry(), centred);
+    EXPECT_EQ(frames().frame(u"Preferences"_s), std::nullopt);
+}
+
+TEST_F(PreferencesWindowControllerTest, ComesBackWhereTheUserPutIt) {
+    launch();
+    delegate->showPreferences();
+    auto& traits = static_cast<FakeWindowTraits&>(*platform.windowTraits);
+    traits.held = HeldInput{{}, 1};
+    preferences()->setGeometry(30, 20, 400, 500);
+    traits.held = HeldInput{};
+    const QRect usersFrame(30, 20, 400, 500);
+    preferences()->close();
+    delegate->showPreferences();
+    EXPECT_EQ(preferences()->geometry(), usersFrame);
+    delegate->terminate();
+    makeDelegate();
+    launch();
+    delegate->showPreferences();
+    EXPECT_EQ(preferences()->geometry(), usersFrame);
 }
 
 } // namespace

@@ -102,8 +102,11 @@ class PlaceCase(DesktopCase):
         self.mouse.move_to(1, 1)
 
     def saved_place(self) -> tuple[int, int] | None:
+        return self.saved("PanelV2")
+
+    def saved(self, window: str) -> tuple[int, int] | None:
         file = self.session.directory("state") / "quorvane" / "windows.json"
-        frame = json.loads(file.read_text()).get("PanelV2") if file.exists() else None
+        frame = json.loads(file.read_text()).get(window) if file.exists() else None
         return (frame["x"], frame["y"]) if frame else None
 
 
@@ -302,3 +305,58 @@ class Screens(PlaceCase):
         quorvane.hide()
         self.summon(quorvane)
         self.wait_at(quorvane, 400, 100)
+
+
+class Preferences(PlaceCase):
+    """The preferences' window."""
+
+    size = (400, 540)
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.quorvane = Quorvane(self.session)
+        self.quorvane.wait_active()
+
+    def open(self) -> int:
+        self.quorvane.action("preferences")
+        windows, pid = self.session.windows, self.quorvane.process.pid
+        window = windows.wait(
+            lambda: windows.of_process(pid, "Quorvane Preferences"), "the preferences to show"
+        )
+        windows.wait(lambda: windows.active() == window, "the preferences to be active")
+        return window
+
+    def close(self, window: int) -> None:
+        self.keyboard.tap(Key.ESCAPE)
+        windows = self.session.windows
+        windows.wait(lambda: window not in windows.shown(), "the preferences to close")
+
+    def wait_there(self, window: int, place: tuple[int, int]) -> None:
+        windows = self.session.windows
+        wait_until(lambda: windows.frame(window)[:2] == place, f"the preferences at {place}")
+
+    def test_they_are_a_dialog_that_no_window_manager_tiles(self) -> None:
+        window = self.open()
+        self.assertEqual(self.session.windows.frame(window)[2:], self.size)
+
+    def test_ctrl_w_closes_them_where_the_key_types_another_letter_too(self) -> None:
+        windows = self.session.windows
+        for layout in ("us", "ru,us"):
+            self.session.run(["setxkbmap", layout])
+            window = self.open()
+            self.keyboard.tap(Key.CONTROL, Key.W)
+            windows.wait(lambda: window not in windows.shown(), "the preferences to close")
+        self.quorvane.action("toggle")
+        self.quorvane.wait_active()
+
+    def test_they_come_back_where_the_user_put_them(self) -> None:
+        windows = self.session.windows
+        window = self.open()
+        with self.keyboard.held(Key.SUPER):
+            windows.move(window, 90, 70)
+            wait_until(lambda: self.saved("Preferences") is not None, "the place to be saved")
+        place = windows.frame(window)[:2]
+        for _ in range(3):
+            self.close(window)
+            window = self.open()
+            self.wait_there(window, place)

@@ -114,6 +114,8 @@ public:
 
     void presentPanel(QWindow&) override {}
 
+    void prepareDialog(QWindow&) override {}
+
     void orderFront(QWindow&) override {}
 
     void activate(QWindow& window) override {

@@ -20,6 +20,7 @@ class Key(IntEnum):
     BACKSPACE = 22
     TAB = 23
     Q = 24
+    W = 25
     T = 28
     Y = 29
     O = 32

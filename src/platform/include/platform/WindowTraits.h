@@ -26,6 +26,10 @@ public:
     /// After every show: all desktops, in front of the others, and the keyboard focus.
     virtual void presentPanel(QWindow& window) = 0;
 
+    /// Before every show of a dialog without a parent, with its native window made: tiling window
+    /// managers let dialogs float. Qt's own kind of dialog would be left out of taskbars.
+    virtual void prepareDialog(QWindow& window) = 0;
+
     /// In front of the others, without the focus.
     virtual void orderFront(QWindow& window) = 0;
 

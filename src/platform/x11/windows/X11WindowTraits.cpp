@@ -130,6 +130,20 @@ void X11WindowTraits::presentPanel(QWindow& window) {
     m_windows.requestFocus(id);
 }
 
+void X11WindowTraits::prepareDialog(QWindow& window) {
+    if (qtx11::connection() == nullptr)
+        return;
+    qtx11::waitForServer();
+    const auto dialog = m_connection->atom("_NET_WM_WINDOW_TYPE_DIALOG");
+    const auto normal = m_connection->atom("_NET_WM_WINDOW_TYPE_NORMAL");
+    writePropertyValue(
+        *m_connection,
+        idOf(window),
+        m_connection->atom("_NET_WM_WINDOW_TYPE"),
+        propertyValue(XCB_ATOM_ATOM, {dialog, normal}));
+    m_connection->waitForServer();
+}
+
 void X11WindowTraits::orderFront(QWindow& window) {
     if (qtx11::connection() == nullptr)
         return;

@@ -4,6 +4,7 @@
 #include <platform/WindowTraits.h>
 #include <testing/CallLog.h>
 
+#include <QPointer>
 #include <QWindow>
 
 namespace quorvane {
@@ -20,6 +21,8 @@ public:
 
     void presentPanel(QWindow&) override { m_log.add("presentPanel"); }
 
+    void prepareDialog(QWindow& window) override { dialog = &window; }
+
     void orderFront(QWindow& window) override { m_log.add(named("orderFront", window)); }
 
     void activate(QWindow& window) override { m_log.add(named("activate", window)); }
@@ -29,6 +32,8 @@ public:
     [[nodiscard]] std::optional<HeldInput> heldInput() const override { return held; }
 
     bool composited = false;
+
+    QPointer<QWindow> dialog; ///< the last that was prepared
 
     /// Nothing is held until a test says so.
     std::optional<HeldInput> held = HeldInput{};

@@ -24,6 +24,7 @@ public:
 
     void preparePanel(QWindow& window) override;
     void presentPanel(QWindow& window) override;
+    void prepareDialog(QWindow& window) override;
     void orderFront(QWindow& window) override;
     void activate(QWindow& window) override;
     [[nodiscard]] bool isComposited() const override;
