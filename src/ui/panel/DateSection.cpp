@@ -131,6 +131,7 @@ QHBoxLayout* DateSection::makeRangeRow() {
     row->setSpacing(lengthGap);
     row->addWidget(m_isRange);
     row->addWidget(m_length, 1, Qt::AlignVCenter);
+    row->addStretch();
     return row;
 }
 

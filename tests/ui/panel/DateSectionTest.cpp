@@ -6,6 +6,8 @@
 #include <controls/WrappedText.h>
 #include <entry/CalendarDay.h>
 
+#include <QLayout>
+
 #include <algorithm>
 #include <chrono>
 
@@ -128,6 +130,19 @@ TEST_F(DateSectionTest, DatesEnteredByTheirControlsAreTheUsers) {
     QTest::keyClick(time, Qt::Key_Up);
     EXPECT_EQ(model.startDate(), clock.now() + 30s);
     EXPECT_TRUE(model.hasEnteredDate());
+}
+
+TEST_F(DateSectionTest, ToStandsAtTheBeginningOfItsRow) {
+    const auto left = [this](QWidget& widget) {
+        return widget.mapTo(&view, QPoint()).x();
+    };
+    const int column = left(*view.findChild<DateField*>());
+    EXPECT_NEAR(left(box(u"to"_s)), column, 4);
+    box(u"to"_s).click();
+    queue.run();
+    view.layout()->activate();
+    EXPECT_NEAR(left(box(u"to"_s)), column, 4);
+    EXPECT_LT(left(length()), column + 60);
 }
 
 TEST_F(DateSectionTest, ARangeTellsItsLength) {
