@@ -3,9 +3,17 @@
 
 #include <time/CivilTime.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace quorvane {
+
+namespace {
+
+// A clock that is set meanwhile must not keep the program busy.
+constexpr Seconds leastDelay{1};
+
+} // namespace
 
 TimeFollower::TimeFollower(Dependencies dependencies, std::function<void()> onChanged)
     : m_dependencies(dependencies),
@@ -26,7 +34,8 @@ void TimeFollower::awaitMidnight() {
     const auto zone = m_dependencies.currentZone.current();
     const auto today = civilDay(now, zone);
     const auto midnight = instantAt({today + std::chrono::days(1), {}}, zone, now);
-    const Seconds delay(midnight.secondsSince1970 - now.secondsSince1970);
+    const auto delay =
+        std::max(leastDelay, Seconds(midnight.secondsSince1970 - now.secondsSince1970));
     m_midnight = m_dependencies.mainQueue.after(delay, [this, today, zone] {
         // Timers count milliseconds, and so may end just before.
         const bool isAnotherDay = civilDay(m_dependencies.clock.now(), zone) != today;
