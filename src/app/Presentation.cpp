@@ -4,6 +4,7 @@
 #include "PreviousFrontmostApp.h"
 #include "TrayIcon.h"
 
+#include <controls/Announcement.h>
 #include <controls/FocusRing.h>
 
 #include <QCursor>
@@ -137,6 +138,9 @@ InputDevice Presentation::lastInput() const {
 void Presentation::setNotice(const QString& text) {
     m_notice = text;
     prepareViews();
+    // Nobody sees the views at this moment, but whoever listens need not wait for the next showing.
+    if (auto* view = m_panel.view() != nullptr ? m_panel.view() : m_popover.view())
+        announce(*view, text);
 }
 
 InterfaceCallbacks Presentation::preparing(InterfaceCallbacks callbacks) {

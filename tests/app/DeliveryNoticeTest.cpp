@@ -3,6 +3,8 @@
 
 #include "DelegateFixture.h"
 
+#include <support/HeardAnnouncements.h>
+
 #include <QLabel>
 
 #include <algorithm>
@@ -51,6 +53,19 @@ TEST_F(DeliveryNoticeTest, IsTheIconsToolTipAndACaptionWhereNobodyDoes) {
     copyInstead();
     EXPECT_EQ(statusBar->toolTip, told);
     EXPECT_TRUE(panelSays(told));
+}
+
+TEST_F(DeliveryNoticeTest, IsAnnouncedOnceWhereNobodyShowsNotifications) {
+    notifications->hasServer = false;
+    launch();
+    HeardAnnouncements heard(*panel());
+    workspace->setFront(std::nullopt);
+    delegate->performInsert();
+    queue.advance(3s);
+    EXPECT_EQ(heard.take(), QStringList{told});
+    pressShortcut();
+    queue.advance(3s);
+    EXPECT_EQ(heard.take(), QStringList());
 }
 
 TEST_F(DeliveryNoticeTest, StaysUntilSomethingIsChanged) {

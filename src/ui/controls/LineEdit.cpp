@@ -2,12 +2,11 @@
 #include "LineEditMenu.h"
 
 #include <controls/LineEdit.h>
+#include <controls/SilentAccessibility.h>
 
-#include <QAccessible>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QScopeGuard>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -147,8 +146,7 @@ void LineEdit::insertAt(const Place& place, const QString& pasted) {
 // step only where the cursor is moved: so it is, by one letter and back, and nobody hears of it.
 void LineEdit::beginUndoStep() {
     const QSignalBlocker blocker(this);
-    auto* handler = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
-    const auto hearAgain = qScopeGuard([&] { QAccessible::installUpdateHandler(handler); });
+    const SilentAccessibility silence;
     const int cursor = cursorPosition();
     setCursorPosition(cursor > 0 ? cursor - 1 : 1);
     setCursorPosition(cursor);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CopyButton.h"
 
+#include <controls/Announcement.h>
 #include <controls/Theme.h>
 
 #include <QPainter>
@@ -19,6 +20,8 @@ constexpr int changeMilliseconds = 200;
 CopyButton::CopyButton(MainQueue& queue, QWidget* parent)
     : ActionButton(Prominence::Bordered, Symbol::DocOnDoc, tr("Copy"), parent),
       m_queue(queue) {
+    // What became of a press is announced. A name that changes would be read on its own account.
+    setAccessibleName(textOf(State::Ready));
     m_change.setDuration(changeMilliseconds);
     m_change.setStartValue(0.0);
     m_change.setEndValue(1.0);
@@ -47,6 +50,7 @@ void CopyButton::paintFace(QPainter& painter, const Theme& theme) {
 
 void CopyButton::sayForAWhile(State state) {
     setState(state);
+    announce(*this, textOf(state));
     m_resets.run(m_queue, confirmation, [this] { setState(State::Ready); });
 }
 
@@ -56,7 +60,6 @@ void CopyButton::setState(State state) {
     m_change.stop();
     if (changes && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) != 0)
         m_change.start();
-    // The button's text is also its name: whoever listens hears it change.
     setText(textOf(state));
 }
 

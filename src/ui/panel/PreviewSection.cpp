@@ -9,11 +9,19 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace quorvane {
 
 namespace {
 
 constexpr int promptInset = 10;
+
+/// Nobody listens to the whole of a long output; the preview itself has it.
+QString spokenPart(const QString& output) {
+    constexpr qsizetype longest = 500;
+    return output.size() <= longest ? output : output.first(longest) + u'…';
+}
 
 } // namespace
 
@@ -22,7 +30,8 @@ PreviewSection::PreviewSection(MainQueue& queue, QWidget* parent)
       m_preview(new OutputPreview(queue, this)),
       m_notice(new WrappedText({}, TextStyle::Caption, WrappedText::Color::Secondary, this)),
       m_prompt(new WrappedText(
-          tr("Choose a time zone"), TextStyle::Callout, WrappedText::Color::Secondary, this)) {
+          tr("Choose a time zone"), TextStyle::Callout, WrappedText::Color::Secondary, this)),
+      m_reading(queue, *m_preview) {
     label().setBuddy(m_preview);
     body().addWidget(m_preview, 1);
     body().addWidget(m_notice);
@@ -35,6 +44,8 @@ PreviewSection::PreviewSection(MainQueue& queue, QWidget* parent)
 
 void PreviewSection::setOutput(const QString& output) {
     m_preview->setOutput(output);
+    if (std::exchange(m_output, output) != output && m_preview->isVisible())
+        m_reading.announceSoon(output.isEmpty() ? m_prompt->text() : spokenPart(output));
 }
 
 void PreviewSection::setAvailable(bool available) {

@@ -3,8 +3,8 @@
 
 #include "Section.h"
 
+#include <controls/PausedAnnouncement.h>
 #include <controls/ScrollingSection.h>
-#include <loop/MainQueue.h>
 
 namespace quorvane {
 
@@ -19,6 +19,7 @@ public:
     /// The queue must outlive the section.
     PreviewSection(MainQueue& queue, QWidget* parent);
 
+    /// What has changed is read to a screen reader's user after a pause in the changes.
     void setOutput(const QString& output);
 
     /// Whether there is an output; while there is none for want of a zone, it asks for one.
@@ -43,6 +44,8 @@ private:
     OutputPreview* m_preview;
     WrappedText* m_notice;
     WrappedText* m_prompt; ///< over the preview and its dimming
+    QString m_output;
+    PausedAnnouncement m_reading;
 };
 
 } // namespace quorvane

@@ -4,6 +4,7 @@
 #include "MenuRow.h"
 
 #include <panel/PopoverView.h>
+#include <support/HeardAnnouncements.h>
 #include <support/HeldPaste.h>
 #include <support/WidgetSearch.h>
 #include <testing/CallLog.h>

@@ -26,6 +26,7 @@ TEST_F(PopoverViewTest, BurstOfAssignmentsLeadsToOneRefresh) {
     EXPECT_EQ(preview(), u"March 9, 2024 at 5:05 PM EST"_s);
     queue.run();
     EXPECT_EQ(preview(), u"1"_s);
+    queue.advance(1s); // after which the output is read out
     EXPECT_TRUE(queue.isIdle());
 }
 
@@ -216,6 +217,43 @@ TEST_F(PopoverViewTest, CopyPutsTheOutputAndConfirmsItForAWhile) {
     queue.advance(1ms);
     EXPECT_EQ(copy.text(), u"Copy"_s);
     EXPECT_EQ(closed, 0);
+}
+
+TEST_F(PopoverViewTest, OutcomeOfCopyIsAnnouncedAndTheButtonKeepsItsName) {
+    HeardAnnouncements heard(view);
+    auto& copy = button(u"Copy"_s);
+    copy.click();
+    EXPECT_EQ(heard.take(), QStringList{u"Copied"_s});
+    EXPECT_EQ(&button(u"Copy"_s), &copy);
+    pasteboard.setRefusing(true);
+    copy.click();
+    EXPECT_EQ(heard.take(), QStringList{u"Could not copy"_s});
+    queue.advance(1h);
+    EXPECT_EQ(heard.take(), QStringList());
+}
+
+TEST_F(PopoverViewTest, ChangedOutputIsReadOnceAfterAPause) {
+    HeardAnnouncements heard(view);
+    auto& time = box(u"Time"_s);
+    for (int press = 0; press < 3; ++press) {
+        time.click();
+        queue.advance(500ms);
+    }
+    EXPECT_EQ(heard.take(), QStringList());
+    queue.advance(500ms);
+    EXPECT_EQ(heard.take(), QStringList{u"March 9, 2024"_s});
+    queue.advance(1h);
+    EXPECT_EQ(heard.take(), QStringList());
+}
+
+TEST_F(PopoverViewTest, OutputThatChangesWhileNobodySeesItIsNotRead) {
+    HeardAnnouncements heard(view);
+    view.hide();
+    box(u"Time"_s).click();
+    queue.advance(1h);
+    view.show();
+    queue.advance(1h);
+    EXPECT_EQ(heard.take(), QStringList());
 }
 
 TEST_F(PopoverViewTest, CopyThatThePasteboardRefusesIsNotConfirmed) {
