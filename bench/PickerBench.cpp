@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <controls/SearchField.h>
 #include <controls/Sheet.h>
+#include <loop/QtMainQueue.h>
 #include <panel/PanelMetrics.h>
 #include <picker/TimeZonePickerView.h>
 #include <time/Clock.h>
@@ -15,25 +16,26 @@ using namespace Qt::StringLiterals;
 
 constexpr QSize panelSize{panelmetrics::width, 488};
 
-TimeZonePickerView* makePicker(const ZoneDatabase& zones, const Clock& clock) {
+TimeZonePickerView* makePicker(const ZoneDatabase& zones, const Clock& clock, MainQueue& queue) {
     return new TimeZonePickerView(
         {[zone = ZoneDatabase::utc()] { return std::vector{zone}; },
          [](const std::vector<TimeZone>&) {
          }},
         {u"America/New_York"_s, u"Europe/London"_s, u"Asia/Tokyo"_s},
-        {zones, clock, UserLocale::named(u"en_US"_s)});
+        {zones, clock, UserLocale::named(u"en_US"_s), queue});
 }
 
 /// From the click to the painted sheet.
 void openPicker(benchmark::State& state) {
     const ZoneDatabase zones;
     const SystemClock clock;
+    QtMainQueue queue;
     QWidget panel;
     panel.resize(panelSize);
     panel.show();
     QImage screen(panelSize, QImage::Format_ARGB32_Premultiplied);
     for ([[maybe_unused]] const auto round : state) {
-        auto* sheet = new Sheet(&panel, makePicker(zones, clock));
+        auto* sheet = new Sheet(&panel, makePicker(zones, clock, queue));
         sheet->open();
         panel.render(&screen);
         state.PauseTiming();
@@ -46,10 +48,11 @@ void openPicker(benchmark::State& state) {
 void typeLetter(benchmark::State& state) {
     const ZoneDatabase zones;
     const SystemClock clock;
+    QtMainQueue queue;
     QWidget panel;
     panel.resize(panelSize);
     panel.show();
-    auto* sheet = new Sheet(&panel, makePicker(zones, clock));
+    auto* sheet = new Sheet(&panel, makePicker(zones, clock, queue));
     sheet->open();
     auto* field = sheet->findChild<SearchField*>();
     QImage screen(panelSize, QImage::Format_ARGB32_Premultiplied);

@@ -36,7 +36,11 @@ PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callba
       m_dateSection(new DateSection(model, entryDependencies(), this)),
       m_timeZoneSection(new TimeZoneSection(
           model,
-          {m_dependencies.zones, m_dependencies.clock, model.locale(), m_dependencies.pasteReader},
+          {m_dependencies.zones,
+           m_dependencies.clock,
+           model.locale(),
+           m_dependencies.mainQueue,
+           m_dependencies.pasteReader},
           this)),
       m_formatSection(new FormatSection(
           model, m_dependencies.popoverEffects, m_dependencies.pasteReader, this)),

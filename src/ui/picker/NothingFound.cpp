@@ -55,6 +55,10 @@ void NothingFound::showMessage(Symbol symbol, const QString& text) {
     raise();
 }
 
+QString NothingFound::message() const {
+    return m_text->text();
+}
+
 void NothingFound::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRectF place(0, top, width(), lensSize);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <controls/Announcement.h>
 #include <controls/SearchField.h>
 #include <controls/TextButton.h>
 #include <controls/TextStyle.h>
@@ -64,13 +65,17 @@ TimeZonePickerView::TimeZonePickerView(
           [this](const TimeZone& zone) { return isSelected(zone); },
           this)),
       m_list(new ZoneList(this)),
-      m_nothing(new NothingFound(m_list)) {
+      m_nothing(new NothingFound(m_list)),
+      m_found(dependencies.mainQueue, *m_list, *m_nothing) {
     setAccessibleName(tr("Time Zones"));
     setFocusProxy(m_field);
     m_list->setModel(m_model);
     layOut();
     new ZoneListKeys(*m_field, *m_list);
-    connect(m_field, &SearchField::textChanged, this, &TimeZonePickerView::search);
+    connect(m_field, &SearchField::textChanged, this, [this] {
+        search();
+        tellWhatIsFound();
+    });
     connect(m_list, &ZoneList::chosen, this, &TimeZonePickerView::choose);
     search();
 }
@@ -115,9 +120,24 @@ void TimeZonePickerView::search() {
     m_list->goToFirst();
 }
 
+void TimeZonePickerView::tellWhatIsFound() {
+    if (normalisedQuery(m_field->text()).isEmpty())
+        m_found.drop();
+    else
+        m_found.tell();
+}
+
 void TimeZonePickerView::choose(const QModelIndex& index) {
-    if (const auto* zone = m_model->zoneAt(index))
-        toggleTimeZone(*zone);
+    const auto* zone = m_model->zoneAt(index);
+    if (zone == nullptr)
+        return;
+    const bool wasSelected = isSelected(*zone);
+    toggleTimeZone(*zone);
+    const auto name = index.data().toString();
+    if (isSelected(*zone) == wasSelected)
+        announce(*m_list, tr("%1 stays, because it is the only time zone").arg(name));
+    else
+        announce(*m_list, wasSelected ? tr("%1 removed").arg(name) : tr("%1 added").arg(name));
 }
 
 std::vector<ZoneListModel::Section> TimeZonePickerView::sections() const {

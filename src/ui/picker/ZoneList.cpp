@@ -2,6 +2,7 @@
 #include "ZoneRowDelegate.h"
 
 #include <controls/OverlayScrollBar.h>
+#include <controls/SilentAccessibility.h>
 #include <picker/ZoneList.h>
 #include <picker/ZoneListModel.h>
 
@@ -63,6 +64,7 @@ bool ZoneList::isPressed(const QModelIndex& index) const {
 }
 
 void ZoneList::goToFirst() {
+    const SilentAccessibility silence;
     scrollToTop();
     for (int row = 0; row < model()->rowCount(); ++row) {
         const auto index = model()->index(row, 0);

@@ -5,6 +5,7 @@
 #include "FavoriteRowDelegate.h"
 #include "StarredFilter.h"
 
+#include <controls/Announcement.h>
 #include <controls/SearchField.h>
 #include <controls/WrappedText.h>
 #include <model/DateTimeModel.h>
@@ -34,6 +35,7 @@ FavoritesSection::FavoritesSection(
     DateTimeModel& model,
     const ZoneDatabase& zones,
     const Clock& clock,
+    MainQueue& queue,
     PasteReader pasteReader,
     QWidget* parent)
     : PreferencesSection(tr("Favorite Time Zones"), parent),
@@ -50,18 +52,22 @@ FavoritesSection::FavoritesSection(
           },
           this)),
       m_list(new ZoneList(this)),
-      m_nothing(new NothingFound(m_list)) {
+      m_nothing(new NothingFound(m_list)),
+      m_found(queue, *m_list, *m_nothing) {
     m_field->setTrailingRoom(StarredFilter::room);
     m_list->setItemDelegate(new FavoriteRowDelegate(m_list));
     m_list->setModel(m_rows);
     m_list->setAccessibleName(tr("Favorite Time Zones"));
     new ZoneListKeys(*m_field, *m_list);
     layOut();
-    connect(m_field, &SearchField::textChanged, this, &FavoritesSection::search);
+    connect(m_field, &SearchField::textChanged, this, [this] {
+        search();
+        tellWhatIsFound();
+    });
     connect(m_filter, &StarredFilter::switched, this, &FavoritesSection::search);
     connect(m_list, &ZoneList::chosen, this, [this](const QModelIndex& index) {
         if (const auto* zone = m_rows->zoneAt(index))
-            toggleFavorite(*zone);
+            toggleFavorite(*zone, index.data().toString());
     });
     search();
 }
@@ -81,12 +87,17 @@ std::vector<TimeZone> FavoritesSection::filtered() const {
                : m_search.filtered(searchText(), m_clock.now());
 }
 
-void FavoritesSection::toggleFavorite(const TimeZone& zone) {
+void FavoritesSection::toggleFavorite(const TimeZone& zone, const QString& name) {
     auto identifiers = m_model.favoriteTimeZoneIdentifiers();
     // One entry only: a list that was edited by hand may hold more.
-    if (!identifiers.removeOne(zone.identifier()))
+    const bool isRemoved = identifiers.removeOne(zone.identifier());
+    if (!isRemoved)
         identifiers.append(zone.identifier());
     m_model.setFavoriteTimeZoneIdentifiers(identifiers);
+    announce(
+        *m_list,
+        isRemoved ? tr("%1 removed from favorites").arg(name)
+                  : tr("%1 added to favorites").arg(name));
 }
 
 void FavoritesSection::refresh() {
@@ -131,6 +142,13 @@ void FavoritesSection::layOut() {
 void FavoritesSection::search() {
     showFiltered();
     m_list->goToTop();
+}
+
+void FavoritesSection::tellWhatIsFound() {
+    if (normalisedQuery(searchText()).isEmpty())
+        m_found.drop();
+    else
+        m_found.tell();
 }
 
 void FavoritesSection::showFiltered() {

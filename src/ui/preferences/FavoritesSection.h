@@ -4,6 +4,7 @@
 #include "PreferencesSection.h"
 
 #include <controls/PasteReader.h>
+#include <picker/FoundZones.h>
 #include <time/Clock.h>
 #include <time/ZoneDatabase.h>
 #include <timezones/ZoneSearch.h>
@@ -27,6 +28,7 @@ public:
         DateTimeModel& model,
         const ZoneDatabase& zones,
         const Clock& clock,
+        MainQueue& queue,
         PasteReader pasteReader,
         QWidget* parent);
 
@@ -43,10 +45,11 @@ private:
     [[nodiscard]] std::vector<TimeZone> filtered() const;
 
     /// Stars the zone as the last of the favourites, or removes it from them.
-    void toggleFavorite(const TimeZone& zone);
+    void toggleFavorite(const TimeZone& zone, const QString& name);
 
     void layOut();
     void search();
+    void tellWhatIsFound();
     void showFiltered();
 
     DateTimeModel& m_model;
@@ -57,6 +60,7 @@ private:
     FavoriteListModel* m_rows;
     ZoneList* m_list;
     NothingFound* m_nothing;
+    FoundZones m_found;
 };
 
 } // namespace quorvane

@@ -52,7 +52,12 @@ PreferencesView::PreferencesView(
       m_icons(new IconsSection(model, this)),
       m_general(new GeneralSection(model, this)),
       m_favorites(new FavoritesSection(
-          model, m_dependencies.zones, m_dependencies.clock, m_dependencies.pasteReader, this)) {
+          model,
+          m_dependencies.zones,
+          m_dependencies.clock,
+          m_dependencies.mainQueue,
+          m_dependencies.pasteReader,
+          this)) {
     setFixedWidth(preferencesmetrics::size.width());
     layOut();
     connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });

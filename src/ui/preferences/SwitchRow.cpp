@@ -25,6 +25,8 @@ SwitchRow::SwitchRow(const QString& label, QWidget* parent)
       m_labelPlace(new QVBoxLayout),
       m_switchPlace(new QVBoxLayout) {
     m_switch->setAccessibleName(label);
+    // Or else a screen reader reads it on entering the section, and again at the switch.
+    m_label->setBuddy(m_switch);
     m_labelPlace->addWidget(m_label);
     m_switchPlace->addWidget(m_switch);
     m_switchPlace->addStretch();

@@ -114,7 +114,7 @@ const View views[] = {
                  [](const std::vector<TimeZone>&) {
                  }},
              QStringList{u"Asia/Tokyo"_s},
-             TimeZonePickerView::Dependencies{world.zones, world.clock, world.locale});
+             TimeZonePickerView::Dependencies{world.zones, world.clock, world.locale, world.queue});
      }},
     {"Fields", makeFields},
 };

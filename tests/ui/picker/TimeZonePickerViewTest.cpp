@@ -2,9 +2,11 @@
 #include <controls/Sheet.h>
 #include <controls/Theme.h>
 #include <picker/TimeZonePickerView.h>
+#include <support/HeardAnnouncements.h>
 #include <support/HeldPaste.h>
 #include <support/WidgetSearch.h>
 #include <testing/FixedClock.h>
+#include <testing/VirtualMainQueue.h>
 #include <time/ZoneDatabase.h>
 
 #include <QLabel>
@@ -22,6 +24,7 @@ namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 // 2024-01-15T12:00:00Z. The catalogue is an ordered list of 420 zones: the country table's and two.
 class TimeZonePickerViewTest : public testing::Test {
@@ -29,6 +32,7 @@ protected:
     FixedClock clock{Instant{1705320000}};
     ZoneDatabase zones;
     std::vector<TimeZone> selection{*zones.zone(u"America/New_York"_s)};
+    VirtualMainQueue queue;
     HeldPaste clipboardOwner;
     QWidget window;
     TimeZonePickerView* view = new TimeZonePickerView(
@@ -37,7 +41,7 @@ protected:
              selection = std::move(zoneList);
          }},
         {u"Europe/Paris"_s, u"Nowhere/Atlantis"_s, u"Asia/Calcutta"_s, u"America/New_York"_s},
-        {zones, clock, UserLocale::named(u"en_US"_s), clipboardOwner.reader()});
+        {zones, clock, UserLocale::named(u"en_US"_s), queue, clipboardOwner.reader()});
     QPointer<Sheet> sheet;
     QLineEdit& field = find<QLineEdit>(QAccessible::EditableText, u"Search"_s);
     QListView& list = find<QListView>(QAccessible::List, u"Time Zones"_s);
@@ -316,6 +320,38 @@ TEST_F(TimeZonePickerViewTest, ListBeginsFourBelowTheLine) {
     EXPECT_EQ(list.viewport()->mapTo(&list, QPoint()).y(), 4);
     EXPECT_EQ(field.height(), 32);
     EXPECT_EQ(field.mapTo(view, QPoint()), QPoint(16, 44));
+}
+
+TEST_F(TimeZonePickerViewTest, WhatASearchFindsIsAnnouncedWhenTheTypingPauses) {
+    HeardAnnouncements heard(window);
+    QTest::keyClicks(&field, u"berl"_s);
+    queue.advance(900ms);
+    QTest::keyClicks(&field, u"i"_s);
+    EXPECT_EQ(heard.take(), QStringList());
+    queue.advance(1s);
+    EXPECT_EQ(heard.take(), QStringList{u"1 time zone: Berlin"_s});
+    QTest::keyClicks(&field, u"zz"_s);
+    queue.advance(1s);
+    EXPECT_EQ(heard.take(), QStringList{u"No time zone matches “berlizz”"_s});
+    field.setText(u"ber"_s);
+    queue.advance(1s);
+    EXPECT_EQ(heard.take(), QStringList{u"%1 time zones, first %2"_s.arg(count()).arg(title(0))});
+    field.clear();
+    queue.advance(1s);
+    EXPECT_EQ(heard.take(), QStringList());
+}
+
+TEST_F(TimeZonePickerViewTest, WhatBecameOfAZoneIsAnnounced) {
+    HeardAnnouncements heard(window);
+    field.setText(u"Berlin"_s);
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(heard.take(), QStringList{u"Berlin added"_s});
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(heard.take(), QStringList{u"Berlin removed"_s});
+    field.setText(u"New York"_s);
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(heard.take(), QStringList{u"New York stays, because it is the only time zone"_s});
+    EXPECT_EQ(selected(), QStringList{u"America/New_York"_s});
 }
 
 } // namespace

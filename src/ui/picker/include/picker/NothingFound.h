@@ -22,6 +22,9 @@ public:
 
     void showMessage(Symbol symbol, const QString& text);
 
+    /// What it says, or said last.
+    [[nodiscard]] QString message() const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

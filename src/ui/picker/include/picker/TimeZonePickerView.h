@@ -3,6 +3,7 @@
 
 #include <controls/Binding.h>
 #include <controls/PasteReader.h>
+#include <picker/FoundZones.h>
 #include <picker/ZoneListModel.h>
 #include <time/Clock.h>
 #include <timezones/ZoneSearch.h>
@@ -26,6 +27,7 @@ public:
         const ZoneDatabase& zones;
         const Clock& clock;
         UserLocale locale;
+        MainQueue& mainQueue;
         PasteReader pasteReader = {};
     };
 
@@ -52,6 +54,7 @@ protected:
 private:
     void layOut();
     void search();
+    void tellWhatIsFound();
     void choose(const QModelIndex& index);
     [[nodiscard]] std::vector<ZoneListModel::Section> sections() const;
     [[nodiscard]] bool isSelected(const TimeZone& zone) const;
@@ -64,6 +67,7 @@ private:
     ZoneListModel* m_model;
     ZoneList* m_list;
     NothingFound* m_nothing;
+    FoundZones m_found;
 };
 
 } // namespace quorvane
