@@ -78,6 +78,10 @@ class Accessible:
         """Performs the object's first action: a click, for a button."""
         self._call(_ACTION, "DoAction", "(i)", 0)
 
+    def focus(self) -> None:
+        """Moves the focus there without a key, as a screen reader's own commands do."""
+        self._call(_COMPONENT, "GrabFocus")
+
     def children(self) -> list["Accessible"]:
         """The objects directly below."""
         pairs = self._call(_ACCESSIBLE, "GetChildren")

@@ -21,6 +21,8 @@ class Key(IntEnum):
     TAB = 23
     Q = 24
     W = 25
+    E = 26
+    R = 27
     T = 28
     Y = 29
     O = 32
@@ -30,9 +32,11 @@ class Key(IntEnum):
     A = 38
     D = 40
     K = 45
+    L = 46
     SHIFT = 50
     C = 54
     V = 55
+    B = 56
     N = 57
     COMMA = 59
     ALT = 64
