@@ -17,13 +17,21 @@ days daysIntoWeek(CivilDay day, const UserLocale& locale) {
     return std::chrono::weekday(day) - std::chrono::weekday(static_cast<unsigned>(first - 1));
 }
 
+CivilDay movedBy(CivilDay day, UCalendarDateFields field, int amount, const UserLocale& locale) {
+    auto status = U_ZERO_ERROR;
+    const auto calendar = localeCalendar(day, locale);
+    calendar->add(field, amount, status);
+    return U_SUCCESS(status) ? dayOf(*calendar) : day;
+}
+
 } // namespace
 
 CivilDay movedByMonths(CivilDay day, int months, const UserLocale& locale) {
-    auto status = U_ZERO_ERROR;
-    const auto calendar = localeCalendar(day, locale);
-    calendar->add(UCAL_MONTH, months, status);
-    return U_SUCCESS(status) ? dayOf(*calendar) : day;
+    return movedBy(day, UCAL_MONTH, months, locale);
+}
+
+CivilDay movedByYears(CivilDay day, int years, const UserLocale& locale) {
+    return movedBy(day, UCAL_YEAR, years, locale);
 }
 
 CivilDay startOfMonth(CivilDay day, const UserLocale& locale) {

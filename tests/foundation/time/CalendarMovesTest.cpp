@@ -33,6 +33,14 @@ TEST(CalendarMovesTest, MonthsAreThoseOfTheLocalesCalendar) {
     EXPECT_EQ(startOfMonth(day(2026, 3, 25), locale("th_TH")), day(2026, 3, 1));
 }
 
+TEST(CalendarMovesTest, YearsKeepTheDayOrTakeTheMonthsLast) {
+    EXPECT_EQ(movedByYears(day(2024, 2, 29), 1, locale("en_US")), day(2025, 2, 28));
+    EXPECT_EQ(movedByYears(day(2024, 2, 29), -4, locale("en_US")), day(2020, 2, 29));
+    EXPECT_EQ(movedByYears(day(2026, 3, 21), 1, locale("th_TH")), day(2027, 3, 21));
+    // 30 Esfand 1403, the last day of a leap year, and 29 Esfand 1404.
+    EXPECT_EQ(movedByYears(day(2025, 3, 20), 1, locale("fa_IR")), day(2026, 3, 20));
+}
+
 struct Week {
     const char* locale;
     CivilDay start;

@@ -10,6 +10,9 @@ namespace quorvane {
 /// month's last where it is shorter.
 [[nodiscard]] CivilDay movedByMonths(CivilDay day, int months, const UserLocale& locale);
 
+/// Likewise by years.
+[[nodiscard]] CivilDay movedByYears(CivilDay day, int years, const UserLocale& locale);
+
 [[nodiscard]] CivilDay startOfMonth(CivilDay day, const UserLocale& locale);
 
 /// The first day of the week that holds the day; weeks begin where the locale's do.
