@@ -34,6 +34,14 @@ LineEdit::LineEdit(PasteReader reader, QWidget* parent)
       m_reader(std::move(reader)) {
 }
 
+void LineEdit::setRefusal(const QString& reason) {
+    if (m_refusal == reason)
+        return;
+    m_refusal = reason;
+    setAccessibleDescription(reason);
+    update();
+}
+
 void LineEdit::paste() {
     pasteFrom(PasteFrom::Clipboard);
 }

@@ -42,12 +42,13 @@ void TextField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
         paintSurface(painter);
-        if (hasFocus())
+        const auto theme = Theme::of(surroundingPalette());
+        if (hasFocus() || isRefused())
             frameRounded(
                 painter,
                 rect(),
                 ChipSurface::cornerRadius,
-                Theme::of(surroundingPalette()).accentText,
+                isRefused() ? theme.danger : theme.accentText,
                 focusFrameWidth);
     }
     LineEdit::paintEvent(event);

@@ -24,6 +24,12 @@ public:
     /// Without a reader there is never anything to paste.
     explicit LineEdit(PasteReader reader, QWidget* parent = nullptr);
 
+    /// Shows that the text is not taken, and tells assistive technology why; an empty reason takes
+    /// that back.
+    void setRefusal(const QString& reason);
+
+    [[nodiscard]] bool isRefused() const { return !m_refusal.isEmpty(); }
+
 public Q_SLOTS:
     /// Pastes from the clipboard; in place of QLineEdit's own, also where it is called by its name.
     void paste();
@@ -55,6 +61,7 @@ private:
     void beginUndoStep();
 
     PasteReader m_reader;
+    QString m_refusal;
     PasteReading m_pasting;
     PasteReading m_dragging;
     QString m_dragged; ///< what another program drags, once it has come
