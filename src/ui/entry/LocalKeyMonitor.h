@@ -3,7 +3,6 @@
 
 #include <QObject>
 
-#include <cstdint>
 #include <functional>
 
 class QKeyEvent;
@@ -17,9 +16,8 @@ class LocalKeyMonitor final : public QObject {
 public:
     enum class Verdict { Pass, Swallow };
 
-    /// Gets the key code of the position that was pressed (see KeyCodes.h), with whatever
-    /// modifiers.
-    using Handler = std::function<Verdict(std::uint32_t keyCode)>;
+    /// Gets what was pressed (see EntryKeys.h for its meaning), with whatever modifiers.
+    using Handler = std::function<Verdict(const QKeyEvent& event)>;
 
     explicit LocalKeyMonitor(Handler handler);
 

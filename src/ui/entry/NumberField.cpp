@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "NumberField.h"
 
+#include "EntryKeys.h"
+
 #include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
@@ -8,6 +10,7 @@
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QValidator>
 
@@ -21,6 +24,8 @@ namespace {
 constexpr QSize fieldSize(52, 48);
 constexpr double cornerRadius = 8;
 constexpr int digitPixels = 28;
+constexpr int longTextPixels = 17;
+constexpr int textRoom = 44;
 constexpr double selectionOpacity = 0.24;
 constexpr int caretRoom = 1; ///< which QLineEdit keeps behind the text that it centres
 constexpr qsizetype longestText = 10'000;
@@ -48,8 +53,23 @@ NumberField::NumberField(const QString& placeholder, PasteReader reader, QWidget
     setPlaceholderText(placeholder);
     setFont(fixedSizeFont(font(), digitPixels, QFont::Light));
     setTextMargins(caretRoom, 0, 0, 0);
+    connect(this, &NumberField::textChanged, this, &NumberField::fitText);
     connect(this, &NumberField::selectionChanged, this, &NumberField::hideCaretInSelection);
     followPalette();
+}
+
+void NumberField::showText(const QString& text) {
+    setText(text);
+    // Also while signals are blocked.
+    fitText();
+}
+
+void NumberField::keyPressEvent(QKeyEvent* event) {
+    const auto key = meaningOf(*event);
+    if (key == Qt::Key_Return && event->key() != key)
+        Q_EMIT returnPressed();
+    else
+        LineEdit::keyPressEvent(event);
 }
 
 void NumberField::paintEvent(QPaintEvent* event) {
@@ -57,8 +77,10 @@ void NumberField::paintEvent(QPaintEvent* event) {
         QPainter painter(this);
         const auto theme = Theme::of(parentWidget()->palette());
         fillRounded(painter, rect(), cornerRadius, theme.controlBackground);
+        const bool isStrong = hasFocus() || isRefused();
         const auto& color = hasFocus() ? theme.accentText : theme.border;
-        frameRounded(painter, rect(), cornerRadius, color, hasFocus() ? 2 : 1);
+        frameRounded(
+            painter, rect(), cornerRadius, isRefused() ? theme.danger : color, isStrong ? 2 : 1);
     }
     LineEdit::paintEvent(event);
 }
@@ -67,6 +89,13 @@ void NumberField::focusInEvent(QFocusEvent* event) {
     LineEdit::focusInEvent(event);
     m_focusedByPress = event->reason() == Qt::MouseFocusReason;
     selectAll();
+    Q_EMIT entered();
+}
+
+void NumberField::focusOutEvent(QFocusEvent* event) {
+    LineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        Q_EMIT left();
 }
 
 void NumberField::mouseReleaseEvent(QMouseEvent* event) {
@@ -88,6 +117,12 @@ void NumberField::hideCaretInSelection() {
     const int width = hasSelectedText() ? 0 : 1;
     QInputMethodEvent event({}, {{QInputMethodEvent::Cursor, 0, width, {}}});
     LineEdit::inputMethodEvent(&event);
+}
+
+void NumberField::fitText() {
+    const auto large = fixedSizeFont(font(), digitPixels, QFont::Light);
+    const bool fits = QFontMetrics(large).horizontalAdvance(text()) <= textRoom;
+    setFont(fits ? large : fixedSizeFont(font(), longTextPixels, QFont::Normal));
 }
 
 void NumberField::followPalette() {

@@ -4,12 +4,14 @@
 #include "NumberText.h"
 
 #include <time/CivilTime.h>
+#include <time/TypedText.h>
 
 namespace quorvane {
 
 namespace {
 
 constexpr qint64 hoursOnDial = 12;
+constexpr qint64 hoursInDay = 24;
 constexpr qint64 minutesInHour = 60;
 
 /// From 0 to below `modulus`, for negative numbers too.
@@ -32,25 +34,54 @@ QString withTwoDigits(qint64 number) {
     return QString::number(number).rightJustified(2, u'0');
 }
 
-} // namespace
-
-TimeTexts loadedTime(Instant date, const TimeZone& zone) {
-    const std::chrono::hh_mm_ss time(civilTime(date, zone).timeOfDay);
-    const auto hour = time.hours().count();
-    return {
-        QString::number(onDial(hour)), withTwoDigits(time.minutes().count()), hour >= hoursOnDial};
+QString hourText(qint64 hourOfDay, HourCycle cycle) {
+    return cycle == HourCycle::Twelve ? QString::number(onDial(hourOfDay))
+                                      : withTwoDigits(hourOfDay);
 }
 
-std::optional<Instant> savedTime(const TimeTexts& texts, Instant date, const TimeZone& zone) {
-    const auto hour = parsedNumber(texts.hourText);
-    const auto minute = parsedNumber(texts.minuteText);
-    if (!hour || *hour < 1 || *hour > hoursOnDial)
+/// From 0 to 23, of an hour as it is shown.
+qint64 hourInDay(qint64 hour, bool isPM, HourCycle cycle) {
+    if (cycle == HourCycle::TwentyFour)
+        return hour;
+    return hour % hoursOnDial + (isPM ? hoursOnDial : 0);
+}
+
+} // namespace
+
+bool isHour(qint64 number, HourCycle cycle) {
+    return cycle == HourCycle::Twelve ? number >= 1 && number <= hoursOnDial
+                                      : number >= 0 && number < hoursInDay;
+}
+
+bool isMinute(qint64 number) {
+    return number >= 0 && number < minutesInHour;
+}
+
+TimeTexts loadedTime(Instant date, const TimeZone& zone, HourCycle cycle) {
+    const std::chrono::hh_mm_ss time(civilTime(date, zone).timeOfDay);
+    const auto hour = time.hours().count();
+    return {hourText(hour, cycle), withTwoDigits(time.minutes().count()), hour >= hoursOnDial};
+}
+
+std::optional<Instant>
+savedTime(const TimeTexts& texts, Instant date, const TimeZone& zone, HourCycle cycle) {
+    const auto hour = parsedNumber(withAsciiDigits(texts.hourText));
+    const auto minute = parsedNumber(withAsciiDigits(texts.minuteText));
+    if (!hour || !isHour(*hour, cycle) || !minute || !isMinute(*minute))
         return std::nullopt;
-    if (!minute || *minute < 0 || *minute >= minutesInHour)
-        return std::nullopt;
-    const std::chrono::hours hourOfDay(*hour % hoursOnDial + (texts.isPM ? hoursOnDial : 0));
+    const std::chrono::hours hourOfDay(hourInDay(*hour, texts.isPM, cycle));
     const CivilTime time{civilDay(date, zone), hourOfDay + std::chrono::minutes(*minute)};
     return instantAt(time, zone, date);
+}
+
+TimeTexts withTypedTime(const TypedTime& time, const TimeTexts& texts, HourCycle cycle) {
+    const bool keepsHalf = !time.hasPeriod && isHour(time.hour, HourCycle::Twelve);
+    const auto hour =
+        keepsHalf ? hourInDay(time.hour, texts.isPM, cycle) : static_cast<qint64>(time.hour);
+    return {
+        hourText(hour, cycle),
+        time.minute ? withTwoDigits(*time.minute) : texts.minuteText,
+        hour >= hoursOnDial};
 }
 
 Instant withTimeOf(Instant now, Instant date, const TimeZone& zone) {
@@ -60,9 +91,10 @@ Instant withTimeOf(Instant now, Instant date, const TimeZone& zone) {
     return instantAt({day, shown.timeOfDay}, zone, day == shown.day ? now : date);
 }
 
-QString steppedHour(QStringView text, qint64 step) {
-    const auto hour = parsedNumber(text).value_or(hoursOnDial);
-    return QString::number(onDial(steppedAround(hour, step, hoursOnDial)));
+QString steppedHour(QStringView text, qint64 step, HourCycle cycle) {
+    const bool isTwelve = cycle == HourCycle::Twelve;
+    const auto hour = parsedNumber(text).value_or(isTwelve ? hoursOnDial : 0);
+    return hourText(steppedAround(hour, step, isTwelve ? hoursOnDial : hoursInDay), cycle);
 }
 
 QString steppedMinute(QStringView text, qint64 step) {

@@ -24,12 +24,14 @@ void TimeField::refresh() {
 }
 
 QWidget* TimeField::makeContent() {
-    return new TimePickerPopover(
+    auto* content = new TimePickerPopover(
         {m_date.get,
          [this](Instant date) {
              set(date);
          }},
         m_dependencies);
+    connect(content, &TimePickerPopover::finished, this, [this] { closePopover(); });
+    return content;
 }
 
 void TimeField::step(int amount) {

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "TimePickerPopover.h"
 
+#include "EntryKeys.h"
+
 #include <controls/SegmentedChip.h>
 #include <controls/TextButton.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
-#include <platform/KeyCodes.h>
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -34,16 +36,14 @@ TimePickerPopover::TimePickerPopover(
     : QWidget(parent),
       m_date(std::move(date)),
       m_dependencies(dependencies),
-      m_hour(numberField(tr("Hour"), u"12"_s)),
-      m_minute(numberField(tr("Minute"), u"00"_s)),
-      m_period(new SegmentedChip(this)),
+      m_hourReader(dependencies.locale),
+      m_hour(numberField(Field::Hour, tr("Hour"))),
+      m_minute(numberField(Field::Minute, tr("Minute"))),
       m_now(new TextButton(tr("Now"), this)) {
     // A clock reads from left to right in every script.
     setLayoutDirection(Qt::LeftToRight);
-    m_period->setAccessibleName(tr("AM or PM"));
-    m_period->setMinimumWidth(periodWidth);
-    showPeriod(false);
-    connect(m_period, &SegmentedChip::chosen, this, [this](int index) { setPM(index == 1); });
+    if (m_hourReader.cycle() == HourCycle::Twelve)
+        addPeriod();
     m_now->setFocusPolicy(Qt::NoFocus);
     connect(m_now, &TextButton::clicked, this, &TimePickerPopover::takeTimeOfNow);
     layOut();
@@ -80,11 +80,15 @@ void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(gap.center() - foregroundOf(u":"_s, colonFont).center(), u":"_s);
 }
 
-NumberField* TimePickerPopover::numberField(const QString& name, const QString& placeholder) {
-    auto* field = new NumberField(placeholder, m_dependencies.pasteReader, this);
-    field->setAccessibleName(name);
-    connect(field, &NumberField::textChanged, this, &TimePickerPopover::save);
-    return field;
+NumberField* TimePickerPopover::numberField(Field field, const QString& name) {
+    const bool isDial = field == Field::Hour && m_hourReader.cycle() == HourCycle::Twelve;
+    auto* widget = new NumberField(isDial ? u"12"_s : u"00"_s, m_dependencies.pasteReader, this);
+    widget->setAccessibleName(name);
+    connect(widget, &NumberField::textChanged, this, [this, field] { noteEdit(field); });
+    connect(widget, &NumberField::entered, widget, [widget] { widget->setRefusal({}); });
+    connect(widget, &NumberField::left, this, [this, field] { leave(field); });
+    connect(widget, &NumberField::returnPressed, this, &TimePickerPopover::finish);
+    return widget;
 }
 
 NumberField* TimePickerPopover::fieldWidget(Field field) const {
@@ -92,7 +96,10 @@ NumberField* TimePickerPopover::fieldWidget(Field field) const {
 }
 
 TimeTexts TimePickerPopover::texts() const {
-    return {m_hour->text(), m_minute->text(), m_period->selectedIndex() == 1};
+    const TimeTexts texts{
+        m_hour->text(), m_minute->text(), m_period != nullptr && m_period->selectedIndex() == 1};
+    const auto time = m_hourReader.read(texts.hourText).time;
+    return time ? withTypedTime(*time, texts, m_hourReader.cycle()) : texts;
 }
 
 void TimePickerPopover::layOut() {
@@ -103,7 +110,8 @@ void TimePickerPopover::layOut() {
     row->addSpacing(spacing + colonWidth);
     row->addWidget(m_minute);
     row->addSpacing(periodLeading);
-    row->addWidget(m_period);
+    if (m_period != nullptr)
+        row->addWidget(m_period);
     row->addWidget(m_now);
 }
 
@@ -112,41 +120,116 @@ void TimePickerPopover::addShortcuts() {
         auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
         connect(shortcut, &QShortcut::activated, this, action);
     };
+    add(Qt::Key_N, [this] { takeTimeOfNow(); });
+    if (m_period == nullptr)
+        return;
     add(Qt::Key_A, [this] { setPM(false); });
     add(Qt::Key_P, [this] { setPM(true); });
-    add(Qt::Key_N, [this] { takeTimeOfNow(); });
+}
+
+void TimePickerPopover::addPeriod() {
+    m_period = new SegmentedChip(this);
+    m_period->setAccessibleName(tr("AM or PM"));
+    m_period->setMinimumWidth(periodWidth);
+    showPeriod(false);
+    connect(m_period, &SegmentedChip::chosen, this, [this](int index) { setPM(index == 1); });
 }
 
 void TimePickerPopover::load() {
-    const auto time = loadedTime(m_date.get(), zone());
-    {
-        // What is shown in between is no time that anyone chose.
-        const QSignalBlocker hourBlocker(m_hour);
-        const QSignalBlocker minuteBlocker(m_minute);
-        m_hour->setText(time.hourText);
-        m_minute->setText(time.minuteText);
-        showPeriod(time.isPM);
-    }
+    showTexts(loadedTime(m_date.get(), zone(), m_hourReader.cycle()));
     save();
 }
 
+void TimePickerPopover::showTexts(const TimeTexts& texts) {
+    // What is shown in between is no time that anyone chose.
+    const QSignalBlocker hourBlocker(m_hour);
+    const QSignalBlocker minuteBlocker(m_minute);
+    m_hour->showText(texts.hourText);
+    m_minute->showText(texts.minuteText);
+    showPeriod(texts.isPM);
+}
+
 void TimePickerPopover::save() {
-    if (const auto saved = savedTime(texts(), m_date.get(), zone()))
+    if (const auto saved = savedTime(texts(), m_date.get(), zone(), m_hourReader.cycle()))
         m_date.set(*saved);
+}
+
+void TimePickerPopover::noteEdit(Field field) {
+    if (field == Field::Hour)
+        takeWholeTime();
+    save();
+    fieldWidget(field)->setRefusal({});
+    if (stateOf(field) == TypingState::Refused)
+        refuse(field);
+}
+
+/// The minute of a time in the hour's field goes where it belongs; a word for the half of the day
+/// stays until the field is left, for it may be the beginning of a longer one.
+void TimePickerPopover::takeWholeTime() {
+    const auto time = m_hourReader.read(m_hour->text()).time;
+    if (!time)
+        return;
+    const auto typed = texts();
+    if (time->minute)
+        showTexts(typed);
+    else
+        showPeriod(typed.isPM);
+}
+
+TypingState TimePickerPopover::stateOf(Field field) const {
+    return field == Field::Hour ? m_hourReader.read(m_hour->text()).state
+                                : readMinute(m_minute->text());
+}
+
+void TimePickerPopover::refuse(Field field) {
+    fieldWidget(field)->setRefusal(field == Field::Hour ? tr("Not an hour") : tr("Not a minute"));
+}
+
+void TimePickerPopover::leave(Field field) {
+    const bool isValid = stateOf(field) == TypingState::Complete;
+    const bool isNumber =
+        isValid && !(field == Field::Hour && m_hourReader.read(m_hour->text()).time);
+    if (isNumber)
+        return;
+    const auto time = loadedTime(m_date.get(), zone(), m_hourReader.cycle());
+    auto* widget = fieldWidget(field);
+    const QSignalBlocker blocker(widget);
+    widget->showText(field == Field::Hour ? time.hourText : time.minuteText);
+    if (!isValid)
+        refuse(field);
+}
+
+void TimePickerPopover::finish() {
+    for (const auto field : {Field::Hour, Field::Minute}) {
+        if (stateOf(field) != TypingState::Complete) {
+            refuse(field);
+            return;
+        }
+    }
+    Q_EMIT finished();
 }
 
 void TimePickerPopover::step(int amount) {
     const bool isHour = focus() == Field::Hour;
+    leavePeriodWord();
     auto* field = isHour ? m_hour : m_minute;
+    const auto text = withAsciiDigits(field->text());
     field->setText(
-        isHour ? steppedHour(field->text(), amount) : steppedMinute(field->text(), amount));
+        isHour ? steppedHour(text, amount, m_hourReader.cycle()) : steppedMinute(text, amount));
     if (field->hasFocus())
         field->selectAll();
 }
 
 void TimePickerPopover::setPM(bool isPM) {
+    leavePeriodWord();
     showPeriod(isPM);
     save();
+}
+
+/// A word in the hour's field would contradict what is chosen now.
+void TimePickerPopover::leavePeriodWord() {
+    if (m_hourReader.read(m_hour->text()).time)
+        leave(Field::Hour);
 }
 
 void TimePickerPopover::takeTimeOfNow() {
@@ -157,6 +240,8 @@ void TimePickerPopover::takeTimeOfNow() {
 }
 
 void TimePickerPopover::showPeriod(bool isPM) {
+    if (m_period == nullptr)
+        return;
     m_period->setChoices({tr("AM"), tr("PM")}, isPM ? 1 : 0);
     // Tab and arrows are the digits' own here, so that a focus on the segments would be of no use;
     // and a press on them must not take it from the digits.
@@ -170,24 +255,25 @@ void TimePickerPopover::setFocus(Field field, Qt::FocusReason reason) {
 
 void TimePickerPopover::installKeyMonitor() {
     m_keyMonitor = std::make_unique<LocalKeyMonitor>(
-        [this](std::uint32_t keyCode) { return handleKey(keyCode); });
+        [this](const QKeyEvent& event) { return handleKey(event); });
 }
 
-LocalKeyMonitor::Verdict TimePickerPopover::handleKey(std::uint32_t keyCode) {
-    switch (keyCode) {
-    case keycode::tab:
+LocalKeyMonitor::Verdict TimePickerPopover::handleKey(const QKeyEvent& event) {
+    switch (meaningOf(event)) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
         setFocus(focus() == Field::Hour ? Field::Minute : Field::Hour, Qt::TabFocusReason);
         break;
-    case keycode::leftArrow:
+    case Qt::Key_Left:
         setFocus(Field::Hour, Qt::TabFocusReason);
         break;
-    case keycode::rightArrow:
+    case Qt::Key_Right:
         setFocus(Field::Minute, Qt::TabFocusReason);
         break;
-    case keycode::downArrow:
+    case Qt::Key_Down:
         step(-1);
         break;
-    case keycode::upArrow:
+    case Qt::Key_Up:
         step(+1);
         break;
     default:

@@ -56,9 +56,9 @@ struct MinuteStep {
     Instant result;
 };
 
-class MinuteStepTest : public testing::TestWithParam<MinuteStep> {};
+class ChipMinuteStepTest : public testing::TestWithParam<MinuteStep> {};
 
-TEST_P(MinuteStepTest, PassesAsTimeDoes) {
+TEST_P(ChipMinuteStepTest, PassesAsTimeDoes) {
     const auto [date, amount, earliest, result] = GetParam();
     const auto newYork = ZoneDatabase().zone(QStringLiteral("America/New_York")).value();
     EXPECT_EQ(movedByMinutes(date, amount, earliest, newYork), result);
@@ -66,7 +66,7 @@ TEST_P(MinuteStepTest, PassesAsTimeDoes) {
 
 INSTANTIATE_TEST_SUITE_P(
     ,
-    MinuteStepTest,
+    ChipMinuteStepTest,
     testing::Values(
         MinuteStep{midnight + 40.5s, 1, {}, midnight + 1min},
         MinuteStep{midnight + 40.5s, -1, {}, midnight + -1min},

@@ -112,6 +112,27 @@ INSTANTIATE_TEST_SUITE_P(
         Saved{{u"9223372036854775807"_s, u"15"_s, true}, std::nullopt},
         Saved{{u"9"_s, u"-9223372036854775808"_s, true}, std::nullopt}));
 
+TEST(TimeEntryTest, CountsTwentyFourHoursWhereTheLocaleDoes) {
+    const auto newYork = zone("America/New_York");
+    constexpr auto cycle = HourCycle::TwentyFour;
+    for (int hour = 0; hour < 24; ++hour) {
+        const auto date = midnight + hour * 1h + 5min;
+        const auto loaded = loadedTime(date, newYork, cycle);
+        EXPECT_EQ(loaded.hourText, u"%1"_s.arg(hour, 2, 10, QChar(u'0')));
+        EXPECT_EQ(savedTime(loaded, midnight, newYork, cycle), date);
+        for (const auto step : {-25, -1, 0, 1, 7, 240}) {
+            const int stepped = ((hour + step) % 24 + 24) % 24;
+            EXPECT_EQ(
+                steppedHour(loaded.hourText, step, cycle),
+                u"%1"_s.arg(stepped, 2, 10, QChar(u'0')));
+        }
+    }
+    EXPECT_EQ(savedTime({u"24"_s, u"00"_s}, midnight, newYork, cycle), std::nullopt);
+    EXPECT_EQ(savedTime({u"-1"_s, u"00"_s}, midnight, newYork, cycle), std::nullopt);
+    EXPECT_EQ(steppedHour(u"x"_s, 1, cycle), u"01"_s);
+    EXPECT_EQ(steppedHour(u"30"_s, 1, cycle), u"07"_s);
+}
+
 TEST(TimeEntryTest, OpeningDropsTheSecondsAndNothingElse) {
     const auto date = midnight + 30min + 45.5s;
     const auto newYork = zone("America/New_York");

@@ -3,7 +3,10 @@
 
 #include "EntryFixture.h"
 
+#include <controls/Theme.h>
 #include <entry/TimeField.h>
+
+#include <memory>
 
 namespace quorvane {
 namespace {
@@ -32,6 +35,21 @@ protected:
 
     QAbstractButton& period(const QString& name) {
         return find<QAbstractButton>(QAccessible::RadioButton, name);
+    }
+
+    static void type(const QString& text) {
+        QTest::keyClicks(QApplication::activePopupWidget()->focusWidget(), text);
+    }
+
+    /// Whether its frame says that the text is not taken.
+    static bool isRefused(QWidget& field) {
+        const auto image = field.grab().toImage();
+        return image.pixel(image.width() / 2, 0) ==
+               Theme::of(field.parentWidget()->palette()).danger.rgb();
+    }
+
+    static QString descriptionOf(QWidget& field) {
+        return QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Description);
     }
 
     bool isPM() { return period(u"PM"_s).isChecked(); }
@@ -151,16 +169,36 @@ TEST_F(TimePickerPopoverTest, ArrowsToTheSideGoToTheirField) {
     EXPECT_TRUE(hour().hasFocus());
 }
 
-TEST_F(TimePickerPopoverTest, KeysGoByTheirPositionWhereTheyHaveOne) {
+TEST_F(TimePickerPopoverTest, KeysGoByTheirMeaning) {
     openOn(9h + 15min);
-    // The key of the right arrow (evdev 106), whatever it means in this layout.
-    QKeyEvent arrow(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, 114, 0, 0, u"7"_s);
-    QCoreApplication::sendEvent(&hour(), &arrow);
+    // The key of the right arrow (evdev 106) in a layout that has a digit there.
+    QKeyEvent digit(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, 114, 0, 0, u"7"_s);
+    QCoreApplication::sendEvent(&hour(), &digit);
+    EXPECT_EQ(hour().text(), u"7"_s);
+    // The key of the letter A (evdev 30), which is an arrow on a layer of Neo.
+    QKeyEvent layer(QEvent::KeyPress, Qt::Key_Right, Qt::GroupSwitchModifier, 38, 0, 0);
+    QCoreApplication::sendEvent(&hour(), &layer);
     EXPECT_TRUE(minute().hasFocus());
     // The 8 of the keypad (evdev 72), which means an arrow without Num Lock.
     QKeyEvent keypad(QEvent::KeyPress, Qt::Key_Up, Qt::KeypadModifier, 80, 0, 0);
     QCoreApplication::sendEvent(&minute(), &keypad);
-    EXPECT_EQ(minute().text(), u"15"_s);
+    EXPECT_EQ(minute().text(), u"16"_s);
+}
+
+TEST_F(TimePickerPopoverTest, KeysWithoutAMeaningGoByTheirPosition) {
+    openOn(9h + 15min);
+    const auto pressPosition = [](QWidget& widget, quint32 evdevCode) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, evdevCode + 8, 0, 0);
+        QCoreApplication::sendEvent(&widget, &event);
+    };
+    pressPosition(hour(), 106); // the right arrow
+    EXPECT_TRUE(minute().hasFocus());
+    pressPosition(minute(), 103); // up
+    EXPECT_EQ(minute().text(), u"16"_s);
+    pressPosition(minute(), 15); // Tab
+    EXPECT_TRUE(hour().hasFocus());
+    pressPosition(hour(), 28); // Return
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(TimePickerPopoverTest, OtherKeysReachTheField) {
@@ -175,8 +213,173 @@ TEST_F(TimePickerPopoverTest, OtherKeysReachTheField) {
     press(Qt::Key_Return);
     EXPECT_EQ(returns, 1);
     EXPECT_EQ(timeOfDay(), 1h + 15min);
+}
+
+TEST_F(TimePickerPopoverTest, ReturnTakesTheTimeAndCloses) {
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        openOn(9h + 15min);
+        press(Qt::Key_7);
+        press(key);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_EQ(timeOfDay(), 7h + 15min);
+        EXPECT_TRUE(chip.hasFocus());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(TimePickerPopoverTest, EscapeCloses) {
+    openOn(9h + 15min);
     press(Qt::Key_Escape);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(TimePickerPopoverTest, ReturnOnAnUnfinishedTimeShowsItAndStays) {
+    openOn(9h + 15min);
+    press(Qt::Key_Backspace);
+    EXPECT_FALSE(isRefused(hour()));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(isRefused(hour()));
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(timeOfDay(), 9h + 15min);
+}
+
+TEST_F(TimePickerPopoverTest, TextThatCanBecomeNoTimeIsFramedAtOnce) {
+    openOn(9h + 15min);
+    EXPECT_FALSE(isRefused(hour()));
+    for (const auto& text : {u"x"_s, u"25"_s, u"130x"_s, u"-3"_s, u"9:75"_s}) {
+        paste(text);
+        EXPECT_TRUE(isRefused(hour())) << text.toStdString();
+        EXPECT_EQ(descriptionOf(hour()), u"Not an hour"_s);
+        paste(u"9"_s);
+        EXPECT_FALSE(isRefused(hour()));
+        EXPECT_NE(descriptionOf(hour()), u"Not an hour"_s);
+    }
+    press(Qt::Key_Tab);
+    paste(u"60"_s);
+    EXPECT_TRUE(isRefused(minute()));
+    EXPECT_EQ(descriptionOf(minute()), u"Not a minute"_s);
+}
+
+TEST_F(TimePickerPopoverTest, UnfinishedTextIsFramedAndReplacedWhenItsFieldIsLeft) {
+    openOn(9h + 15min);
+    paste(u"14:"_s);
+    EXPECT_FALSE(isRefused(hour()));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(hour().text(), u"9"_s);
+    EXPECT_TRUE(isRefused(hour()));
+    EXPECT_EQ(timeOfDay(), 9h + 15min);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Left);
+    EXPECT_EQ(minute().text(), u"15"_s);
+    EXPECT_TRUE(isRefused(minute()));
+    // The field is worked in again.
+    EXPECT_FALSE(isRefused(hour()));
+}
+
+TEST_F(TimePickerPopoverTest, RefusedTextIsReplacedWhenItsFieldIsLeft) {
+    openOn(9h + 15min);
+    press(Qt::Key_2);
+    press(Qt::Key_1); // no hour of the dial; 2 was one
+    press(Qt::Key_Tab);
+    EXPECT_EQ(hour().text(), u"2"_s);
+    EXPECT_TRUE(isRefused(hour()));
+    EXPECT_EQ(timeOfDay(), 2h + 15min);
+}
+
+TEST_F(TimePickerPopoverTest, WholeTimeTypedInTheHourSetsBothFieldsWithItsLastDigit) {
+    openOn(9h + 15min);
+    type(u"14:0"_s);
+    EXPECT_EQ(hour().text(), u"14:0"_s);
+    EXPECT_EQ(minute().text(), u"15"_s);
+    type(u"5"_s);
+    EXPECT_EQ(hour().text(), u"2"_s);
+    EXPECT_EQ(minute().text(), u"05"_s);
+    EXPECT_TRUE(isPM());
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    EXPECT_TRUE(hour().hasFocus());
+    EXPECT_FALSE(isRefused(hour()));
+}
+
+TEST_F(TimePickerPopoverTest, FourDigitsAreAWholeTime) {
+    openOn(15h + 20min);
+    type(u"1405"_s);
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    hour().selectAll();
+    type(u"0030"_s);
+    EXPECT_EQ(hour().text(), u"12"_s);
+    EXPECT_FALSE(isPM());
+    EXPECT_EQ(timeOfDay(), 30min);
+}
+
+TEST_F(TimePickerPopoverTest, WholeTimeOnTheDialKeepsTheHalfOfTheDay) {
+    openOn(15h + 20min);
+    type(u"9:45"_s);
+    EXPECT_EQ(timeOfDay(), 21h + 45min);
+    hour().selectAll();
+    type(u"12:30"_s);
+    EXPECT_EQ(timeOfDay(), 12h + 30min);
+    hour().selectAll();
+    type(u"0:10"_s);
+    EXPECT_EQ(timeOfDay(), 10min);
+}
+
+TEST_F(TimePickerPopoverTest, WordMayBeTypedAfterAWholeTime) {
+    openOn(9h + 15min);
+    type(u"2:05 pm"_s);
+    EXPECT_TRUE(isPM());
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    EXPECT_FALSE(isRefused(hour()));
+    press(Qt::Key_Return);
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(TimePickerPopoverTest, WordInTheHourYieldsToAChosenHalf) {
+    openOn(9h + 15min);
+    type(u"7 p"_s);
+    EXPECT_EQ(timeOfDay(), 19h + 15min);
+    press(Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(hour().text(), u"7"_s);
+    EXPECT_EQ(timeOfDay(), 7h + 15min);
+    hour().selectAll();
+    type(u"7 p"_s);
+    press(Qt::Key_Up);
+    EXPECT_EQ(hour().text(), u"8"_s);
+    EXPECT_EQ(timeOfDay(), 20h + 15min);
+}
+
+TEST_F(TimePickerPopoverTest, PastedTimeIsTakenAtOnce) {
+    openOn(9h + 15min);
+    paste(u"2:05 pm"_s);
+    EXPECT_EQ(hour().text(), u"2"_s);
+    EXPECT_EQ(minute().text(), u"05"_s);
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    paste(u"11.30"_s);
+    EXPECT_EQ(timeOfDay(), 23h + 30min);
+}
+
+TEST_F(TimePickerPopoverTest, DigitsOfOtherScriptsCountAsDigits) {
+    openOn(9h + 15min);
+    paste(u"٧"_s);
+    EXPECT_EQ(timeOfDay(), 7h + 15min);
+    press(Qt::Key_Up);
+    EXPECT_EQ(hour().text(), u"8"_s);
+    paste(u"۱۴:۰۵"_s);
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    press(Qt::Key_Tab);
+    paste(u"３０"_s);
+    EXPECT_EQ(timeOfDay(), 14h + 30min);
+    EXPECT_FALSE(isRefused(minute()));
+}
+
+TEST_F(TimePickerPopoverTest, LongerTextIsShownSmallerThanTheNumber) {
+    openOn(9h + 15min);
+    const auto large = hour().font().pixelSize();
+    type(u"14:0"_s);
+    EXPECT_LT(hour().font().pixelSize(), large);
+    EXPECT_LE(QFontMetrics(hour().font()).horizontalAdvance(u"14:0"_s), hour().width() - 6);
+    type(u"5"_s);
+    EXPECT_EQ(hour().font().pixelSize(), large);
 }
 
 TEST_F(TimePickerPopoverTest, SignedHoursAreNumbers) {
@@ -302,6 +505,77 @@ TEST_F(TimePickerPopoverTest, TheClockIsNotMirrored) {
     openOn(9h + 15min);
     EXPECT_LT(hour().mapToGlobal(QPoint()).x(), minute().mapToGlobal(QPoint()).x());
     EXPECT_LT(period(u"AM"_s).mapToGlobal(QPoint()).x(), period(u"PM"_s).mapToGlobal(QPoint()).x());
+}
+
+/// Where hours are counted to 23.
+class TimePicker24Test : public TimePickerPopoverTest {
+protected:
+    void openOn(Seconds timeOfDay, const char* locale = "de_DE") {
+        m_chip = std::make_unique<TimeField>(binding(), MinDate(), dependencies(locale), &window);
+        m_chip->show();
+        date = midnight + timeOfDay;
+        showWindow();
+        m_chip->click();
+    }
+
+private:
+    std::unique_ptr<TimeField> m_chip;
+};
+
+TEST_F(TimePicker24Test, ShowsHoursOfTwoDigitsAndNoHalfOfTheDay) {
+    openOn(14h + 5min);
+    EXPECT_EQ(hour().text(), u"14"_s);
+    EXPECT_EQ(minute().text(), u"05"_s);
+    EXPECT_EQ(widgetByRole(window, QAccessible::Client, u"AM or PM"_s), nullptr);
+    press(Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+}
+
+TEST_F(TimePicker24Test, ShowsMidnightAsTwoNoughts) {
+    openOn(45s);
+    EXPECT_EQ(hour().text(), u"00"_s);
+    EXPECT_EQ(minute().text(), u"00"_s);
+}
+
+TEST_F(TimePicker24Test, HoursGoToTwentyThree) {
+    openOn(9h + 15min);
+    for (int typed = 0; typed < 24; ++typed) {
+        paste(QString::number(typed));
+        EXPECT_EQ(timeOfDay(), typed * 1h + 15min);
+        EXPECT_FALSE(isRefused(hour()));
+    }
+    for (const auto& text : {u"24"_s, u"-1"_s, u"99"_s}) {
+        paste(text);
+        EXPECT_EQ(timeOfDay(), 23h + 15min);
+        EXPECT_TRUE(isRefused(hour()));
+    }
+}
+
+TEST_F(TimePicker24Test, StepsRoundTheDay) {
+    openOn(23h + 15min);
+    press(Qt::Key_Up);
+    EXPECT_EQ(hour().text(), u"00"_s);
+    EXPECT_EQ(timeOfDay(), 15min);
+    press(Qt::Key_Down);
+    EXPECT_EQ(hour().text(), u"23"_s);
+    EXPECT_EQ(timeOfDay(), 23h + 15min);
+    press(Qt::Key_9);
+    press(Qt::Key_Up);
+    EXPECT_EQ(hour().text(), u"10"_s);
+}
+
+TEST_F(TimePicker24Test, WholeTimesSetBothFields) {
+    openOn(9h + 15min);
+    type(u"2:05"_s);
+    EXPECT_EQ(hour().text(), u"02"_s);
+    EXPECT_EQ(timeOfDay(), 2h + 5min);
+    paste(u"2:05 pm"_s);
+    EXPECT_EQ(hour().text(), u"14"_s);
+    EXPECT_EQ(timeOfDay(), 14h + 5min);
+    paste(u"2.30 nachm."_s);
+    EXPECT_EQ(timeOfDay(), 14h + 30min);
+    paste(u"1830"_s);
+    EXPECT_EQ(timeOfDay(), 18h + 30min);
 }
 
 } // namespace

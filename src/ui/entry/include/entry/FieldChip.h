@@ -33,6 +33,8 @@ protected:
     /// Moves the value on by so many steps; back by a negative number.
     virtual void step(int amount) = 0;
 
+    void closePopover() { m_popover.close(); }
+
     [[nodiscard]] double cornerRadius() const override;
     void paintControl(QPainter& painter, const Theme& theme) override;
     void keyPressEvent(QKeyEvent* event) override;
