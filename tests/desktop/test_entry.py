@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Dates, times and zones, entered with real keys and a real pointer."""
 
+import datetime
+
 from harness.accessible import Accessible, State
 from harness.case import DesktopCase
 from harness.keys import SHORTCUT, Key
@@ -96,6 +98,72 @@ class Entry(DesktopCase):
         wait_until(lambda: self.quorvane.preview() != before, "another day in the preview")
         # The time of day is what it was.
         self.assertEqual(self.quorvane.preview().split(" at ")[1], before.split(" at ")[1])
+
+    def open_date(self) -> None:
+        self.mouse.click(self.chip("Start date"))
+        self.wait_shown("push button", "Next month")
+
+    def chip_day(self) -> datetime.date:
+        return datetime.datetime.strptime(self.chip("Start date").name, "%b %d, %Y").date()
+
+    def wait_day(self, day: datetime.date) -> None:
+        wait_until(lambda: self.chip_day() == day, f"the day {day}")
+
+    def test_dates_are_typed_over_the_calendar(self) -> None:
+        today = self.chip_day()
+        self.open_date()
+        for key in (Key.T, Key.O, Key.M, Key.O, Key.R, Key.R, Key.O, Key.W):
+            self.keyboard.tap(key)
+        wait_until(
+            lambda: self.wait_shown("text", "Type a date").has(State.FOCUSED), "focus in the line"
+        )
+        self.keyboard.tap(Key.RETURN)
+        self.wait_gone("push button", "Next month")
+        self.wait_day(today + datetime.timedelta(days=1))
+        # Distances count from the field's own date.
+        self.open_date()
+        self.keyboard.tap(Key.SHIFT, Key.EQUAL)
+        self.keyboard.tap(Key.DIGIT_3)
+        self.keyboard.tap(Key.RETURN)
+        self.wait_gone("push button", "Next month")
+        self.wait_day(today + datetime.timedelta(days=4))
+
+    def test_letter_that_an_input_method_composes_opens_the_line(self) -> None:
+        # Its apostrophe is an acute accent that waits for a letter.
+        self.session.run(["setxkbmap", "-layout", "us", "-variant", "intl"])
+        self.open_date()
+        self.keyboard.tap(Key.APOSTROPHE)
+        self.keyboard.tap(Key.E)
+        line = self.wait_shown("text", "Type a date")
+        wait_until(lambda: line.text == "é", "the composed letter in the line")
+        self.keyboard.tap(Key.T)
+        wait_until(lambda: line.text == "ét", "the next letter behind it")
+
+    def test_nonsense_is_refused_and_escape_closes_the_line_first(self) -> None:
+        before = self.chip_day()
+        self.open_date()
+        self.keyboard.tap(Key.X)
+        line = self.wait_shown("text", "Type a date")
+        wait_until(lambda: line.description == "Not a date", "the line's refusal")
+        self.keyboard.tap(Key.RETURN)
+        self.keyboard.tap(Key.ESCAPE)
+        self.wait_gone("text", "Type a date")
+        self.keyboard.tap(Key.ESCAPE)
+        self.wait_gone("push button", "Next month")
+        self.assertEqual(self.chip_day(), before)
+        self.assertTrue(self.quorvane.is_active())
+
+    def test_whole_time_is_typed_in_the_hour(self) -> None:
+        self.open_time()
+        for key in (Key.DIGIT_1, Key.DIGIT_4):
+            self.keyboard.tap(key)
+        self.keyboard.tap(Key.SHIFT, Key.SEMICOLON)
+        for key in (Key.DIGIT_0, Key.DIGIT_5):
+            self.keyboard.tap(key)
+        self.wait_preview(" at 2:05 PM")
+        self.keyboard.tap(Key.RETURN)
+        self.wait_gone("text", "Hour")
+        self.wait_focused("Start time")
 
     def test_zone_is_searched_and_picked_by_keyboard_alone(self) -> None:
         self.mouse.click(self.wait_shown("push button", "Add time zone"))

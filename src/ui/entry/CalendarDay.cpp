@@ -14,6 +14,7 @@ namespace quorvane {
 namespace {
 
 constexpr double discSize = 28;
+constexpr double typedFrame = 2;
 constexpr double dotSize = 3;
 constexpr double dotRise = 3; ///< from the disc's lower edge
 
@@ -22,6 +23,8 @@ constexpr double dotRise = 3; ///< from the disc's lower edge
 CalendarDay::CalendarDay(QWidget* parent) : PressableControl(parent) {
     CalendarDayAccessible::install();
     setFixedSize(sizeHint());
+    // What is composed here is written into the calendar's line.
+    setAttribute(Qt::WA_InputMethodEnabled);
     connect(this, &CalendarDay::clicked, this, &CalendarDay::pick);
 }
 
@@ -53,6 +56,8 @@ double CalendarDay::cornerRadius() const {
 
 void CalendarDay::paintControl(QPainter& painter, const Theme& theme) {
     fillRounded(painter, disc(), cornerRadius(), discColor(theme));
+    if (m_marks.isTyped)
+        frameRounded(painter, disc(), cornerRadius(), theme.accentText, typedFrame);
     const bool isStrong = m_marks.isChosen || m_marks.isToday;
     const auto weight = isStrong ? QFont::DemiBold : QFont::Normal;
     painter.setFont(textFont(font(), TextStyle::Callout, weight));
@@ -67,8 +72,8 @@ void CalendarDay::paintControl(QPainter& painter, const Theme& theme) {
 }
 
 void CalendarDay::keyPressEvent(QKeyEvent* event) {
-    // A button would walk among its siblings, whatever their places.
-    if (isCalendarKey(*event))
+    // A button would walk among its siblings, whatever their places; and Return is the calendar's.
+    if (isCalendarKey(*event) || isReturn(*event))
         event->ignore();
     else
         PressableControl::keyPressEvent(event);

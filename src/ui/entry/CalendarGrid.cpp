@@ -39,8 +39,15 @@ void CalendarGrid::mark(const Marks& marks) {
         day->setMarks(
             {day->day() == marks.today,
              day->day() == marks.chosen,
-             marks.earliest && day->day() < *marks.earliest});
+             marks.earliest && day->day() < *marks.earliest,
+             day->day() == marks.typed});
     }
+}
+
+void CalendarGrid::setDayFilter(QObject& filter) {
+    m_dayFilter = &filter;
+    for (auto* day : m_days)
+        day->installEventFilter(m_dayFilter);
 }
 
 CalendarDay* CalendarGrid::dayAt(CivilDay day) const {
@@ -75,6 +82,8 @@ void CalendarGrid::setDayCount(std::size_t count) {
     while (m_days.size() < count) {
         m_days.push_back(new CalendarDay(this));
         connect(m_days.back(), &CalendarDay::picked, this, &CalendarGrid::picked);
+        if (m_dayFilter != nullptr)
+            m_days.back()->installEventFilter(m_dayFilter);
     }
     // The last days of a long month wait for the next: one of them may be what is being pressed.
     for (std::size_t index = 0; index < m_days.size(); ++index)

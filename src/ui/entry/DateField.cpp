@@ -32,6 +32,7 @@ QWidget* DateField::makeContent() {
          }},
         m_minDate,
         m_dependencies);
+    connect(m_calendar, &CalendarPicker::finished, this, [this] { closePopover(); });
     return m_calendar;
 }
 

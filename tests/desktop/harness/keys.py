@@ -15,8 +15,13 @@ class Key(IntEnum):
     """Keys by position, as X key codes: the evdev code plus eight."""
 
     ESCAPE = 9
+    DIGIT_1 = 10
+    DIGIT_3 = 12
+    DIGIT_4 = 13
     DIGIT_5 = 14
     DIGIT_7 = 16
+    DIGIT_0 = 19
+    EQUAL = 21
     BACKSPACE = 22
     TAB = 23
     Q = 24
@@ -33,11 +38,15 @@ class Key(IntEnum):
     D = 40
     K = 45
     L = 46
+    SEMICOLON = 47
+    APOSTROPHE = 48
     SHIFT = 50
+    X = 53
     C = 54
     V = 55
     B = 56
     N = 57
+    M = 58
     COMMA = 59
     ALT = 64
     SPACE = 65

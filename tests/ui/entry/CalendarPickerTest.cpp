@@ -199,14 +199,29 @@ TEST_F(CalendarPickerTest, PageKeysWalkByMonthsAndHomeAndEndAlongTheWeek) {
     EXPECT_TRUE(writes.empty());
 }
 
-TEST_F(CalendarPickerTest, ReturnAndSpacePickTheDay) {
+TEST_F(CalendarPickerTest, ShiftAndPageKeysWalkByYears) {
+    date = {1709244300}; // 2024-02-29
+    open();
+    press(Qt::Key_PageDown, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), u"Friday, February 28, 2025"_s);
+    press(Qt::Key_PageUp, Qt::ShiftModifier);
+    press(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), u"Tuesday, February 28, 2023"_s);
+    EXPECT_EQ(title(), u"February 2023"_s);
+    EXPECT_TRUE(writes.empty());
+}
+
+TEST_F(CalendarPickerTest, SpacePicksTheDayAndReturnTakesItAndCloses) {
     open();
     press(Qt::Key_Right);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(isSelected(u"Sunday, March 10, 2024"_s));
-    press(Qt::Key_Right);
     press(Qt::Key_Space);
-    EXPECT_TRUE(isSelected(u"Monday, March 11, 2024"_s));
+    EXPECT_TRUE(isSelected(u"Sunday, March 10, 2024"_s));
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    press(Qt::Key_Right);
+    press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(chip->hasFocus());
+    EXPECT_EQ(chip->text(), u"Mar 11, 2024"_s);
     EXPECT_EQ(writes.size(), 2U);
 }
 

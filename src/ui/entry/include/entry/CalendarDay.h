@@ -18,6 +18,7 @@ public:
         bool isToday = false;
         bool isChosen = false;
         bool isRefused = false;
+        bool isTyped = false; ///< the day that is being typed
 
         friend bool operator==(const Marks&, const Marks&) = default;
     };

@@ -19,7 +19,8 @@ public:
     struct Marks {
         CivilDay today;
         CivilDay chosen;
-        std::optional<CivilDay> earliest; ///< days before it are refused
+        std::optional<CivilDay> earliest;   ///< days before it are refused
+        std::optional<CivilDay> typed = {}; ///< the day that is being typed
     };
 
     explicit CalendarGrid(QWidget* parent);
@@ -28,6 +29,9 @@ public:
     void showMonth(const MonthGrid& month, CivilDay cursor);
 
     void mark(const Marks& marks);
+
+    /// Filters the events of all days, now and later; it must live as long.
+    void setDayFilter(QObject& filter);
 
     /// Null for a day of another month.
     [[nodiscard]] CalendarDay* dayAt(CivilDay day) const;
@@ -47,6 +51,7 @@ private:
     [[nodiscard]] int columnLeft(int column) const;
 
     MonthGrid m_month;
+    QObject* m_dayFilter = nullptr;
     std::vector<CalendarDay*> m_days; ///< as many as the month has, and then the spare ones
 };
 
