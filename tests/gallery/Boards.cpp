@@ -126,4 +126,29 @@ QImage popoversBoard(const BoardSetting& setting) {
     return board.image(setting.scale);
 }
 
+QImage entryBoard(const BoardSetting& setting) {
+    BoardPicture board(QApplication::palette(), popoverColumns);
+    const auto addDate = [&](const QString& title, const QString& text) {
+        PanelPlay play(setting);
+        play.openStartDate();
+        play.typeDate(text);
+        board.add(title, play.picture());
+    };
+    const auto addTime = [&](const QString& title, const BoardSetting& used, const QString& text) {
+        PanelPlay play(used);
+        play.openStartTime();
+        play.typeTime(text);
+        board.add(title, play.picture());
+    };
+    addDate(u"Typed date; the days follow"_s, u"+3w"_s);
+    addDate(u"Typed date refused"_s, u"2026-02-30"_s);
+    addTime(u"Hour refused"_s, setting, u"99"_s);
+    auto day24 = setting;
+    if (day24.localeName == u"en_US"_s)
+        day24.localeName = u"de_DE"_s;
+    addTime(u"24 hours"_s, day24, {});
+    addTime(u"24 hours, a whole time half typed"_s, day24, u"14:0"_s);
+    return board.image(setting.scale);
+}
+
 } // namespace quorvane

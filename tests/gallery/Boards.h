@@ -12,4 +12,7 @@ namespace quorvane {
 /// Whatever the panel opens.
 [[nodiscard]] QImage popoversBoard(const BoardSetting& setting);
 
+/// Dates and times while they are typed, taken and refused, and the entry of 24 hours.
+[[nodiscard]] QImage entryBoard(const BoardSetting& setting);
+
 } // namespace quorvane

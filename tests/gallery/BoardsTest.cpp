@@ -32,6 +32,12 @@ TEST_P(Boards, WhatThePanelOpensIsWritten) {
     write(u"popovers"_s, board);
 }
 
+TEST_P(Boards, WhatIsTypedIsWritten) {
+    const auto board = entryBoard(GetParam());
+    EXPECT_EQ(board.width(), qRound(1640 * GetParam().scale));
+    write(u"entry"_s, board);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Settings, Boards, testing::ValuesIn(boardSettings()), testing::PrintToStringParamName());
 

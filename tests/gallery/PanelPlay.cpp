@@ -63,6 +63,20 @@ void PanelPlay::enterMinute() {
     press(visible<NumberField>(*surface(), 1));
 }
 
+void PanelPlay::typeTime(const QString& text) {
+    QTest::keyClicks(surface()->focusWidget(), text);
+}
+
+void PanelPlay::openStartDate() {
+    open(visible<DateField>(view()));
+}
+
+void PanelPlay::typeDate(const QString& text) {
+    // The first letter opens the line, which has the focus then.
+    for (const auto letter : text)
+        QTest::keyClicks(surface()->focusWidget(), letter);
+}
+
 void PanelPlay::openEndDate() {
     open(visible<DateField>(view(), 1));
 }

@@ -18,6 +18,12 @@ public:
 
     void openStartTime();
     void enterMinute();
+
+    /// Into the field that has the focus.
+    void typeTime(const QString& text);
+
+    void openStartDate();
+    void typeDate(const QString& text);
     void openEndDate();
     void hoverDay(int day);
     void openPicker();
