@@ -146,6 +146,8 @@ void TimePickerPopover::showTexts(const TimeTexts& texts) {
     const QSignalBlocker minuteBlocker(m_minute);
     m_hour->showText(texts.hourText);
     m_minute->showText(texts.minuteText);
+    for (auto* field : {m_hour, m_minute})
+        field->setRefusal({});
     showPeriod(texts.isPM);
 }
 

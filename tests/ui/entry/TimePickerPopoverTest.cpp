@@ -372,6 +372,19 @@ TEST_F(TimePickerPopoverTest, DigitsOfOtherScriptsCountAsDigits) {
     EXPECT_FALSE(isRefused(minute()));
 }
 
+TEST_F(TimePickerPopoverTest, AnotherTimeTakesRefusalsBack) {
+    openOn(9h + 15min);
+    press(Qt::Key_Tab);
+    paste(u"99"_s);
+    press(Qt::Key_Tab);
+    ASSERT_TRUE(isRefused(minute()));
+    type(u"10:30"_s);
+    EXPECT_FALSE(isRefused(minute()));
+    paste(u"x"_s);
+    press(Qt::Key_N, Qt::AltModifier);
+    EXPECT_FALSE(isRefused(hour()));
+}
+
 TEST_F(TimePickerPopoverTest, LongerTextIsShownSmallerThanTheNumber) {
     openOn(9h + 15min);
     const auto large = hour().font().pixelSize();
