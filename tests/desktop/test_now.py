@@ -76,6 +76,39 @@ class FreshDates(DesktopCase):
         wait_until(lambda: not tree.shows("push button", "Now"), "the end of the button")
 
 
+class Steps(DesktopCase):
+    """A date is stepped without anything being opened."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.quorvane = Quorvane(self.session)
+        self.quorvane.wait_active()
+        self.tree = self.quorvane.tree()
+
+    def wait_shown(self, chip: str, text: str) -> None:
+        wait_until(
+            lambda: self.tree.find_described("push button", chip).name == text,
+            f'"{text}" as {chip}',
+        )
+
+    def test_arrows_step_the_day_that_has_the_focus(self) -> None:
+        day = datetime.strptime(self.name_of("Start date"), "%b %d, %Y")
+        for key, step in ((Key.UP, 1), (Key.UP, 2), (Key.DOWN, 1)):
+            self.keyboard.tap(key)
+            stepped = day + timedelta(days=step)
+            self.wait_shown("Start date", f"{stepped:%b} {stepped.day}, {stepped.year}")
+        self.assertTrue(self.quorvane.is_active())
+
+    def test_the_wheel_steps_the_minute_below_the_pointer(self) -> None:
+        time = datetime.strptime(self.name_of("Start time"), "%I:%M %p")
+        for turn, step in ((3, 3), (-1, 2)):
+            self.mouse.turn_wheel(self.tree.find_described("push button", "Start time"), turn)
+            self.wait_shown("Start time", f"{time + timedelta(minutes=step):%I:%M %p}")
+
+    def name_of(self, chip: str) -> str:
+        return self.tree.find_described("push button", chip).name
+
+
 class Zone(DesktopCase):
     """The zone is set while the program runs."""
 

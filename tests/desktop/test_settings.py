@@ -4,7 +4,8 @@
 import json
 
 from harness.case import DesktopCase
-from harness.quorvane import settings_file
+from harness.quorvane import Quorvane, settings_file
+from harness.waiting import wait_until
 
 
 class Settings(DesktopCase):
@@ -29,3 +30,25 @@ class Settings(DesktopCase):
         self.assertIn("hotKeyCode 99999", self.session.logs())
         self.summon(quorvane)
         self.assertEqual(99999, json.loads(file.read_text())["hotKeyCode"])
+
+    def test_what_is_remembered_comes_back_at_the_next_start(self) -> None:
+        file = settings_file(self.session)
+        file.parent.mkdir()
+        stored = {
+            "rememberFormatAndZones": True,
+            "formatPreset": "ISO 8601",
+            "multiZoneLayout": "Diagonal",
+            "selectedTZs": ["Asia/Tokyo", "Moon/Tycho"],
+        }
+        file.write_text(json.dumps(stored))
+        quorvane = Quorvane(self.session)
+        quorvane.wait_active()
+        self.assertRegex(quorvane.preview(), r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\+09:00$")
+        for rubbish in ("Diagonal", "Moon/Tycho"):
+            self.assertEqual(1, self.session.logs().count(rubbish))
+        quorvane.tree().find_role("check box", "Time").press()
+        wait_until(lambda: "T" not in quorvane.preview(), "a date alone")
+        quorvane.quit()
+        again = Quorvane(self.session)
+        again.wait_active()
+        self.assertRegex(again.preview(), r"^\d{4}-\d\d-\d\d$")

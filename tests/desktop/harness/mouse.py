@@ -9,6 +9,8 @@ from .accessible import Accessible
 
 _LEFT = 1
 _RIGHT = 3
+_WHEEL_UP = 4
+_WHEEL_DOWN = 5
 
 
 class Mouse:
@@ -31,6 +33,16 @@ class Mouse:
         xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
         xtest.fake_input(self._display, X.ButtonPress, button)
         xtest.fake_input(self._display, X.ButtonRelease, button)
+        self._display.sync()
+
+    def turn_wheel(self, target: Accessible, notches: int) -> None:
+        """Turns the wheel over something that shows, away from the user or, below zero, back."""
+        left, top, width, height = target.extents
+        self.move_to(left + width // 2, top + height // 2)
+        for _ in range(abs(notches)):
+            button = _WHEEL_UP if notches > 0 else _WHEEL_DOWN
+            xtest.fake_input(self._display, X.ButtonPress, button)
+            xtest.fake_input(self._display, X.ButtonRelease, button)
         self._display.sync()
 
     def move_to(self, x: int, y: int) -> None:
