@@ -121,7 +121,7 @@ private:
 
     void collectData() {
         auto& model = delegate->model();
-        addData(u"Quorvane UTC GMT yyyy MM dd HH mm zzz D Q"_s);
+        addData(u"Quorvane UTC GMT yyyy MM dd HH mm zzz C D Q"_s);
         const auto identifiers = zones.zonesByCountry() + QStringList{u"UTC"_s, u"Etc/GMT+12"_s};
         for (const auto& identifier : identifiers)
             addZone(identifier);
