@@ -79,7 +79,55 @@ void addMenus(BoardPicture& board, const BoardSetting& setting) {
     }
 }
 
+constexpr qsizetype manyZones = 20;
+
+void composeManyZones(DateTimeModel& model) {
+    model.setFavoriteTimeZoneIdentifiers({});
+    // One of each region of the list, as far apart as it goes.
+    const auto all = sample::zones().zonesByCountry();
+    QStringList chosen;
+    for (qsizetype index = 0; index < manyZones; ++index)
+        chosen.append(all.at(index * all.size() / manyZones));
+    sample::selectZones(model, chosen);
+    model.setFormatPreset(DateFormatPreset::WithDayOfWeek);
+}
+
+void composeManyLines(DateTimeModel& model) {
+    composeManyZones(model);
+    model.setIsRange(true);
+    model.setEndDate(sample::daysLater);
+    model.setMultiZoneLayout(MultiZoneLayout::Lines);
+}
+
+void composeUnknownLetter(DateTimeModel& model) {
+    composePattern(model);
+    model.setCustomFormatString(u"d of MMMM, HH:mm"_s);
+}
+
 } // namespace
+
+QImage outputBoard(const BoardSetting& setting) {
+    BoardPicture board(QApplication::palette(), panelColumns);
+    board.add(u"Twenty zones, Inline"_s, PanelPlay(setting, composeManyZones).picture());
+    {
+        PanelPlay play(setting, composeManyLines);
+        play.setHeight(780);
+        board.add(u"Twenty zones, Lines, on a low screen"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting, composeUnknownLetter);
+        play.enterPattern();
+        board.add(u"Custom pattern with letters that stand for nothing"_s, play.picture());
+    }
+    {
+        PanelPlay play(setting, composePattern);
+        play.setHeight(720);
+        play.openPatternPage();
+        play.hoverRow(4);
+        board.add(u"Letters of a pattern"_s, play.picture());
+    }
+    return board.image(setting.scale);
+}
 
 QImage panelBoard(const BoardSetting& setting) {
     BoardPicture board(QApplication::palette(), panelColumns);

@@ -9,6 +9,9 @@ namespace quorvane {
 /// The panel in four states.
 [[nodiscard]] QImage panelBoard(const BoardSetting& setting);
 
+/// The panel where it has most to show: output in many zones, patterns of the user's own.
+[[nodiscard]] QImage outputBoard(const BoardSetting& setting);
+
 /// Whatever the panel opens.
 [[nodiscard]] QImage popoversBoard(const BoardSetting& setting);
 

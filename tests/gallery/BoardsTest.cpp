@@ -26,6 +26,12 @@ TEST_P(Boards, ThePanelIsWritten) {
     write(u"panel"_s, board);
 }
 
+TEST_P(Boards, PanelWithMuchToShowIsWritten) {
+    const auto board = outputBoard(GetParam());
+    EXPECT_EQ(board.width(), qRound(1104 * GetParam().scale));
+    write(u"output"_s, board);
+}
+
 TEST_P(Boards, WhatThePanelOpensIsWritten) {
     const auto board = popoversBoard(GetParam());
     EXPECT_EQ(board.width(), qRound(1640 * GetParam().scale));

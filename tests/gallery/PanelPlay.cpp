@@ -16,6 +16,7 @@
 #include <entry/TimeField.h>
 #include <picker/ZoneList.h>
 
+#include <QApplication>
 #include <QCursor>
 #include <QTest>
 
@@ -123,6 +124,11 @@ void PanelPlay::enterPattern() {
 
 void PanelPlay::openPatternPage() {
     open(visible<PatternHelpButton>(view()));
+}
+
+void PanelPlay::setHeight(int height) {
+    view().resize(view().width(), height);
+    QApplication::sendPostedEvents();
 }
 
 void PanelPlay::copy() {

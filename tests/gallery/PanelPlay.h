@@ -35,6 +35,7 @@ public:
     void hoverPlus();
     void enterPattern();
     void openPatternPage();
+    void setHeight(int height);
     void copy();
 
     [[nodiscard]] PopoverView& view() { return m_scene.view(); }

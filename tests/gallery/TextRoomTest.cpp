@@ -86,6 +86,14 @@ TEST_P(TextRoom, NothingOfAMenuIsCutOff) {
     expectRoomForTexts(*play.surface());
 }
 
+TEST_P(TextRoom, NothingOfThePatternsPageIsCutOff) {
+    PanelPlay play(
+        GetParam(), [](DateTimeModel& model) { model.setFormatPreset(DateFormatPreset::Custom); });
+    play.openPatternPage();
+    expectRoomForTexts(*play.surface());
+    EXPECT_FALSE(paintedTexts(*play.surface()).contains(u'…'));
+}
+
 TEST_P(TextRoom, NothingOfThePickerIsCutOff) {
     PanelPlay play(GetParam());
     play.openPicker();

@@ -20,6 +20,10 @@ constexpr int sampleDistance = 12;
 constexpr int linePadding = 5;
 constexpr int linesPadding = 4;
 
+int widthOf(const QString& text, const QFont& font) {
+    return static_cast<int>(std::ceil(QFontMetricsF(font).horizontalAdvance(text)));
+}
+
 } // namespace
 
 SampleRow::SampleRow(SampleItem item, SampleList::Form form, const QFont& codeFont, QWidget* parent)
@@ -31,13 +35,12 @@ SampleRow::SampleRow(SampleItem item, SampleList::Form form, const QFont& codeFo
 }
 
 QSize SampleRow::sizeHint() const {
+    const int line = titleWidth() + sampleDistance + widthOf(m_item.sample, titleFont());
     if (m_form == SampleList::Form::OneLine)
         return {
-            2 * horizontalPadding + codeWidth() + codeGap + titleWidth(),
-            lineHeight() + 2 * linePadding};
+            2 * horizontalPadding + codeWidth() + codeGap + line, lineHeight() + 2 * linePadding};
     return {
-        2 * horizontalPadding + std::max(codeWidth(), titleWidth()),
-        2 * lineHeight() + 2 * linesPadding};
+        2 * horizontalPadding + std::max(codeWidth(), line), 2 * lineHeight() + 2 * linesPadding};
 }
 
 void SampleRow::paintContent(QPainter& painter, const Theme& theme) {
@@ -66,17 +69,21 @@ void SampleRow::paintText(
     const QString& text,
     Qt::Alignment alignment,
     const QColor& color) const {
+    // All fonts of a row stand on one base line.
+    const auto metrics = painter.fontMetrics();
+    const QFontMetrics titles(titleFont());
+    const int lowering =
+        (titles.ascent() - titles.descent() - metrics.ascent() + metrics.descent()) / 2;
     painter.setPen(color);
     painter.drawText(
-        placed(place),
+        placed(place.translated(0, lowering)),
         static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment)) | Qt::AlignVCenter |
             Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+        metrics.elidedText(text, Qt::ElideRight, place.width()));
 }
 
 int SampleRow::codeWidth() const {
-    const auto width =
-        static_cast<int>(std::ceil(QFontMetricsF(m_codeFont).horizontalAdvance(m_item.code)));
+    const int width = widthOf(m_item.code, m_codeFont);
     return m_form == SampleList::Form::OneLine ? std::max(width, leastCodeColumn) : width;
 }
 

@@ -14,7 +14,7 @@ class SampleRow final : public MenuRow {
 public:
     SampleRow(SampleItem item, SampleList::Form form, const QFont& codeFont, QWidget* parent);
 
-    /// No wider than what title and code need; a sample is shortened to what is left.
+    /// What all three need; where there is less, the sample is shortened.
     [[nodiscard]] QSize sizeHint() const override;
 
     [[nodiscard]] QAccessible::Role accessibleRole() const override {

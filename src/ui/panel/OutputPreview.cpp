@@ -116,11 +116,7 @@ int OutputPreview::heightForWidth(int width) const {
 
 void OutputPreview::holdBack(int height) {
     const int least = leastRowsOfScrolling * m_layout->rowHeight() + 2 * padding;
-    const int heldBack = wantedHeight(width()) - height >= least ? height : 0;
-    if (heldBack == m_heldBack)
-        return;
-    m_heldBack = heldBack;
-    updateGeometry();
+    m_heldBack = wantedHeight(width()) - height >= least ? height : 0;
 }
 
 int OutputPreview::heldBack() const {

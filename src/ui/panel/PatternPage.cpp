@@ -59,8 +59,8 @@ PatternPage::PatternPage(const Sample& sample, const QFont& codeFont, QWidget* p
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(0, padding, 0, padding);
     columns->setSpacing(0);
-    columns->addWidget(m_ready, 1);
-    columns->addWidget(m_letters, 1);
+    columns->addWidget(m_ready);
+    columns->addWidget(m_letters);
     for (auto* row : findChildren<QAbstractButton*>())
         row->installEventFilter(this);
 }

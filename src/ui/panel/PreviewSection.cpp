@@ -56,7 +56,13 @@ void PreviewSection::setAvailable(bool available) {
 }
 
 void PreviewSection::holdBack(int height) {
+    const int before = m_preview->heldBack();
     m_preview->holdBack(height);
+    if (m_preview->heldBack() == before)
+        return;
+    // At once, not by a request to each layout in turn: between them the sum would be of two times.
+    for (QWidget* widget = m_preview; widget != parentWidget(); widget = widget->parentWidget())
+        widget->updateGeometry();
 }
 
 int PreviewSection::heldBack() const {

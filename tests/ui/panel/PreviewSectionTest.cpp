@@ -94,6 +94,21 @@ TEST_F(PreviewSectionTest, ColumnAloneScrollsWhereThereIsTooLittleRoom) {
     EXPECT_EQ(output().verticalScrollBar()->maximum(), 0);
 }
 
+TEST_F(PreviewSectionTest, WhatScrollsDependsOnTheHeightAlone) {
+    showLines(12);
+    const int whole = wholeHeight();
+    const int leastOfPreview = 5 * 18 + 20;
+    const int spare = output().heightForWidth(output().width()) - leastOfPreview;
+    ASSERT_GT(spare, 80);
+    for (const int less : {0, 300, 20, spare - 20, 0, spare + 20, 60, 400, spare - 20, 300, 20}) {
+        setHeight(whole - less);
+        const auto expected = less == 0       ? QStringList()
+                              : less <= spare ? QStringList{u"preview"_s}
+                                              : QStringList{u"column"_s};
+        EXPECT_EQ(barsShown(), expected) << less << " of " << spare;
+    }
+}
+
 TEST_F(PreviewSectionTest, NeverMoreThanOneBarShows) {
     for (const qsizetype count : {2, 12, 30, 60}) {
         showLines(count);

@@ -37,7 +37,7 @@ public:
     void setOutput(const QString& output);
 
     /// Asks for `height` points less than its rows take, and scrolls, as long as some rows remain;
-    /// for all of them otherwise.
+    /// for all of them otherwise. Whoever calls it has it laid out anew.
     void holdBack(int height);
 
     /// What it asks for less than its rows take in its present width, in points.
