@@ -88,6 +88,7 @@ AppDelegate::AppDelegate(Dependencies dependencies)
 AppDelegate::~AppDelegate() {
     m_dependencies.platform.workspace->onFrontmostChanged({});
     m_dependencies.platform.workspace->onActiveSpaceChanged({});
+    m_dependencies.platform.windowTraits->onCompositingChanged({});
     m_dependencies.platform.keyboardLayout->onChanged({});
 }
 
@@ -276,6 +277,8 @@ void AppDelegate::observeDesktop() {
     });
     platform.workspace->onActiveSpaceChanged(
         [this] { m_presentation.panel().activeSpaceDidChange(); });
+    platform.windowTraits->onCompositingChanged(
+        [this] { m_presentation.panel().compositingDidChange(); });
     connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
     platform.keyboardLayout->onChanged([this] { refreshSoon(); });
 }

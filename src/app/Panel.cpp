@@ -3,7 +3,6 @@
 #include "WindowActivation.h"
 
 #include <app/Panel.h>
-#include <controls/DevicePixels.h>
 #include <controls/FocusRing.h>
 #include <controls/Theme.h>
 #include <panel/PanelMetrics.h>
@@ -23,17 +22,41 @@ using namespace Qt::StringLiterals;
 Panel::Panel(QWidget* content)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       m_content(content),
+      m_surface(false, panelmetrics::cornerRadius),
       m_fittingHeight(0) {
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(u"Quorvane"_s);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
-    setFixedWidth(panelmetrics::width);
-    setMinimumHeight(panelplacement::minimumContentHeight);
+    setBackground(Background::Plain);
     new FocusRing(this);
     m_fittingHeight = fittingHeight();
+}
+
+void Panel::setBackground(Background background) {
+    const bool isComposited = background == Background::Composited;
+    if (isComposited && !testAttribute(Qt::WA_TranslucentBackground)) {
+        // A native window keeps the kind of pixels that it was made with.
+        if (testAttribute(Qt::WA_WState_Created))
+            destroy();
+        setAttribute(Qt::WA_TranslucentBackground);
+    }
+    m_surface = PopoverSurface(isComposited, panelmetrics::cornerRadius);
+    layout()->setContentsMargins(shadow());
+    const auto least =
+        QSize(panelmetrics::width, panelplacement::minimumContentHeight).grownBy(shadow());
+    setFixedWidth(least.width());
+    setMinimumHeight(least.height());
+    update();
+}
+
+QRect Panel::frame() const {
+    return m_surface.placeIn(geometry());
+}
+
+void Panel::setFrame(const QRect& frame) {
+    setGeometry(frame.marginsAdded(shadow()));
 }
 
 int Panel::fittingHeight() const {
@@ -69,7 +92,8 @@ void Panel::resizeEvent(QResizeEvent* event) {
 }
 
 void Panel::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
+    const bool isInside = m_surface.placeIn(rect()).contains(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && isInside)
         m_pressed = event->globalPosition().toPoint();
 }
 
@@ -96,7 +120,8 @@ void Panel::leaveEvent(QEvent* event) {
 
 void Panel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    frameRounded(painter, rect(), 0, Theme::of(palette()).border, 1);
+    const auto theme = Theme::of(palette());
+    m_surface.paint(painter, rect(), theme, {theme.windowBackground, theme.border});
     Q_EMIT painted();
 }
 

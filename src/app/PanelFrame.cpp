@@ -4,11 +4,11 @@
 #include "PanelPlacement.h"
 #include "Screens.h"
 
-#include <app/Panel.h>
 #include <panel/PanelMetrics.h>
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSignalBlocker>
 #include <QWindow>
 
 #include <algorithm>
@@ -85,6 +85,17 @@ int PanelFrame::wantedHeight() {
     return m_height;
 }
 
+void PanelFrame::setBackground(Panel::Background background) {
+    const auto frame = m_panel.frame();
+    {
+        // Margins and size change one after the other.
+        const QSignalBlocker blocker(&m_panel);
+        m_panel.setBackground(background);
+        m_panel.setFrame(frame);
+    }
+    request(frame);
+}
+
 void PanelFrame::saveNow() {
     if (m_saving)
         save();
@@ -96,11 +107,11 @@ void PanelFrame::request(const QRect& frame) {
         m_requested.pop_front();
     m_lastHeight = frame.height();
     m_userMoves.noteRequest();
-    m_panel.setGeometry(frame);
+    m_panel.setFrame(frame);
 }
 
 void PanelFrame::fit() {
-    const auto frame = m_panel.geometry();
+    const auto frame = m_panel.frame();
     const auto fitting = panelplacement::resized(m_home, wantedHeight(), homeArea());
     if (fitting.topLeft() == frame.topLeft() || !m_panel.underMouse()) {
         goHome();
@@ -121,7 +132,7 @@ void PanelFrame::handleScreenRemoved(QScreen* removed) {
     // A hidden panel is placed when it shows again.
     const bool isLost =
         m_panel.isVisible() &&
-        !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas(removed));
+        !panelplacement::touchesAny(m_panel.frame(), screens::availableAreas(removed));
     if (!isLost)
         return;
     // Decided now: once the screens are updated, a window manager may have moved a corner of the
@@ -131,7 +142,7 @@ void PanelFrame::handleScreenRemoved(QScreen* removed) {
 
 void PanelFrame::handleScreensChanged() {
     if (m_panel.isVisible() &&
-        !panelplacement::touchesAny(m_panel.geometry(), screens::availableAreas()))
+        !panelplacement::touchesAny(m_panel.frame(), screens::availableAreas()))
         centre();
 }
 
@@ -154,7 +165,7 @@ void PanelFrame::startMove() {
 }
 
 void PanelFrame::handleFrameChanged() {
-    const auto frame = m_panel.geometry();
+    const auto frame = m_panel.frame();
     if (std::ranges::count(m_requested, frame) > 0)
         return;
     if (m_userMoves.causeOfChange() == UserMoves::Cause::User)

@@ -3,6 +3,7 @@
 
 #include "UserMoves.h"
 
+#include <app/Panel.h>
 #include <loop/Deadline.h>
 #include <loop/MainQueue.h>
 #include <platform/WindowTraits.h>
@@ -18,8 +19,6 @@
 class QScreen;
 
 namespace quorvane {
-
-class Panel;
 
 /// Keeps the panel where the user put it, else in the middle of the screen where the user works,
 /// and at least as high as its content needs and as the user made it. What a window manager does to
@@ -41,6 +40,9 @@ public:
     /// Before every show. A panel that shows already is moved only if no screen shows any part of
     /// it.
     void place();
+
+    /// The panel stays where it is, whatever shadow it has around it.
+    void setBackground(Panel::Background background);
 
     /// Saves a change that is due to be saved.
     void saveNow();

@@ -31,6 +31,8 @@ void PanelPresentation::setupPanel() {
             m_dependencies.workspace,
             m_dependencies.windowTraits});
     QObject::connect(
+        m_panel.get(), &Panel::frameChanged, m_panel.get(), [this] { announceShadow(); });
+    QObject::connect(
         m_panel.get(),
         &Panel::painted,
         m_panel.get(),
@@ -40,10 +42,13 @@ void PanelPresentation::setupPanel() {
 
 void PanelPresentation::show(InputDevice device) {
     setupPanel();
-    if (!m_panel->isVisible())
+    if (!m_panel->isVisible()) {
+        applyBackground();
         FocusRing::of(*m_panel)->setLastInput(device);
+    }
     m_frame->place();
     m_panel->winId();
+    announceShadow();
     auto& traits = m_dependencies.windowTraits;
     traits.preparePanel(*m_panel->windowHandle());
     m_panel->show();
@@ -54,6 +59,29 @@ void PanelPresentation::show(InputDevice device) {
 void PanelPresentation::hide() {
     if (m_panel)
         m_panel->hide();
+}
+
+void PanelPresentation::applyBackground() {
+    using Background = Panel::Background;
+    const bool isComposited = m_dependencies.windowTraits.isComposited();
+    m_frame->setBackground(isComposited ? Background::Composited : Background::Plain);
+}
+
+void PanelPresentation::announceShadow() {
+    if (m_panel->testAttribute(Qt::WA_TranslucentBackground) && m_panel->windowHandle() != nullptr)
+        m_dependencies.windowTraits.setShadow(*m_panel->windowHandle(), m_panel->shadow());
+}
+
+void PanelPresentation::compositingDidChange() {
+    if (!isVisible())
+        return;
+    if (m_panel->testAttribute(Qt::WA_TranslucentBackground)) {
+        applyBackground();
+        announceShadow();
+    } else if (m_panel->isActiveWindow()) {
+        m_panel->hide();
+        show(InputDevice::Pointer);
+    }
 }
 
 void PanelPresentation::discard() {

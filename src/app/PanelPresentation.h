@@ -49,6 +49,11 @@ public:
     /// Brings a visible panel to the front of the virtual desktop that the user has changed to.
     void activeSpaceDidChange();
 
+    /// A compositing manager has come or gone: the panel gets its shadow and round corners, or
+    /// loses them. Where that takes another window, one without the focus waits until it is shown
+    /// again.
+    void compositingDidChange();
+
     /// Shows the contents anew, for changes that the model does not announce.
     void refreshSoon();
 
@@ -62,6 +67,8 @@ public:
 
 private:
     void setupPanel();
+    void applyBackground();
+    void announceShadow();
 
     Dependencies m_dependencies;
     InterfaceCallbacks m_callbacks;

@@ -21,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double cornerRadius = 12;
 constexpr int screenMargin = 8;
 
 } // namespace
@@ -29,7 +28,7 @@ constexpr int screenMargin = 8;
 StatusPopover::StatusPopover(QWidget* content, Background background)
     : QWidget(nullptr, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
       m_content(content),
-      m_surface(background == Background::Composited, cornerRadius) {
+      m_surface(background == Background::Composited, panelmetrics::cornerRadius) {
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_TranslucentBackground, m_surface.isComposited());
     setWindowTitle(u"Quorvane"_s);

@@ -16,11 +16,19 @@ using testing::ElementsAre;
 class PanelPresentationTest : public DelegateFixture {
 protected:
     void drag(int x, int y) {
-        auto& traits = static_cast<FakeWindowTraits&>(*platform.windowTraits);
-        traits.held = HeldInput{{}, 1};
+        traits().held = HeldInput{{}, 1};
         panel()->move(x, y);
-        traits.held = HeldInput{};
+        traits().held = HeldInput{};
     }
+
+    [[nodiscard]] FakeWindowTraits& traits() const {
+        return static_cast<FakeWindowTraits&>(*platform.windowTraits);
+    }
+
+    /// What the user sees as the panel.
+    [[nodiscard]] static QRect surface() { return qobject_cast<Panel*>(panel())->frame(); }
+
+    const QMargins shadow{9, 3, 9, 15};
 };
 
 TEST_F(PanelPresentationTest, FollowsToAnotherVirtualDesktopWhileVisible) {
@@ -78,6 +86,49 @@ TEST_F(PanelPresentationTest, QuitSavesAFrameThatIsNotYetSaved) {
     drag(60, 50);
     delegate->terminate();
     EXPECT_EQ(frames().frame(u"PanelV2"_s)->topLeft(), QPoint(60, 50));
+}
+
+TEST_F(PanelPresentationTest, ShadowIsNoPartOfThePanel) {
+    launch();
+    const auto plain = surface();
+    EXPECT_EQ(plain, panel()->geometry());
+    delegate->terminate();
+    makeDelegate();
+    traits().composited = true;
+    launch();
+    EXPECT_EQ(surface(), plain);
+    EXPECT_EQ(panel()->geometry(), plain.marginsAdded(shadow));
+    EXPECT_EQ(traits().shadow, shadow);
+    drag(40, 30);
+    delegate->terminate();
+    EXPECT_EQ(frames().frame(u"PanelV2"_s)->topLeft(), QPoint(49, 33));
+}
+
+TEST_F(PanelPresentationTest, ShadowGoesAndComesWhileThePanelShows) {
+    traits().composited = true;
+    launch();
+    const auto place = surface();
+    traits().setComposited(false);
+    EXPECT_TRUE(panel()->isVisible());
+    EXPECT_EQ(panel()->geometry(), place);
+    EXPECT_EQ(traits().shadow, QMargins());
+    traits().setComposited(true);
+    EXPECT_EQ(panel()->geometry(), place.marginsAdded(shadow));
+    EXPECT_EQ(traits().shadow, shadow);
+    queue.advance(1s);
+    EXPECT_EQ(frames().frame(u"PanelV2"_s), std::nullopt);
+}
+
+TEST_F(PanelPresentationTest, PlainPanelWithoutTheFocusGetsItsShadowAtTheNextShow) {
+    launch();
+    ASSERT_FALSE(panel()->isActiveWindow());
+    const auto place = surface();
+    traits().setComposited(true);
+    EXPECT_EQ(panel()->geometry(), place);
+    pressShortcut();
+    pressShortcut();
+    EXPECT_EQ(surface(), place);
+    EXPECT_EQ(panel()->geometry(), place.marginsAdded(shadow));
 }
 
 } // namespace

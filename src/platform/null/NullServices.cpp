@@ -125,6 +125,10 @@ public:
 
     [[nodiscard]] bool isComposited() const override { return false; }
 
+    void onCompositingChanged(std::function<void()>) override {}
+
+    void setShadow(QWindow&, const QMargins&) override {}
+
     [[nodiscard]] std::optional<HeldInput> heldInput() const override { return std::nullopt; }
 };
 

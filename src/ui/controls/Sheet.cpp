@@ -67,7 +67,10 @@ void Sheet::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
     painter.setOpacity(progress());
+    // Only over what is there: a window with round corners has nothing in them.
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
     painter.fillRect(rect(), theme.scrim);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     paintRaisedSurface(
         painter, surface(), cornerRadius, theme, {theme.popoverBackground, theme.border});
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/PopoverSurface.h>
+
 #include <QPoint>
 #include <QWidget>
 
@@ -13,8 +15,22 @@ class Panel final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Takes ownership of the content, whose layout decides the height.
+    enum class Background { Composited, Plain };
+
+    /// Takes ownership of the content, whose layout decides the height. Plain at first.
     explicit Panel(QWidget* content);
+
+    /// Round corners and a shadow where windows are composited, else a plain rectangle. One that
+    /// was shown plain has to be hidden to become the other.
+    void setBackground(Background background);
+
+    /// The surface that the user sees as the panel: the window without its shadow.
+    [[nodiscard]] QRect frame() const;
+
+    void setFrame(const QRect& frame);
+
+    /// What the shadow takes of the window.
+    [[nodiscard]] QMargins shadow() const { return m_surface.margins(); }
 
     /// What the content needs, in points.
     [[nodiscard]] int fittingHeight() const;
@@ -47,6 +63,7 @@ protected:
 
 private:
     QWidget* m_content;
+    PopoverSurface m_surface;
     int m_fittingHeight;
     std::optional<QPoint> m_pressed; ///< where, on the screen; none once it has become a drag
 };

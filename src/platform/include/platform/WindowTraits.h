@@ -3,6 +3,9 @@
 
 #include <platform/HeldInput.h>
 
+#include <QMargins>
+
+#include <functional>
 #include <optional>
 
 class QWindow;
@@ -39,6 +42,14 @@ public:
 
     /// Whether windows are composited, so that a translucent one shows what is below it.
     [[nodiscard]] virtual bool isComposited() const = 0;
+
+    /// Called whenever that changes; replaces an earlier handler.
+    virtual void onCompositingChanged(std::function<void()> handler) = 0;
+
+    /// So much at each edge of the window, in points, is a shadow that it draws itself: not part of
+    /// it for the window manager, and below the pointer there is what the shadow lies on. To be
+    /// called again when the window has another size.
+    virtual void setShadow(QWindow& window, const QMargins& margins) = 0;
 
     /// What is held at this moment, also while another program takes the input; none where the
     /// desktop does not tell.

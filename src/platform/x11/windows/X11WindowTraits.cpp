@@ -37,7 +37,12 @@ X11WindowTraits::X11WindowTraits(std::shared_ptr<X11Connection> connection)
     : m_connection(std::move(connection)),
       m_windows(m_connection),
       m_states(m_connection),
-      m_withdrawals(m_connection, [this](QWindow& window) { showAgain(window); }) {
+      m_withdrawals(
+          m_connection,
+          [this](QWindow& window) { showAgain(window); },
+          [this](QWindow& window) { renewShadow(window); }),
+      m_compositing(m_connection),
+      m_shadow(m_connection) {
     if (qtx11::connection() != nullptr)
         QCoreApplication::instance()->installEventFilter(this);
 }
@@ -54,9 +59,36 @@ void X11WindowTraits::setActivationPolicy(ActivationPolicy policy) {
 }
 
 bool X11WindowTraits::isComposited() const {
-    // The running compositing manager of a screen owns this selection (EWMH, _NET_WM_CM_Sn).
-    const auto name = QStringLiteral("_NET_WM_CM_S%1").arg(m_connection->screenNumber());
-    return m_connection->selectionOwner(m_connection->atom(name)) != XCB_WINDOW_NONE;
+    return m_compositing.isComposited();
+}
+
+void X11WindowTraits::onCompositingChanged(std::function<void()> handler) {
+    m_compositing.onChanged(std::move(handler));
+}
+
+void X11WindowTraits::setShadow(QWindow& window, const QMargins& margins) {
+    if (qtx11::connection() == nullptr)
+        return;
+    m_shadowed = &window;
+    m_shadowMargins = margins;
+    qtx11::waitForServer();
+    const double scale = window.devicePixelRatio();
+    const auto pixels = [scale](int points) {
+        return qRound(points * scale);
+    };
+    m_shadow.set(
+        idOf(window),
+        {pixels(window.width()), pixels(window.height())},
+        {pixels(margins.left()),
+         pixels(margins.top()),
+         pixels(margins.right()),
+         pixels(margins.bottom())});
+}
+
+// Window managers that put a window into a frame give that the shape which they hear of then.
+void X11WindowTraits::renewShadow(QWindow& window) {
+    if (m_shadowed == &window)
+        setShadow(window, m_shadowMargins);
 }
 
 std::optional<HeldInput> X11WindowTraits::heldInput() const {

@@ -26,10 +26,12 @@ QWindow* shownWindow(xcb_window_t id) {
 
 } // namespace
 
-X11WithdrawalWatch::X11WithdrawalWatch(std::shared_ptr<X11Connection> connection, Handler withdrawn)
+X11WithdrawalWatch::X11WithdrawalWatch(
+    std::shared_ptr<X11Connection> connection, Handler withdrawn, Handler managed)
     : m_connection(std::move(connection)),
       m_windows(m_connection),
-      m_withdrawn(std::move(withdrawn)) {
+      m_withdrawn(std::move(withdrawn)),
+      m_managed(std::move(managed)) {
     if (qtx11::connection() != nullptr)
         qGuiApp->installNativeEventFilter(this);
 }
@@ -41,8 +43,8 @@ bool X11WithdrawalWatch::nativeEventFilter(const QByteArray& kind, void* message
         eventAs<xcb_property_notify_event_t>(*static_cast<const xcb_generic_event_t*>(message));
     if (change == nullptr || change->atom != m_connection->atom(stateProperty))
         return false;
-    if (auto* window = shownWindow(change->window); window && isWithdrawn(change->window))
-        m_withdrawn(*window);
+    if (auto* window = shownWindow(change->window))
+        (isWithdrawn(change->window) ? m_withdrawn : m_managed)(*window);
     return false;
 }
 

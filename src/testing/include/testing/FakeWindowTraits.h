@@ -29,9 +29,24 @@ public:
 
     [[nodiscard]] bool isComposited() const override { return composited; }
 
+    void onCompositingChanged(std::function<void()> handler) override {
+        m_compositingChanged = std::move(handler);
+    }
+
+    void setShadow(QWindow&, const QMargins& margins) override { shadow = margins; }
+
+    /// A compositing manager comes or goes.
+    void setComposited(bool isThere) {
+        composited = isThere;
+        if (m_compositingChanged)
+            m_compositingChanged();
+    }
+
     [[nodiscard]] std::optional<HeldInput> heldInput() const override { return held; }
 
     bool composited = false;
+
+    QMargins shadow; ///< the last that was set
 
     QPointer<QWindow> dialog; ///< the last that was prepared
 
@@ -45,6 +60,7 @@ private:
     }
 
     CallLog& m_log;
+    std::function<void()> m_compositingChanged;
 };
 
 } // namespace quorvane

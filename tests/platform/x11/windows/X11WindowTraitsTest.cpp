@@ -7,6 +7,7 @@
 
 #include <QWidget>
 #include <QWindow>
+#include <xcb/xtest.h>
 
 #include <algorithm>
 
@@ -57,8 +58,19 @@ protected:
     QWidget m_panel;
 };
 
+TEST_F(WindowTraitsTest, TellsTheExtentOfAShadowInTheServersPixels) {
+    m_panel.resize(400, 300);
+    m_traits.setShadow(*m_panel.windowHandle(), {9, 3, 9, 15});
+    EXPECT_EQ(
+        m_windows.values(
+            static_cast<xcb_window_t>(m_panel.winId()), "_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL),
+        (std::vector<std::uint32_t>{9, 9, 3, 15}));
+}
+
 TEST_F(WindowTraitsTest, CompositesWhileAManagerOwnsTheScreensSelection) {
     EXPECT_FALSE(m_traits.isComposited());
+    int changes = 0;
+    m_traits.onCompositingChanged([&changes] { ++changes; });
     {
         ForeignWindow manager;
         xcb_set_selection_owner(
@@ -70,6 +82,19 @@ TEST_F(WindowTraitsTest, CompositesWhileAManagerOwnsTheScreensSelection) {
         EXPECT_TRUE(waitUntil([this] { return m_traits.isComposited(); }));
     }
     EXPECT_TRUE(waitUntil([this] { return !m_traits.isComposited(); }));
+    // It came and went.
+    EXPECT_TRUE(waitUntil([&changes] { return changes >= 2; }));
+    m_traits.onCompositingChanged({});
+}
+
+TEST_F(WindowTraitsTest, KnowsWhatIsHeld) {
+    const auto before = m_traits.heldInput();
+    ASSERT_TRUE(before);
+    EXPECT_EQ(before->buttons, 0);
+    xcb_test_fake_input(m_connection->xcb(), XCB_BUTTON_PRESS, 3, 0, XCB_NONE, 0, 0, 0);
+    EXPECT_TRUE(waitUntil([&] { return m_traits.heldInput()->hasButtonSince(*before); }));
+    xcb_test_fake_input(m_connection->xcb(), XCB_BUTTON_RELEASE, 3, 0, XCB_NONE, 0, 0, 0);
+    EXPECT_TRUE(waitUntil([&] { return m_traits.heldInput()->buttons == 0; }));
 }
 
 class PanelOnX11 : public WindowTraitsTest {

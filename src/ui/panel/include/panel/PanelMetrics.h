@@ -7,6 +7,7 @@ namespace quorvane::panelmetrics {
 
 /// Of the content, in the popover as in the window of its own; the height follows from it.
 inline constexpr int width = 504;
+inline constexpr double cornerRadius = 12; ///< of its window, where windows are composited
 inline constexpr int sideMargin = 18;
 /// How far a control may extend beyond the column, so that what it paints ends with the column.
 inline constexpr int overhang = 4;

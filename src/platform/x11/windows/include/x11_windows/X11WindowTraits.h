@@ -3,6 +3,8 @@
 
 #include <platform/WindowTraits.h>
 #include <x11_server/X11Connection.h>
+#include <x11_windows/X11CompositingWatch.h>
+#include <x11_windows/X11WindowShadow.h>
 #include <x11_windows/X11WindowStates.h>
 #include <x11_windows/X11Windows.h>
 #include <x11_windows/X11WithdrawalWatch.h>
@@ -28,6 +30,8 @@ public:
     void orderFront(QWindow& window) override;
     void activate(QWindow& window) override;
     [[nodiscard]] bool isComposited() const override;
+    void onCompositingChanged(std::function<void()> handler) override;
+    void setShadow(QWindow& window, const QMargins& margins) override;
     [[nodiscard]] std::optional<HeldInput> heldInput() const override;
 
 protected:
@@ -36,13 +40,18 @@ protected:
 private:
     void writeTaskbarStates(const QWindow& window);
     void showAgain(QWindow& window);
+    void renewShadow(QWindow& window);
     [[nodiscard]] X11WindowStates::Change taskbarChange() const;
 
     std::shared_ptr<X11Connection> m_connection;
     X11Windows m_windows;
     X11WindowStates m_states;
     X11WithdrawalWatch m_withdrawals;
+    X11CompositingWatch m_compositing;
+    X11WindowShadow m_shadow;
     QPointer<QWindow> m_panel;
+    QPointer<QWindow> m_shadowed;
+    QMargins m_shadowMargins; ///< in points
     ActivationPolicy m_policy = ActivationPolicy::Regular;
 };
 

@@ -21,7 +21,9 @@ class X11WithdrawalWatch final : public QAbstractNativeEventFilter {
 public:
     using Handler = std::function<void(QWindow& window)>;
 
-    X11WithdrawalWatch(std::shared_ptr<X11Connection> connection, Handler withdrawn);
+    /// `managed` hears of the other shown windows whose state the window manager sets.
+    X11WithdrawalWatch(
+        std::shared_ptr<X11Connection> connection, Handler withdrawn, Handler managed);
 
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
 
@@ -31,6 +33,7 @@ private:
     std::shared_ptr<X11Connection> m_connection;
     X11Windows m_windows;
     Handler m_withdrawn;
+    Handler m_managed;
 };
 
 } // namespace quorvane
