@@ -108,13 +108,19 @@ void AppDelegate::surfaceMainUIForReopen() {
     m_presentation.surface();
 }
 
-void AppDelegate::renewHiddenDates() {
+void AppDelegate::renew() {
+    if (m_dependencies.zones.refresh())
+        refreshSoon();
+    m_model.renewDates();
+}
+
+void AppDelegate::renewHidden() {
     if (!m_presentation.isShown())
-        m_model.renewDates();
+        renew();
 }
 
 void AppDelegate::performInsert() {
-    renewHiddenDates();
+    renewHidden();
     const auto text = m_model.formattedOutput();
     m_presentation.rememberTarget();
     m_presentation.hide();
@@ -122,7 +128,7 @@ void AppDelegate::performInsert() {
 }
 
 void AppDelegate::performCopy() {
-    renewHiddenDates();
+    renewHidden();
     const auto text = m_model.formattedOutput();
     if (copyText(*m_dependencies.platform.pasteboard, text) == PutOutcome::Refused)
         qCInfo(lcApp, "not copied: the pasteboard does not take the text");
@@ -189,7 +195,7 @@ InterfaceCallbacks AppDelegate::interfaceCallbacks() {
     return {
         [this] { return makeContentView(); },
         [this](QWidget& window) { m_mainMenu->attachTo(window); },
-        [this] { m_model.renewDates(); },
+        [this] { renew(); },
         weakly(&AppDelegate::prepareAfterFirstPaint)};
 }
 

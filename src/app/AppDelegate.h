@@ -40,7 +40,7 @@ public:
         DefaultsStore& defaults;
         WindowFrameStore& windowFrames;
         CurrentZone& currentZone;
-        const ZoneDatabase& zones;
+        ZoneDatabase& zones;
         UserLocale locale;
         MainQueue& mainQueue;
         PlatformServices& platform;
@@ -106,7 +106,9 @@ private:
     [[nodiscard]] Insertion::Callbacks insertionCallbacks();
     [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
 
-    void renewHiddenDates();
+    /// Before a showing: takes new zone data, and the present moment where the dates follow it.
+    void renew();
+    void renewHidden();
     void setupMainMenu();
     void observeDesktop();
     void refreshSoon();

@@ -63,7 +63,7 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
     const auto folders = UserFolders::fromEnvironment(environment);
     QtMainQueue mainQueue;
     SystemClock clock;
-    ZoneDatabase zones;
+    ZoneDatabase zones(zoneDirectory(environment));
     SystemCurrentZone currentZone(zones, environment);
     JsonDefaultsStore defaults(folders.defaultsFile(), writer);
     WindowFrameStore windowFrames(folders.windowsFile(), writer);

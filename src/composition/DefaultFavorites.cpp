@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 QStringList defaultFavoriteIdentifiers(const TimeZone& currentZone, const ZoneDatabase& database) {
     const QStringList candidates{
-        currentZone.identifier(),
+        database.listedName(currentZone.identifier()),
         u"America/Los_Angeles"_s,
         u"America/New_York"_s,
         u"Europe/London"_s,

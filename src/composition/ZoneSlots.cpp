@@ -10,9 +10,10 @@ std::vector<TimeZone> timeZoneSlots(
     const QStringList& favorites,
     const std::vector<TimeZone>& selected,
     const ZoneDatabase& database) {
-    auto slots = database.zones(favorites);
+    const auto listed = database.listedNames(favorites);
+    auto slots = database.zones(listed);
     std::ranges::copy_if(selected, std::back_inserter(slots), [&](const TimeZone& zone) {
-        return !favorites.contains(zone.identifier());
+        return !listed.contains(zone.identifier());
     });
     return slots;
 }

@@ -22,7 +22,10 @@ DateTimeModel::DateTimeModel(const Dependencies& dependencies, QObject* parent)
           dependencies.defaults, dependencies.currentZone.current(), dependencies.zones)) {
     if (m_preferences.remembersChoices)
         rememberedchoices::recall(m_composition, dependencies.defaults, dependencies.zones);
-    // Those of a first start stay when the user moves to another zone.
+    // Those of a first start stay when the user moves to another zone; not those that were made
+    // without any zones to choose from.
+    if (!dependencies.zones.hasData() && !setting::favoriteZones.storedIn(dependencies.defaults))
+        return;
     setFavoriteTimeZoneIdentifiers(QStringList(m_preferences.favoriteTimeZoneIdentifiers));
 }
 

@@ -47,7 +47,7 @@ void recallZones(
     QStringList unknown;
     std::vector<TimeZone> zones;
     for (const auto& identifier : *stored) {
-        const auto zone = database.zone(identifier);
+        const auto zone = database.zone(database.listedName(identifier));
         if (!zone)
             unknown.append(identifier);
         else if (std::ranges::find(zones, *zone) == zones.end())

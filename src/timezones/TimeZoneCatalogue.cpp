@@ -7,8 +7,6 @@
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct PlacedZone {
@@ -19,13 +17,6 @@ struct PlacedZone {
         return std::tie(a.offset, a.zone.identifier()) < std::tie(b.offset, b.zone.identifier());
     }
 };
-
-std::vector<TimeZone> offeredZones(const ZoneDatabase& database) {
-    auto identifiers = database.zonesByCountry();
-    identifiers << u"UTC"_s << u"Etc/GMT+12"_s;
-    identifiers.removeDuplicates();
-    return database.zones(identifiers);
-}
 
 } // namespace
 
@@ -44,7 +35,7 @@ std::vector<TimeZone> sortedByOffset(std::vector<TimeZone> zones, Instant instan
 
 TimeZoneCatalogue::TimeZoneCatalogue(const ZoneDatabase& database, Instant instant)
     : m_instant(instant) {
-    for (auto& zone : sortedByOffset(offeredZones(database), instant)) {
+    for (auto& zone : sortedByOffset(database.zones(database.listedZones()), instant)) {
         auto searchText = zone.identifier().toLower().replace(u'_', u' ');
         m_entries.push_back({std::move(zone), std::move(searchText)});
     }

@@ -43,7 +43,9 @@ protected:
         queue.run();
     }
 
-    void makeDelegate() {
+    void makeDelegate() { makeDelegate(zones); }
+
+    void makeDelegate(ZoneDatabase& database) {
         delegate.reset();
         platform = makeFakes();
         m_frames = std::make_unique<WindowFrameStore>(
@@ -53,7 +55,7 @@ protected:
             defaults,
             *m_frames,
             currentZone,
-            zones,
+            database,
             UserLocale::named(QStringLiteral("en_US")),
             queue,
             platform});

@@ -39,5 +39,11 @@ TEST(ZoneSlots, RepeatedEntriesStayRepeated) {
         QStringList({u"UTC"_s, u"UTC"_s, u"Asia/Seoul"_s, u"Asia/Seoul"_s}));
 }
 
+TEST(ZoneSlots, OldNameIsTheListedZoneAndIsNotDoubled) {
+    EXPECT_EQ(
+        slotIdentifiers({u"US/Eastern"_s, u"Asia/Tokyo"_s}, zones({"America/New_York"})),
+        (QStringList{u"America/New_York"_s, u"Asia/Tokyo"_s}));
+}
+
 } // namespace
 } // namespace quorvane

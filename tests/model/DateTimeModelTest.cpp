@@ -408,6 +408,14 @@ TEST_F(DateTimeModelTest, SampleForThePresetsIsInTheCurrentZoneWithoutASelection
     EXPECT_THAT(model->availableFormatPresets(), Contains(DateFormatPreset::MediumForm));
 }
 
+TEST_F(DateTimeModelTest, FavouritesThatWereMadeWithoutZoneDataAreNotStored) {
+    const QTemporaryDir nothing;
+    const ZoneDatabase none(nothing.path());
+    const DateTimeModel model(
+        {m_clock, m_defaults, m_currentZone, none, UserLocale::named(u"en_US"_s)});
+    EXPECT_EQ(m_defaults.stringArrayForKey(favoritesKey), std::nullopt);
+}
+
 TEST_F(DateTimeModelTest, SlotsAreFavouritesAndSelectedZones) {
     const auto model = makeModel();
     model->setFavoriteTimeZoneIdentifiers({u"Asia/Tokyo"_s, u"Moon/Tycho"_s});

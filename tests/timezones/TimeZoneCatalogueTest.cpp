@@ -3,6 +3,7 @@
 
 #include <timezones/TimeZoneCatalogue.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -67,6 +68,9 @@ TEST(TimeZoneCatalogue, TableRowsThatNameNoZoneOrOneTwiceAreDropped) {
     };
     ASSERT_TRUE(
         write(u"tzdata.zi"_s, "Z Europe/Paris 1 - CET\nZ Moon/Tycho 1 - MT\nZ UTC 0 - UTC\n"));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"Europe"_s));
+    ASSERT_TRUE(
+        QFile::copy(u"/usr/share/zoneinfo/Europe/Paris"_s, folder.filePath(u"Europe/Paris"_s)));
     ASSERT_TRUE(write(
         u"zone.tab"_s,
         "FR\t+4852+00220\tEurope/Paris\nXX\t+0\tMoon/Tycho\nXX\t+0\tMoon/Copernicus\n"

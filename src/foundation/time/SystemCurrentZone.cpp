@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <loop/Failure.h>
 #include <time/SystemCurrentZone.h>
 
 #include <QFile>
 
 #include <algorithm>
-#include <array>
-#include <string_view>
+#include <string>
 
 namespace quorvane {
 
@@ -17,24 +17,13 @@ namespace {
 // The kernel's own limit on the links of one path (path_resolution(7)).
 constexpr int maximumLinks = 40;
 
-// Containers and servers are set to one of these; the zone's name in lists is "UTC".
-constexpr std::array utcNames{
-    "Etc/UCT"_L1,
-    "Etc/UTC"_L1,
-    "Etc/Universal"_L1,
-    "Etc/Zulu"_L1,
-    "UCT"_L1,
-    "Universal"_L1,
-    "Zulu"_L1};
-
 QString systemIdentifier(QString identifier) {
     // The database's copies without and with leap seconds hold the same zones.
     for (const auto folder : {"posix/"_L1, "right/"_L1}) {
         if (identifier.startsWith(folder))
             identifier.remove(0, folder.size());
     }
-    const bool isUtc = std::ranges::find(utcNames, identifier) != utcNames.end();
-    return isUtc ? u"UTC"_s : identifier;
+    return identifier;
 }
 
 std::optional<QString> zoneVariable(const Environment& environment) {
@@ -45,9 +34,8 @@ std::optional<QString> zoneVariable(const Environment& environment) {
     return variable;
 }
 
-/// What follows the database's folder in a path; empty for a path elsewhere.
-QString tailInDatabase(const fs::path& path) {
-    constexpr std::string_view folder = "/zoneinfo/";
+/// What follows the folder in a path; empty for a path elsewhere.
+QString tailIn(const std::string& folder, const fs::path& path) {
     const auto text = path.string();
     const auto start = text.rfind(folder);
     return start == std::string::npos ? QString()
@@ -71,7 +59,12 @@ SystemCurrentZone::SystemCurrentZone(
 }
 
 TimeZone SystemCurrentZone::current() const {
-    return m_zones.zone(systemIdentifier(identifier())).value_or(ZoneDatabase::utc());
+    const auto set = systemIdentifier(identifier());
+    auto zone = m_zones.zone(m_zones.listedName(set));
+    if (!zone && !set.isEmpty() && set != m_reported)
+        reportFailure(u"\"%1\" is no time zone of this system; times are in UTC"_s.arg(set));
+    m_reported = zone ? QString() : set;
+    return zone.value_or(ZoneDatabase::utc());
 }
 
 QString SystemCurrentZone::settingFile(const Environment& environment) {
@@ -101,6 +94,11 @@ QString SystemCurrentZone::identifierOfFile(Path file) const {
                                     : (file.parent_path() / target).lexically_normal();
     }
     return {};
+}
+
+QString SystemCurrentZone::tailInDatabase(const Path& file) const {
+    const auto tail = tailIn(m_zones.directory().toStdString() + '/', file);
+    return tail.isEmpty() ? tailIn("/zoneinfo/", file) : tail;
 }
 
 QString SystemCurrentZone::identifierOfCopy(const Path& file) const {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <time/TimeZone.h>
+#include "ZoneRules.h"
 
-#include <QDateTime>
+#include <time/TimeZone.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,29 +12,28 @@ namespace {
 
 // Up to here a double counts whole milliseconds: some 285 000 years either way. Zones have no
 // transitions near it, so that instants beyond take the offset at the limit.
-constexpr double lastMillisecond = 9007199254740992.0;
+constexpr double lastSecond = 9007199254740992.0 / 1000;
 
-QDateTime utcDateTime(Instant instant) {
-    const double milliseconds = std::floor(instant.secondsSince1970 * 1000);
-    if (std::isnan(milliseconds))
-        return QDateTime::fromMSecsSinceEpoch(0, QTimeZone::utc());
-    const double clamped = std::clamp(milliseconds, -lastMillisecond, lastMillisecond);
-    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(clamped), QTimeZone::utc());
+long long wholeSeconds(Instant instant) {
+    if (std::isnan(instant.secondsSince1970))
+        return 0;
+    return static_cast<long long>(
+        std::floor(std::clamp(instant.secondsSince1970, -lastSecond, lastSecond)));
 }
 
 } // namespace
 
-TimeZone::TimeZone(QString identifier, QTimeZone zone)
+TimeZone::TimeZone(QString identifier, std::shared_ptr<const ZoneRules> rules)
     : m_identifier(std::move(identifier)),
-      m_zone(std::move(zone)) {
+      m_rules(std::move(rules)) {
 }
 
 int TimeZone::secondsFromGMT(Instant instant) const {
-    return m_zone.offsetFromUtc(utcDateTime(instant));
+    return m_rules->at(wholeSeconds(instant)).seconds;
 }
 
 bool TimeZone::isDaylightTime(Instant instant) const {
-    return m_zone.isDaylightTime(utcDateTime(instant));
+    return m_rules->at(wholeSeconds(instant)).isDaylight;
 }
 
 } // namespace quorvane

@@ -54,7 +54,7 @@ TimeZonePickerView::TimeZonePickerView(
     : QWidget(parent),
       m_selection(std::move(selectedTimeZones)),
       m_clock(dependencies.clock),
-      m_favorites(dependencies.zones.zones(favoriteIdentifiers)),
+      m_favorites(dependencies.zones.zones(dependencies.zones.listedNames(favoriteIdentifiers))),
       m_search(
           TimeZoneCatalogue(dependencies.zones, dependencies.clock.now()), dependencies.locale),
       m_field(new SearchField(

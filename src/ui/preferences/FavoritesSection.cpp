@@ -40,6 +40,7 @@ FavoritesSection::FavoritesSection(
     QWidget* parent)
     : PreferencesSection(tr("Favorite Time Zones"), parent),
       m_model(model),
+      m_zones(zones),
       m_clock(clock),
       m_search(TimeZoneCatalogue(zones, clock.now()), model.locale()),
       m_field(new SearchField(tr("Search"), std::move(pasteReader), this)),
@@ -47,9 +48,7 @@ FavoritesSection::FavoritesSection(
       m_rows(new FavoriteListModel(
           clock,
           model.locale(),
-          [this](const TimeZone& zone) {
-              return m_model.favoriteTimeZoneIdentifiers().contains(zone.identifier());
-          },
+          [this](const TimeZone& zone) { return favorites().contains(zone.identifier()); },
           this)),
       m_list(new ZoneList(this)),
       m_nothing(new NothingFound(m_list)),
@@ -80,17 +79,25 @@ bool FavoritesSection::showStarredOnly() const {
     return m_filter->isOn();
 }
 
+QStringList FavoritesSection::favorites() const {
+    return m_zones.listedNames(m_model.favoriteTimeZoneIdentifiers());
+}
+
 std::vector<TimeZone> FavoritesSection::filtered() const {
-    return showStarredOnly()
-               ? m_search.filteredStarred(
-                     searchText(), m_clock.now(), m_model.favoriteTimeZoneIdentifiers())
-               : m_search.filtered(searchText(), m_clock.now());
+    return showStarredOnly() ? m_search.filteredStarred(searchText(), m_clock.now(), favorites())
+                             : m_search.filtered(searchText(), m_clock.now());
 }
 
 void FavoritesSection::toggleFavorite(const TimeZone& zone, const QString& name) {
     auto identifiers = m_model.favoriteTimeZoneIdentifiers();
-    // One entry only: a list that was edited by hand may hold more.
-    const bool isRemoved = identifiers.removeOne(zone.identifier());
+    const auto before = identifiers.size();
+    // One entry only: a list that was edited by hand may hold more. But all old names of the zone,
+    // each of which would go on to star it.
+    identifiers.removeOne(zone.identifier());
+    identifiers.removeIf([&](const QString& each) {
+        return each != zone.identifier() && m_zones.listedName(each) == zone.identifier();
+    });
+    const bool isRemoved = identifiers.size() < before;
     if (!isRemoved)
         identifiers.append(zone.identifier());
     m_model.setFavoriteTimeZoneIdentifiers(identifiers);

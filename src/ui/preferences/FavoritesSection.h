@@ -41,6 +41,9 @@ private:
     [[nodiscard]] QString searchText() const;
     [[nodiscard]] bool showStarredOnly() const;
 
+    /// Old names as the listed zones that they lead to.
+    [[nodiscard]] QStringList favorites() const;
+
     /// What the list shows: the catalogue in its order, by filter and search text.
     [[nodiscard]] std::vector<TimeZone> filtered() const;
 
@@ -53,6 +56,7 @@ private:
     void showFiltered();
 
     DateTimeModel& m_model;
+    const ZoneDatabase& m_zones;
     const Clock& m_clock;
     ZoneSearch m_search;
     SearchField* m_field;

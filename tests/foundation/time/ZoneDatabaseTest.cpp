@@ -3,6 +3,7 @@
 
 #include <time/ZoneDatabase.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -96,6 +97,9 @@ TEST(ZoneDatabase, LinkWithoutADataFileHasTheDataOfItsTarget) {
     index.write("Z Asia/Kolkata 5:30 - IST\nL Asia/Kolkata Moon/Tycho\nL Moon/Tycho Moon/Surveyor\n"
                 "L Moon/Luna Moon/Selene\nL Moon/Selene Moon/Luna");
     index.close();
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"Asia"_s));
+    ASSERT_TRUE(
+        QFile::copy(u"/usr/share/zoneinfo/Asia/Kolkata"_s, folder.filePath(u"Asia/Kolkata"_s)));
     const ZoneDatabase zones(folder.path());
     for (const auto& link : {u"Moon/Tycho"_s, u"Moon/Surveyor"_s}) {
         const auto zone = zones.zone(link);

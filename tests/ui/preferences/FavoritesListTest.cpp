@@ -32,6 +32,18 @@ TEST_F(FavoritesListTest, ShowsTheCatalogueFromWestToEast) {
     EXPECT_EQ(cities(), catalogueCities);
 }
 
+TEST_F(FavoritesListTest, OldNameOfAZoneStarsItAndIsRemovedWithIt) {
+    model->setFavoriteTimeZoneIdentifiers({u"Asia/Calcutta"_s, u"US/Eastern"_s, u"Asia/Tokyo"_s});
+    queue.run();
+    EXPECT_TRUE(isStarred(u"New York"_s));
+    starredOnly().click();
+    EXPECT_EQ(cities(), (QStringList{u"New York"_s, u"Kolkata"_s, u"Tokyo"_s}));
+    pressRow(u"New York"_s);
+    queue.run();
+    EXPECT_EQ(favorites(), (QStringList{u"Asia/Calcutta"_s, u"Asia/Tokyo"_s}));
+    EXPECT_EQ(cities(), (QStringList{u"Kolkata"_s, u"Tokyo"_s}));
+}
+
 TEST_F(FavoritesListTest, FavoritesAreChecked) {
     EXPECT_TRUE(isStarred(u"Tokyo"_s));
     EXPECT_TRUE(isStarred(u"New York"_s));

@@ -10,7 +10,8 @@
 namespace quorvane {
 
 /// The zone that the C library would use: the environment's TZ, else /etc/localtime, under its
-/// identifier. UTC where neither names a known zone.
+/// identifier; an old name as the listed zone that it leads to. UTC where neither names a known
+/// zone, which is reported once for each text that is set.
 class SystemCurrentZone final : public CurrentZone {
 public:
     /// `zones` must outlive this; `root` stands for "/".
@@ -27,12 +28,14 @@ private:
 
     [[nodiscard]] QString identifier() const;
     [[nodiscard]] QString identifierOfFile(Path file) const;
+    [[nodiscard]] QString tailInDatabase(const Path& file) const;
     [[nodiscard]] QString identifierOfCopy(const Path& file) const;
     [[nodiscard]] bool isCopyOf(const Path& file, const QString& identifier) const;
 
     const ZoneDatabase& m_zones;
     Environment m_environment;
     Path m_root;
+    mutable QString m_reported; ///< what was no zone when it was last asked for
 };
 
 } // namespace quorvane

@@ -4,9 +4,12 @@
 #include <time/Instant.h>
 
 #include <QString>
-#include <QTimeZone>
+
+#include <memory>
 
 namespace quorvane {
+
+class ZoneRules;
 
 /// A zone of the system's time zone database. Only a ZoneDatabase makes one, so that a value always
 /// names a zone that exists.
@@ -27,10 +30,10 @@ public:
 
 private:
     friend class ZoneDatabase;
-    TimeZone(QString identifier, QTimeZone zone);
+    TimeZone(QString identifier, std::shared_ptr<const ZoneRules> rules);
 
     QString m_identifier;
-    QTimeZone m_zone;
+    std::shared_ptr<const ZoneRules> m_rules; ///< the database's own, which it keeps up to date
 };
 
 } // namespace quorvane

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LocalOffset.h"
+#include "PosixRule.h"
+
+#include <QByteArrayView>
+
+#include <optional>
+#include <vector>
+
+namespace quorvane {
+
+/// The offsets of one zone through all time, as its compiled file has them (TZif, RFC 9636). Read
+/// here and not by Qt, which looks in one folder and keeps what it has read for good.
+class ZoneRules {
+public:
+    /// The same offset always: none.
+    ZoneRules() = default;
+
+    /// None for bytes that are no such file, or are cut off.
+    [[nodiscard]] static std::optional<ZoneRules> parse(QByteArrayView file);
+
+    /// At so many seconds since 1970.
+    [[nodiscard]] LocalOffset at(long long seconds) const;
+
+private:
+    struct Transition {
+        long long seconds;
+        LocalOffset offset; ///< from then on
+    };
+
+    LocalOffset m_first;
+    std::vector<Transition> m_transitions; ///< in their order
+    std::optional<PosixRule> m_rule;       ///< after the last of them
+};
+
+} // namespace quorvane
