@@ -4,6 +4,7 @@
 #include <time/DayPeriods.h>
 #include <time/TypedText.h>
 
+#include <QStringList>
 #include <unicode/resbund.h>
 #include <unicode/smpdtfmt.h>
 
