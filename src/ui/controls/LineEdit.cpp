@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LineEditMenu.h"
 
+#include <controls/Announcement.h>
 #include <controls/LineEdit.h>
 #include <controls/SilentAccessibility.h>
 
@@ -39,6 +40,7 @@ void LineEdit::setRefusal(const QString& reason) {
         return;
     m_refusal = reason;
     setAccessibleDescription(reason);
+    announce(*this, reason);
     update();
 }
 

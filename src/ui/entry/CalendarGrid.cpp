@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvane {
 
@@ -24,6 +25,7 @@ CalendarGrid::CalendarGrid(QWidget* parent) : QWidget(parent) {
 void CalendarGrid::showMonth(const MonthGrid& month, CivilDay cursor) {
     m_month = month;
     setDayCount(month.days.size());
+    replaceFocused(cursor);
     for (std::size_t index = 0; index < month.days.size(); ++index) {
         auto* day = m_days[index];
         day->setDay(month.days[index]);
@@ -32,6 +34,15 @@ void CalendarGrid::showMonth(const MonthGrid& month, CivilDay cursor) {
     placeDays();
     updateGeometry();
     update();
+}
+
+// A screen reader reads what takes the focus, but not what has it and becomes another day.
+void CalendarGrid::replaceFocused(CivilDay cursor) {
+    for (std::size_t index = 0; index < m_month.days.size(); ++index) {
+        const auto& day = m_month.days[index].day;
+        if (day == cursor && m_days[index]->hasFocus() && m_days[index]->day() != day)
+            std::swap(m_days[index], m_days[(index + 1) % m_month.days.size()]);
+    }
 }
 
 void CalendarGrid::mark(const Marks& marks) {

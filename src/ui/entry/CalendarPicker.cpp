@@ -5,6 +5,7 @@
 #include "DateLine.h"
 #include "TypedInstant.h"
 
+#include <controls/Announcement.h>
 #include <controls/TextButton.h>
 #include <controls/TextStyle.h>
 #include <entry/CalendarPicker.h>
@@ -209,14 +210,19 @@ void CalendarPicker::noteLeft() {
 void CalendarPicker::followTyping() {
     const auto date = typedDate();
     const auto instant = typedInstantOf(date);
-    m_typed = instant ? std::optional(civilDay(*instant, zone())) : std::nullopt;
+    const auto before =
+        std::exchange(m_typed, instant ? std::optional(civilDay(*instant, zone())) : std::nullopt);
     if (m_typed)
         showCursor(*m_typed);
     mark();
     const bool mayBecomeValid = date.state == TypingState::Unfinished || date.mayGrow;
     m_line->setRefusal(mayBecomeValid ? QString() : refusalOf(date));
-    if (m_typed && !m_line->isRefused())
-        m_line->setAccessibleDescription(m_grid->dayAt(*m_typed)->accessibleName());
+    if (!m_typed || m_line->isRefused())
+        return;
+    const auto day = m_grid->dayAt(*m_typed)->accessibleName();
+    m_line->setAccessibleDescription(day);
+    if (m_typed != before)
+        announce(*m_line, day);
 }
 
 void CalendarPicker::takeTyped() {

@@ -199,6 +199,14 @@ TEST_F(CalendarPickerTest, PageKeysWalkByMonthsAndHomeAndEndAlongTheWeek) {
     EXPECT_TRUE(writes.empty());
 }
 
+TEST_F(CalendarPickerTest, CursorMovesToAnotherControlEvenIfItsPlaceIsTheSame) {
+    open();
+    const QPointer before = QApplication::focusWidget();
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(focused(), u"Friday, February 9, 2024"_s);
+    EXPECT_NE(QApplication::focusWidget(), before);
+}
+
 TEST_F(CalendarPickerTest, ShiftAndPageKeysWalkByYears) {
     date = {1709244300}; // 2024-02-29
     open();

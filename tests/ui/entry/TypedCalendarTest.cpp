@@ -3,6 +3,7 @@
 
 #include <controls/FocusRing.h>
 #include <entry/DateField.h>
+#include <support/HeardAnnouncements.h>
 
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -135,6 +136,19 @@ TEST_F(TypedCalendarTest, NonsenseIsFramedAtOnceAndChangesNothing) {
     type(u"+"_s);
     EXPECT_FALSE(isRefused());
     EXPECT_EQ(description(), QString());
+}
+
+TEST_F(TypedCalendarTest, WhatIsUnderstoodAndWhatIsRefusedIsAnnounced) {
+    open();
+    HeardAnnouncements heard(window);
+    type(u"tomo"_s);
+    EXPECT_EQ(heard.take(), QStringList());
+    press(Qt::Key_Return);
+    EXPECT_EQ(heard.take(), QStringList{u"Not a date"_s});
+    type(u"rrow"_s);
+    EXPECT_EQ(heard.take(), QStringList{u"Saturday, November 21, 2026"_s});
+    press(Qt::Key_Return);
+    EXPECT_EQ(heard.take(), QStringList());
 }
 
 TEST_F(TypedCalendarTest, UnfinishedTextIsFramedWhenReturnComes) {

@@ -47,6 +47,7 @@ protected:
 
 private:
     void setDayCount(std::size_t count);
+    void replaceFocused(CivilDay cursor);
     void placeDays();
     [[nodiscard]] int columnLeft(int column) const;
 
