@@ -4,15 +4,20 @@
 import signal
 import subprocess
 
+from Xlib.display import Display
+
 from harness.accessible import State
 from harness.case import DesktopCase
 from harness.dragging import Dragging
 from harness.keys import SHORTCUT, Key
 from harness.offer import plain_text
 from harness.quorvane import Quorvane
+from harness.screenshot import Picture
 from harness.waiting import wait_until
 
 _LEFT, _MIDDLE = 1, 2
+
+_SUCCESS = 0x1A7A37
 
 _COPY = (Key.CONTROL, Key.C)
 _PASTE = (Key.CONTROL, Key.V)
@@ -124,8 +129,18 @@ class TextFields(DesktopCase):
         self.stopped_owner("CLIPBOARD")
         self.keyboard.tap(*_PASTE)
         self.mouse.click(self.tree.find_role("push button", "Copy"))
-        self.tree.find_role("push button", "Copied")
-        self.tree.find_role("push button", "Copy")
+        wait_until(self.says_copied, "the button to say that it has copied")
+        wait_until(lambda: not self.says_copied(), "the button to be as before")
+
+    def says_copied(self) -> bool:
+        """Whether anything is green, as only the outcome of Copy is."""
+        window = self.quorvane.panel()
+        assert window is not None
+        display = Display(self.session.display)
+        try:
+            return Picture(display, window).has(_SUCCESS)
+        finally:
+            display.close()
 
     def drag(self, *silent: str) -> Dragging:
         """A text that another program drags over the panel."""

@@ -4,12 +4,11 @@
 import os
 import unittest
 
-from harness.keys import SHORTCUT, Key, Keyboard
+from harness.keys import INSERT, SHORTCUT, Key, Keyboard
 from harness.mouse import Mouse
 from harness.quorvane import Quorvane
 from harness.screen_reader import ScreenReader
 from harness.session import Session
-from harness.waiting import wait_until
 
 
 class ScreenReaderCase(unittest.TestCase):
@@ -45,32 +44,33 @@ class ScreenReaderCase(unittest.TestCase):
         self.keyboard.tap(*keys)
         return self.orca.wait_for(until)
 
-    def go_to(self, role: str, name: str) -> None:
-        """Puts the focus on a control and hears it read."""
+    def go_to(self, role: str, name: str, until: str) -> None:
+        """Puts the focus on a control and hears it read, up to a text."""
         self.tree.find_role(role, name).focus()
-        self.orca.wait_for(name)
+        self.orca.wait_for(until)
 
 
 class Panel(ScreenReaderCase):
     """The panel's sections."""
 
     def test_opening_tells_the_window_the_section_and_the_start(self) -> None:
-        self.assertEqual(self.opening[:2], ["Quorvane.", "When panel."])
-        self.assertRegex(self.opening[-2], "collapsed push button.$")
+        window, section, hint, date, name = self.opening[-5:]
+        self.assertEqual([window, section], ["Quorvane.", "When panel."])
+        self.assertEqual([hint, name], ["(in local time EST)", "Start date."])
+        self.assertRegex(date, "collapsed push button.$")
 
     def test_sections_are_told_where_tab_enters_them(self) -> None:
-        self.go_to("check box", "to")
+        self.go_to("check box", "to", until="to check box")
         heard = self.said(Key.TAB, until="Add time zone")
         self.assertEqual(heard, ["Time Zones panel.", "Add time zone push button."])
 
     def test_outcome_of_copy_is_said_once(self) -> None:
-        self.go_to("push button", "Copy")
+        self.go_to("push button", "Copy", until="Ctrl+C")
         self.assertEqual(self.said(Key.SPACE, until="Copied"), ["notification Copied."])
-        wait_until(lambda: not self.tree.shows_named("Copied"), "the button to be as before")
         self.assertEqual(self.said(Key.TAB, until="Insert"), ["Insert push button."])
 
     def test_output_is_read_once_after_a_pause(self) -> None:
-        self.go_to("check box", "Time")
+        self.go_to("check box", "Time", until="Time check box")
         for state in ("not checked", "checked", "not checked"):
             self.assertEqual(self.said(Key.SPACE, until="checked"), [state])
         heard = self.orca.wait_for("notification")
@@ -78,12 +78,55 @@ class Panel(ScreenReaderCase):
         self.assertEqual(self.said(Key.TAB, until="Start date")[-1], "Start date.")
 
 
+    def test_insert_without_a_target_says_that_it_has_copied(self) -> None:
+        heard = self.said(*INSERT, until="notification")
+        self.assertRegex(heard[-1], "^notification Copied instead. There was no window")
+
+
+class Calendar(ScreenReaderCase):
+    """The calendar of the start, opened by keyboard."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.said(Key.SPACE, until="push button")
+
+    def test_each_day_is_read_once_where_the_cursor_comes(self) -> None:
+        for key in (Key.PAGE_UP, Key.PAGE_UP, Key.DOWN):
+            heard = self.said(key, until="push button")
+            self.assertEqual(len(heard), 1, heard)
+            self.assertRegex(heard[0], "day, .* push button.$")
+
+    def test_typed_date_is_said_when_it_is_understood_and_when_it_is_refused(self) -> None:
+        self.said(Key.T, until="Type a date")
+        self.type(Key.O, Key.D)
+        self.assertEqual(self.said(Key.RETURN, until="Not")[-1], "notification Not a date.")
+        self.type(Key.A, Key.Y)
+        self.assertRegex(self.orca.wait_for("notification")[-1], "day, [A-Z][a-z]+ [0-9]+, [0-9]+")
+        self.said(Key.RETURN, until="Start date")
+
+    def type(self, *keys: Key) -> None:
+        """Writes a text, a letter after the other."""
+        for key in keys:
+            self.keyboard.tap(key)
+
+
+class Recorder(ScreenReaderCase):
+    """The preferences' control that records another shortcut."""
+
+    def test_recording_is_told_and_what_was_recorded(self) -> None:
+        self.said(Key.CONTROL, Key.COMMA, until="Control, Shift, Super, D")
+        heard = self.said(Key.SPACE, until="Escape cancels")
+        self.assertIn("Recording a new shortcut text.", heard)
+        heard = self.said(Key.CONTROL, Key.ALT, Key.K, until="Control, Alt, K")
+        self.assertEqual(heard, ["Record new shortcut push button.", "Control, Alt, K."])
+
+
 class Picker(ScreenReaderCase):
     """The list in which one searches for time zones."""
 
     def setUp(self) -> None:
         super().setUp()
-        self.go_to("push button", "Add time zone")
+        self.go_to("push button", "Add time zone", until="Add time zone")
         self.keyboard.tap(Key.SPACE)
         self.orca.wait_for("Search by name")
 

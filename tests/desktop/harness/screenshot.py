@@ -38,6 +38,10 @@ class Picture:
         """Whether there is more than a background."""
         return len(set(memoryview(self._pixels).cast("I"))) >= _FLAT
 
+    def has(self, color: int) -> bool:
+        """Whether any pixel has a colour, as 0xRRGGBB."""
+        return any(pixel & 0xFFFFFF == color for pixel in memoryview(self._pixels).cast("I"))
+
     def color(self, x: int, y: int) -> int:
         """The pixel at a place, as 0xRRGGBB."""
         start = _BYTES_PER_PIXEL * (y * self._width + x)
