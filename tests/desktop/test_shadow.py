@@ -10,6 +10,7 @@ from harness.screenshot import Picture
 from harness.waiting import wait_until
 from Xlib import X
 from Xlib.display import Display
+from Xlib.error import XError
 
 _CONTENT_WIDTH = 504
 _SHADOW = (9, 9, 3, 15)  # left, right, top, bottom
@@ -49,10 +50,11 @@ class ShadowCase(DesktopCase):
 
     def wait_surface(self, quorvane: Quorvane, surface: Frame, shadow: tuple[int, ...]) -> None:
         def is_there() -> bool:
-            return (
-                self.extents(quorvane.wait_active()) == shadow
-                and self.surface(quorvane) == surface
-            )
+            try:
+                extents = self.extents(quorvane.wait_active())
+                return extents == shadow and self.surface(quorvane) == surface
+            except XError:
+                return False  # it got another window while it was looked at
 
         wait_until(is_there, f"the panel at {surface}")
 
