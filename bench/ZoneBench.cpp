@@ -47,20 +47,20 @@ void buildCatalogue(benchmark::State& state) {
 void searchFirst(benchmark::State& state) {
     const TimeZoneCatalogue catalogue(ZoneDatabase(), instant);
     for (auto _ : state)
-        benchmark::DoNotOptimize(ZoneSearch(catalogue, american()).filtered(u"x"_s, instant));
+        benchmark::DoNotOptimize(ZoneSearch(catalogue, american()).results(u"x"_s, instant));
 }
 
 void searchKeystroke(benchmark::State& state) {
     using Clock = std::chrono::steady_clock;
     const auto query = queries[static_cast<std::size_t>(state.range(0))];
     const ZoneSearch search(TimeZoneCatalogue(ZoneDatabase(), instant), american());
-    benchmark::DoNotOptimize(search.filtered(u"first"_s, instant));
+    benchmark::DoNotOptimize(search.results(u"first"_s, instant));
     std::vector<double> samples;
     auto now = instant;
     for (auto _ : state) {
         now = now + Seconds(0.1); // no two keystrokes are at the same instant
         const auto start = Clock::now();
-        benchmark::DoNotOptimize(search.filtered(query, now));
+        benchmark::DoNotOptimize(search.results(query, now));
         samples.push_back(std::chrono::duration<double, std::micro>(Clock::now() - start).count());
     }
     state.SetLabel('"' + QString(query).toStdString() + '"');

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <set>
 
 namespace quorvane {
@@ -52,6 +53,11 @@ struct TimeZoneAliases {
 
     /// The zones of all aliases that contain `query`, which is trimmed and in lower case already.
     [[nodiscard]] static std::set<QString> identifiersMatching(const QString& query);
+
+    /// The alias by which such a query finds the zone, as one writes it: "Boston", "NYC". The one
+    /// that is the query, else one that begins with it; none if no alias contains it.
+    [[nodiscard]] static std::optional<QString>
+    nameMatching(const QString& query, const QString& identifier);
 };
 
 } // namespace quorvane

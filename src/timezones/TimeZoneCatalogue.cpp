@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <time/OtherZoneNames.h>
 #include <timezones/TimeZoneCatalogue.h>
 
 #include <algorithm>
@@ -35,9 +36,14 @@ std::vector<TimeZone> sortedByOffset(std::vector<TimeZone> zones, Instant instan
 
 TimeZoneCatalogue::TimeZoneCatalogue(const ZoneDatabase& database, Instant instant)
     : m_instant(instant) {
+    auto other = OtherZoneNames::in(database);
     for (auto& zone : sortedByOffset(database.zones(database.listedZones()), instant)) {
-        auto searchText = zone.identifier().toLower().replace(u'_', u' ');
-        m_entries.push_back({std::move(zone), std::move(searchText)});
+        const auto identifier = zone.identifier();
+        m_entries.push_back(
+            {std::move(zone),
+             identifier.toLower().replace(u'_', u' '),
+             std::move(other.countries[identifier]),
+             std::move(other.oldNames[identifier])});
     }
 }
 

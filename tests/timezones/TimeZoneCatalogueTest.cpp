@@ -51,9 +51,9 @@ TEST(TimeZoneCatalogue, HasUtcAndEveryZoneByItsPresentNameOnce) {
 
 TEST(TimeZoneCatalogue, SearchTextIsLowerCaseWithSpaces) {
     const TimeZoneCatalogue catalogue(ZoneDatabase(), winter);
-    for (const auto& [zone, searchText] : catalogue.entries()) {
-        if (zone.identifier() == u"America/Port_of_Spain"_s) {
-            EXPECT_EQ(searchText, u"america/port of spain"_s);
+    for (const auto& entry : catalogue.entries()) {
+        if (entry.zone.identifier() == u"America/Port_of_Spain"_s) {
+            EXPECT_EQ(entry.searchText, u"america/port of spain"_s);
             return;
         }
     }

@@ -30,6 +30,9 @@ public:
     /// Null for a name that the data do not have.
     [[nodiscard]] const Entry* entry(QByteArrayView name) const;
 
+    /// In the order of the names.
+    [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
+
     /// In the order of the table.
     [[nodiscard]] const std::vector<Listed>& listed() const { return m_listed; }
 

@@ -70,6 +70,9 @@ TimeZonePickerView::TimeZonePickerView(
     setAccessibleName(tr("Time Zones"));
     setFocusProxy(m_field);
     m_list->setModel(m_model);
+    m_model->setReason([this](const TimeZone& zone) {
+        return m_search.reason(m_field->text(), m_clock.now(), zone);
+    });
     layOut();
     new ZoneListKeys(*m_field, *m_list);
     connect(m_field, &SearchField::textChanged, this, [this] {
@@ -81,7 +84,7 @@ TimeZonePickerView::TimeZonePickerView(
 }
 
 std::vector<TimeZone> TimeZonePickerView::filtered() const {
-    return m_search.filtered(m_field->text(), m_clock.now());
+    return m_search.results(m_field->text(), m_clock.now());
 }
 
 void TimeZonePickerView::toggleTimeZone(const TimeZone& zone) {

@@ -16,6 +16,10 @@ QVariant headData(const QString& head, int role) {
     }
 }
 
+QString nameAndReason(const QString& name, const QString& reason) {
+    return reason.isEmpty() ? name : ZoneListModel::tr("%1, %2").arg(name, reason);
+}
+
 } // namespace
 
 ZoneListModel::ZoneListModel(
@@ -69,11 +73,19 @@ Qt::ItemFlags ZoneListModel::flags(const QModelIndex& index) const {
            Qt::ItemNeverHasChildren;
 }
 
+QString ZoneListModel::reasonText(const TimeZone& zone) const {
+    const auto reason = m_reason ? m_reason(zone) : QString();
+    //: Why a search found a time zone, after its name: "New York, for Boston"
+    return reason.isEmpty() ? QString() : tr("for %1").arg(reason);
+}
+
 QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {
     const auto row = rowOf(zone);
     switch (role) {
     case Qt::DisplayRole:
         return row.place();
+    case Qt::AccessibleTextRole:
+        return nameAndReason(row.place(), reasonText(zone));
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return zone.identifier();
@@ -85,6 +97,8 @@ QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {
         return row.abbreviation();
     case OffsetRole:
         return row.offsetString();
+    case ReasonRole:
+        return reasonText(zone);
     case IsHeadRole:
         return false;
     default:

@@ -82,8 +82,9 @@ private:
         const auto& text = m_row.theme().text;
         const auto& secondary = m_row.theme().secondaryText;
         write(city, cityFont, text, column(textStart, abbreviationStart - textStart));
+        const auto reason = m_row.text(ZoneListModel::ReasonRole);
         write(
-            m_row.text(ZoneListModel::RegionRole),
+            reason.isEmpty() ? m_row.text(ZoneListModel::RegionRole) : reason,
             callout,
             secondary,
             column(regionStart, abbreviationStart - regionStart));

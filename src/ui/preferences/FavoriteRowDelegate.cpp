@@ -77,11 +77,13 @@ private:
         };
         const auto& color = m_row.theme().secondaryText;
         append(m_row.text(ZoneListModel::OffsetRole), color);
-        const auto abbreviation = m_row.text(ZoneListModel::AbbreviationRole);
-        if (abbreviation.isEmpty())
-            return;
-        append(u"·"_s, withOpacity(color, bulletOpacity));
-        append(abbreviation, color);
+        for (const int role : {ZoneListModel::AbbreviationRole, ZoneListModel::ReasonRole}) {
+            const auto more = m_row.text(role);
+            if (more.isEmpty())
+                continue;
+            append(u"·"_s, withOpacity(color, bulletOpacity));
+            append(more, color);
+        }
     }
 
     void write(const QString& text, const QRect& place) {

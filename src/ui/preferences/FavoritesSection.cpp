@@ -56,6 +56,9 @@ FavoritesSection::FavoritesSection(
     m_field->setTrailingRoom(StarredFilter::room);
     m_list->setItemDelegate(new FavoriteRowDelegate(m_list));
     m_list->setModel(m_rows);
+    m_rows->setReason([this](const TimeZone& zone) {
+        return m_search.reason(searchText(), m_clock.now(), zone);
+    });
     m_list->setAccessibleName(tr("Favorite Time Zones"));
     new ZoneListKeys(*m_field, *m_list);
     layOut();
@@ -84,8 +87,8 @@ QStringList FavoritesSection::favorites() const {
 }
 
 std::vector<TimeZone> FavoritesSection::filtered() const {
-    return showStarredOnly() ? m_search.filteredStarred(searchText(), m_clock.now(), favorites())
-                             : m_search.filtered(searchText(), m_clock.now());
+    return showStarredOnly() ? m_search.starredResults(searchText(), m_clock.now(), favorites())
+                             : m_search.results(searchText(), m_clock.now());
 }
 
 void FavoritesSection::toggleFavorite(const TimeZone& zone, const QString& name) {

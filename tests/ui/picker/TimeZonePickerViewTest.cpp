@@ -113,6 +113,21 @@ TEST_F(TimeZonePickerViewTest, PastedTextIsSearchedForWhenItHasCome) {
     EXPECT_EQ(identifier(0), u"Europe/Lisbon"_s);
 }
 
+TEST_F(TimeZonePickerViewTest, RowSaysWhyItWasFound) {
+    QTest::keyClicks(&field, u"boston"_s);
+    ASSERT_EQ(count(), 1);
+    EXPECT_EQ(row(0).data(Qt::AccessibleTextRole), u"New York, for Boston"_s);
+    EXPECT_EQ(row(0).data(ZoneListModel::ReasonRole), u"for Boston"_s);
+    field.selectAll();
+    QTest::keyClicks(&field, u"calcutta"_s);
+    ASSERT_EQ(count(), 1);
+    EXPECT_EQ(row(0).data(Qt::AccessibleTextRole), u"Kolkata, for Calcutta"_s);
+    field.selectAll();
+    QTest::keyClicks(&field, u"tokyo"_s);
+    EXPECT_EQ(row(0).data(Qt::AccessibleTextRole), u"Tokyo"_s);
+    EXPECT_EQ(row(0).data(ZoneListModel::ReasonRole), QString());
+}
+
 TEST_F(TimeZonePickerViewTest, ShowsFavoritesThatAreZonesBeforeTheWholeCatalogue) {
     EXPECT_EQ(title(0), u"Favorites"_s);
     EXPECT_EQ(identifier(1), u"Europe/Paris"_s);

@@ -19,7 +19,9 @@ class TimeZoneCatalogue {
 public:
     struct Entry {
         TimeZone zone;
-        QString searchText; ///< the identifier in lower case, with spaces for underscores
+        QString searchText;    ///< the identifier in lower case, with spaces for underscores
+        QStringList countries; ///< as codes of ISO 3166
+        QStringList oldNames;  ///< identifiers that lead to the zone
     };
 
     TimeZoneCatalogue(const ZoneDatabase& database, Instant instant);

@@ -38,7 +38,7 @@ public:
         const Dependencies& dependencies,
         QWidget* parent = nullptr);
 
-    /// The catalogue in its order, by the search text.
+    /// The catalogue, or what the search text finds in it.
     [[nodiscard]] std::vector<TimeZone> filtered() const;
 
     /// Adds the zone to the selection, or removes it; the last one stays.

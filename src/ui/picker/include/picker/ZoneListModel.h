@@ -21,6 +21,7 @@ public:
         RegionRole = Qt::UserRole,
         AbbreviationRole,
         OffsetRole,
+        ReasonRole, ///< why a search found the row; empty where the row shows it
         IsHeadRole,
     };
 
@@ -30,12 +31,16 @@ public:
     };
 
     using IsSelected = std::function<bool(const TimeZone&)>;
+    using Reason = std::function<QString(const TimeZone&)>;
 
     /// `clock` must outlive the model; texts are those of the moment in which they are asked for.
     ZoneListModel(
         const Clock& clock, UserLocale locale, IsSelected isSelected, QObject* parent = nullptr);
 
     void setSections(std::vector<Section> sections);
+
+    /// Asked for each row that is seen.
+    void setReason(Reason reason) { m_reason = std::move(reason); }
 
     /// Null for a head, and outside the list.
     [[nodiscard]] const TimeZone* zoneAt(const QModelIndex& index) const;
@@ -48,6 +53,9 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 protected:
+    /// "for Boston"; empty for a row without a reason.
+    [[nodiscard]] QString reasonText(const TimeZone& zone) const;
+
     /// What the row of a zone shows now.
     [[nodiscard]] virtual QVariant zoneData(const TimeZone& zone, int role) const;
 
@@ -61,6 +69,7 @@ private:
     const Clock& m_clock;
     UserLocale m_locale;
     IsSelected m_isSelected;
+    Reason m_reason;
     std::vector<Item> m_items;
 };
 
