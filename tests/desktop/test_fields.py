@@ -79,6 +79,8 @@ class TextFields(DesktopCase):
         self.keyboard.tap(Key.T)
         self.wait_text("t")
         self.keyboard.tap(*_SELECT_ALL)
+        # Who takes Ctrl+C is decided when it is pressed, and assistive technology delays other keys.
+        wait_until(self.field.has_selection, "the text to be selected")
         self.keyboard.tap(*_COPY)
         self.keyboard.tap(Key.END)
         self.keyboard.tap(*_PASTE)

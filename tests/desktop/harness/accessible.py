@@ -59,6 +59,10 @@ class Accessible:
         """The whole text of an object that holds one."""
         return self._call(_TEXT, "GetText", "(ii)", 0, -1)
 
+    def has_selection(self) -> bool:
+        """Whether a part of the text is selected."""
+        return self._call(_TEXT, "GetNSelections") > 0
+
     def has(self, state: State) -> bool:
         """Whether a state is set."""
         words = self._call(_ACCESSIBLE, "GetState")
