@@ -45,6 +45,10 @@ void PopoverPresentation::setupPopover() {
 }
 
 void PopoverPresentation::show(InputDevice device) {
+    // A compositing manager may have come or gone since it was made.
+    const bool isComposited = m_dependencies.windowTraits.isComposited();
+    if (m_popover && !m_popover->isVisible() && m_popover->isComposited() != isComposited)
+        discard();
     setupPopover();
     if (!m_popover->isVisible())
         FocusRing::of(*m_popover)->setLastInput(device);

@@ -20,6 +20,8 @@ public:
     /// Takes ownership of the content, whose layout decides the height.
     StatusPopover(QWidget* content, Background background);
 
+    [[nodiscard]] bool isComposited() const { return m_surface.isComposited(); }
+
     /// What the content needs, at least the panel's minimum, in points.
     [[nodiscard]] int contentHeight() const;
 

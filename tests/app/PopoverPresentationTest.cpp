@@ -79,6 +79,17 @@ TEST_F(PopoverPresentationTest, FadesInWhereWindowsAreComposited) {
     EXPECT_TRUE(QTest::qWaitFor([] { return popover()->windowOpacity() == 1; }));
 }
 
+TEST_F(PopoverPresentationTest, HasItsShadowAtTheNextShowAfterACompositingManagerCame) {
+    launchAs(PresentationMode::Popover);
+    const auto plain = popover()->size();
+    static_cast<FakeWindowTraits&>(*platform.windowTraits).setComposited(true);
+    pressShortcut();
+    ASSERT_FALSE(isShown(popover()));
+    pressShortcut();
+    ASSERT_TRUE(isShown(popover()));
+    EXPECT_EQ(popover()->size(), plain.grownBy({9, 3, 9, 15}));
+}
+
 TEST_F(PopoverPresentationTest, ShowsAtOnceWhereWindowsAreNotComposited) {
     launchAs(PresentationMode::Popover);
     EXPECT_EQ(popover()->windowOpacity(), 1);
