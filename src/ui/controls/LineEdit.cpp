@@ -49,10 +49,12 @@ void LineEdit::paste() {
 }
 
 bool LineEdit::event(QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride && !hasSelectedText() &&
+    if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
-        event->ignore();
-        return false;
+        // Whether anything is selected shows when the key itself comes: keys before it, such as
+        // those that select, may still be on their way.
+        event->accept();
+        return true;
     }
     return QLineEdit::event(event);
 }
@@ -60,6 +62,8 @@ bool LineEdit::event(QEvent* event) {
 void LineEdit::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Paste))
         pasteFrom(pastedBy(*event));
+    else if (event->matches(QKeySequence::Copy) && !hasSelectedText())
+        event->ignore();
     else
         QLineEdit::keyPressEvent(event);
 }

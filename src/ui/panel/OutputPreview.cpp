@@ -132,11 +132,11 @@ FocusOutline OutputPreview::focusOutline() const {
 }
 
 bool OutputPreview::event(QEvent* event) {
-    // Without a selection the keys for copying are the window's.
+    // Whether anything is selected shows when the key itself comes.
     if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
-        event->setAccepted(textCursor().hasSelection());
-        return event->isAccepted();
+        event->accept();
+        return true;
     }
     return QPlainTextEdit::event(event);
 }
@@ -176,7 +176,10 @@ void OutputPreview::keyPressEvent(QKeyEvent* event) {
         contextMenuEvent(&request);
         return;
     }
-    QPlainTextEdit::keyPressEvent(event);
+    if (event->matches(QKeySequence::Copy) && !textCursor().hasSelection())
+        event->ignore();
+    else
+        QPlainTextEdit::keyPressEvent(event);
 }
 
 void OutputPreview::contextMenuEvent(QContextMenuEvent* event) {

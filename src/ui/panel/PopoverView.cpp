@@ -82,6 +82,8 @@ void PopoverView::togglePresentationMode() {
 void PopoverView::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
         m_callbacks.onClose();
+    else if (event->matches(QKeySequence::Copy) && !event->isAutoRepeat())
+        m_actionBar->copyButton().click();
     else
         QWidget::keyPressEvent(event);
 }
@@ -163,7 +165,7 @@ void PopoverView::addShortcuts() {
     add(Qt::CTRL | Qt::Key_Return, insert);
     add(Qt::CTRL | Qt::Key_Enter, insert);
     add(preferencesKeys, [this] { m_callbacks.onShowPreferences(); });
-    // A text field that has something to copy takes them for itself.
+    // A text field takes them for itself, and hands them on where it has nothing to copy.
     for (const auto& keys : QKeySequence::keyBindings(QKeySequence::Copy))
         add(keys, [this] { m_actionBar->copyButton().click(); });
 }

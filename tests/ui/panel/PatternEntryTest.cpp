@@ -91,6 +91,7 @@ TEST_F(PatternEntryTest, MarkMovesWithTheTextWhereTheFieldScrolls) {
     enter(u"'a long text that needs more room than the field can have at once, and some more' n"_s);
     const auto [first, last] = marked();
     EXPECT_GT(first, pattern.width() - 80);
+    EXPECT_GT(last, first);
     EXPECT_LT(last, pattern.width() - 28);
     pattern.setCursorPosition(0);
     EXPECT_EQ(marked().second, -1);
