@@ -35,7 +35,10 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            m_dependencies.zones,
            m_dependencies.locale}),
       m_trayIcon(
-          {*m_dependencies.platform.statusBar, m_dependencies.mainQueue}, trayIconCallbacks()),
+          {*m_dependencies.platform.statusBar,
+           *m_dependencies.platform.appearance,
+           m_dependencies.mainQueue},
+          trayIconCallbacks()),
       m_previousFrontmostApp(*m_dependencies.platform.workspace),
       m_presentation(
           {m_model,

@@ -72,6 +72,9 @@ public:
 
     void showPreferences();
 
+    /// More is known of how the desktop looks than its palette tells.
+    void appearanceChanged() { m_trayIcon.refreshImage(); }
+
     /// Shows where an update would come from.
     void checkForUpdates();
 

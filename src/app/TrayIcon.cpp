@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TrayIcon.h"
 
-#include <controls/SymbolIcon.h>
-
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPointer>
@@ -25,7 +23,11 @@ void TrayIcon::makeStatusItem() {
     m_statusItem = m_dependencies.statusBar.makeStatusItem(contextMenu());
     if (!m_statusItem)
         return;
-    applyIconImage();
+    refreshImage();
+    m_statusItem->onTextColorChanged([self = QPointer(this)] {
+        if (self)
+            self->refreshImage();
+    });
     m_statusItem->setToolTip(m_notice);
     m_statusItem->onClicked([self = QPointer(this)](StatusItem::Click click) {
         if (self)
@@ -58,15 +60,28 @@ std::optional<QRect> TrayIcon::frame() const {
 bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
     // The desktop may change between its dark and its light scheme at any time.
     if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
-        applyIconImage();
+        refreshImage();
     return QObject::eventFilter(watched, event);
 }
 
-void TrayIcon::applyIconImage() {
-    if (m_statusItem)
-        m_statusItem->setImage(
-            symbolIcon(Symbol::CalendarBadgeClock, SymbolColors::of(QGuiApplication::palette())),
-            u"Quorvane"_s);
+void TrayIcon::refreshImage() {
+    if (!m_statusItem)
+        return;
+    // A bar that finds the symbol in its icon theme gives it the colour of its own icons.
+    const auto themeName = u"org.quorvane.Quorvane-symbolic"_s;
+    m_statusItem->setImage(
+        symbolIcon(
+            Symbol::CalendarBadgeClock,
+            colors(),
+            QIcon::hasThemeIcon(themeName) ? themeName : QString()),
+        u"Quorvane"_s);
+}
+
+SymbolColors TrayIcon::colors() const {
+    if (const auto ofBar = m_statusItem->textColor())
+        return {*ofBar};
+    const auto ofDesktop = SymbolColors::of(QGuiApplication::palette());
+    return m_dependencies.appearance.current().scheme ? SymbolColors{ofDesktop.color} : ofDesktop;
 }
 
 void TrayIcon::statusBarButtonClicked(StatusItem::Click click) {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/SymbolIcon.h>
 #include <loop/MainQueue.h>
+#include <platform/Appearance.h>
 #include <platform/StatusBar.h>
 
 #include <QObject>
@@ -19,9 +21,10 @@ class TrayIcon final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive the icon.
+    /// All must outlive the icon.
     struct Dependencies {
         StatusBar& statusBar;
+        const Appearance& appearance;
         MainQueue& mainQueue;
     };
 
@@ -51,11 +54,14 @@ public:
     /// Where the icon is, as far as the desktop tells.
     [[nodiscard]] std::optional<QRect> frame() const;
 
+    /// Draws the icon anew, in what is known by now of the bar and of the desktop.
+    void refreshImage();
+
     /// Follows the application's palette.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void applyIconImage();
+    [[nodiscard]] SymbolColors colors() const;
     void statusBarButtonClicked(StatusItem::Click click);
     void showContextMenu();
     [[nodiscard]] StatusMenu contextMenu() const;

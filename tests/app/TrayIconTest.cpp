@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DelegateFixture.h"
 
+#include <controls/SymbolIcon.h>
+
 #include <QApplication>
 #include <gmock/gmock.h>
 
@@ -17,6 +19,12 @@ protected:
         for (const auto& entry : menu)
             titles.append(entry.isSeparator() ? u"-"_s : entry.title);
         return titles;
+    }
+
+    [[nodiscard]] QImage pictureShown() const { return statusBar->image.pixmap(22).toImage(); }
+
+    static QImage pictureIn(const SymbolColors& colors) {
+        return symbolIcon(Symbol::CalendarBadgeClock, colors).pixmap(22).toImage();
     }
 
     const QStringList menuTitles{
@@ -102,6 +110,27 @@ TEST_F(TrayIconTest, PictureFollowsThePalette) {
     QApplication::setPalette(dark);
     EXPECT_THAT(calls(), testing::Contains("setImage Quorvane"));
     QApplication::setPalette(QPalette());
+}
+
+TEST_F(TrayIconTest, IconIsInTheColourThatTheBarWritesIn) {
+    statusBar->textColor = Qt::green;
+    launch();
+    EXPECT_EQ(pictureShown(), pictureIn({Qt::green}));
+    statusBar->changeTextColor(Qt::red);
+    EXPECT_EQ(pictureShown(), pictureIn({Qt::red}));
+}
+
+TEST_F(TrayIconTest, HaloIsSeenOnlyWhileNothingIsKnownOfTheBar) {
+    launch();
+    const auto ofDesktop = SymbolColors::of(QApplication::palette());
+    EXPECT_EQ(pictureShown(), pictureIn(ofDesktop));
+    // The palette is the same: light, as it was assumed to be.
+    appearance->change({.scheme = DesktopAppearance::Scheme::Light});
+    delegate->appearanceChanged();
+    EXPECT_EQ(pictureShown(), pictureIn({ofDesktop.color}));
+    EXPECT_NE(pictureIn({ofDesktop.color}), pictureIn(ofDesktop));
+    statusBar->changeTextColor(Qt::white);
+    EXPECT_EQ(pictureShown(), pictureIn({Qt::white}));
 }
 
 } // namespace

@@ -8,6 +8,7 @@ from harness.keys import Key
 from harness.quorvane import Quorvane, settings_file
 from harness.status_item import SEPARATOR, StatusItem
 from harness.tray import Tray
+from harness.waiting import wait_until
 
 _MENU = ["Preferences…", "Check for Updates…", SEPARATOR, "Quit Quorvane"]
 _PREFERENCES = "Quorvane Preferences"
@@ -82,6 +83,25 @@ class Items(TrayCase):
         )
         item.choose("Quit Quorvane")
         self.assertEqual(0, quorvane.process.wait(10))
+
+    def test_the_icon_is_light_on_a_dark_bar_though_the_desktop_is_light(self) -> None:
+        self.tray = Tray(self.session, dark=True)
+        self.tray.start()
+        self.tray.wait_no_icon()
+        bar = self.tray.shades()[0]
+        self.with_settings(presentationMode="Window").wait_active()
+        self.tray.wait_icon()
+        wait_until(lambda: self.tray.shades()[-1] > 200, "a light icon")
+        self.assertGreaterEqual(self.tray.shades()[0], bar, "no halo")
+
+    def test_the_icon_is_dark_on_a_light_bar(self) -> None:
+        self.tray.start()
+        self.tray.wait_no_icon()
+        bar = self.tray.shades()[-1]
+        self.with_settings(presentationMode="Window").wait_active()
+        self.tray.wait_icon()
+        wait_until(lambda: self.tray.shades()[0] < 100, "a dark icon")
+        self.assertLessEqual(self.tray.shades()[-1], bar, "no halo")
 
     def test_a_click_hides_the_panel_and_shows_it(self) -> None:
         self.tray.start()

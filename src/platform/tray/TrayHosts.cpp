@@ -37,6 +37,7 @@ TrayHosts::TrayHosts(const QDBusConnection& bus)
       m_statusNotifier(bus) {
     connect(&m_statusNotifier, &StatusNotifierHosts::changed, this, &TrayHosts::update);
     connect(&m_xEmbed, &XEmbedHosts::changed, this, &TrayHosts::update);
+    connect(&m_xEmbed, &XEmbedHosts::textColorChanged, this, &TrayHosts::textColorChanged);
     update();
 }
 

@@ -32,6 +32,11 @@ TrayStatusItem::TrayStatusItem(const TrayHosts& hosts, StatusMenu menu)
     : m_hosts(hosts),
       m_published(std::move(menu)) {
     connect(&m_hosts, &TrayHosts::changed, this, &TrayStatusItem::hostsChanged);
+    connect(&m_hosts, &TrayHosts::textColorChanged, this, [this] {
+        const auto handler = m_textColorChanged;
+        if (handler)
+            handler();
+    });
     if (hasButton())
         makeIcon();
 }

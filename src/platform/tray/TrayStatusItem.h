@@ -29,6 +29,12 @@ public:
 
     void setToolTip(const QString& text) override;
 
+    [[nodiscard]] std::optional<QColor> textColor() const override { return m_hosts.textColor(); }
+
+    void onTextColorChanged(std::function<void()> handler) override {
+        m_textColorChanged = std::move(handler);
+    }
+
     void onClicked(std::function<void(Click)> handler) override { m_clicked = std::move(handler); }
 
     [[nodiscard]] bool isVisible() const override { return m_isVisible; }
@@ -57,6 +63,7 @@ private:
     QString m_toolTip;
     bool m_isVisible = false;
     std::function<void(Click)> m_clicked;
+    std::function<void()> m_textColorChanged;
     std::unique_ptr<QMenu> m_hostsMenu;      ///< what the host draws
     std::unique_ptr<QMenu> m_openMenu;       ///< the last one that we opened
     std::unique_ptr<QSystemTrayIcon> m_icon; ///< once a host has come

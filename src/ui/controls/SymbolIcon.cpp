@@ -18,6 +18,18 @@ namespace {
 /// the device's pixels: some desktops take the largest picture and scale it down. With less, the
 /// smallest icon cannot be read by its halo alone.
 constexpr double haloWidth = 0.75;
+constexpr double haloOpacity = 0.5;
+
+/// How large the drawing is in a bar's icon: as large as the neighbours' is, and a multiple of a
+/// quarter of its grid, so that its edges stay on the pixels.
+int drawingSize(int iconSize) {
+    constexpr int grid = 16;
+    constexpr int step = grid / 4;
+    constexpr double share = 0.75;
+    if (iconSize <= grid)
+        return iconSize;
+    return std::max(grid, static_cast<int>(iconSize * share) / step * step);
+}
 
 /// The sizes that status bars ask for; a desktop that is sent pictures is sent these.
 constexpr std::array barSizes{16, 22, 24, 32, 48};
@@ -30,29 +42,30 @@ QSize devicePixels(const QSize& size, qreal scale) {
 
 class SymbolIconEngine final : public QIconEngine {
 public:
-    SymbolIconEngine(Symbol symbol, const SymbolColors& color) : m_symbol(symbol), m_color(color) {}
+    SymbolIconEngine(Symbol symbol, const SymbolColors& color, const QString& themeName)
+        : m_symbol(symbol),
+          m_color(color),
+          m_themeName(themeName) {}
 
     [[nodiscard]] QIconEngine* clone() const override {
-        return new SymbolIconEngine(m_symbol, m_color);
+        return new SymbolIconEngine(m_symbol, m_color, m_themeName);
     }
 
+    [[nodiscard]] QString iconName() override { return m_themeName; }
+
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
-        const double size = std::min(rect.width(), rect.height());
-        constexpr double haloed = SymbolStyle::regular + 2 * haloWidth;
-        paintSymbol(*painter, m_symbol, {size, haloed}, rect, m_color.halo);
-        paintSymbol(*painter, m_symbol, {size, SymbolStyle::regular}, rect, m_color.color);
+        paintScaled(*painter, rect, 1);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         return scaledPixmap(size, mode, state, 1);
     }
 
-    QPixmap
-    scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode, QIcon::State, qreal scale) override {
         QPixmap pixmap(devicePixels(size, scale));
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
+        paintScaled(painter, pixmap.rect(), scale);
         return pixmap;
     }
 
@@ -66,8 +79,19 @@ public:
     bool isNull() override { return false; }
 
 private:
+    /// `scale` is how many of the rectangle's units are a point.
+    void paintScaled(QPainter& painter, const QRect& rect, qreal scale) const {
+        const int points = qRound(std::min(rect.width(), rect.height()) / scale);
+        const double size = drawingSize(points) * scale;
+        constexpr double haloed = SymbolStyle::regular + 2 * haloWidth;
+        if (m_color.halo.alpha() > 0)
+            paintSymbol(painter, m_symbol, {size, haloed}, rect, m_color.halo);
+        paintSymbol(painter, m_symbol, {size, SymbolStyle::regular}, rect, m_color.color);
+    }
+
     Symbol m_symbol;
     SymbolColors m_color;
+    QString m_themeName;
 };
 
 } // namespace
@@ -75,11 +99,11 @@ private:
 SymbolColors SymbolColors::of(const QPalette& palette) {
     const auto color = palette.color(QPalette::WindowText);
     const bool isDark = contrastRatio(color, Qt::white) > contrastRatio(color, Qt::black);
-    return {color, isDark ? Qt::white : Qt::black};
+    return {color, withOpacity(isDark ? Qt::white : Qt::black, haloOpacity)};
 }
 
-QIcon symbolIcon(Symbol symbol, const SymbolColors& color) {
-    return QIcon(new SymbolIconEngine(symbol, color));
+QIcon symbolIcon(Symbol symbol, const SymbolColors& color, const QString& themeName) {
+    return QIcon(new SymbolIconEngine(symbol, color, themeName));
 }
 
 } // namespace quorvane

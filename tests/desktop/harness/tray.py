@@ -63,13 +63,16 @@ class Tray:
         self._process: subprocess.Popen[bytes] | None = None
         channels = session.directory("config") / "xfce4" / "xfconf" / "xfce-perchannel-xml"
         channels.mkdir(parents=True, exist_ok=True)
+        # The session's own theme would beat the dark variant that the panel asks for.
+        self._theme = {"GTK_THEME": ""} if dark else {}
         configuration = _CONFIGURATION.format(dark=str(dark).lower(), size=_SIZE)
         (channels / "xfce4-panel.xml").write_text(configuration)
 
     def start(self) -> None:
         """Starts the panel and waits until programs can put their icons there."""
         self._process = self._session.start(
-            ["xfce4-panel", "--disable-wm-check"], {"DBUS_SESSION_BUS_ADDRESS": self._bus}
+            ["xfce4-panel", "--disable-wm-check"],
+            {"DBUS_SESSION_BUS_ADDRESS": self._bus} | self._theme,
         )
         wait_until(self._has_item_host, "the tray's host of items")
         wait_until(self._has_embedding_host, "the tray's host of embedded icons")
@@ -98,21 +101,30 @@ class Tray:
         """Waits until it shows none."""
         wait_until(lambda: not self._shows_icon(), "the tray without the icon", interval=0.05)
 
+    def shades(self) -> list[int]:
+        """How bright the pixels at the icon's place are, from 0 to 255, the darkest first."""
+        return sorted(
+            (299 * (color >> 16) + 587 * (color >> 8 & 0xFF) + 114 * (color & 0xFF)) // 1000
+            for color in self._colors()
+        )
+
     def _shows_icon(self) -> bool:
+        # An empty panel has a border line and a background, in a few shades.
+        return len(self._colors()) > 4
+
+    def _colors(self) -> set[int]:
         x, y = self.place()
         display = Display(self._session.display)
         try:
             screen = Picture(display, display.screen().root.id)
         finally:
             display.close()
-        # An empty panel has a border line and a background, in a few shades.
         half = _SIZE // 4
-        seen = {
+        return {
             screen.color(x + across, y + down)
             for across in range(-half, half)
             for down in range(-half, half)
         }
-        return len(seen) > 4
 
     def _has_item_host(self) -> bool:
         bus = MessageBus(self._bus)

@@ -3,6 +3,7 @@
 
 #include <platform/StatusMenu.h>
 
+#include <QColor>
 #include <QIcon>
 #include <QRect>
 #include <QString>
@@ -29,6 +30,13 @@ public:
 
     /// What shows while the pointer rests on the icon; where it is empty, the name.
     virtual void setToolTip(const QString& text) = 0;
+
+    /// The colour that the bar itself writes in, as far as it tells: a picture in this colour is as
+    /// easy to see as the rest of the bar.
+    [[nodiscard]] virtual std::optional<QColor> textColor() const = 0;
+
+    /// Called when textColor() may have become another; replaces an earlier handler.
+    virtual void onTextColorChanged(std::function<void()> handler) = 0;
 
     /// Called for each click on the icon; replaces an earlier handler. A desktop that shows the
     /// menu by itself reports no right clicks.

@@ -30,6 +30,13 @@ public:
             m_item->clicked(click);
     }
 
+    /// The bar takes on another look, or comes with one.
+    void changeTextColor(std::optional<QColor> color) {
+        textColor = color;
+        if (m_item != nullptr && m_item->textColorChanged)
+            m_item->textColorChanged();
+    }
+
     [[nodiscard]] bool isItemVisible() const { return m_item != nullptr && m_item->visible; }
 
     [[nodiscard]] const StatusMenu& attachedMenu() const { return m_item->menu; }
@@ -39,6 +46,8 @@ public:
     std::optional<QRect> frame = QRect(600, 0, 22, 22);
     StatusMenu publishedMenu;
     QString toolTip;
+    QIcon image;
+    std::optional<QColor> textColor;
 
 private:
     class Item final : public StatusItem {
@@ -53,12 +62,19 @@ private:
         [[nodiscard]] bool hasButton() const override { return m_bar.hasButton; }
 
         void setImage(const QIcon& image, const QString& accessibilityDescription) override {
+            m_bar.image = image;
             m_bar.m_log.add(
                 std::string(image.isNull() ? "setImage none " : "setImage ") +
                 accessibilityDescription.toStdString());
         }
 
         void setToolTip(const QString& text) override { m_bar.toolTip = text; }
+
+        [[nodiscard]] std::optional<QColor> textColor() const override { return m_bar.textColor; }
+
+        void onTextColorChanged(std::function<void()> handler) override {
+            textColorChanged = std::move(handler);
+        }
 
         void onClicked(std::function<void(Click)> handler) override {
             clicked = std::move(handler);
@@ -83,6 +99,7 @@ private:
         bool visible = false;
         StatusMenu menu;
         std::function<void(Click)> clicked;
+        std::function<void()> textColorChanged;
 
     private:
         FakeStatusBar& m_bar;

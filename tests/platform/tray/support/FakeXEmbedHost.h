@@ -4,9 +4,12 @@
 #include <x11_server/QtX11.h>
 #include <x11_server/X11Connection.h>
 #include <x11_server/X11HiddenWindow.h>
+#include <x11_server/X11PropertyValue.h>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace quorvane {
 
@@ -24,6 +27,16 @@ public:
     ~FakeXEmbedHost() {
         qtx11::waitForServer();
         m_window.reset();
+        m_connection->waitForServer();
+    }
+
+    /// Three or more numbers of 16 bits each; the first three are those of texts.
+    void tellColors(const std::vector<std::uint32_t>& numbers) {
+        writePropertyValue(
+            *m_connection,
+            m_window->id(),
+            m_connection->atom("_NET_SYSTEM_TRAY_COLORS"),
+            propertyValue(XCB_ATOM_CARDINAL, numbers));
         m_connection->waitForServer();
     }
 

@@ -36,9 +36,16 @@ public:
     /// Whether one is there now.
     [[nodiscard]] bool areThere() const { return m_areThere; }
 
+    /// The colour that the bar writes in, as far as it tells. Panels that host both kinds of icons
+    /// tell it in the way of XEmbed, and mean all of them.
+    [[nodiscard]] std::optional<QColor> textColor() const { return m_xEmbed.textColor(); }
+
 Q_SIGNALS:
     /// The first one has come, or the last one has gone.
     void changed();
+
+    /// textColor() may have become another.
+    void textColorChanged();
 
 private:
     void update();

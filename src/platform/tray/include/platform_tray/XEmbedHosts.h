@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <QColor>
 #include <QObject>
 
 #include <cstdint>
@@ -25,11 +26,18 @@ public:
 
     [[nodiscard]] bool isThere() const { return m_isThere; }
 
+    /// The colour that the host's bar writes in (_NET_SYSTEM_TRAY_COLORS); none where there is no
+    /// host, or one that does not tell.
+    [[nodiscard]] std::optional<QColor> textColor() const;
+
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
 
 Q_SIGNALS:
     /// In an iteration of the event loop of its own, not while Qt filters events.
     void changed();
+
+    /// textColor() may have become another; likewise.
+    void textColorChanged();
 
 private:
     struct Selection {
@@ -38,9 +46,12 @@ private:
     };
 
     void follow();
+    void watchHost(std::uint32_t window);
 
     std::optional<Selection> m_selection;
     bool m_isThere = false;
+    std::uint32_t m_host = 0;   ///< its window, none if 0
+    std::uint32_t m_colors = 0; ///< the name of the property that tells the bar's colours
 };
 
 } // namespace quorvane
