@@ -2,9 +2,11 @@
 #include "AppearanceFollower.h"
 
 #include <controls/Theme.h>
+#include <controls/ToolTipStyle.h>
 
 #include <QApplication>
-#include <QProxyStyle>
+
+#include <utility>
 
 namespace quorvane {
 
@@ -41,10 +43,12 @@ QFont fontFor(const DesktopAppearance& appearance, const QFont& otherwise) {
 
 } // namespace
 
-/// The desktop's style, with as much motion as the user wants. Whatever moves, ours or Qt's, asks
-/// the style how long that takes, each time it starts to move.
-class AppearanceFollower::MotionStyle final : public QProxyStyle {
+/// The desktop's style, with our tooltips and as much motion as the user wants. Whatever moves,
+/// ours or Qt's, asks the style how long that takes, each time it starts to move.
+class AppearanceFollower::MotionStyle final : public ToolTipStyle {
 public:
+    using ToolTipStyle::ToolTipStyle;
+
     void setMotionWanted(bool isWanted) { m_isMotionWanted = isWanted; }
 
     int styleHint(
@@ -54,7 +58,7 @@ public:
         QStyleHintReturn* returned = nullptr) const override {
         if (!m_isMotionWanted && hint == SH_Widget_Animation_Duration)
             return 0;
-        return QProxyStyle::styleHint(hint, option, widget, returned);
+        return ToolTipStyle::styleHint(hint, option, widget, returned);
     }
 
 private:
@@ -76,12 +80,13 @@ AppearanceFollower::FontFrom AppearanceFollower::fontSource() {
     return isBuiltIn ? FontFrom::BuiltIn : FontFrom::Desktop;
 }
 
-AppearanceFollower::AppearanceFollower(Appearance& appearance, PaletteFrom palette, FontFrom font)
+AppearanceFollower::AppearanceFollower(
+    Appearance& appearance, PaletteFrom palette, FontFrom font, PopoverEffects effects)
     : m_appearance(appearance),
       m_paletteFrom(palette),
       m_fontFrom(font),
       m_ownFont(QApplication::font()),
-      m_style(new MotionStyle) {
+      m_style(new MotionStyle(std::move(effects))) {
     QApplication::setStyle(m_style);
     apply();
     m_appearance.onChanged([this] { apply(); });
@@ -100,6 +105,8 @@ void AppearanceFollower::apply() {
     const auto font = fontFor(wanted, m_ownFont);
     if (m_fontFrom == FontFrom::BuiltIn && QApplication::font() != font)
         QApplication::setFont(font);
+    if (m_applied)
+        m_applied();
 }
 
 } // namespace quorvane

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <controls/PopoverEffects.h>
 #include <platform/Appearance.h>
 
 #include <QFont>
 #include <QPointer>
+
+#include <functional>
+#include <utility>
 
 namespace quorvane {
 
@@ -23,8 +27,13 @@ public:
     /// Where its font comes from.
     [[nodiscard]] static FontFrom fontSource();
 
-    AppearanceFollower(Appearance& appearance, PaletteFrom palette, FontFrom font);
+    /// `effects` are those of tooltips.
+    AppearanceFollower(
+        Appearance& appearance, PaletteFrom palette, FontFrom font, PopoverEffects effects = {});
     ~AppearanceFollower();
+
+    /// Called after each change, once all of it shows; replaces an earlier handler.
+    void onApplied(std::function<void()> handler) { m_applied = std::move(handler); }
 
     AppearanceFollower(const AppearanceFollower&) = delete;
     AppearanceFollower& operator=(const AppearanceFollower&) = delete;
@@ -37,7 +46,8 @@ private:
     Appearance& m_appearance;
     PaletteFrom m_paletteFrom;
     FontFrom m_fontFrom;
-    QFont m_ownFont;               ///< for when the desktop names none any more
+    QFont m_ownFont; ///< for when the desktop names none any more
+    std::function<void()> m_applied;
     QPointer<MotionStyle> m_style; ///< null once a desktop has replaced it
 };
 

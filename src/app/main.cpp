@@ -5,6 +5,7 @@
 #include "Backends.h"
 #include "TerminationSignals.h"
 
+#include <controls/ToolTipWrapping.h>
 #include <loop/Failure.h>
 #include <loop/QtMainQueue.h>
 #include <platform_dbus/DBusApplicationInstance.h>
@@ -69,10 +70,14 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
     WindowFrameStore windowFrames(folders.windowsFile(), writer);
     auto platform = makePlatformServices(
         environment, QGuiApplication::platformName(), mainQueue, endingIn(mainQueue));
-    const AppearanceFollower appearanceFollower(
+    AppearanceFollower appearanceFollower(
         *platform.appearance,
         AppearanceFollower::paletteSource(),
-        AppearanceFollower::fontSource());
+        AppearanceFollower::fontSource(),
+        {[&platform] {
+            return platform.windowTraits->isComposited();
+        }});
+    const ToolTipWrapping toolTips;
 
     AppDelegate delegate(
         {clock,
@@ -83,6 +88,7 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
          UserLocale::fromEnvironment(environment),
          mainQueue,
          platform});
+    appearanceFollower.onApplied([&] { delegate.appearanceChanged(); });
     mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
     // Through the queue as well, so that requests from the bus run after the launch.
     instance.onReopen([&] { mainQueue.async([&] { delegate.surfaceMainUIForReopen(); }); });

@@ -2,6 +2,8 @@
 #include "Gallery.h"
 #include "PanelScene.h"
 
+#include <controls/ToolTipStyle.h>
+#include <controls/ToolTipWrapping.h>
 #include <loop/QtMainQueue.h>
 
 #include <QApplication>
@@ -9,6 +11,8 @@
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
+    QApplication::setStyle(new quorvane::ToolTipStyle);
+    const quorvane::ToolTipWrapping toolTips;
     quorvane::Gallery gallery;
     gallery.resize(gallery.widget()->size().boundedTo({1760, 900}));
     gallery.show();
