@@ -9,6 +9,7 @@
 #include <controls/SearchField.h>
 #include <controls/TextStyle.h>
 #include <picker/ZoneList.h>
+#include <platform/KeyCodes.h>
 #include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>
@@ -33,7 +34,7 @@ constexpr int noteGap = 12;
 constexpr int titleHeight = 36;
 constexpr double windowRadius = 12;
 constexpr int closeInset = 4;
-constexpr int windows = 3;
+constexpr int windows = 5;
 constexpr QSize boardSize{
     margin + windows * (preferencesmetrics::size.width() + margin),
     2 * margin + noteHeight + noteGap + titleHeight + preferencesmetrics::size.height()};
@@ -97,6 +98,23 @@ PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidge
         ShortcutRecorder::Activity::HeldElsewhere)
         .findChild<SearchField*>()
         ->setText(u"la"_s);
+
+    addWindow(
+        u"Starred only, without favourites"_s,
+        Icons::MenuBar,
+        ShortcutRecorder::Activity::Active,
+        [](DateTimeModel& model) { model.setFavoriteTimeZoneIdentifiers({}); })
+        .findChild<CheckBox*>()
+        ->click();
+
+    addWindow(
+        u"Every zone a favourite; a key that this keyboard lacks"_s,
+        Icons::MenuBar,
+        ShortcutRecorder::Activity::NoSuchKey,
+        [](DateTimeModel& model) {
+            model.setFavoriteTimeZoneIdentifiers(sample::everyZone());
+            model.setHotKey({keycode::leftArrow, combomodifier::control | combomodifier::option});
+        });
 }
 
 PreferencesBoard::~PreferencesBoard() = default;
@@ -124,15 +142,20 @@ void PreferencesBoard::paintEvent(QPaintEvent* /*event*/) {
 void PreferencesBoard::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     hover(*m_samples.front()->view, u"Pago Pago"_s);
-    hover(*m_samples.back()->view, u"Nome"_s);
+    hover(*m_samples[2]->view, u"Nome"_s);
 }
 
-PreferencesView&
-PreferencesBoard::addWindow(const QString& note, Icons icons, ShortcutRecorder::Activity activity) {
+PreferencesView& PreferencesBoard::addWindow(
+    const QString& note,
+    Icons icons,
+    ShortcutRecorder::Activity activity,
+    const std::function<void(DateTimeModel&)>& prepare) {
     const auto frame = frameOf(m_samples.size());
     auto& sample = *m_samples.emplace_back(std::make_unique<Sample>());
     sample.model.setShowInMenuBar(icons != Icons::Nowhere);
     sample.model.setShowInDock(icons == Icons::Everywhere);
+    if (prepare)
+        prepare(sample.model);
     sample.view = std::make_unique<PreferencesView>(
         sample.model,
         PreferencesView::Dependencies{

@@ -12,10 +12,11 @@
 
 namespace quorvane {
 
+class DateTimeModel;
 class PreferencesView;
 
-/// The preferences in three states: as they open, recording a shortcut with the favourites alone
-/// in the list, and searching.
+/// The preferences in five states: as they open, recording a shortcut with the favourites alone in
+/// the list, searching, without favourites, and with every zone a favourite.
 class PreferencesBoard final : public QWidget {
     Q_OBJECT
 
@@ -40,7 +41,8 @@ private:
     PreferencesView& addWindow(
         const QString& note,
         Icons icons,
-        ShortcutRecorder::Activity activity = ShortcutRecorder::Activity::Active);
+        ShortcutRecorder::Activity activity = ShortcutRecorder::Activity::Active,
+        const std::function<void(DateTimeModel&)>& prepare = {});
     [[nodiscard]] QRect frameOf(std::size_t index) const;
 
     std::vector<std::unique_ptr<Sample>> m_samples;

@@ -4,6 +4,7 @@
 #include <platform/KeyCodes.h>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
+#include <timezones/TimeZoneCatalogue.h>
 
 namespace quorvane::sample {
 
@@ -37,6 +38,14 @@ FakeKeyboardLayout keyboard() {
 
 EntryDependencies entryDependencies() {
     return {clock(), currentZone(), locale(), {}};
+}
+
+QStringList everyZone() {
+    QStringList identifiers;
+    const TimeZoneCatalogue catalogue(zones(), now);
+    for (const auto& entry : catalogue.entries())
+        identifiers.append(entry.zone.identifier());
+    return identifiers;
 }
 
 void selectZones(DateTimeModel& model, const QStringList& identifiers) {

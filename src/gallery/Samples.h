@@ -23,6 +23,9 @@ inline constexpr Instant daysLater{1795550400}; ///< 2026-11-24T20:00:00Z
 
 [[nodiscard]] EntryDependencies entryDependencies();
 
+/// The identifiers of all zones that lists offer, in their order.
+[[nodiscard]] QStringList everyZone();
+
 /// Identifiers that name no zone are left out.
 void selectZones(DateTimeModel& model, const QStringList& identifiers);
 
