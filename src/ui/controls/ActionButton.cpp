@@ -30,7 +30,7 @@ ActionButton::ActionButton(
 
 QSize ActionButton::sizeHint() const {
     const auto label = QFontMetricsF(labelFont()).horizontalAdvance(text());
-    const double content = SymbolStyle().size + spacing + std::ceil(label);
+    const double content = besideText(font(), SymbolStyle()).size + spacing + std::ceil(label);
     return {static_cast<int>(content) + 2 * horizontalPadding, buttonHeight};
 }
 
@@ -44,7 +44,7 @@ void ActionButton::paintControl(QPainter& painter, const Theme& theme) {
 }
 
 void ActionButton::paintFace(QPainter& painter, const Theme& theme) {
-    const bool prominent = m_prominence == Prominence::Prominent;
+    const bool prominent = isFilled(theme);
     paint(
         painter,
         {m_symbol,
@@ -55,7 +55,7 @@ void ActionButton::paintFace(QPainter& painter, const Theme& theme) {
 
 void ActionButton::paint(QPainter& painter, const Face& face) const {
     ContentRow row(spacing);
-    row.addSymbol(face.symbol, {}, face.symbolColor);
+    row.addSymbol(face.symbol, besideText(font(), SymbolStyle()), face.symbolColor);
     row.addText(face.label, labelFont(), face.labelColor);
     QRectF place(0, 0, row.width(), height());
     place.moveCenter(QRectF(rect()).center());
@@ -67,8 +67,13 @@ QFont ActionButton::labelFont() const {
     return textFont(font(), TextStyle::Body, prominent ? QFont::DemiBold : QFont::Medium);
 }
 
+/// Text on a fill that is dimmed cannot be read: where contrast matters, a frame is left of it.
+bool ActionButton::isFilled(const Theme& theme) const {
+    return m_prominence == Prominence::Prominent && (isEnabled() || !theme.isHighContrast);
+}
+
 void ActionButton::paintSurface(QPainter& painter, const Theme& theme) const {
-    if (m_prominence == Prominence::Prominent)
+    if (isFilled(theme))
         fillRounded(painter, rect(), cornerRadius(), accentFill(visualState(), theme));
     else
         ChipSurface::paint(painter, rect(), theme, visualState());

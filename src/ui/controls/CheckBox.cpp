@@ -13,7 +13,7 @@ namespace quorvane {
 
 namespace {
 
-constexpr int boxSize = 16;
+constexpr int usualBoxSize = 16;
 constexpr int labelGap = 8;
 constexpr int rowHeight = 24;
 constexpr double boxRadius = 4.5;
@@ -32,7 +32,7 @@ QSize CheckBox::sizeHint() const {
         return {rowHeight, rowHeight};
     const QFontMetricsF metrics(textFont(font(), TextStyle::Body));
     const auto label = static_cast<int>(std::ceil(metrics.horizontalAdvance(text())));
-    return {boxSize + labelGap + label, std::max(rowHeight, qRound(metrics.height()))};
+    return {boxSize() + labelGap + label, std::max(rowHeight, qRound(metrics.height()))};
 }
 
 FocusOutline CheckBox::focusOutline() const {
@@ -49,7 +49,7 @@ double CheckBox::disabledOpacity() const {
 
 void CheckBox::paintControl(QPainter& painter, const Theme& theme) {
     paintBox(painter, theme);
-    const QRect label = rect().adjusted(boxSize + labelGap, 0, 0, 0);
+    const QRect label = rect().adjusted(boxSize() + labelGap, 0, 0, 0);
     painter.setFont(textFont(font(), TextStyle::Body));
     painter.setPen(theme.text);
     painter.drawText(
@@ -59,9 +59,14 @@ void CheckBox::paintControl(QPainter& painter, const Theme& theme) {
         text());
 }
 
+int CheckBox::boxSize() const {
+    return besideText(font(), usualBoxSize);
+}
+
 QRectF CheckBox::box() const {
-    const int inset = text().isEmpty() ? (width() - boxSize) / 2 : 0;
-    const QRect place(inset, (height() - boxSize) / 2, boxSize, boxSize);
+    const int size = boxSize();
+    const int inset = text().isEmpty() ? (width() - size) / 2 : 0;
+    const QRect place(inset, (height() - size) / 2, size, size);
     return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 
@@ -71,7 +76,7 @@ void CheckBox::paintBox(QPainter& painter, const Theme& theme) const {
         return;
     }
     fillRounded(painter, box(), boxRadius, accentFill(visualState(), theme));
-    paintSymbol(painter, Symbol::Checkmark, markStyle, box(), theme.onAccent);
+    paintSymbol(painter, Symbol::Checkmark, besideText(font(), markStyle), box(), theme.onAccent);
 }
 
 void CheckBox::paintEmptyBox(QPainter& painter, const Theme& theme) const {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int symbolGap = 8;
 constexpr int keysDistance = 32;
-constexpr SymbolStyle symbolStyle{};
+constexpr int symbolSize = 16;
 
 } // namespace
 
@@ -27,16 +27,16 @@ CommandRow::CommandRow(
 }
 
 QSize CommandRow::sizeHint() const {
-    const int symbol = static_cast<int>(symbolStyle.size);
+    const int symbol = besideText(font(), symbolSize);
     const int keys = m_keys.isEmpty() ? 0 : keysDistance + keysWidth();
     return {2 * horizontalPadding + symbol + symbolGap + titleWidth() + keys, rowHeight};
 }
 
 void CommandRow::paintContent(QPainter& painter, const Theme& theme) {
-    const int symbol = static_cast<int>(symbolStyle.size);
+    const int symbol = besideText(font(), symbolSize);
     const auto color = hasFocus() || isDown() ? theme.text : theme.secondaryText;
     const QRect symbolPlace(horizontalPadding, 0, symbol, rowHeight);
-    paintSymbol(painter, m_symbol, symbolStyle, placed(symbolPlace), color);
+    paintSymbol(painter, m_symbol, {static_cast<double>(symbol)}, placed(symbolPlace), color);
     const int titleStart = horizontalPadding + symbol + symbolGap;
     const auto rest = rect().adjusted(titleStart, 0, -horizontalPadding, 0);
     paintTitle(painter, theme, rest);

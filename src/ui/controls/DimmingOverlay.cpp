@@ -6,7 +6,17 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace quorvane {
+
+namespace {
+
+constexpr double leastHighContrastOpacity = 0.6;
+constexpr double frameWidth = 1;
+constexpr double frameRadius = 8;
+
+} // namespace
 
 DimmingOverlay::DimmingOverlay(QWidget* dimmed) : QWidget(dimmed) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -33,7 +43,21 @@ bool DimmingOverlay::eventFilter(QObject* watched, QEvent* event) {
 
 void DimmingOverlay::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), withOpacity(Theme::of(palette()).windowBackground, 1 - m_opacity));
+    const auto theme = Theme::of(palette());
+    const double opacity =
+        theme.isHighContrast ? std::max(m_opacity, leastHighContrastOpacity) : m_opacity;
+    painter.fillRect(rect(), withOpacity(theme.windowBackground, 1 - opacity));
+    if (theme.isHighContrast && m_isFramed)
+        paintFrame(painter, theme);
+}
+
+void DimmingOverlay::paintFrame(QPainter& painter, const Theme& theme) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(theme.text, frameWidth);
+    pen.setDashPattern({4, 3});
+    painter.setPen(pen);
+    const QRectF place = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRoundedRect(place, frameRadius, frameRadius);
 }
 
 } // namespace quorvane

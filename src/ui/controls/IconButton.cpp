@@ -59,7 +59,12 @@ double IconButton::cornerRadius() const {
 void IconButton::paintControl(QPainter& painter, const Theme& theme) {
     const auto shown = isExpanded() == true ? VisualState::Pressed : visualState();
     fillRounded(painter, rect(), cornerRadius(), fillOf(m_kind, shown, theme));
-    paintSymbol(painter, m_symbol, {}, rect(), foregroundOf(m_kind, shown, theme));
+    paintSymbol(
+        painter,
+        m_symbol,
+        besideText(font(), SymbolStyle()),
+        rect(),
+        foregroundOf(m_kind, shown, theme));
 }
 
 } // namespace quorvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <controls/DevicePixels.h>
 #include <controls/KeyCap.h>
+#include <controls/SymbolPainter.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
 
@@ -14,14 +15,14 @@ namespace quorvane {
 
 namespace {
 
-constexpr int capSize = 22;
+constexpr int usualCapSize = 22;
 constexpr int horizontalPadding = 5;
 constexpr double cornerRadius = 5;
 constexpr double edgeWidth = 0.5;
 constexpr int fontSize = 12;
 
 QFont capFont(const QFont& font) {
-    return fixedSizeFont(font, fontSize, QFont::DemiBold);
+    return fixedSizeFont(font, besideText(font, fontSize), QFont::DemiBold);
 }
 
 /// Letters stand on the line; whatever is no letter ("…", "-") has no line to stand on.
@@ -75,7 +76,8 @@ KeyCap::KeyCap(const QString& label, QWidget* parent) : QLabel(label, parent) {
 QSize KeyCap::sizeHint() const {
     const QFontMetricsF metrics(capFont(font()));
     const auto label = static_cast<int>(std::ceil(metrics.horizontalAdvance(text())));
-    return {std::max(capSize, label + 2 * horizontalPadding), capSize};
+    const int size = besideText(font(), usualCapSize);
+    return {std::max(size, label + 2 * horizontalPadding), size};
 }
 
 void KeyCap::paintEvent(QPaintEvent* /*event*/) {

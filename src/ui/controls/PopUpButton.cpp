@@ -51,7 +51,7 @@ QSize PopUpButton::sizeHint() const {
     double widest = metrics.horizontalAdvance(text());
     for (const auto& title : m_titles)
         widest = std::max(widest, metrics.horizontalAdvance(title));
-    const double content = std::ceil(widest) + spacing + chevronStyle.size;
+    const double content = std::ceil(widest) + spacing + besideText(font(), chevronStyle).size;
     return {static_cast<int>(content) + 2 * ChipSurface::horizontalPadding, ChipSurface::height};
 }
 
@@ -64,7 +64,8 @@ void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
     ChipSurface::paint(painter, rect(), theme, visualState(), frame);
     constexpr int padding = ChipSurface::horizontalPadding;
     const auto inner = rect().adjusted(padding, 0, -padding, 0);
-    const int chevron = static_cast<int>(chevronStyle.size);
+    const auto style = besideText(font(), chevronStyle);
+    const int chevron = static_cast<int>(style.size);
     const auto placed = [&](const QRect& place) {
         return QStyle::visualRect(layoutDirection(), rect(), place);
     };
@@ -76,7 +77,7 @@ void PopUpButton::paintControl(QPainter& painter, const Theme& theme) {
             Qt::AlignVCenter | Qt::TextSingleLine,
         text());
     const QRect end(inner.right() + 1 - chevron, 0, chevron, height());
-    paintSymbol(painter, Symbol::ChevronDown, chevronStyle, placed(end), theme.secondaryText);
+    paintSymbol(painter, Symbol::ChevronDown, style, placed(end), theme.secondaryText);
 }
 
 } // namespace quorvane

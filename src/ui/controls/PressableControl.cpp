@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace quorvane {
 
 PressableControl::PressableControl(QWidget* parent) : QAbstractButton(parent) {
@@ -45,7 +47,10 @@ void PressableControl::paintEvent(QPaintEvent* /*event*/) {
     layer.fill(Qt::transparent);
     QPainter layerPainter(&layer);
     paintControl(layerPainter, theme);
-    painter.setOpacity(disabledOpacity());
+    constexpr double leastHighContrastOpacity = 0.6;
+    painter.setOpacity(
+        theme.isHighContrast ? std::max(disabledOpacity(), leastHighContrastOpacity)
+                             : disabledOpacity());
     painter.drawPixmap(QPointF(), layer);
 }
 

@@ -64,6 +64,8 @@ bool SearchField::event(QEvent* event) {
 void SearchField::paintSurface(QPainter& painter) {
     const auto theme = Theme::of(surroundingPalette());
     fillRounded(painter, rect(), ChipSurface::cornerRadius, theme.subtleFill);
+    if (theme.isHighContrast)
+        frameRounded(painter, rect(), ChipSurface::cornerRadius, theme.border, 1);
     const QRect lens(sidePadding, 0, lensSize, height());
     paintSymbol(
         painter,

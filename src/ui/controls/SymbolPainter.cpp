@@ -3,9 +3,13 @@
 #include <controls/SymbolPainter.h>
 
 #include <QFile>
+#include <QFontInfo>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
+
+#include <algorithm>
+#include <cmath>
 
 namespace quorvane {
 
@@ -49,6 +53,18 @@ QPixmap cached(Symbol symbol, double strokeWidth, const QColor& color, QSize pix
 }
 
 } // namespace
+
+int besideText(const QFont& body, double points) {
+    constexpr double usualBody = 13;
+    constexpr double leastScale = 0.75;
+    constexpr double leastDifference = 0.1;
+    const double scale = std::max(QFontInfo(body).pixelSize() / usualBody, leastScale);
+    return std::abs(scale - 1) < leastDifference ? qRound(points) : qRound(points * scale);
+}
+
+SymbolStyle besideText(const QFont& body, SymbolStyle style) {
+    return {static_cast<double>(besideText(body, style.size)), style.strokeWidth};
+}
 
 void paintSymbol(
     QPainter& painter, Symbol symbol, SymbolStyle style, const QRectF& rect, const QColor& color) {

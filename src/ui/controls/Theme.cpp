@@ -210,6 +210,7 @@ Theme highContrastTheme(const QPalette& palette) {
     theme.pressOverlay = withOpacity(theme.text, 0.2);
     strengthenForegrounds(theme, active(palette, QPalette::Highlight));
     strengthenEdges(theme);
+    theme.isHighContrast = true;
     return theme;
 }
 

@@ -34,7 +34,7 @@ void CalendarArrow::paintControl(QPainter& painter, const Theme& theme) {
     paintSymbol(
         painter,
         pointsLeft ? Symbol::ChevronLeft : Symbol::ChevronRight,
-        arrowStyle,
+        besideText(font(), arrowStyle),
         rect(),
         visualState() == VisualState::Normal ? theme.secondaryText : theme.text);
 }

@@ -88,7 +88,7 @@ void FieldChip::hideEvent(QHideEvent* event) {
 
 ContentRow FieldChip::contentRow(const Theme& theme) const {
     ContentRow row(spacing);
-    row.addSymbol(m_icon, iconStyle, theme.secondaryText);
+    row.addSymbol(m_icon, besideText(font(), iconStyle), theme.secondaryText);
     row.addText(text(), textFont(font(), TextStyle::Callout), theme.text);
     return row;
 }

@@ -23,7 +23,7 @@ FavoriteSuggestionChip::FavoriteSuggestionChip(
 ContentRow FavoriteSuggestionChip::content(const Theme& theme) const {
     const auto& color = visualState() == VisualState::Normal ? theme.secondaryText : theme.text;
     ContentRow row(spacing);
-    row.addSymbol(Symbol::Plus, markStyle, color);
+    row.addSymbol(Symbol::Plus, besideText(font(), markStyle), color);
     row.addText(text(), labelFont(), color);
     return row;
 }

@@ -10,6 +10,7 @@
 #include <panel/PanelMetrics.h>
 #include <recorder/KeyNames.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -24,7 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int headerHeight = 48;
-constexpr SymbolStyle appSymbol{20, SymbolStyle::regular};
+constexpr int appSymbolSize = 20;
 constexpr int titleGap = 8;
 constexpr int capsGap = 12;
 constexpr int buttonSpacing = 4;
@@ -34,6 +35,8 @@ constexpr int buttonOverhang = 8; ///< what the last button paints ends with the
 
 PopoverHeader::PopoverHeader(Callbacks callbacks, const PopoverEffects& effects, QWidget* parent)
     : QWidget(parent),
+      m_title(new QLabel(u"Quorvane"_s, this)),
+      m_symbolRoom(new QSpacerItem(0, 0, QSizePolicy::Fixed, QSizePolicy::Minimum)),
       m_caps(new KeyCapRow(this)),
       m_presentation(new IconButton(IconButton::Kind::Header, Symbol::Macwindow, {}, this)) {
     setFixedHeight(headerHeight);
@@ -48,15 +51,11 @@ PopoverHeader::PopoverHeader(Callbacks callbacks, const PopoverEffects& effects,
 }
 
 void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
-    constexpr int titleStart =
-        panelmetrics::sideMargin + static_cast<int>(appSymbol.size) + titleGap;
-    auto* title = new QLabel(u"Quorvane"_s, this);
-    title->setFont(textFont(font(), TextStyle::Title));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addSpacing(titleStart);
-    row->addWidget(title);
+    row->addSpacerItem(m_symbolRoom);
+    row->addWidget(m_title);
     row->addSpacing(capsGap);
     row->addWidget(m_caps);
     row->addStretch();
@@ -65,6 +64,21 @@ void PopoverHeader::layOut(const std::vector<QWidget*>& buttons) {
         row->addWidget(button);
     }
     row->addSpacing(panelmetrics::sideMargin - buttonOverhang);
+    followFont();
+}
+
+void PopoverHeader::followFont() {
+    const int symbol = besideText(font(), appSymbolSize);
+    m_symbolRoom->changeSize(
+        panelmetrics::sideMargin + symbol + titleGap, 0, QSizePolicy::Fixed, QSizePolicy::Minimum);
+    m_title->setFont(textFont(font(), TextStyle::Title));
+    layout()->invalidate();
+}
+
+void PopoverHeader::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        followFont();
 }
 
 void PopoverHeader::setShortcut(const HotKeyCombo& shortcut, const KeyboardLayout& layout) {
@@ -84,11 +98,12 @@ void PopoverHeader::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const auto theme = Theme::of(palette());
     painter.fillRect(0, height() - 1, width(), 1, theme.divider);
-    const QRect symbol(panelmetrics::sideMargin, 0, static_cast<int>(appSymbol.size), height());
+    const int size = besideText(font(), appSymbolSize);
+    const QRect symbol(panelmetrics::sideMargin, 0, size, height());
     paintSymbol(
         painter,
         Symbol::CalendarBadgeClock,
-        appSymbol,
+        {static_cast<double>(size)},
         QStyle::visualRect(layoutDirection(), rect(), symbol),
         theme.accentText);
 }

@@ -11,6 +11,9 @@
 #include <functional>
 #include <vector>
 
+class QLabel;
+class QSpacerItem;
+
 namespace quorvane {
 
 class IconButton;
@@ -37,10 +40,15 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void layOut(const std::vector<QWidget*>& buttons);
 
+    void followFont();
+
+    QLabel* m_title;
+    QSpacerItem* m_symbolRoom; ///< owned by the row
     KeyCapRow* m_caps;
     IconButton* m_presentation;
 };

@@ -33,6 +33,7 @@ PreviewSection::PreviewSection(MainQueue& queue, QWidget* parent)
           tr("Choose a time zone"), TextStyle::Callout, WrappedText::Color::Secondary, this)),
       m_reading(queue, *m_preview) {
     label().setBuddy(m_preview);
+    frameWhileUnavailable();
     body().addWidget(m_preview, 1);
     body().addWidget(m_notice);
     m_notice->hide();

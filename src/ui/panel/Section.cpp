@@ -37,4 +37,8 @@ void Section::setAvailable(bool available) {
     m_overlay->setOpacity(available ? 1 : unavailableOpacity);
 }
 
+void Section::frameWhileUnavailable() {
+    m_overlay->setFramed(true);
+}
+
 } // namespace quorvane

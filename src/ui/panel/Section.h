@@ -25,6 +25,9 @@ public:
 protected:
     [[nodiscard]] SectionLabel& label() { return *m_label; }
 
+    /// Lets a frame tell in high contrast that the section cannot be used; see DimmingOverlay.
+    void frameWhileUnavailable();
+
     /// Between the panel's two edges.
     [[nodiscard]] QVBoxLayout& body() { return *m_body; }
 

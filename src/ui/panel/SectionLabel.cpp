@@ -27,12 +27,13 @@ SectionLabel::SectionLabel(const QString& name, Symbol icon, QWidget* parent)
       m_icon(icon),
       m_name(new QLabel(name, this)),
       m_note(new QLabel(this)),
-      m_row(new QHBoxLayout(this)) {
+      m_row(new QHBoxLayout(this)),
+      m_symbolRoom(new QSpacerItem(0, 0, QSizePolicy::Fixed, QSizePolicy::Minimum)) {
     setMinimumHeight(panelmetrics::labelHeight);
     m_note->setForegroundRole(QPalette::PlaceholderText);
     m_row->setContentsMargins(0, 0, 0, 0);
     m_row->setSpacing(0);
-    m_row->addSpacing(panelmetrics::overhang + symbolSize + symbolGap);
+    m_row->addSpacerItem(m_symbolRoom);
     m_row->addWidget(m_name);
     m_row->addSpacing(noteGap);
     m_row->addWidget(m_note);
@@ -56,11 +57,12 @@ void SectionLabel::setBuddy(QWidget* control) {
 
 void SectionLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QRect symbol(panelmetrics::overhang, 0, symbolSize, height());
+    const auto style = besideText(font(), SymbolStyle());
+    const QRect symbol(panelmetrics::overhang, 0, static_cast<int>(style.size), height());
     paintSymbol(
         painter,
         m_icon,
-        {},
+        style,
         QStyle::visualRect(layoutDirection(), rect(), symbol),
         Theme::of(palette()).secondaryText);
 }
@@ -72,6 +74,10 @@ void SectionLabel::changeEvent(QEvent* event) {
 }
 
 void SectionLabel::followFont() {
+    const int symbol = besideText(font(), symbolSize);
+    m_symbolRoom->changeSize(
+        panelmetrics::overhang + symbol + symbolGap, 0, QSizePolicy::Fixed, QSizePolicy::Minimum);
+    m_row->invalidate();
     m_name->setFont(textFont(font(), TextStyle::Headline));
     m_note->setFont(textFont(font(), TextStyle::Callout));
 }

@@ -7,6 +7,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QSpacerItem;
 
 namespace quorvane {
 
@@ -41,6 +42,7 @@ private:
     QLabel* m_name;
     QLabel* m_note;
     QHBoxLayout* m_row;
+    QSpacerItem* m_symbolRoom; ///< owned by the row
 };
 
 } // namespace quorvane

@@ -48,7 +48,7 @@ ContentRow TimeZoneChip::content(const Theme& theme) const {
     row.addText(text(), labelFont(), theme.text);
     row.addSymbol(
         Symbol::Xmark,
-        markStyle,
+        besideText(font(), markStyle),
         visualState() == VisualState::Normal ? theme.secondaryText : theme.text);
     return row;
 }

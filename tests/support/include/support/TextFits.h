@@ -7,6 +7,8 @@
 #include <QFontMetricsF>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quorvane {
 
 /// By size of the body's font in pixels.
@@ -20,6 +22,9 @@ protected:
         font.setPixelSize(GetParam());
         window.setFont(font);
     }
+
+    /// What stands beside text of 13 pixels and grows and shrinks with it, but not below 3/4.
+    static int beside(double points) { return qRound(points * std::max(GetParam() / 13.0, 0.75)); }
 
     /// What the design gives the label, beside which `ornament` points are taken by other things.
     void expectRoom(const QWidget& control, const QFont& font, double ornament) {

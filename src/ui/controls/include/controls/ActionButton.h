@@ -38,6 +38,7 @@ protected:
 
 private:
     [[nodiscard]] QFont labelFont() const;
+    [[nodiscard]] bool isFilled(const Theme& theme) const;
     void paintSurface(QPainter& painter, const Theme& theme) const;
 
     Prominence m_prominence;

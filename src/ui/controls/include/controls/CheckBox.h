@@ -25,6 +25,7 @@ protected:
     [[nodiscard]] double disabledOpacity() const override;
 
 private:
+    [[nodiscard]] int boxSize() const;
     [[nodiscard]] QRectF box() const;
     void paintBox(QPainter& painter, const Theme& theme) const;
     void paintEmptyBox(QPainter& painter, const Theme& theme) const;

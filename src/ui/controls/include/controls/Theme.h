@@ -57,6 +57,9 @@ struct Theme {
     QColor scrim;                 ///< over what a sheet covers
     std::array<QColor, 6> shadow; ///< of a popover, from its edge outwards
 
+    /// Whether the palette asks for high contrast: what is faint elsewhere is then told by a frame.
+    bool isHighContrast = false;
+
     /// The colours that go with a palette. Of the built-in palettes they are the built-in theme's;
     /// of another one, whatever it gives is kept and the rest is derived from it with enough
     /// contrast.
