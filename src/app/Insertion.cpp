@@ -14,6 +14,16 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcInsert, "quorvane.insert", QtFatalMsg)
 
+const char* nameOf(CopyReason reason) {
+    switch (reason) {
+    case CopyReason::NoWindow:
+        return "the target does not get the keys";
+    case CopyReason::NoWayToType:
+        return "keys cannot be posted";
+    }
+    return "";
+}
+
 } // namespace
 
 Insertion::Insertion(Dependencies dependencies, Callbacks callbacks)
@@ -91,10 +101,12 @@ void Insertion::conclude(const Request& request, InsertionOutcome outcome) {
 }
 
 void Insertion::copyInstead(const QString& text, CopyReason reason) {
-    if (copyText(m_dependencies.pasteboard, text) == PutOutcome::Taken)
-        m_callbacks.onCopied(reason);
-    else
+    if (copyText(m_dependencies.pasteboard, text) != PutOutcome::Taken) {
         qCInfo(lcInsert, "neither typed nor copied: the pasteboard does not take the text");
+        return;
+    }
+    qCInfo(lcInsert, "copied instead: %s", nameOf(reason));
+    m_callbacks.onCopied(reason);
 }
 
 void Insertion::beginNext() {

@@ -18,6 +18,11 @@ JsonFile::JsonFile(QString path, SettingsWriter& writer)
       m_self(std::make_shared<JsonFile*>(this)) {
 }
 
+JsonFile::~JsonFile() {
+    if (m_lacksChanges)
+        write();
+}
+
 /// Whether the file may be written.
 bool JsonFile::start() {
     auto stored = settingsfile::read(m_path);
@@ -66,7 +71,9 @@ void JsonFile::write() {
 
 void JsonFile::noteOutcome(bool isWritten, int number) {
     if (!isWritten)
-        reportFailure(u"%1 cannot be written; the next change tries again"_s.arg(m_path));
+        reportFailure(
+            u"%1 cannot be written; the next change and the end of the program try again"_s.arg(
+                m_path));
     // A later write is under way, which has these changes, too.
     if (number != m_lastWrite)
         return;

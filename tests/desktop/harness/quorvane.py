@@ -2,6 +2,7 @@
 """The program under test, run and driven as a user and a desktop would."""
 
 import json
+import os
 import subprocess
 from pathlib import Path
 
@@ -16,7 +17,14 @@ BUS_NAME = "org.quorvane.Quorvane"
 BUS_PATH = "/org/quorvane/Quorvane"
 BUS_INTERFACE = "org.freedesktop.Application"
 
-_ENVIRONMENT = {"QUORVANE_BACKEND": "x11", "LANG": "en_US.UTF-8", "TZ": ZONE}
+# What a failed test shows of the way from the shortcut to the text.
+_LOGGED = "quorvane.insert=true;quorvane.keys=true;quorvane.shortcut=true;quorvane.tap=true"
+_ENVIRONMENT = {
+    "QUORVANE_BACKEND": "x11",
+    "LANG": "en_US.UTF-8",
+    "TZ": ZONE,
+    "QT_LOGGING_RULES": os.environ.get("QT_LOGGING_RULES", _LOGGED),
+}
 
 
 class Quorvane:

@@ -231,8 +231,8 @@ TEST_F(JsonFileTest, FileThatCannotBeReadAnyMoreIsNotReplaced) {
 TEST_F(JsonFileTest, EachFailureIsOneLine) {
     m_disk.fail(FileStep::Commit);
     JsonFile file(path(), m_writer);
-    const auto line =
-        "quorvane: " + path().toStdString() + " cannot be written; the next change tries again\n";
+    const auto line = "quorvane: " + path().toStdString() +
+                      " cannot be written; the next change and the end of the program try again\n";
     EXPECT_EQ(reportsOf([&] { file.setValue(u"a"_s, 1); }), line);
     EXPECT_EQ(reportsOf([&] { file.setValue(u"a"_s, 2); }), line);
     m_disk.recover();
@@ -306,6 +306,25 @@ TEST_P(JsonFileFaultTest, FailedWriteLeavesTheOldFileAndGoesWithTheNextChange) {
     m_disk.recover();
     file.setValue(u"b"_s, 2);
     EXPECT_EQ(stored(), (QJsonObject{{u"kept"_s, true}, {u"a"_s, 1}, {u"b"_s, 2}}));
+}
+
+TEST_P(JsonFileFaultTest, EndTriesOnceMore) {
+    {
+        JsonFile file(path(), m_writer);
+        m_disk.fail(GetParam());
+        file.setValue(u"a"_s, 1);
+        m_disk.recover();
+    }
+    EXPECT_EQ(stored(), (QJsonObject{{u"a"_s, 1}}));
+}
+
+TEST_F(JsonFileTest, EndWritesNothingThatTheFileHas) {
+    {
+        JsonFile file(path(), m_writer);
+        file.setValue(u"a"_s, 1);
+        put("changed by hand");
+    }
+    EXPECT_EQ(bytesAt(path()), "changed by hand");
 }
 
 TEST_P(JsonFileFaultTest, EqualValueIsWrittenIfTheFileLacksIt) {

@@ -21,11 +21,14 @@ namespace quorvane {
 /// "NAME.unreadable-N" with the first N that is free, and the values start empty. If it cannot be
 /// moved, or if the file is there and the system does not let us read it, nothing is ever written.
 /// What could not be written stays in memory and goes with the next value that is set, equal or
-/// not. Each of these is a failure that is reported.
+/// not, at the latest at the end. Each of these is a failure that is reported.
 class JsonFile {
 public:
     /// `writer` must outlive this.
     JsonFile(QString path, SettingsWriter& writer);
+
+    /// Hands over once more what could not be written.
+    ~JsonFile();
 
     JsonFile(const JsonFile&) = delete;
     JsonFile& operator=(const JsonFile&) = delete;
