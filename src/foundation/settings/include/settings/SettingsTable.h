@@ -33,7 +33,8 @@ inline constexpr StoredSetting<bool> remembersChoices{
     QLatin1StringView("rememberFormatAndZones"), false};
 
 /// Raw values of composition/DateFormatPreset.h and MultiZoneLayout.h; any other text counts as
-/// nothing stored. Identifiers that name no zone are left out. Without date and time both are shown.
+/// nothing stored. Identifiers that name no zone are left out. Without date and time both are
+/// shown.
 inline constexpr StoredSetting<QString, QLatin1StringView> formatPreset{
     QLatin1StringView("formatPreset"), QLatin1StringView("Long")};
 inline constexpr StoredSetting<QString, QLatin1StringView> customFormat{

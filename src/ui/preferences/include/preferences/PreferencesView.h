@@ -22,8 +22,8 @@ class SectionColumn;
 class ShortcutSection;
 
 /// The settings that the main interface does not show: the shortcut, where the icon shows, how the
-/// program begins, and the favourite zones. Changes take effect at once. As wide as its window is to
-/// be; the list takes whatever height there is, and where that is too little everything scrolls.
+/// program begins, and the favourite zones. Changes take effect at once. As wide as its window is
+/// to be; the list takes whatever height there is, and where that is too little everything scrolls.
 class PreferencesView final : public QWidget {
     Q_OBJECT
 
