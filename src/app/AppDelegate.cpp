@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AppDelegate.h"
 
+#include "ContentView.h"
 #include "DesktopAction.h"
 #include "FieldPaste.h"
 #include "MainMenu.h"
@@ -196,7 +197,7 @@ TrayIcon::Callbacks AppDelegate::trayIconCallbacks() {
 
 InterfaceCallbacks AppDelegate::interfaceCallbacks() {
     return {
-        [this] { return makeContentView(); },
+        [this] { return makeContentView(m_model, m_dependencies, contentViewCallbacks()); },
         [this](QWidget& window) { m_mainMenu->attachTo(window); },
         [this] { renew(); },
         weakly(&AppDelegate::prepareAfterFirstPaint)};
@@ -246,30 +247,16 @@ Insertion::Callbacks AppDelegate::insertionCallbacks() {
         }};
 }
 
-std::unique_ptr<PopoverView> AppDelegate::makeContentView() {
-    auto& platform = m_dependencies.platform;
-    return std::make_unique<PopoverView>(
-        m_model,
-        PopoverView::Dependencies{
-            *platform.pasteboard,
-            *platform.keyboardLayout,
-            m_dependencies.zones,
-            m_dependencies.mainQueue,
-            m_dependencies.clock,
-            m_dependencies.currentZone,
-            {[&traits = *platform.windowTraits] {
-                return traits.isComposited();
-            }},
-            fieldPaste(*platform.pasteboard)},
-        PopoverView::Callbacks{
-            weakly(&AppDelegate::performInsert),
-            weakly(&AppDelegate::showPreferences),
-            weakly(&AppDelegate::checkForUpdates),
-            [self = QPointer(this)] {
-                if (self)
-                    self->m_presentation.hide();
-            },
-            weakly(&AppDelegate::terminate)});
+PopoverView::Callbacks AppDelegate::contentViewCallbacks() {
+    return {
+        weakly(&AppDelegate::performInsert),
+        weakly(&AppDelegate::showPreferences),
+        weakly(&AppDelegate::checkForUpdates),
+        [self = QPointer(this)] {
+            if (self)
+                self->m_presentation.hide();
+        },
+        weakly(&AppDelegate::terminate)};
 }
 
 void AppDelegate::setupMainMenu() {

@@ -107,7 +107,7 @@ private:
     [[nodiscard]] ModelObserver::Callbacks modelCallbacks();
     [[nodiscard]] DeliveryNotice::Callbacks noticeCallbacks();
     [[nodiscard]] Insertion::Callbacks insertionCallbacks();
-    [[nodiscard]] std::unique_ptr<PopoverView> makeContentView();
+    [[nodiscard]] PopoverView::Callbacks contentViewCallbacks();
 
     /// Before a showing: takes new zone data, and the present moment where the dates follow it.
     void renew();

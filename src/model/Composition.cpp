@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <model/Composition.h>
+#include <time/CivilTime.h>
 
 #include <utility>
 
@@ -19,8 +20,10 @@ Composition Composition::startingAt(Instant now, TimeZone zone) {
     return composition;
 }
 
-void Composition::moveTo(Instant now) {
-    const Seconds span(endDate.secondsSince1970 - startDate.secondsSince1970);
+void Composition::moveTo(Instant now, const TimeZone& zone) {
+    const Seconds span(
+        startOfMinute(endDate, zone).secondsSince1970 -
+        startOfMinute(startDate, zone).secondsSince1970);
     startDate = now;
     endDate = now + span;
     hasEnteredDate = false;

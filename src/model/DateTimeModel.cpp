@@ -65,12 +65,12 @@ void DateTimeModel::renewDates() {
     if (m_composition.hasEnteredDate)
         return;
     Q_EMIT objectWillChange();
-    m_composition.moveTo(m_dependencies.clock.now());
+    m_composition.moveTo(m_dependencies.clock.now(), m_dependencies.currentZone.current());
 }
 
 void DateTimeModel::returnToNow() {
     announce();
-    m_composition.moveTo(m_dependencies.clock.now());
+    m_composition.moveTo(m_dependencies.clock.now(), m_dependencies.currentZone.current());
 }
 
 void DateTimeModel::setIsRange(bool isRange) {

@@ -5,6 +5,7 @@
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
 #include <testing/MemoryDefaults.h>
+#include <time/CivilTime.h>
 
 #include <gtest/gtest.h>
 
@@ -79,11 +80,16 @@ TEST_F(FreshDatesTest, TheMinuteIsThatOfTheZonesClocks) {
     EXPECT_TRUE(model.hasEnteredDate());
 }
 
-TEST_F(FreshDatesTest, TheDistanceIsKeptWhateverItIs) {
-    m_model.setStartDate(march9 + 30s);
-    passTime(1min);
+TEST_F(FreshDatesTest, TheDistanceIsThatOfTheMinutesShown) {
+    // As opening the time entry does, each time in another second of the minute.
+    for (const auto seconds : {50s, 10s, 59s}) {
+        passTime(seconds);
+        m_model.renewDates();
+        m_model.setStartDate(startOfMinute(m_model.startDate(), m_currentZone.current()));
+    }
     m_model.renewDates();
-    EXPECT_EQ(m_model.endDate(), m_model.startDate() + 1h + Seconds(-17.5));
+    EXPECT_FALSE(m_model.hasEnteredDate());
+    EXPECT_EQ(m_model.endDate(), m_model.startDate() + 1h);
     m_model.setEndDate(m_model.startDate() + -3h);
     m_model.returnToNow();
     EXPECT_EQ(m_model.startDate(), m_clock.now());
