@@ -132,7 +132,8 @@ TEST_F(RememberedChoicesTest, WhateverIsChosenComesBackAsItWas) {
         u"HH:mm 'Uhr' €"_s,
         QString(10'000, u'd'),
         QString(QChar(0)) + u'x'};
-    const std::array identifiers{"UTC", "Asia/Tokyo", "US/Eastern", "Etc/GMT+12", "Europe/Paris"};
+    const std::array identifiers{
+        "UTC", "Asia/Tokyo", "America/New_York", "Etc/GMT+12", "Europe/Paris"};
     for (int round = 0; round < 100; ++round) {
         m_model = startAnew();
         m_model->setRemembersChoices(true);
@@ -158,6 +159,13 @@ TEST_F(RememberedChoicesTest, WhateverIsChosenComesBackAsItWas) {
         EXPECT_EQ(m_model->selectedTimeZones(), selection) << round;
         EXPECT_EQ(m_model->customFormatString(), before->customFormatString()) << round;
     }
+}
+
+TEST_F(RememberedChoicesTest, AZoneByAnOldNameComesBackAsTheOneThatIsListed) {
+    m_model->setRemembersChoices(true);
+    m_model->setSelectedTimeZones(zones({"US/Eastern", "Asia/Tokyo"}));
+    m_model = startAnew();
+    EXPECT_EQ(m_model->selectedTimeZones(), zones({"America/New_York", "Asia/Tokyo"}));
 }
 
 TEST_F(RememberedChoicesTest, RubbishIsIgnoredWithOneLineEach) {
