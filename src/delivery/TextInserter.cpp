@@ -35,80 +35,8 @@ void logContents(
         qCDebug(lcInsert, "%s, selection: %ls", action, qUtf16Printable(summaryOf(*selection)));
 }
 
-} // namespace
-
-TextInserter::TextInserter(Dependencies dependencies)
-    : m_dependencies(dependencies),
-      m_savesWanted(std::make_shared<const bool>(true)) {
-}
-
-TextInserter::~TextInserter() = default;
-
-void TextInserter::insert(const QString& text, Done done) {
-    if (!m_dependencies.accessibilityRight.isTrusted()) {
-        qCInfo(lcInsert, "not typed: the accessibility right is missing");
-        return done(InsertionOutcome::NoRight);
-    }
-    if (m_isSaving)
-        m_waiting.push_back({text, std::move(done)});
-    else
-        begin({text, std::move(done)});
-}
-
-void TextInserter::finish(std::function<void()> done) {
-    m_savesWanted = std::make_shared<const bool>(true);
-    m_isSaving = false;
-    m_waiting.clear();
-    m_restoreDue.cancel();
-    if (m_saved)
-        restore(std::move(done));
-    else
-        m_finished = m_dependencies.mainQueue.after(Seconds(0), std::move(done));
-}
-
-void TextInserter::begin(Request request) {
-    m_restoreDue.cancel();
-    m_restoring.reset();
-    m_isSaving = true;
-    const auto target = m_dependencies.keyPoster.pasteTarget();
-    m_dependencies.pasteboard.save(
-        target ? target->source : PasteSource::Clipboard,
-        [this, request = std::move(request), target, wanted = std::weak_ptr(m_savesWanted)](
-            PasteboardContents found) {
-            if (!wanted.expired())
-                paste(request, target, std::move(found));
-        });
-}
-
-// All in one iteration of the event loop: none of our own code can change the pasteboard between
-// the save and the text.
-void TextInserter::paste(const Request& request, const Target& target, PasteboardContents found) {
-    m_isSaving = false;
-    m_saved = usersContents(std::move(found));
-    logContents("saved", mergedItem(m_saved->items), m_saved->selection);
-    const auto outcome = deliver(request.text, target);
-    const auto stay =
-        outcome == InsertionOutcome::NotTaken ? Seconds(0) : insertiondelay::beforeRestore;
-    m_restoreDue = m_dependencies.mainQueue.after(stay, [this] { restore([] {}); });
-    request.done(outcome);
-    beginNext();
-}
-
-InsertionOutcome TextInserter::deliver(const QString& text, const Target& target) {
-    m_dependencies.pasteboard.clear();
-    const auto source = target ? target->source : PasteSource::Clipboard;
-    if (m_dependencies.pasteboard.setString(text, TextStay::Passing, source) == PutOutcome::Taken)
-        return post(target);
-    qCInfo(lcInsert, "no paste keys: the pasteboard does not take the text");
-    return InsertionOutcome::NotTaken;
-}
-
-InsertionOutcome TextInserter::post(const Target& target) {
-    if (!target) {
-        qCInfo(lcInsert, "no paste keys: neither this keyboard nor this desktop has any");
-        return InsertionOutcome::NoKeys;
-    }
-    switch (m_dependencies.keyPoster.paste(*target)) {
+InsertionOutcome outcomeOf(PostOutcome outcome) {
+    switch (outcome) {
     case PostOutcome::Posted:
         return InsertionOutcome::Posted;
     case PostOutcome::NoSuchKey:
@@ -121,8 +49,88 @@ InsertionOutcome TextInserter::post(const Target& target) {
     return InsertionOutcome::NoKeys;
 }
 
+} // namespace
+
+TextInserter::TextInserter(Dependencies dependencies)
+    : m_dependencies(dependencies),
+      m_stepsWanted(std::make_shared<const bool>(true)) {
+}
+
+TextInserter::~TextInserter() = default;
+
+void TextInserter::insert(const QString& text, Done done) {
+    if (!m_dependencies.accessibilityRight.isTrusted()) {
+        qCInfo(lcInsert, "not typed: the accessibility right is missing");
+        return done(InsertionOutcome::NoRight);
+    }
+    if (m_isUnderWay)
+        m_waiting.push_back({text, std::move(done)});
+    else
+        begin({text, std::move(done)});
+}
+
+void TextInserter::finish(std::function<void()> done) {
+    m_stepsWanted = std::make_shared<const bool>(true);
+    m_isUnderWay = false;
+    m_waiting.clear();
+    m_restoreDue.cancel();
+    if (m_saved)
+        restore(std::move(done));
+    else
+        m_finished = m_dependencies.mainQueue.after(Seconds(0), std::move(done));
+}
+
+void TextInserter::begin(Request request) {
+    m_restoreDue.cancel();
+    m_restoring.reset();
+    m_isUnderWay = true;
+    const auto target = m_dependencies.keyPoster.pasteTarget();
+    m_dependencies.pasteboard.save(
+        target ? target->source : PasteSource::Clipboard,
+        [this, request = std::move(request), target, wanted = std::weak_ptr(m_stepsWanted)](
+            PasteboardContents found) {
+            if (!wanted.expired())
+                paste(request, target, std::move(found));
+        });
+}
+
+// All in one iteration of the event loop, up to the first key: none of our own code can change the
+// pasteboard between the save and the text.
+void TextInserter::paste(const Request& request, const Target& target, PasteboardContents found) {
+    m_saved = usersContents(std::move(found));
+    logContents("saved", mergedItem(m_saved->items), m_saved->selection);
+    m_dependencies.pasteboard.clear();
+    const auto source = target ? target->source : PasteSource::Clipboard;
+    if (m_dependencies.pasteboard.setString(request.text, TextStay::Passing, source) !=
+        PutOutcome::Taken) {
+        qCInfo(lcInsert, "no paste keys: the pasteboard does not take the text");
+        return conclude(request, InsertionOutcome::NotTaken);
+    }
+    if (target)
+        return post(request, *target);
+    qCInfo(lcInsert, "no paste keys: neither this keyboard nor this desktop has any");
+    conclude(request, InsertionOutcome::NoKeys);
+}
+
+void TextInserter::post(const Request& request, const PasteTarget& target) {
+    m_dependencies.keyPoster.paste(
+        target, [this, request, wanted = std::weak_ptr(m_stepsWanted)](PostOutcome outcome) {
+            if (!wanted.expired())
+                conclude(request, outcomeOf(outcome));
+        });
+}
+
+void TextInserter::conclude(const Request& request, InsertionOutcome outcome) {
+    m_isUnderWay = false;
+    const auto stay =
+        outcome == InsertionOutcome::NotTaken ? Seconds(0) : insertiondelay::beforeRestore;
+    m_restoreDue = m_dependencies.mainQueue.after(stay, [this] { restore([] {}); });
+    request.done(outcome);
+    beginNext();
+}
+
 void TextInserter::beginNext() {
-    if (m_isSaving || m_waiting.empty())
+    if (m_isUnderWay || m_waiting.empty())
         return;
     auto next = std::move(m_waiting.front());
     m_waiting.pop_front();

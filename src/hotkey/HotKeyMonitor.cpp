@@ -50,7 +50,7 @@ void HotKeyMonitor::setOnDeliveryChanged(std::function<void()> onDeliveryChanged
 
 void HotKeyMonitor::start() {
     m_lastFailure.reset();
-    if (!m_dependencies.accessibilityRight.isTrusted())
+    if (!m_dependencies.accessibilityRight.mayReadShortcut())
         return fail({u"the accessibility right is missing"_s});
 
     auto result = m_dependencies.eventTaps.createTap(

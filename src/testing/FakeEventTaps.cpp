@@ -47,6 +47,10 @@ public:
 
     [[nodiscard]] TapDelivery delivery() const override { return m_delivery; }
 
+    [[nodiscard]] QString holder() const override {
+        return m_delivery == TapDelivery::HeldElsewhere ? m_desktop->holder : QString();
+    }
+
     [[nodiscard]] bool tellsRelease() const override { return m_desktop->tellsRelease; }
 
     [[nodiscard]] bool isKeyDown() override {

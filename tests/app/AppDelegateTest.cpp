@@ -33,7 +33,7 @@ TEST_F(AppDelegateTest, LaunchShowsThePanelAndThenArmsTheShortcut) {
             "setVisible",
             "preparePanel",
             "presentPanel",
-            "isTrusted",
+            "mayReadShortcut",
             "createTap",
             "watch",
             "enable"));

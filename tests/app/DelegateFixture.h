@@ -7,6 +7,7 @@
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeAppearance.h>
+#include <testing/FakeDesktopShortcut.h>
 #include <testing/FakeEventTaps.h>
 #include <testing/FakeKeyPoster.h>
 #include <testing/FakeKeyboardLayout.h>
@@ -127,6 +128,7 @@ protected:
     FakeNotifications* notifications = nullptr;
     FakeAccessibilityRight* right = nullptr;
     FakeKeyPoster* keyPoster = nullptr;
+    FakeDesktopShortcut* desktopShortcut = nullptr;
     FakeAppearance* appearance = nullptr;
     FakeTimeChanges* timeChanges = nullptr;
     PlatformServices platform;
@@ -154,9 +156,12 @@ private:
         notifications = centre.get();
         right = permission.get();
         keyPoster = poster.get();
+        auto shortcutList = std::make_unique<FakeDesktopShortcut>(log);
+        desktopShortcut = shortcutList.get();
         return {
             std::move(permission),
             std::move(eventTaps),
+            std::move(shortcutList),
             std::move(poster),
             std::move(board),
             std::move(space),
@@ -166,7 +171,8 @@ private:
             std::move(centre),
             std::make_unique<FakeSoftwareCentre>(log),
             std::move(bar),
-            std::move(changes)};
+            std::move(changes),
+            {}};
     }
 
     QTemporaryDir m_folder;

@@ -160,6 +160,38 @@ TEST_F(TextInserterTest, InsertionWaitsForTheKeysOfTheOneBefore) {
     EXPECT_TRUE(queue.isIdle());
 }
 
+TEST_F(TextInserterTest, KeysThatGoOutOneByOneKeepTheTextAndTheNextInsertionWaiting) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    poster.setTakesTime();
+    inserter->insert(u"first"_s);
+    inserter->insert(u"second"_s);
+    queue.advance(700ms);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"first"_s));
+    poster.finishPaste();
+    queue.run();
+    EXPECT_EQ(pasteboard.contents(), plainText(u"second"_s));
+    poster.finishPaste();
+    queue.advance(599ms);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"second"_s));
+    queue.advance(1ms);
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    EXPECT_TRUE(queue.isIdle());
+}
+
+TEST_F(TextInserterTest, TheEndInTheMiddleOfTheKeysGivesThePasteboardBackAtOnce) {
+    pasteboard.setContents(plainText(u"mine"_s));
+    poster.setTakesTime();
+    inserter->insert(u"text"_s);
+    queue.run();
+    inserter->finish([] {});
+    queue.run();
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    poster.finishPaste();
+    queue.run();
+    EXPECT_EQ(pasteboard.contents(), plainText(u"mine"_s));
+    EXPECT_TRUE(queue.isIdle());
+}
+
 TEST_F(TextInserterTest, TellsWhatBecameOfEachInsertion) {
     std::vector<InsertionOutcome> outcomes;
     const auto insert = [&] {

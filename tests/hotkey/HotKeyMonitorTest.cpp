@@ -110,7 +110,7 @@ TEST_F(HotKeyMonitorTest, StopTwiceIsHarmless) {
 TEST_F(HotKeyMonitorTest, WithoutTheRightItStaysIdleAndAsksForNothing) {
     right.setTrusted(false);
     monitor->start();
-    EXPECT_EQ(log.calls(), (std::vector<CallLog::Call>{{{}, "isTrusted"}}));
+    EXPECT_EQ(log.calls(), (std::vector<CallLog::Call>{{{}, "mayReadShortcut"}}));
     EXPECT_FALSE(monitor->isArmed());
     EXPECT_EQ(monitor->lastFailure()->reason, u"the accessibility right is missing"_s);
     log.clear();
@@ -203,7 +203,7 @@ TEST_F(HotKeyMonitorTest, RearmingTakesTheShortcutAnew) {
             {{}, "watch"},
             {{}, "disable"},
             {{}, "tap freed"},
-            {{}, "isTrusted"},
+            {{}, "mayReadShortcut"},
             {{}, "createTap"},
             {{}, "watch"},
             {{}, "enable"}}));

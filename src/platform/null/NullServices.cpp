@@ -13,11 +13,15 @@ namespace {
 
 class NullAccessibilityRight final : public AccessibilityRight {
 public:
-    [[nodiscard]] bool isTrusted() const override { return false; }
+    [[nodiscard]] bool mayReadShortcut() const override { return false; }
+
+    [[nodiscard]] TypingRight typing() const override { return TypingRight::Unavailable; }
 
     [[nodiscard]] bool canPrompt() const override { return false; }
 
     void prompt() override {}
+
+    void onChanged(std::function<void()>) override {}
 };
 
 class NullEventTapService final : public EventTapService {
@@ -27,13 +31,28 @@ public:
     }
 };
 
+class NullDesktopShortcut final : public DesktopShortcut {
+public:
+    [[nodiscard]] QString desktopName() const override { return {}; }
+
+    [[nodiscard]] std::optional<KeyChord> bound() const override { return std::nullopt; }
+
+    [[nodiscard]] QString holder(const KeyChord&) const override { return {}; }
+
+    void refresh() override {}
+
+    void bind(const KeyChord&) override {}
+
+    void unbind() override {}
+
+    void onChanged(std::function<void()>) override {}
+};
+
 class NullKeyPoster final : public KeyPoster {
 public:
     [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override { return std::nullopt; }
 
-    [[nodiscard]] PostOutcome paste(const PasteTarget&) override {
-        return PostOutcome::Unavailable;
-    }
+    void paste(const PasteTarget&, PostHandler done) override { done(PostOutcome::Unavailable); }
 };
 
 /// Answered in a later iteration of the event loop.
@@ -123,6 +142,8 @@ public:
         window.requestActivate();
     }
 
+    [[nodiscard]] bool placesWindows() const override { return false; }
+
     [[nodiscard]] bool isComposited() const override { return false; }
 
     void onCompositingChanged(std::function<void()>) override {}
@@ -176,6 +197,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
     return {
         .accessibilityRight = std::make_unique<NullAccessibilityRight>(),
         .eventTaps = std::make_unique<NullEventTapService>(),
+        .desktopShortcut = std::make_unique<NullDesktopShortcut>(),
         .keyPoster = std::make_unique<NullKeyPoster>(),
         .pasteboard = std::make_unique<NullPasteboard>(mainQueue),
         .workspace = std::make_unique<NullWorkspace>(),
@@ -186,6 +208,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .softwareCentre = std::make_unique<NullSoftwareCentre>(),
         .statusBar = std::make_unique<NullStatusBar>(),
         .timeChanges = std::make_unique<NullTimeChanges>(),
+        .states = {},
     };
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <platform_null/NullServices.h>
+#include <testing/PasteOutcome.h>
 #include <testing/VirtualMainQueue.h>
 
 #include <gtest/gtest.h>
@@ -19,7 +20,10 @@ protected:
 TEST_F(NullServices, GrantNothing) {
     m_services.accessibilityRight->prompt();
     EXPECT_FALSE(m_services.accessibilityRight->isTrusted());
-    EXPECT_EQ(m_services.keyPoster->paste({}), PostOutcome::Unavailable);
+    EXPECT_EQ(pasteOutcome(*m_services.keyPoster), PostOutcome::Unavailable);
+    EXPECT_FALSE(m_services.accessibilityRight->mayReadShortcut());
+    EXPECT_EQ(m_services.accessibilityRight->typing(), TypingRight::Unavailable);
+    EXPECT_TRUE(m_services.desktopShortcut->desktopName().isEmpty());
     const auto front = m_services.workspace->frontmostApplication();
     EXPECT_EQ(front.application, std::nullopt);
     EXPECT_FALSE(front.isCertain);

@@ -64,22 +64,22 @@ private:
 
     void begin(Request request);
     void paste(const Request& request, const Target& target, PasteboardContents found);
-    [[nodiscard]] InsertionOutcome deliver(const QString& text, const Target& target);
-    [[nodiscard]] InsertionOutcome post(const Target& target);
+    void post(const Request& request, const PasteTarget& target);
+    void conclude(const Request& request, InsertionOutcome outcome);
     void beginNext();
     [[nodiscard]] PasteboardContents usersContents(PasteboardContents found);
     void restore(std::function<void()> done);
 
     Dependencies m_dependencies;
     std::deque<Request> m_waiting;
-    bool m_isSaving = false;
+    bool m_isUnderWay = false;                 ///< from the save until the keys are posted
     std::optional<PasteboardContents> m_saved; ///< what is to be put back, while that is due
     Deadline m_restoreDue;
     std::unique_ptr<PasteboardRequest> m_restoring;
     Deadline m_finished;
-    /// Held weakly by the save in progress; one that ends after it was replaced or destroyed is
-    /// dropped.
-    std::shared_ptr<const bool> m_savesWanted;
+    /// Held weakly by the insertion under way; a step of it that ends after this was replaced or
+    /// destroyed is dropped.
+    std::shared_ptr<const bool> m_stepsWanted;
 };
 
 } // namespace quorvane

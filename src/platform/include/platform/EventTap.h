@@ -48,6 +48,9 @@ struct TapHandlers {
     std::function<void()> released;
     /// delivery() says something else than before.
     std::function<void()> deliveryChanged;
+    /// The user has given the watched shortcut other keys, in the desktop's own settings.
+    std::function<void(const KeyChord&)> chordChanged = [](const KeyChord&) {
+    };
 };
 
 /// Gets the presses of one shortcut before every application. Backends that can (X11) take hold of
@@ -65,6 +68,9 @@ public:
     virtual void disable() = 0;
 
     [[nodiscard]] virtual TapDelivery delivery() const = 0;
+
+    /// What people call the program that holds the shortcut elsewhere; empty where nobody tells.
+    [[nodiscard]] virtual QString holder() const = 0;
 
     /// Whether the end of each press is told. Where it is not, a press and the repeats of a key
     /// that is held down look alike.

@@ -3,6 +3,7 @@
 
 #include <platform/PasteTarget.h>
 
+#include <functional>
 #include <optional>
 
 namespace quorvane {
@@ -13,6 +14,8 @@ enum class PostOutcome {
     NoSuchKey,   ///< the keyboard has no key that would do
     Unavailable, ///< this desktop does not let us post keys
 };
+
+using PostHandler = std::function<void(PostOutcome)>;
 
 /// Types into the application in front.
 class KeyPoster {
@@ -25,8 +28,10 @@ public:
     [[nodiscard]] virtual std::optional<PasteTarget> pasteTarget() const = 0;
 
     /// Presses and releases the keys of what pasteTarget() said. Modifier keys that the user still
-    /// holds do not take part.
-    [[nodiscard]] virtual PostOutcome paste(const PasteTarget& target) = 0;
+    /// holds do not take part. `done` is called once, when the last key is sent or none can be: at
+    /// most a second from now, maybe before this returns, and never after the poster is destroyed,
+    /// which leaves no key down.
+    virtual void paste(const PasteTarget& target, PostHandler done) = 0;
 };
 
 } // namespace quorvane

@@ -3,11 +3,13 @@
 
 #include <platform/AccessibilityRight.h>
 #include <platform/Appearance.h>
+#include <platform/DesktopShortcut.h>
 #include <platform/EventTap.h>
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Notifications.h>
 #include <platform/Pasteboard.h>
+#include <platform/ServiceState.h>
 #include <platform/SoftwareCentre.h>
 #include <platform/StatusBar.h>
 #include <platform/TimeChanges.h>
@@ -15,6 +17,7 @@
 #include <platform/Workspace.h>
 
 #include <memory>
+#include <vector>
 
 namespace quorvane {
 
@@ -23,6 +26,7 @@ namespace quorvane {
 struct PlatformServices {
     std::unique_ptr<AccessibilityRight> accessibilityRight;
     std::unique_ptr<EventTapService> eventTaps;
+    std::unique_ptr<DesktopShortcut> desktopShortcut;
     std::unique_ptr<KeyPoster> keyPoster;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<Workspace> workspace;
@@ -34,6 +38,9 @@ struct PlatformServices {
     std::unique_ptr<SoftwareCentre> softwareCentre;
     std::unique_ptr<StatusBar> statusBar;
     std::unique_ptr<TimeChanges> timeChanges;
+
+    /// What was chosen for each of those that differ between desktops; empty where all are whole.
+    std::vector<ServiceState> states;
 };
 
 } // namespace quorvane

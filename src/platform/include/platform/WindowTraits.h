@@ -40,6 +40,9 @@ public:
     /// source 2).
     virtual void activate(QWindow& window) = 0;
 
+    /// Whether windows stand where they ask to, and can be asked where they stand.
+    [[nodiscard]] virtual bool placesWindows() const = 0;
+
     /// Whether windows are composited, so that a translucent one shows what is below it.
     [[nodiscard]] virtual bool isComposited() const = 0;
 

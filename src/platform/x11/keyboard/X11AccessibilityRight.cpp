@@ -26,8 +26,12 @@ X11AccessibilityRight::X11AccessibilityRight(std::shared_ptr<X11Connection> conn
     : m_connection(std::move(connection)) {
 }
 
-bool X11AccessibilityRight::isTrusted() const {
+bool X11AccessibilityRight::mayReadShortcut() const {
     return hasTestExtension(*m_connection);
+}
+
+TypingRight X11AccessibilityRight::typing() const {
+    return hasTestExtension(*m_connection) ? TypingRight::Granted : TypingRight::Unavailable;
 }
 
 } // namespace quorvane

@@ -39,6 +39,9 @@ public:
 
     [[nodiscard]] TapDelivery delivery() const override { return m_delivery; }
 
+    /// The server tells only that there is one.
+    [[nodiscard]] QString holder() const override { return {}; }
+
     [[nodiscard]] bool tellsRelease() const override { return m_releaseWatch.isAvailable(); }
 
     [[nodiscard]] bool isKeyDown() override;

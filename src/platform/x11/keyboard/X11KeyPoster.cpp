@@ -51,10 +51,14 @@ std::optional<PasteTarget> X11KeyPoster::pasteTarget() const {
     return keysFor(older.keys) ? std::optional(older) : std::nullopt;
 }
 
-PostOutcome X11KeyPoster::paste(const PasteTarget& target) {
+void X11KeyPoster::paste(const PasteTarget& target, PostHandler done) {
+    done(post(target.keys));
+}
+
+PostOutcome X11KeyPoster::post(PasteKeys wanted) {
     if (!hasTestExtension(*m_connection))
         return PostOutcome::Unavailable;
-    const auto keys = keysFor(target.keys);
+    const auto keys = keysFor(wanted);
     if (!keys)
         return PostOutcome::NoSuchKey;
     type(*keys);

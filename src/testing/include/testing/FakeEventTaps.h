@@ -25,6 +25,7 @@ public:
     /// What taps find; shared with them.
     struct Desktop {
         bool heldElsewhere = false;
+        QString holder = {}; ///< by whom, where the desktop tells
         bool lacksKey = false;
         bool tellsRelease = true;
         bool isKeyDown = false;
@@ -45,6 +46,9 @@ public:
 
     /// Whether another program holds the shortcuts that no tap has taken.
     void setHeldElsewhere(bool held) { m_desktop->heldElsewhere = held; }
+
+    /// What people call the program that holds them.
+    void setHolder(const QString& name) { m_desktop->holder = name; }
 
     /// Whether the keyboard lacks the keys of every shortcut.
     void setLacksKey(bool lacks) { m_desktop->lacksKey = lacks; }

@@ -4,6 +4,8 @@
 #include <platform/KeyPoster.h>
 #include <testing/CallLog.h>
 
+#include <utility>
+
 namespace quorvane {
 
 /// A keyboard that the test takes away keys from.
@@ -15,10 +17,22 @@ public:
         return m_outcome == PostOutcome::Posted ? std::optional(m_target) : std::nullopt;
     }
 
-    [[nodiscard]] PostOutcome paste(const PasteTarget& target) override {
+    void paste(const PasteTarget& target, PostHandler done) override {
         m_log.add("paste");
         m_posted = target;
-        return m_outcome;
+        if (m_takesTime)
+            m_pending = std::move(done);
+        else
+            done(m_outcome);
+    }
+
+    /// The keys go out one by one, as through a portal, and are done when the test says so.
+    void setTakesTime() { m_takesTime = true; }
+
+    /// The last key of a paste that takes time is sent.
+    void finishPaste() {
+        if (const auto done = std::exchange(m_pending, {}))
+            done(m_outcome);
     }
 
     /// How the window in front pastes.
@@ -35,6 +49,8 @@ private:
     PasteTarget m_target;
     std::optional<PasteTarget> m_posted;
     PostOutcome m_outcome = PostOutcome::Posted;
+    bool m_takesTime = false;
+    PostHandler m_pending;
 };
 
 } // namespace quorvane

@@ -27,6 +27,8 @@ public:
 
     void activate(QWindow& window) override { m_log.add(named("activate", window)); }
 
+    [[nodiscard]] bool placesWindows() const override { return places; }
+
     [[nodiscard]] bool isComposited() const override { return composited; }
 
     void onCompositingChanged(std::function<void()> handler) override {
@@ -45,6 +47,7 @@ public:
     [[nodiscard]] std::optional<HeldInput> heldInput() const override { return held; }
 
     bool composited = false;
+    bool places = true; ///< windows stand where they ask to
 
     QMargins shadow; ///< the last that was set
 

@@ -4,6 +4,7 @@
 #include "support/PrivateDisplay.h"
 #include "support/TapTest.h"
 
+#include <testing/PasteOutcome.h>
 #include <x11_keyboard/X11KeyPoster.h>
 
 namespace quorvane {
@@ -251,7 +252,8 @@ TEST_F(TapOnX11, LetsThroughWhatTheProgramTypesItself) {
     const auto tap = makeTap(KeyChord{keycode::v, modifier::control});
     const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(m_queue);
     X11KeyPoster poster(m_connection, {keymap, keymap}, m_grabbedKeys);
-    ASSERT_EQ(poster.paste({PasteKeys::ControlV, PasteSource::Clipboard}), PostOutcome::Posted);
+    ASSERT_EQ(
+        pasteOutcome(poster, {PasteKeys::ControlV, PasteSource::Clipboard}), PostOutcome::Posted);
     ASSERT_TRUE(keysAreThrough());
     EXPECT_TRUE(m_presses.empty());
     EXPECT_TRUE(m_target.hasReceived(Press, KEY_V + 8));

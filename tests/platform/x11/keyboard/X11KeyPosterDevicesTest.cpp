@@ -24,7 +24,7 @@ protected:
 
     [[nodiscard]] xcb_keycode_t keyPostedBy(X11KeyPoster& keys, ForeignWindow& window) {
         const auto before = window.keys().size();
-        EXPECT_EQ(keys.paste({}), PostOutcome::Posted);
+        EXPECT_EQ(pasteOutcome(keys), PostOutcome::Posted);
         const auto all = keysOf(window, before + 4);
         return all.size() == before + 4 ? all[before + 1].keycode : xcb_keycode_t{0};
     }
@@ -77,7 +77,7 @@ TEST_P(PosterOnX11WithStuckModifier, LiftsItForTheKeysAndGivesItBack) {
     auto* xcb = m_connection->xcb();
     x11xkb::setStuckModifiers(xcb, 0xff, stuck);
     ASSERT_EQ(x11xkb::stuckModifiers(xcb), stuck);
-    EXPECT_EQ(keys.paste({}), PostOutcome::Posted);
+    EXPECT_EQ(pasteOutcome(keys), PostOutcome::Posted);
     const auto received = keysOf(window, 4);
     ASSERT_EQ(received.size(), 4U);
     constexpr std::uint16_t locks = XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2;

@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Every, PosterOnX11WithoutLatinV, testing::Values("ru", 
 TEST_F(PosterOnX11, HasNoKeysWithoutAKeymap) {
     X11KeyPoster poster(m_connection, {}, std::make_shared<X11GrabbedKeys>(m_connection));
     EXPECT_EQ(poster.pasteTarget(), std::nullopt);
-    EXPECT_EQ(poster.paste({}), PostOutcome::NoSuchKey);
+    EXPECT_EQ(pasteOutcome(poster), PostOutcome::NoSuchKey);
 }
 
 class PosterOnX11WithHeldKey : public PosterOnX11,
@@ -172,7 +172,7 @@ TEST(PosterOnX11WithoutXtest, IsUnavailable) {
     const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(queue);
     X11KeyPoster poster(connection, {keymap, keymap}, std::make_shared<X11GrabbedKeys>(connection));
     EXPECT_EQ(poster.pasteTarget(), std::nullopt);
-    EXPECT_EQ(poster.paste({}), PostOutcome::Unavailable);
+    EXPECT_EQ(pasteOutcome(poster), PostOutcome::Unavailable);
     EXPECT_EQ(xcb_connection_has_error(connection->xcb()), 0) << "the other services live on";
 }
 

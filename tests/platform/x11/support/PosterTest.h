@@ -4,6 +4,7 @@
 #include "support/ForeignWindow.h"
 #include "support/X11Test.h"
 
+#include <testing/PasteOutcome.h>
 #include <x11_keyboard/X11KeyPoster.h>
 
 #include <linux/input-event-codes.h>
@@ -27,10 +28,10 @@ protected:
             std::make_shared<X11GrabbedKeys>(m_connection)};
     }
 
-    [[nodiscard]] PostOutcome paste() {
+    [[nodiscard]] std::optional<PostOutcome> paste() {
         auto keys = poster();
         const auto target = keys.pasteTarget();
-        return target ? keys.paste(*target) : PostOutcome::NoSuchKey;
+        return target ? pasteOutcome(keys, *target) : PostOutcome::NoSuchKey;
     }
 
     [[nodiscard]] std::optional<PasteTarget> pasteTarget() { return poster().pasteTarget(); }

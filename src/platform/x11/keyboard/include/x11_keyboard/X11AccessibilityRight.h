@@ -16,11 +16,15 @@ class X11AccessibilityRight final : public AccessibilityRight {
 public:
     explicit X11AccessibilityRight(std::shared_ptr<X11Connection> connection);
 
-    [[nodiscard]] bool isTrusted() const override;
+    [[nodiscard]] bool mayReadShortcut() const override;
+
+    [[nodiscard]] TypingRight typing() const override;
 
     [[nodiscard]] bool canPrompt() const override { return false; }
 
     void prompt() override {}
+
+    void onChanged(std::function<void()>) override {}
 
 private:
     std::shared_ptr<X11Connection> m_connection;

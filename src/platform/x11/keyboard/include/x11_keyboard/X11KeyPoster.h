@@ -30,12 +30,13 @@ public:
         std::shared_ptr<X11GrabbedKeys> grabbedKeys);
 
     [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override;
-    [[nodiscard]] PostOutcome paste(const PasteTarget& target) override;
+    void paste(const PasteTarget& target, PostHandler done) override;
 
 private:
     /// Pressed in this order, released in the opposite one.
     using Keys = std::vector<xcb_keycode_t>;
 
+    [[nodiscard]] PostOutcome post(PasteKeys wanted);
     [[nodiscard]] std::optional<Keys> keysFor(PasteKeys keys) const;
     [[nodiscard]] std::optional<Keys>
     keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const;

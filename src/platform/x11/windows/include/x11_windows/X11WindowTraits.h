@@ -29,6 +29,9 @@ public:
     void prepareDialog(QWindow& window) override;
     void orderFront(QWindow& window) override;
     void activate(QWindow& window) override;
+
+    [[nodiscard]] bool placesWindows() const override { return true; }
+
     [[nodiscard]] bool isComposited() const override;
     void onCompositingChanged(std::function<void()> handler) override;
     void setShadow(QWindow& window, const QMargins& margins) override;
