@@ -162,6 +162,7 @@ TEST_F(RememberedChoicesTest, WhateverIsChosenComesBackAsItWas) {
 }
 
 TEST_F(RememberedChoicesTest, AZoneByAnOldNameComesBackAsTheOneThatIsListed) {
+    m_model = startAnew();
     m_model->setRemembersChoices(true);
     m_model->setSelectedTimeZones(zones({"US/Eastern", "Asia/Tokyo"}));
     m_model = startAnew();
