@@ -7,7 +7,7 @@ namespace quorvane {
 
 namespace {
 
-// UTS #35, part 4, "Date Field Symbol Table", without the letters of skeletons alone (j, J, C) and
+// The "Date Field Symbol Table" of UTS #35, without the letters of skeletons alone (j, J, C) and
 // the deprecated l, which gives nothing.
 constexpr QStringView knownLetters = u"GyYuUrQqMLwWdDFgEecabBhHKkmsSAzZOvVXx";
 

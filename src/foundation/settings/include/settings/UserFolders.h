@@ -22,7 +22,7 @@ struct UserFolders {
     [[nodiscard]] QString windowsFile() const;
 };
 
-/// Where programs look for settings, by the same specification: the user's own folder, then the
+/// Where programs look for settings, by the same standard: the user's own folder, then the
 /// system's ($XDG_CONFIG_DIRS, by default /etc/xdg).
 [[nodiscard]] QStringList settingsFolders(const Environment& environment);
 
