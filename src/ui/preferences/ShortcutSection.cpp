@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ShortcutSection.h"
 
+#include "LabelledRow.h"
+
 #include <controls/WrappedText.h>
 #include <preferences/PreferencesMetrics.h>
 
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 #include <utility>
 
 namespace quorvane {
-
-namespace {
-
-constexpr int labelGap = 12;
-
-} // namespace
 
 ShortcutSection::ShortcutSection(
     Binding<HotKeyCombo> combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent)
@@ -23,12 +19,8 @@ ShortcutSection::ShortcutSection(
     const auto name = tr("Invoke Quorvane");
     m_recorder->setAccessibleName(name);
     auto* label = new WrappedText(name, TextStyle::Body, WrappedText::Color::Secondary, this);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(labelGap);
-    row->addWidget(label, 0, Qt::AlignVCenter);
-    row->addWidget(m_recorder, 1);
     column().addSpacing(preferencesmetrics::rowSpacing);
-    column().addLayout(row);
+    column().addLayout(new LabelledRow(label, m_recorder));
     column().addSpacing(preferencesmetrics::captionSpacing);
     column().addWidget(new WrappedText(
         tr("Requires at least one modifier key (Ctrl, Alt, Shift, Super)."),

@@ -2,6 +2,7 @@
 #include "PreferencesFixture.h"
 
 #include <controls/SectionColumn.h>
+#include <platform/KeyCodes.h>
 
 #include <QLayout>
 
@@ -133,6 +134,19 @@ TEST_F(PreferencesLayoutTest, WhatIsLongerThanTheWindowScrollsAndTheFocusIsSeen)
         EXPECT_TRUE(focused == &list() || seen.contains(placeOf(*focused)))
             << focused->accessibleName().toStdString();
     }
+}
+
+TEST_F(PreferencesLayoutTest, ShortcutStandsBelowItsNameWhereItHasNoRoomBesideIt) {
+    model->setHotKey({keycode::backspace, 0x1b00});
+    openView();
+    setBody(24);
+    const auto name = placeOf(u"Invoke Quorvane"_s);
+    const auto recorder = placeOf(*view->findChild<ShortcutRecorder*>());
+    EXPECT_EQ(recorder.top(), name.bottom() + 1 + 4);
+    EXPECT_EQ(recorder.left(), name.left());
+    EXPECT_EQ(recorder.right(), 389);
+    const auto& area = *view->findChild<SectionColumn*>();
+    EXPECT_EQ(area.widget()->width(), area.viewport()->width()) << "nothing is cut off";
 }
 
 TEST_F(PreferencesLayoutTest, MirrorsWhereTextRunsFromRightToLeft) {
