@@ -26,9 +26,9 @@ class DesktopCase(unittest.TestCase):
         """Runs the test inside its session, and shows the session's logs if it fails."""
         name = os.environ.get("QUORVANE_TEST_WM", "openbox")
         with Session(None if name == _NO_WINDOW_MANAGER else name) as self.session:
-            before = _troubles(result)
+            before = troubles(result)
             outcome = super().run(result)
-            if _troubles(result) > before:
+            if troubles(result) > before:
                 print(self.session.logs(), file=sys.stderr)
         return outcome
 
@@ -74,5 +74,6 @@ class DesktopCase(unittest.TestCase):
         return text
 
 
-def _troubles(result: unittest.TestResult | None) -> int:
+def troubles(result: unittest.TestResult | None) -> int:
+    """How many tests have failed so far."""
     return len(result.errors) + len(result.failures) if result else 0

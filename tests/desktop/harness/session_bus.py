@@ -3,7 +3,7 @@
 
 import os
 import subprocess
-from collections.abc import Mapping
+from collections.abc import Mapping, Sequence
 from pathlib import Path
 
 from .processes import Processes
@@ -35,15 +35,22 @@ class SessionBus:
     """A bus of a session, its files in a directory of its own."""
 
     def __init__(
-        self, processes: Processes, environment: Mapping[str, str], directory: Path
+        self,
+        processes: Processes,
+        environment: Mapping[str, str],
+        directory: Path,
+        services_offered: Sequence[str] = _ACTIVATABLE,
     ) -> None:
-        """`environment` holds DISPLAY already: the services inherit it."""
+        """`environment` holds DISPLAY already: the services inherit it.
+
+        `services_offered` are files of the system's, of services that start when they are called.
+        """
         self._processes = processes
         self._environment = environment
         self._configuration = directory / "session.conf"
         services = directory / "services"
         services.mkdir()
-        for name in _ACTIVATABLE:
+        for name in services_offered:
             if (_SERVICES / name).exists():
                 (services / name).symlink_to(_SERVICES / name)
         self._configuration.write_text(

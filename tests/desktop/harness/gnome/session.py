@@ -1,0 +1,129 @@
+# SPDX-License-Identifier: MIT
+"""A whole GNOME session without a screen, a login manager or a graphics card."""
+
+import re
+import shutil
+from collections.abc import Sequence
+from contextlib import ExitStack
+from os import environ
+from pathlib import Path
+
+from ..accessible import Accessibility
+from ..message_bus import MessageBus
+from ..private_session import PrivateSession
+from ..session_bus import SessionBus
+from ..waiting import wait_until
+from ..windows import Windows
+from .hands import Hands
+from .shell import Shell
+
+_HERE = Path(__file__).parent
+_PROBE = "probe@quorvane.org"
+
+# What programs of the session may have the bus start for them.
+_SERVICES = (
+    "ca.desrt.dconf.service",
+    "org.a11y.Bus.service",
+    "org.freedesktop.impl.portal.desktop.gnome.service",
+    "org.freedesktop.impl.portal.desktop.gtk.service",
+    "org.freedesktop.impl.portal.PermissionStore.service",
+    "org.freedesktop.portal.Desktop.service",
+    "org.gnome.Shell.Notifications.service",
+)
+
+_SETTINGS = (
+    ("org.gnome.desktop.interface", "enable-animations", "false"),
+    ("org.gnome.desktop.session", "idle-delay", "0"),
+    ("org.gnome.desktop.lockdown", "disable-lock-screen", "true"),
+    ("org.gnome.desktop.background", "picture-uri", "''"),
+    ("org.gnome.shell", "welcome-dialog-last-shown-version", "'99'"),
+    ("org.gnome.shell", "disable-extension-version-validation", "true"),
+)
+
+_DESKTOP = {
+    "XDG_CURRENT_DESKTOP": "GNOME",
+    "XDG_SESSION_DESKTOP": "gnome",
+    "XDG_SESSION_TYPE": "wayland",
+    "GNOME_SHELL_SESSION_MODE": "user",
+    # One thread paints; the others would only take the processor from what is tested.
+    "LIBGL_ALWAYS_SOFTWARE": "1",
+    "LP_NUM_THREADS": "1",
+}
+
+
+class GnomeSession(PrivateSession):
+    """GNOME Shell with XWayland, the daemon that runs the user's key bindings, and the portals.
+
+    To be used inside of harness.sandbox.
+    """
+
+    shell: Shell
+    hands: Hands
+
+    def __init__(self, extensions: Sequence[str] = ()) -> None:
+        """`extensions` are those of the shell, by their UUIDs, that run beside the tests' own."""
+        super().__init__()
+        self._extensions = [_PROBE, *extensions]
+
+    def set(self, schema: str, key: str, value: str) -> None:
+        """Changes a setting of the desktop; the value is written as GVariant's text."""
+        self.run(["gsettings", "set", schema, key, value])
+
+    def _begin(self, undo: ExitStack) -> None:
+        self.environment |= _DESKTOP
+        self._start_buses()
+        self.accessibility = Accessibility(self.bus.address)
+        undo.callback(self.accessibility.close)
+        self._install_probe()
+        for setting in _SETTINGS:
+            self.set(*setting)
+        self.set("org.gnome.shell", "enabled-extensions", str(self._extensions))
+        self.start(["pipewire"])
+        self.start(["gnome-shell", "--headless", "--wayland", "--virtual-monitor", "1280x800"])
+        self.shell = Shell(self.bus.address)
+        undo.callback(self.shell.close)
+        self._follow_displays(undo)
+        self.start(["/usr/libexec/gsd-media-keys"])
+        self.hands = Hands(self.bus.address)
+        undo.callback(self.hands.close)
+        self._wait_for_key_bindings()
+
+    def _start_buses(self) -> None:
+        system = SessionBus(self._processes, self.environment, self.directory("system-bus"))
+        self.environment["DBUS_SYSTEM_BUS_ADDRESS"] = system.address
+        self.bus = SessionBus(
+            self._processes, self.environment.copy(), self.directory("bus"), _SERVICES
+        )
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
+
+    def _install_probe(self) -> None:
+        extensions = self.directory("data") / "gnome-shell" / "extensions"
+        shutil.copytree(_HERE / "extension", extensions / _PROBE)
+
+    def _follow_displays(self, undo: ExitStack) -> None:
+        """Lets programs find the compositor and its X server, those that the bus starts too."""
+        runtime = self.directory("run")
+        number = re.search(r"public X11 display (:\d+)", self.log("gnome-shell"))
+        if not number:
+            raise RuntimeError(f"no X server:\n{self.logs()}")
+        self.display = number[1]
+        displays = {
+            "WAYLAND_DISPLAY": "wayland-0",
+            "DISPLAY": self.display,
+            "XAUTHORITY": str(next(runtime.glob(".mutter-Xwaylandauth.*"))),
+        }
+        self.environment |= displays
+        daemon = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
+        bus = MessageBus(self.bus.address)
+        bus.call(*daemon, "UpdateActivationEnvironment", "(a{ss})", displays)
+        bus.close()
+        # The tests' own connections to the X server.
+        environ["XAUTHORITY"] = displays["XAUTHORITY"]
+        self.windows = Windows(self.display)
+        undo.callback(self.windows.close)
+
+    def _wait_for_key_bindings(self) -> None:
+        bus = MessageBus(self.bus.address)
+        name = "org.gnome.SettingsDaemon.MediaKeys"
+        wait_until(lambda: bus.has_owner(name), "the daemon of key bindings", interval=0.05)
+        bus.close()

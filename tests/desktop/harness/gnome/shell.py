@@ -1,0 +1,88 @@
+# SPDX-License-Identifier: MIT
+"""What GNOME Shell shows, as an extension of the tests' own tells it."""
+
+import json
+from dataclasses import dataclass
+from pathlib import Path
+from typing import Any
+
+from ..message_bus import BusError, MessageBus
+from ..waiting import wait_until
+
+_PROBE = ("org.quorvane.Probe", "/org/quorvane/Probe", "org.quorvane.Probe")
+_SCREENSHOT = (
+    "org.gnome.Shell.Screenshot",
+    "/org/gnome/Shell/Screenshot",
+    "org.gnome.Shell.Screenshot",
+)
+
+
+@dataclass(frozen=True)
+class ShellWindow:
+    """A window as the shell sees it; the names are those of the extension."""
+
+    title: str
+    pid: int
+    isX11: bool
+    frame: list[int]
+    isAbove: bool
+    isOnAllWorkspaces: bool
+    isInTaskbar: bool
+    hasFocus: bool
+    wantsAttention: bool
+
+
+class Shell:
+    """One connection to the shell's extension and to its own services."""
+
+    def __init__(self, address: str) -> None:
+        self._bus = MessageBus(address)
+        wait_until(lambda: self._bus.has_owner(_PROBE[0]), "a usable GNOME Shell", interval=0.05)
+
+    def close(self) -> None:
+        """Ends the connection."""
+        self._bus.close()
+
+    def windows(self) -> list[ShellWindow]:
+        """Every window, of X11 and of Wayland; menus and the like are none."""
+        return [ShellWindow(**window) for window in json.loads(self._ask("Windows"))]
+
+    def window(self, title: str) -> ShellWindow | None:
+        """The window of a title, if there is one."""
+        return next((window for window in self.windows() if window.title == title), None)
+
+    def focused(self) -> str | None:
+        """The title of the window that has the keyboard."""
+        return next((window.title for window in self.windows() if window.hasFocus), None)
+
+    def wait_focused(self, title: str) -> ShellWindow:
+        """Waits until the window of a title has the keyboard."""
+
+        def has_focus() -> ShellWindow | None:
+            window = self.window(title)
+            return window if window and window.hasFocus else None
+
+        return wait_until(has_focus, f'the focus on "{title}"')
+
+    def notifications(self) -> list[tuple[str, str]]:
+        """Title and body of what the user has been told and has not put away."""
+        return [(title, body) for title, body in json.loads(self._ask("Notifications"))]
+
+    def evaluate(self, code: str) -> Any:
+        """The value of an expression inside the shell."""
+        return json.loads(self._ask("Evaluate", "(s)", code))
+
+    def screenshot(self, file: Path) -> None:
+        """Writes a picture of the whole screen."""
+        # The shell lets the owner of this name take pictures, once it has heard of it.
+        self._bus.request_name("org.gnome.Screenshot")
+        wait_until(lambda: self._take(file), "a picture of the screen", interval=0.05)
+
+    def _take(self, file: Path) -> bool:
+        try:
+            return self._bus.call(*_SCREENSHOT, "Screenshot", "(bbs)", True, False, str(file))[0]
+        except BusError:
+            return False
+
+    def _ask(self, method: str, signature: str = "()", *values: str) -> str:
+        return self._bus.call(*_PROBE, method, signature, *values)[0]
