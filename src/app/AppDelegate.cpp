@@ -205,7 +205,9 @@ InterfaceCallbacks AppDelegate::interfaceCallbacks() {
 
 PreferencesWindowController::Callbacks AppDelegate::preferencesCallbacks() {
     return {
-        [this] { return m_shortcut.activity(); },
+        [this] {
+            return ShortcutRecorder::Status{m_shortcut.activity(), m_shortcut.holder()};
+        },
         [self = QPointer(this)](HotKeyCombo combo) {
             if (!self)
                 return;

@@ -48,6 +48,9 @@ public:
     /// Whether presses of the shortcut reach the program.
     [[nodiscard]] ShortcutRecorder::Activity activity() const;
 
+    /// What people call the program that holds it elsewhere; empty where nobody tells.
+    [[nodiscard]] QString holder() const { return m_monitor ? m_monitor->holder() : QString(); }
+
     /// Null before the start.
     [[nodiscard]] const HotKeyMonitor* monitor() const { return m_monitor.get(); }
 

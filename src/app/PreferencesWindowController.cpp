@@ -56,7 +56,7 @@ void PreferencesWindowController::setupWindow() {
             m_dependencies.zones,
             m_dependencies.mainQueue,
             m_dependencies.clock,
-            m_callbacks.shortcutActivity,
+            m_callbacks.shortcutStatus,
             m_dependencies.pasteReader},
         m_callbacks.onHotKeyChange);
     m_window = std::make_unique<PreferencesWindow>(m_view);

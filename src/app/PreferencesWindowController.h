@@ -38,7 +38,7 @@ public:
     };
 
     struct Callbacks {
-        std::function<ShortcutRecorder::Activity()> shortcutActivity;
+        std::function<ShortcutRecorder::Status()> shortcutStatus;
         std::function<void(HotKeyCombo)> onHotKeyChange;
         std::function<void(QWidget& window)> attachMainMenu;
     };

@@ -164,7 +164,7 @@ PreferencesView& PreferencesBoard::addWindow(
             sample.queue,
             sample::clock(),
             [activity] {
-                return activity;
+                return ShortcutRecorder::Status{activity, {}};
             }},
         [](HotKeyCombo) {},
         this);

@@ -118,6 +118,17 @@ TEST_F(AppDelegateTest, ShortcutThatComesBackTakesItsWordsOutOfThePreferences) {
     EXPECT_FALSE(said->isVisible());
 }
 
+TEST_F(AppDelegateTest, PreferencesNameWhoHoldsTheShortcut) {
+    taps->setHeldElsewhere(true);
+    taps->setHolder(u"Screen recorder"_s);
+    launch();
+    delegate->showPreferences();
+    const auto words = u"Screen recorder holds this shortcut."_s;
+    const auto* said = widgetByRole(*preferences(), QAccessible::StaticText, words);
+    ASSERT_NE(said, nullptr);
+    EXPECT_TRUE(said->isVisible());
+}
+
 TEST_F(AppDelegateTest, ReopenShowsAHiddenPanelAndRemembersWhatWasInFront) {
     launch();
     pressShortcut();

@@ -109,7 +109,7 @@ void PreferencesView::change(HotKeyCombo combo) {
 }
 
 void PreferencesView::refresh() {
-    m_shortcut->setActivity(m_dependencies.shortcutActivity());
+    m_shortcut->setStatus(m_dependencies.shortcutStatus());
     m_icons->refresh();
     m_general->refresh();
     m_favorites->refresh();

@@ -30,8 +30,8 @@ ShortcutSection::ShortcutSection(
     connect(m_recorder, &ShortcutRecorder::noticeChanged, this, &ShortcutSection::showNotice);
 }
 
-void ShortcutSection::setActivity(ShortcutRecorder::Activity activity) {
-    m_recorder->setActivity(activity);
+void ShortcutSection::setStatus(const ShortcutRecorder::Status& status) {
+    m_recorder->setStatus(status);
 }
 
 void ShortcutSection::showNotice() {

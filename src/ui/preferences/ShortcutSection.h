@@ -24,7 +24,7 @@ public:
     [[nodiscard]] ShortcutRecorder& recorder() const { return *m_recorder; }
 
     /// What there is to say about it, and about the shortcut itself, is a line below the others.
-    void setActivity(ShortcutRecorder::Activity activity);
+    void setStatus(const ShortcutRecorder::Status& status);
 
 private:
     void addNotice();

@@ -72,8 +72,8 @@ QStringList ShortcutRecorder::keys() const {
     return modifierLabels(toCarbonModifiers(m_previewMods)) << ellipsis;
 }
 
-void ShortcutRecorder::setActivity(Activity activity) {
-    m_activity = activity;
+void ShortcutRecorder::setStatus(Status status) {
+    m_status = std::move(status);
     refresh();
 }
 
@@ -124,9 +124,10 @@ QStringList ShortcutRecorder::keyNames() const {
 }
 
 QString ShortcutRecorder::notice() const {
-    switch (m_activity) {
+    switch (m_status.activity) {
     case Activity::HeldElsewhere:
-        return tr("Another program holds this shortcut.");
+        return m_status.holder.isEmpty() ? tr("Another program holds this shortcut.")
+                                         : tr("%1 holds this shortcut.").arg(m_status.holder);
     case Activity::NoSuchKey:
         return tr("This keyboard has no such key.");
     case Activity::Unavailable:

@@ -36,6 +36,7 @@ protected:
     FixedCurrentZone currentZone{*zones.zone(QStringLiteral("America/New_York"))};
     MemoryDefaults defaults;
     ShortcutRecorder::Activity activity = ShortcutRecorder::Activity::Active;
+    QString holder;
     std::vector<HotKeyCombo> changes;
     HeldPaste clipboardOwner;
     std::unique_ptr<DateTimeModel> model;
@@ -60,7 +61,14 @@ protected:
         view = std::make_unique<PreferencesView>(
             *model,
             PreferencesView::Dependencies{
-                layout, zones, queue, clock, [this] { return activity; }, clipboardOwner.reader()},
+                layout,
+                zones,
+                queue,
+                clock,
+                [this] {
+                    return ShortcutRecorder::Status{activity, holder};
+                },
+                clipboardOwner.reader()},
             [this](HotKeyCombo combo) {
                 changes.push_back(combo);
                 EXPECT_EQ(view->editingCombo(), combo);

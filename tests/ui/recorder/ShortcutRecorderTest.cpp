@@ -255,18 +255,20 @@ TEST_F(ShortcutRecorderTest, RecordingIsToldByWhatHasTheFocus) {
 }
 
 TEST_F(ShortcutRecorderTest, ShortcutOfAnotherProgramIsSaidNotToBeActive) {
-    recorder->setActivity(ShortcutRecorder::Activity::HeldElsewhere);
+    recorder->setStatus({ShortcutRecorder::Activity::HeldElsewhere, {}});
     const auto warning = u"Another program holds this shortcut."_s;
     EXPECT_EQ(recorder->notice(), warning);
     EXPECT_EQ(description(), u"Control, Shift, Super, D. "_s + warning);
+    recorder->setStatus({ShortcutRecorder::Activity::HeldElsewhere, u"KWin"_s});
+    EXPECT_EQ(recorder->notice(), u"KWin holds this shortcut."_s);
     startRecording();
     EXPECT_EQ(description(), u"Recording: Waiting for a key"_s);
     keyboard.type(escape);
-    recorder->setActivity(ShortcutRecorder::Activity::Unavailable);
+    recorder->setStatus({ShortcutRecorder::Activity::Unavailable, {}});
     EXPECT_EQ(recorder->notice(), u"Global shortcuts are not available on this desktop."_s);
-    recorder->setActivity(ShortcutRecorder::Activity::NoSuchKey);
+    recorder->setStatus({ShortcutRecorder::Activity::NoSuchKey, {}});
     EXPECT_EQ(recorder->notice(), u"This keyboard has no such key."_s);
-    recorder->setActivity(ShortcutRecorder::Activity::Active);
+    recorder->setStatus({ShortcutRecorder::Activity::Active, {}});
     EXPECT_EQ(recorder->notice(), QString());
     EXPECT_EQ(description(), u"Control, Shift, Super, D"_s);
 }

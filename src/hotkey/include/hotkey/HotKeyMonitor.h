@@ -57,6 +57,9 @@ public:
     /// Whether presses of the shortcut reach us, and if not, why; Off while idle.
     [[nodiscard]] TapDelivery delivery() const;
 
+    /// What people call the program that holds the shortcut elsewhere; empty where nobody tells.
+    [[nodiscard]] QString holder() const { return m_eventTap ? m_eventTap->holder() : QString(); }
+
     [[nodiscard]] bool isArmed() const { return delivery() == TapDelivery::Delivering; }
 
     /// Whether the end of each press is told; false while idle.

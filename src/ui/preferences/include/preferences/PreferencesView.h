@@ -35,7 +35,7 @@ public:
         MainQueue& mainQueue;
         const Clock& clock;
         /// Whether the shortcut reaches the program; asked at each refresh.
-        std::function<ShortcutRecorder::Activity()> shortcutActivity;
+        std::function<ShortcutRecorder::Status()> shortcutStatus;
         PasteReader pasteReader = {};
     };
 

@@ -30,6 +30,11 @@ public:
         Unavailable    ///< this desktop lets no program have one, or not this one
     };
 
+    struct Status {
+        Activity activity = Activity::Active;
+        QString holder; ///< what people call the program that holds it; empty where nobody tells
+    };
+
     /// A new shortcut is set as soon as it is recorded. `layout` and `queue` must outlive the
     /// recorder.
     ShortcutRecorder(
@@ -52,7 +57,7 @@ public:
     /// where there is nothing to say. Part of the description, except while recording.
     [[nodiscard]] QString notice() const;
 
-    void setActivity(Activity activity);
+    void setStatus(Status status);
 
     /// Shows binding and keyboard layout as they are now.
     void refresh();
@@ -80,7 +85,7 @@ private:
 
     Binding<HotKeyCombo> m_combo;
     const KeyboardLayout& m_keyboardLayout;
-    Activity m_activity = Activity::Active;
+    Status m_status;
     bool m_isRecording = false;
     bool m_hasRecorded = false; ///< the shortcut that is shown was chosen here
     ModifierFlags m_previewMods;
