@@ -8,6 +8,7 @@ import unittest
 from .clipboard import Clipboard
 from .keys import INSERT, SHORTCUT, Key, Keyboard
 from .mouse import Mouse
+from .private_session import PrivateSession
 from .quorvane import Quorvane
 from .session import Session
 from .targets import EDITORS, Editor, Target
@@ -20,12 +21,16 @@ class DesktopCase(unittest.TestCase):
     """A fresh session for each test, under the window manager that QUORVANE_TEST_WM names."""
 
     maxDiff = None
-    session: Session
+    session: PrivateSession
+
+    def make_session(self) -> PrivateSession:
+        """The session of one test."""
+        name = os.environ.get("QUORVANE_TEST_WM", "openbox")
+        return Session(None if name == _NO_WINDOW_MANAGER else name)
 
     def run(self, result: unittest.TestResult | None = None) -> unittest.TestResult | None:
         """Runs the test inside its session, and shows the session's logs if it fails."""
-        name = os.environ.get("QUORVANE_TEST_WM", "openbox")
-        with Session(None if name == _NO_WINDOW_MANAGER else name) as self.session:
+        with self.make_session() as self.session:
             before = troubles(result)
             outcome = super().run(result)
             if troubles(result) > before:

@@ -32,6 +32,9 @@ class PrivateSession(ABC):
     accessibility: Accessibility
     bus: SessionBus
 
+    backend = ""
+    """The services of the display that programs under test are to use; empty for their choice."""
+
     def __init__(self) -> None:
         self.environment: dict[str, str] = {}
         self._stack = ExitStack()

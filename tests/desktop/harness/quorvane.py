@@ -10,7 +10,7 @@ from .accessible import Accessible
 from .expected import ZONE
 from .message_bus import MessageBus
 from .paths import PROGRAM
-from .session import Session
+from .private_session import PrivateSession
 from .waiting import wait_until
 
 BUS_NAME = "org.quorvane.Quorvane"
@@ -20,7 +20,6 @@ BUS_INTERFACE = "org.freedesktop.Application"
 # What a failed test shows of the way from the shortcut to the text.
 _LOGGED = "quorvane.insert=true;quorvane.keys=true;quorvane.shortcut=true;quorvane.tap=true"
 _ENVIRONMENT = {
-    "QUORVANE_BACKEND": "x11",
     "LANG": "en_US.UTF-8",
     "TZ": ZONE,
     "QT_LOGGING_RULES": os.environ.get("QT_LOGGING_RULES", _LOGGED),
@@ -30,9 +29,9 @@ _ENVIRONMENT = {
 class Quorvane:
     """One run of the program in a session."""
 
-    def __init__(self, session: Session, **environment: str) -> None:
+    def __init__(self, session: PrivateSession, **environment: str) -> None:
         self._session = session
-        self._environment = _ENVIRONMENT | environment
+        self._environment = _ENVIRONMENT | {"QUORVANE_BACKEND": session.backend} | environment
         self.process = self.launch()
 
     def launch(self) -> subprocess.Popen[bytes]:
@@ -96,18 +95,18 @@ class Quorvane:
             bus.close()
 
 
-def settings_file(session: Session) -> Path:
+def settings_file(session: PrivateSession) -> Path:
     """Where the program keeps the settings of a session's user."""
     return session.directory("config") / "quorvane" / "defaults.json"
 
 
-def stored_settings(session: Session) -> dict[str, object]:
+def stored_settings(session: PrivateSession) -> dict[str, object]:
     """What the file of settings holds; nothing while there is none."""
     file = settings_file(session)
     return json.loads(file.read_text()) if file.exists() else {}
 
 
-def wait_stored(session: Session, **expected: object) -> None:
+def wait_stored(session: PrivateSession, **expected: object) -> None:
     """Waits until the file holds these values: settings are written beside the program's work."""
     wait_until(
         lambda: expected.items() <= stored_settings(session).items(), f"{expected} on the disk"

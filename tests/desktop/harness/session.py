@@ -20,6 +20,8 @@ _WINDOW_MANAGERS = {
 class Session(PrivateSession):
     """An X server, a bus, directories of its own, and a window manager if one is named."""
 
+    backend = "x11"
+
     def __init__(self, window_manager: str | None) -> None:
         super().__init__()
         self.window_manager = window_manager

@@ -6,7 +6,7 @@ from abc import ABC, abstractmethod
 from collections.abc import Mapping, Sequence
 from pathlib import Path
 
-from .session import Session
+from .private_session import PrivateSession
 from .waiting import wait_until
 
 _HERE = Path(__file__).parent
@@ -17,7 +17,7 @@ class Target(ABC):
 
     def __init__(
         self,
-        session: Session,
+        session: PrivateSession,
         command: Sequence[str],
         environment: Mapping[str, str] | None = None,
         title: str | None = None,
@@ -51,7 +51,7 @@ class Target(ABC):
 class Editor(Target):
     """An editor whose text is read out of its process by AT-SPI."""
 
-    def __init__(self, session: Session, command: Sequence[str]) -> None:
+    def __init__(self, session: PrivateSession, command: Sequence[str]) -> None:
         super().__init__(session, command)
         self._editor = session.accessibility.application(self.process.pid).find_editor()
 
@@ -65,7 +65,7 @@ class Terminal(Target):
     It may bear the class of another terminal, and is taken for that one then.
     """
 
-    def __init__(self, session: Session, name: str = "XTerm") -> None:
+    def __init__(self, session: PrivateSession, name: str = "XTerm") -> None:
         self._typed = session.root / "typed"
         self._typed.touch()
         command = ["sh", "-c", 'stty raw -echo; exec cat >"$0"', str(self._typed)]
@@ -78,7 +78,7 @@ class Terminal(Target):
 class DialogField(Target):
     """The field of a dialog, over a window of its program that fills the screen."""
 
-    def __init__(self, session: Session) -> None:
+    def __init__(self, session: PrivateSession) -> None:
         self._typed = session.root / "typed-in-dialog"
         self._typed.touch()
         program = [sys.executable, "-B", "-m", f"{__package__}.dialog_program", str(self._typed)]

@@ -1,0 +1,30 @@
+# SPDX-License-Identifier: MIT
+"""What the test cases under sway have in common."""
+
+from ..case import DesktopCase
+from ..wayland.clipboard import WaylandClipboard
+from ..wayland.keyboard import UsersKeyboard
+from ..wayland.pointer import UsersPointer
+from .session import SIZE, SwaySession
+
+
+class SwayCase(DesktopCase):
+    """A fresh sway session for each test; to be run by harness.sandbox."""
+
+    session: SwaySession
+    keyboard: UsersKeyboard  # type: ignore[assignment]
+    clipboard: WaylandClipboard  # type: ignore[assignment]
+
+    scale = 1.0
+    """Pixels of the screen for each point."""
+
+    def make_session(self) -> SwaySession:
+        return SwaySession(self.scale)
+
+    def setUp(self) -> None:
+        self.keyboard = UsersKeyboard(self.session.socket)
+        self.addCleanup(self.keyboard.close)
+        self.pointer = UsersPointer(self.session.socket, SIZE)
+        self.addCleanup(self.pointer.close)
+        self.clipboard = WaylandClipboard(self.session.socket)
+        self.addCleanup(self.clipboard.close)
