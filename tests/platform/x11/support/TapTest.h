@@ -50,15 +50,22 @@ protected:
     [[nodiscard]] bool keysAreThrough() {
         const auto before = m_target.keys().size();
         auto presses = m_presses.size();
-        m_keyboard.type({KEY_F8});
+        typeAfterAllRequests(KEY_F8);
         const bool atTarget = waitUntil([this, before, &presses] {
             if (std::exchange(presses, m_presses.size()) < m_presses.size())
-                m_keyboard.type({KEY_F8});
+                typeAfterAllRequests(KEY_F8);
             const auto& keys = m_target.keys();
             return keys.size() > before && keys.back().keycode == KEY_F8 + 8 &&
                    keys.back().kind == ReceivedKey::Kind::Release;
         });
         return atTarget && eventsAreDelivered();
+    }
+
+    /// The server reads the connections in any order: without a round trip it may get the key before
+    /// it learns that the tap has let go of the keyboard.
+    void typeAfterAllRequests(std::uint16_t key) {
+        m_connection->waitForServer();
+        m_keyboard.type({key});
     }
 
     /// Sends an event to the tap's own connection, which arrives behind all others.
