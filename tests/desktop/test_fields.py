@@ -113,6 +113,13 @@ class TextFields(DesktopCase):
                 self.assert_shortcut_toggles()
                 wait_until(lambda: self.field.has(State.FOCUSED), "focus in the search")
 
+    def test_the_shortcut_closes_the_menu_and_the_field_keeps_the_focus(self) -> None:
+        self.keyboard.tap(Key.MENU)
+        self.assert_shortcut_toggles()
+        wait_until(lambda: self.field.has(State.FOCUSED), "focus in the search")
+        self.keyboard.tap(Key.T)
+        self.wait_text("t")
+
     def use_format_field(self) -> None:
         """Goes on with the field of the custom format, which stands still from the start."""
         self.keyboard.tap(Key.ESCAPE)

@@ -2,6 +2,7 @@
 #include "LineEditMenu.h"
 
 #include <controls/Announcement.h>
+#include <controls/ContextMenu.h>
 #include <controls/LineEdit.h>
 #include <controls/SilentAccessibility.h>
 
@@ -77,9 +78,7 @@ void LineEdit::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void LineEdit::contextMenuEvent(QContextMenuEvent* event) {
-    auto* menu = makeLineEditMenu(*this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->popup(event->globalPos());
+    openContextMenu(*makeLineEditMenu(*this), *this, event->globalPos());
 }
 
 void LineEdit::dragEnterEvent(QDragEnterEvent* event) {

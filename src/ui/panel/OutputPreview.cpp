@@ -2,6 +2,7 @@
 #include "OutputLayout.h"
 
 #include <controls/ColorContrast.h>
+#include <controls/ContextMenu.h>
 #include <controls/DevicePixels.h>
 #include <controls/OverlayScrollBar.h>
 #include <controls/TextStyle.h>
@@ -185,13 +186,12 @@ void OutputPreview::keyPressEvent(QKeyEvent* event) {
 void OutputPreview::contextMenuEvent(QContextMenuEvent* event) {
     showRest();
     auto* menu = createStandardContextMenu();
-    menu->setAttribute(Qt::WA_DeleteOnClose);
     if (document()->blockCount() > 1) {
         const bool isByKeyboard = event->reason() == QContextMenuEvent::Keyboard;
         const auto place = middleOfRow(event->pos()).toPoint();
         addCopyOfLine(*menu, lineAt(isByKeyboard ? textCursor() : cursorForPosition(place)));
     }
-    menu->popup(event->globalPos());
+    openContextMenu(*menu, *this, event->globalPos());
 }
 
 void OutputPreview::resizeEvent(QResizeEvent* event) {

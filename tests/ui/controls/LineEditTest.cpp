@@ -4,10 +4,11 @@
 #include <support/HeldPaste.h>
 #include <support/UnreadableData.h>
 
+#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QMenu>
+#include <QPointer>
 #include <QValidator>
 #include <gtest/gtest.h>
 
@@ -104,6 +105,15 @@ TEST_F(LineEditTest, MenuOffersWhatTheFieldCanDo) {
     EXPECT_FALSE(entry(u"Delete"_s).isEnabled());
     entry(u"Select All"_s).trigger();
     EXPECT_EQ(field.selectedText(), u"Rome"_s);
+}
+
+TEST_F(LineEditTest, MenuClosesWithTheWindowOfItsField) {
+    const QPointer<QMenu> opened = &menu();
+    ASSERT_TRUE(opened->isVisible());
+    field.window()->hide();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(opened.isNull());
 }
 
 TEST_F(LineEditTest, MenuOfAFieldThatCannotBeEditedOnlyCopies) {

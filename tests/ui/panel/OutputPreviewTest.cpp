@@ -342,6 +342,14 @@ TEST_F(OutputPreviewMenuTest, KeysChooseTheLineOfTheCursor) {
     menu().close();
 }
 
+TEST_F(OutputPreviewMenuTest, ClosesWithTheWindow) {
+    show(u"one\ntwo"_s);
+    click(at(0));
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    window.hide();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TEST_F(OutputPreviewMenuTest, LineIsTheTextExactly) {
     show(u"one\n17\u202F:05\u00A0h\nthree"_s);
     click(at(5));
