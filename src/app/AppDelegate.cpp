@@ -74,9 +74,13 @@ AppDelegate::AppDelegate(Dependencies dependencies)
       m_notice(
           {*m_dependencies.platform.notifications, *m_dependencies.platform.accessibilityRight},
           noticeCallbacks()),
+      m_typingConsent(
+          {*m_dependencies.platform.accessibilityRight, m_model},
+          [this] { m_preferences.refreshSoon(); }),
       m_insertion(
           {*m_dependencies.platform.workspace,
            *m_dependencies.platform.accessibilityRight,
+           m_typingConsent,
            *m_dependencies.platform.pasteboard,
            *m_dependencies.platform.keyPoster,
            m_dependencies.mainQueue},

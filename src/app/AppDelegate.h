@@ -11,6 +11,7 @@
 #include "PreviousFrontmostApp.h"
 #include "TimeFollower.h"
 #include "TrayIcon.h"
+#include "TypingConsent.h"
 
 #include <platform/PlatformServices.h>
 #include <settings/DefaultsStore.h>
@@ -72,6 +73,9 @@ public:
 
     void showPreferences();
 
+    /// The user has chosen to allow typing: the desktop asks, if it has not got the answer.
+    void allowTyping() { m_typingConsent.allow(); }
+
     /// More is known of how the desktop looks than its palette tells.
     void appearanceChanged() { m_trayIcon.refreshImage(); }
 
@@ -129,6 +133,7 @@ private:
     ModelObserver m_modelObserver;
     std::unique_ptr<ZoneWarmUp> m_zoneWarmUp; ///< null before the first paint
     DeliveryNotice m_notice;
+    TypingConsent m_typingConsent;
     Insertion m_insertion;
     TimeFollower m_timeFollower;
     bool m_terminating = false;

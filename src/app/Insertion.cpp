@@ -37,7 +37,9 @@ Insertion::Insertion(Dependencies dependencies, Callbacks callbacks)
 }
 
 void Insertion::start(const QString& text, const FrontmostApplication& target) {
-    if (!m_isUnderWay)
+    if (m_dependencies.consent.isAsked())
+        copyInstead(text, CopyReason::NoWayToType);
+    else if (!m_isUnderWay)
         begin({text, target});
     else if (!m_waiting)
         m_waiting = {text, target};
@@ -48,11 +50,35 @@ void Insertion::start(const QString& text, const FrontmostApplication& target) {
 void Insertion::finish(std::function<void()> done) {
     m_steps.cancelAll();
     m_waiting.reset();
+    m_dependencies.consent.forget();
     m_inserter.finish(std::move(done));
 }
 
 void Insertion::begin(const Request& request) {
     m_isUnderWay = true;
+    if (m_dependencies.consent.isDue())
+        ask(request);
+    else
+        approach(request);
+}
+
+/// The user may have gone elsewhere while the question was open: the target is not brought back,
+/// but gets the time in which it comes by itself.
+void Insertion::ask(const Request& request) {
+    m_dependencies.consent.ask([this, request](bool isGiven) {
+        if (!isGiven) {
+            copyInstead(request.text, CopyReason::NoWayToType);
+            return beginNext();
+        }
+        constexpr auto whileTheQuestionCloses =
+            insertiondelay::beforeActivation + insertiondelay::beforePaste;
+        m_steps.run(m_dependencies.mainQueue, whileTheQuestionCloses, [this, request] {
+            deliver(request);
+        });
+    });
+}
+
+void Insertion::approach(const Request& request) {
     m_steps.run(m_dependencies.mainQueue, insertiondelay::beforeActivation, [this, request] {
         activate(request);
         m_steps.run(m_dependencies.mainQueue, insertiondelay::beforePaste, [this, request] {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CopyReason.h"
+#include "TypingConsent.h"
 
 #include <delivery/TextInserter.h>
 #include <loop/DeadlineSet.h>
@@ -17,13 +18,15 @@ namespace quorvane {
 
 /// The course of an insertion once the interface is hidden: activates the application that was in
 /// front, and pastes into it. Its pauses are those of `delivery/InsertionDelays.h`. Where the text
-/// cannot be typed it is copied.
+/// cannot be typed it is copied. Where the user's consent is due it is asked for first; the text is
+/// then typed if the target has come to the front again by itself.
 class Insertion final {
 public:
     /// All must outlive the insertion.
     struct Dependencies {
         Workspace& workspace;
         const AccessibilityRight& accessibilityRight;
+        TypingConsent& consent;
         Pasteboard& pasteboard;
         KeyPoster& keyPoster;
         MainQueue& mainQueue;
@@ -39,7 +42,9 @@ public:
     Insertion(Dependencies dependencies, Callbacks callbacks);
 
     /// Starts one, or if one is under way waits until its keys are posted. Only one waits: further
-    /// ones are dropped with a line in the log, so that a flood of requests comes to an end.
+    /// ones are dropped with a line in the log, so that a flood of requests comes to an end. While
+    /// the desktop asks the user about typing nothing waits for the answer but what asked: the text
+    /// of any other one is copied at once.
     ///
     /// Where the desktop cannot tell what is in front, the text goes to whatever has the focus when
     /// the keys are posted. Elsewhere it goes to the target or nowhere: when that is not in front
@@ -57,6 +62,8 @@ private:
     };
 
     void begin(const Request& request);
+    void ask(const Request& request);
+    void approach(const Request& request);
     void activate(const Request& request);
     void deliver(const Request& request);
     void conclude(const Request& request, InsertionOutcome outcome);

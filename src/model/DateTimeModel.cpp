@@ -149,6 +149,11 @@ void DateTimeModel::setRemembersChoices(bool remember) {
     });
 }
 
+void DateTimeModel::setWantsTyping(bool wants) {
+    assign(m_preferences.wantsTyping, wants);
+    setting::wantsTyping.store(m_dependencies.defaults, m_preferences.wantsTyping);
+}
+
 QString
 DateTimeModel::formatSingle(Instant instant, const TimeZone& zone, DateFormatPreset preset) const {
     return quorvane::formatSingle(instant, zone, preset, formatSettings());

@@ -26,7 +26,8 @@ Preferences Preferences::load(
         .showInMenuBar = setting::showInMenuBar.valueIn(defaults),
         .showInDock = setting::showInDock.valueIn(defaults),
         .presentationMode = storedPresentationMode(defaults),
-        .remembersChoices = setting::remembersChoices.valueIn(defaults)};
+        .remembersChoices = setting::remembersChoices.valueIn(defaults),
+        .wantsTyping = setting::wantsTyping.valueIn(defaults)};
 }
 
 } // namespace quorvane

@@ -242,6 +242,10 @@ std::vector<Assignment> assignments() {
          [](auto& m) { m.setPresentationMode(PresentationMode::Popover); },
          [](auto& m) { return m.presentationMode() == PresentationMode::Popover; },
          {u"presentationMode"_s}},
+        {"wantsTyping",
+         [](auto& m) { m.setWantsTyping(true); },
+         [](auto& m) { return m.wantsTyping(); },
+         {u"allowTyping"_s}},
         {"remembersChoices",
          [](auto& m) { m.setRemembersChoices(true); },
          [](auto& m) { return m.remembersChoices(); },
@@ -338,6 +342,7 @@ TEST_F(DateTimeModelTest, WhatTheUserComposedEndsWithTheRun) {
     EXPECT_EQ(next->startDate(), march9);
     EXPECT_EQ(next->presentationMode(), PresentationMode::Popover);
     EXPECT_EQ(next->hotKey(), (HotKeyCombo{9, 256}));
+    EXPECT_TRUE(next->wantsTyping());
 }
 
 TEST_F(DateTimeModelTest, ShortcutIsStoredAtOnceAndNeverHalf) {

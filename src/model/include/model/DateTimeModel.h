@@ -86,6 +86,9 @@ public:
     /// Whether format, layout, boxes and zones come back at the next start.
     [[nodiscard]] bool remembersChoices() const { return m_preferences.remembersChoices; }
 
+    /// Whether the user has ever chosen to let the desktop ask about typing.
+    [[nodiscard]] bool wantsTyping() const { return m_preferences.wantsTyping; }
+
     /// What the user has entered. Another minute makes the date the user's; the same one, with
     /// other seconds, does not.
     void setStartDate(Instant instant);
@@ -117,6 +120,7 @@ public:
     void setPresentationMode(PresentationMode mode);
     /// Switched on, it stores the choices as they are.
     void setRemembersChoices(bool remember);
+    void setWantsTyping(bool wants);
 
     [[nodiscard]] const UserLocale& locale() const { return m_dependencies.locale; }
 

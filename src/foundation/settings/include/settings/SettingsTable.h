@@ -28,6 +28,14 @@ inline constexpr StoredSetting<qint64> hotKeyCode{QLatin1StringView("hotKeyCode"
 inline constexpr StoredSetting<qint64> hotKeyModifiers{
     QLatin1StringView("hotKeyModifiers"), 0x1300};
 
+/// Whether the user has chosen to let the desktop ask about typing: in later runs the first
+/// insertion may open its question by itself.
+inline constexpr StoredSetting<bool> wantsTyping{QLatin1StringView("allowTyping"), false};
+
+/// What the desktop gave so that it need not ask in the next run; empty for none.
+inline constexpr StoredSetting<QString, QLatin1StringView> typingToken{
+    QLatin1StringView("typingToken"), QLatin1StringView("")};
+
 /// Whether the choices below are kept. While it is off they are neither read nor written.
 inline constexpr StoredSetting<bool> remembersChoices{
     QLatin1StringView("rememberFormatAndZones"), false};
