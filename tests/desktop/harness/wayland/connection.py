@@ -36,6 +36,11 @@ class Reader:
         self._data = self._data[4:]
         return int(value)
 
+    def signed_number(self) -> int:
+        """A number that may be negative."""
+        value = self.number()
+        return value - (1 << 32) if value >> 31 else value
+
     def text(self) -> str:
         """A text, without the zero at its end."""
         length = self.number()

@@ -1,0 +1,147 @@
+# SPDX-License-Identifier: MIT
+"""The windows of a session as KWin tells of them to taskbars."""
+
+from collections.abc import Callable
+from dataclasses import dataclass, field
+from pathlib import Path
+from typing import TypeVar
+
+from ..waiting import Timeout
+from ..wayland.connection import Reader, WaylandConnection
+
+Result = TypeVar("Result")
+Frame = tuple[int, int, int, int]
+
+_GET_WINDOW = 2
+_WINDOW_CAME = 4
+_SET_STATE = 0
+_TITLE, _APP_ID, _STATE, _WENT, _GEOMETRY, _PID = 0, 1, 2, 5, 8, 10
+
+_ACTIVE = 1 << 0
+_MINIMISED = 1 << 1
+_ABOVE = 1 << 4
+_ON_ALL_DESKTOPS = 1 << 6
+_NOT_IN_TASKBAR = 1 << 12
+
+
+@dataclass
+class _Window:
+    """What has been told of one window so far."""
+
+    title: str = ""
+    app_id: str = ""
+    state: int = 0
+    pid: int = 0
+    frame: Frame = field(default=(0, 0, 0, 0))
+
+
+class KwinWindows:
+    """Windows by the numbers of the objects that stand for them."""
+
+    def __init__(self, display: Path) -> None:
+        self._connection = WaylandConnection(display)
+        self._windows: dict[int, _Window] = {}
+        self._manager = self._connection.bind(
+            "org_kde_plasma_window_management", 16, self._handle_manager
+        )
+        self._catch_up()
+
+    def close(self) -> None:
+        """Ends the connection."""
+        self._connection.close()
+
+    def wait(self, condition: Callable[[], Result | None], what: str) -> Result:
+        """Asks anew whenever something happens to a window, until the answer is true."""
+        answers: list[Result] = []
+
+        def holds() -> bool:
+            if result := condition():
+                answers.append(result)
+            return bool(answers)
+
+        try:
+            self._connection.wait(holds, what)
+        except Timeout as timeout:
+            timeout.add_note(f"Windows: {list(self._windows.values())}")
+            raise
+        return answers[0]
+
+    def shown(self) -> list[int]:
+        """The windows that are not minimised, oldest first."""
+        self._catch_up()
+        return [number for number in self._windows if not self._is(number, _MINIMISED)]
+
+    def active(self) -> int | None:
+        """The window that has the keyboard."""
+        return next((number for number in self.shown() if self._is(number, _ACTIVE)), None)
+
+    def of_process(self, pid: int, title: str | None = None) -> int | None:
+        """The first shown window of a process, and of a title where one is asked for."""
+        for number in self.shown():
+            window = self._windows[number]
+            if window.pid == pid and title in (None, window.title):
+                return number
+        return None
+
+    def title(self, window: int) -> str:
+        """A window's title; empty where it has none, or is gone."""
+        return self._windows.get(window, _Window()).title
+
+    def frame(self, window: int) -> Frame:
+        """Left, top, width and height on the screen, with what KWin adds."""
+        self._catch_up()
+        return self._windows[window].frame
+
+    def is_above(self, window: int) -> bool:
+        """Whether a window stays above the others."""
+        return self._is(window, _ABOVE)
+
+    def is_on_all_desktops(self, window: int) -> bool:
+        """Whether a window shows on every virtual desktop."""
+        return self._is(window, _ON_ALL_DESKTOPS)
+
+    def is_in_taskbar(self, window: int) -> bool:
+        """Whether taskbars show a window."""
+        return not self._is(window, _NOT_IN_TASKBAR)
+
+    def activate(self, window: int) -> None:
+        """Gives a window the keyboard as a taskbar does, and waits until it has it."""
+        self._connection.request(window, _SET_STATE, _ACTIVE, _ACTIVE)
+        self.wait(lambda: self.active() == window, "the window to be active")
+
+    def minimise(self, window: int) -> None:
+        """Makes an icon of a window, and waits until it no longer shows."""
+        self._connection.request(window, _SET_STATE, _MINIMISED, _MINIMISED)
+        self.wait(lambda: window not in self.shown(), "the window to be minimised")
+
+    def _catch_up(self) -> None:
+        self._connection.settle()
+
+    def _is(self, window: int, state: int) -> bool:
+        return bool(self._windows[window].state & state)
+
+    def _handle_manager(self, event: int, arguments: Reader) -> None:
+        if event != _WINDOW_CAME:
+            return
+        arguments.number()
+        window = _Window()
+        item = self._connection.make_object()
+        self._connection.follow(item, lambda event, told: self._handle(item, event, told))
+        self._windows[item] = window
+        self._connection.request(self._manager, _GET_WINDOW, item, arguments.text())
+
+    def _handle(self, item: int, event: int, arguments: Reader) -> None:
+        window = self._windows.get(item, _Window())
+        if event == _TITLE:
+            window.title = arguments.text()
+        elif event == _APP_ID:
+            window.app_id = arguments.text()
+        elif event == _STATE:
+            window.state = arguments.number()
+        elif event == _PID:
+            window.pid = arguments.number()
+        elif event == _GEOMETRY:
+            left, top = arguments.signed_number(), arguments.signed_number()
+            window.frame = (left, top, arguments.number(), arguments.number())
+        elif event == _WENT:
+            self._windows.pop(item, None)
