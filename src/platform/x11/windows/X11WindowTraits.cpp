@@ -35,6 +35,7 @@ xcb_window_t idOf(const QWindow& window) {
 
 X11WindowTraits::X11WindowTraits(std::shared_ptr<X11Connection> connection)
     : m_connection(std::move(connection)),
+      m_clock(m_connection),
       m_windows(m_connection),
       m_states(m_connection),
       m_withdrawals(
@@ -159,7 +160,7 @@ void X11WindowTraits::presentPanel(QWindow& window) {
     // removed it together with its own states.
     m_states.request(id, panelStates, X11WindowStates::Change::Add);
     m_states.request(id, hiddenFromTaskbar, taskbarChange());
-    m_windows.requestFocus(id);
+    m_windows.requestFocus(id, m_clock.now());
 }
 
 void X11WindowTraits::prepareDialog(QWindow& window) {
@@ -189,7 +190,7 @@ void X11WindowTraits::activate(QWindow& window) {
         return;
     // Ours must not overtake the request that maps the window.
     qtx11::waitForServer();
-    m_windows.requestFocus(idOf(window));
+    m_windows.requestFocus(idOf(window), m_clock.now());
 }
 
 X11WindowStates::Change X11WindowTraits::taskbarChange() const {

@@ -142,12 +142,10 @@ void X11Windows::requestOfManager(
     m_connection->flush();
 }
 
-void X11Windows::requestFocus(xcb_window_t window) const {
+void X11Windows::requestFocus(xcb_window_t window, xcb_timestamp_t time) const {
     if (hasWindowManager()) {
         return requestOfManager(
-            window,
-            "_NET_ACTIVE_WINDOW",
-            {sourcePager, m_connection->lastUserTime(), XCB_WINDOW_NONE, 0, 0});
+            window, "_NET_ACTIVE_WINDOW", {sourcePager, time, XCB_WINDOW_NONE, 0, 0});
     }
     constexpr std::uint32_t above = XCB_STACK_MODE_ABOVE;
     xcb_configure_window(m_connection->xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);

@@ -10,6 +10,7 @@ namespace quorvane {
 
 X11Workspace::X11Workspace(std::shared_ptr<X11Connection> connection)
     : m_connection(std::move(connection)),
+      m_clock(m_connection),
       m_windows(m_connection),
       m_keyboard(m_connection),
       m_userTime(m_connection),
@@ -50,7 +51,7 @@ bool X11Workspace::activate(const RunningApplication& application) {
     const auto window = static_cast<xcb_window_t>(application.window);
     if (!m_windows.exists(window))
         return false;
-    m_windows.requestFocus(window);
+    m_windows.requestFocus(window, m_clock.now());
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "support/WindowManager.h"
 #include "support/X11Test.h"
 
+#include <x11_server/X11ServerClock.h>
 #include <x11_windows/X11WindowTraits.h>
 
 #include <QWidget>
@@ -10,6 +11,7 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace quorvane {
 
@@ -119,7 +121,7 @@ TEST_F(PanelOnX11, TakesTheFocusAtEveryShow) {
     ForeignWindow other;
     for (int round = 0; round < 3; ++round) {
         other.show();
-        m_windows.requestFocus(other.id());
+        m_windows.requestFocus(other.id(), m_connection->lastUserTime());
         ASSERT_TRUE(waitUntil([&other] { return other.hasFocus(); }));
         showPanel();
         EXPECT_TRUE(waitUntil([this] {
@@ -165,7 +167,7 @@ TEST_F(PanelOnX11, ComesToTheFrontWithoutTheFocus) {
     ASSERT_TRUE(waitUntil([this] { return hasFocus(m_panel); }));
     ForeignWindow other;
     other.show();
-    m_windows.requestFocus(other.id());
+    m_windows.requestFocus(other.id(), m_connection->lastUserTime());
     ASSERT_TRUE(waitUntil([&other] { return other.hasFocus(); }));
     m_traits.orderFront(*m_panel.windowHandle());
     m_connection->waitForServer();
@@ -243,6 +245,29 @@ TEST_F(PanelOnX11WithoutManager, IsAskedToBeOnAllDesktopsOnceItIsMapped) {
     });
     showPanel();
     EXPECT_TRUE(waitUntil([&isAsked] { return isAsked; }));
+}
+
+// The user's last event may have gone to a window that is none of the X server's, as when a
+// desktop's own key binding calls: a time from before it is refused by window managers.
+TEST_F(PanelOnX11, AsksForTheFocusByTheTimeOfTheRequest) {
+    const auto witness = X11Connection::open();
+    constexpr std::uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(witness->xcb(), witness->root(), XCB_CW_EVENT_MASK, &events);
+    witness->waitForServer();
+    std::optional<xcb_timestamp_t> time;
+    const auto subscription = witness->subscribe([&](const xcb_generic_event_t& event) {
+        if ((event.response_type & 0x7f) != XCB_CLIENT_MESSAGE)
+            return;
+        const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(event);
+        if (message.window == m_panel.winId() &&
+            message.type == witness->atom("_NET_ACTIVE_WINDOW"))
+            time = message.data.data32[1];
+    });
+    const auto before = X11ServerClock(witness).now();
+    showPanel();
+    ASSERT_TRUE(waitUntil([&time] { return time.has_value(); }));
+    EXPECT_GE(*time, before);
+    EXPECT_LE(*time, X11ServerClock(witness).now());
 }
 
 } // namespace

@@ -23,7 +23,7 @@ protected:
 
     void activate(ForeignWindow& window) {
         window.show();
-        X11Windows(m_connection).requestFocus(window.id());
+        X11Windows(m_connection).requestFocus(window.id(), m_connection->lastUserTime());
         ASSERT_TRUE(becomesActive(window.id()));
     }
 

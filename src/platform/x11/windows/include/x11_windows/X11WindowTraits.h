@@ -3,6 +3,7 @@
 
 #include <platform/WindowTraits.h>
 #include <x11_server/X11Connection.h>
+#include <x11_server/X11ServerClock.h>
 #include <x11_windows/X11CompositingWatch.h>
 #include <x11_windows/X11WindowShadow.h>
 #include <x11_windows/X11WindowStates.h>
@@ -47,6 +48,7 @@ private:
     [[nodiscard]] X11WindowStates::Change taskbarChange() const;
 
     std::shared_ptr<X11Connection> m_connection;
+    X11ServerClock m_clock;
     X11Windows m_windows;
     X11WindowStates m_states;
     X11WithdrawalWatch m_withdrawals;

@@ -63,8 +63,10 @@ public:
     void requestOfManager(
         xcb_window_t window, const char* message, const std::array<std::uint32_t, 5>& data) const;
 
-    /// In front of the others and with the keyboard focus; the window must be mapped.
-    void requestFocus(xcb_window_t window) const;
+    /// In front of the others and with the keyboard focus; the window must be mapped. `time` is the
+    /// server's, of the user's wish: a window manager refuses one from before the last event that
+    /// it has seen, which may have gone to a window of Wayland, of which the server tells nothing.
+    void requestFocus(xcb_window_t window, xcb_timestamp_t time) const;
 
 private:
     [[nodiscard]] bool isOnDesktopInFront(xcb_window_t window) const;

@@ -3,6 +3,7 @@
 
 #include <platform/Workspace.h>
 #include <x11_server/X11Connection.h>
+#include <x11_server/X11ServerClock.h>
 #include <x11_windows/X11KeyboardProbe.h>
 #include <x11_windows/X11UserTime.h>
 #include <x11_windows/X11Windows.h>
@@ -39,6 +40,7 @@ private:
     [[nodiscard]] std::vector<std::uint32_t> currentDesktop() const;
 
     std::shared_ptr<X11Connection> m_connection;
+    X11ServerClock m_clock;
     X11Windows m_windows;
     X11KeyboardProbe m_keyboard;
     X11UserTime m_userTime;
