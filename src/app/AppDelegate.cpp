@@ -194,6 +194,7 @@ TrayIcon::Callbacks AppDelegate::trayIconCallbacks() {
             m_shortcut.retry();
             m_presentation.handleIconClick();
         },
+        weakly(&AppDelegate::surfaceMainUIForReopen),
         weakly(&AppDelegate::showPreferences),
         weakly(&AppDelegate::checkForUpdates),
         weakly(&AppDelegate::terminate)};

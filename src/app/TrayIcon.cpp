@@ -20,7 +20,7 @@ TrayIcon::TrayIcon(Dependencies dependencies, Callbacks callbacks)
 TrayIcon::~TrayIcon() = default;
 
 void TrayIcon::makeStatusItem() {
-    m_statusItem = m_dependencies.statusBar.makeStatusItem(contextMenu());
+    m_statusItem = m_dependencies.statusBar.makeStatusItem(publishedMenu());
     if (!m_statusItem)
         return;
     refreshImage();
@@ -107,6 +107,14 @@ StatusMenu TrayIcon::contextMenu() const {
         {tr("Check for Updates…"), {}, m_callbacks.onCheckForUpdates},
         {},
         {tr("Quit Quorvane"), Qt::CTRL | Qt::Key_Q, m_callbacks.onQuit}};
+}
+
+// Some bars that draw the menu themselves open it for every click, so that it must lead to the
+// interface, too. None of them tells that it does.
+StatusMenu TrayIcon::publishedMenu() const {
+    auto menu = contextMenu();
+    menu.insert(menu.begin(), {tr("Show Quorvane"), {}, m_callbacks.onShow});
+    return menu;
 }
 
 } // namespace quorvane

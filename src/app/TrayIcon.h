@@ -31,6 +31,7 @@ public:
     /// The desktop may keep the menu's callbacks after the icon is gone.
     struct Callbacks {
         std::function<void()> onClick;
+        std::function<void()> onShow;
         std::function<void()> onShowPreferences;
         std::function<void()> onCheckForUpdates;
         std::function<void()> onQuit;
@@ -65,6 +66,7 @@ private:
     void statusBarButtonClicked(StatusItem::Click click);
     void showContextMenu();
     [[nodiscard]] StatusMenu contextMenu() const;
+    [[nodiscard]] StatusMenu publishedMenu() const;
 
     Dependencies m_dependencies;
     Callbacks m_callbacks;

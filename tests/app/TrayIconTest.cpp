@@ -47,22 +47,36 @@ TEST_F(TrayIconTest, RightClickOpensTheMenuAndTheNextLeftClickTogglesAgain) {
     EXPECT_FALSE(isShown(panel()));
 }
 
-TEST_F(TrayIconTest, PublishedMenuIsTheSame) {
+// A bar that draws the menu itself may open it for the left click, too.
+TEST_F(TrayIconTest, PublishedMenuIsTheSameAfterAnEntryForTheInterface) {
     launch();
-    EXPECT_EQ(titles(statusBar->publishedMenu), menuTitles);
-    EXPECT_EQ(statusBar->publishedMenu[0].keys, QKeySequence(u"Ctrl+,"_s));
-    EXPECT_EQ(statusBar->publishedMenu[1].keys, QKeySequence());
-    EXPECT_EQ(statusBar->publishedMenu[3].keys, QKeySequence(u"Ctrl+Q"_s));
+    EXPECT_EQ(titles(statusBar->publishedMenu), QStringList(u"Show Quorvane"_s) + menuTitles);
+    EXPECT_EQ(statusBar->publishedMenu[0].keys, QKeySequence());
+    EXPECT_EQ(statusBar->publishedMenu[1].keys, QKeySequence(u"Ctrl+,"_s));
+    EXPECT_EQ(statusBar->publishedMenu[2].keys, QKeySequence());
+    EXPECT_EQ(statusBar->publishedMenu[4].keys, QKeySequence(u"Ctrl+Q"_s));
+}
+
+TEST_F(TrayIconTest, PublishedMenuShowsTheInterfaceAndKeepsItShown) {
+    launch();
+    queue.run();
+    pressShortcut();
+    ASSERT_FALSE(isShown(panel()));
+    statusBar->publishedMenu[0].run();
+    EXPECT_TRUE(isShown(panel()));
+    statusBar->publishedMenu[0].run();
+    EXPECT_TRUE(isShown(panel()));
+    EXPECT_EQ(calls().back(), "presentPanel");
 }
 
 TEST_F(TrayIconTest, MenuOpensPreferencesAndUpdatesAndQuits) {
     launch();
     log.clear();
-    statusBar->publishedMenu[0].run();
-    EXPECT_TRUE(isShown(preferences()));
     statusBar->publishedMenu[1].run();
+    EXPECT_TRUE(isShown(preferences()));
+    statusBar->publishedMenu[2].run();
     EXPECT_EQ(calls().back(), "showPage org.quorvane.Quorvane");
-    statusBar->publishedMenu[3].run();
+    statusBar->publishedMenu[4].run();
     queue.run();
     EXPECT_EQ(calls().back(), "handOver");
 }

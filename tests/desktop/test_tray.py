@@ -10,7 +10,7 @@ from harness.status_item import SEPARATOR, StatusItem
 from harness.tray import Tray
 from harness.waiting import wait_until
 
-_MENU = ["Preferences…", "Check for Updates…", SEPARATOR, "Quit Quorvane"]
+_MENU = ["Show Quorvane", "Preferences…", "Check for Updates…", SEPARATOR, "Quit Quorvane"]
 _PREFERENCES = "Quorvane Preferences"
 
 _NEAR = 16  # points between the popover and the bar that it hangs from
