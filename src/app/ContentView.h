@@ -3,8 +3,9 @@
 
 #include "AppDelegate.h"
 
-#include <memory>
 #include <panel/PopoverView.h>
+
+#include <memory>
 
 namespace quorvane {
 

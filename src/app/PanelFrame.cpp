@@ -181,7 +181,8 @@ void PanelFrame::takeOver(const QRect& usersFrame) {
     m_requested.clear();
     m_heldInPlace = false;
     m_asking.reset();
-    m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
+    if (m_dependencies.windowTraits.placesWindows())
+        m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
 }
 
 void PanelFrame::handleManagersChange(const QRect& frame) {

@@ -22,7 +22,8 @@ namespace quorvane {
 
 /// Keeps the panel where the user put it, else in the middle of the screen where the user works,
 /// and at least as high as its content needs and as the user made it. What a window manager does to
-/// it by itself, and its own growth, are neither kept nor stored.
+/// it by itself, and its own growth, are neither kept nor stored. Where windows have no place that
+/// could be told, what is stored stays as it is.
 class PanelFrame final : public QObject {
     Q_OBJECT
 

@@ -68,7 +68,8 @@ void PreferencesFrame::handleFrameChanged() {
     if (m_userMoves.causeOfChange() == UserMoves::Cause::User) {
         m_usersFrame = m_requested = frame;
         m_asking.reset();
-        m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
+        if (m_dependencies.windowTraits.placesWindows())
+            m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
         return;
     }
     if (!m_userMoves.hasSettled() && !std::exchange(m_hasAskedAgain, true))

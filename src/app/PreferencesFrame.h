@@ -18,7 +18,8 @@
 namespace quorvane {
 
 /// Keeps the preferences at the place and height that the user gave them, else in the middle of the
-/// screen where the user works.
+/// screen where the user works. Where windows have no place that could be told, what is stored
+/// stays as it is.
 class PreferencesFrame final : public QObject {
     Q_OBJECT
 

@@ -289,5 +289,15 @@ TEST_F(PanelFrameTest, DragOfTheBackgroundIsTheUsersAlsoWhenItsEndIsReportedAfte
     EXPECT_EQ(stored()->topLeft(), QPoint(20, 30));
 }
 
+TEST_F(PanelFrameTest, WhereWindowsHaveNoPlaceWhatIsStoredStays) {
+    const QRect users(20, 30, panelmetrics::width, 400);
+    frames.setFrame(u"PanelV2"_s, users);
+    traits.places = false;
+    show();
+    dragTo(0, 0);
+    frame.saveNow();
+    EXPECT_EQ(stored(), users);
+}
+
 } // namespace
 } // namespace quorvane

@@ -117,5 +117,18 @@ TEST_F(PreferencesWindowControllerTest, ComesBackWhereTheUserPutIt) {
     EXPECT_EQ(preferences()->geometry(), usersFrame);
 }
 
+TEST_F(PreferencesWindowControllerTest, StoresNoPlaceWhereWindowsHaveNone) {
+    const QRect stored(30, 20, 400, 500);
+    frames().setFrame(u"Preferences"_s, stored);
+    auto& traits = static_cast<FakeWindowTraits&>(*platform.windowTraits);
+    traits.places = false;
+    launch();
+    delegate->showPreferences();
+    traits.held = HeldInput{{}, 1};
+    preferences()->setGeometry(0, 0, 400, 450);
+    delegate->terminate();
+    EXPECT_EQ(frames().frame(u"Preferences"_s), stored);
+}
+
 } // namespace
 } // namespace quorvane
