@@ -64,6 +64,7 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            m_dependencies.zones,
            m_dependencies.mainQueue,
            m_dependencies.clock,
+           *m_dependencies.platform.autostart,
            m_dependencies.windowFrames,
            *m_dependencies.platform.workspace,
            *m_dependencies.platform.windowTraits,
@@ -90,7 +91,13 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            m_dependencies.mainQueue,
            m_dependencies.clock,
            m_dependencies.currentZone},
-          [this] { refreshSoon(); }) {
+          [this] { refreshSoon(); }),
+      m_hiddenStart(
+          m_dependencies.mainQueue,
+          {[this] { return isReachable(); },
+           [this] {
+               m_presentation.present();
+           }}) {
 }
 
 AppDelegate::~AppDelegate() {
@@ -100,15 +107,30 @@ AppDelegate::~AppDelegate() {
     m_dependencies.platform.keyboardLayout->onChanged({});
 }
 
-void AppDelegate::applicationDidFinishLaunching() {
+void AppDelegate::applicationDidFinishLaunching(Launch launch) {
     _sharedDelegate() = this;
     m_dock.applyActivationPolicy(m_model.showInDock());
     setupMainMenu();
     m_trayIcon.makeStatusItem();
-    m_presentation.present();
+    if (launch == Launch::Shown)
+        m_presentation.present();
     m_shortcut.startHotKeyMonitor(m_model.hotKey());
     m_modelObserver.start();
     observeDesktop();
+    if (launch == Launch::Hidden)
+        startHidden();
+}
+
+void AppDelegate::startHidden() {
+    // The icon's colours wait for it, and no paint comes first.
+    m_dependencies.mainQueue.async(weakly(&AppDelegate::prepareAfterFirstPaint));
+    m_hiddenStart.begin();
+}
+
+bool AppDelegate::isReachable() const {
+    return (m_model.showInMenuBar() && m_trayIcon.hasButton()) ||
+           m_shortcut.activity() == ShortcutRecorder::Activity::Active ||
+           m_dependencies.platform.desktopShortcut->bound();
 }
 
 void AppDelegate::surfaceMainUIForReopen() {
@@ -117,6 +139,7 @@ void AppDelegate::surfaceMainUIForReopen() {
 }
 
 void AppDelegate::renew() {
+    m_hiddenStart.end();
     if (m_dependencies.zones.refresh())
         refreshSoon();
     m_model.renewDates();
@@ -143,6 +166,7 @@ void AppDelegate::performCopy() {
 }
 
 void AppDelegate::showPreferences() {
+    m_hiddenStart.end();
     m_shortcut.retry();
     const auto device = m_presentation.lastInput();
     m_presentation.hide();

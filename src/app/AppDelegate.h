@@ -4,6 +4,7 @@
 #include "DeliveryNotice.h"
 #include "DockPresence.h"
 #include "GlobalShortcut.h"
+#include "HiddenStart.h"
 #include "Insertion.h"
 #include "ModelObserver.h"
 #include "PreferencesWindowController.h"
@@ -47,6 +48,12 @@ public:
         PlatformServices& platform;
     };
 
+    /// How the program begins.
+    enum class Launch {
+        Shown,
+        Hidden ///< only the icon and the shortcut, as far as there is one of them
+    };
+
     /// The running delegate, for code that cannot be handed one, such as a debugger's; null before
     /// the launch. Nothing in the program itself asks for it.
     [[nodiscard]] static QPointer<AppDelegate>&
@@ -55,8 +62,8 @@ public:
     explicit AppDelegate(Dependencies dependencies);
     ~AppDelegate() override;
 
-    /// Start-up, once the main loop runs: shows the interface and arms the shortcut.
-    void applicationDidFinishLaunching();
+    /// Start-up, once the main loop runs: shows the interface, or not, and arms the shortcut.
+    void applicationDidFinishLaunching(Launch launch = Launch::Shown);
 
     /// Shows the interface, or hides it; what the shortcut does, and a key that the desktop binds.
     void togglePresentation() { m_presentation.toggle(InputDevice::Keyboard); }
@@ -117,6 +124,8 @@ private:
     void renew();
     void renewHidden();
     void setupMainMenu();
+    void startHidden();
+    [[nodiscard]] bool isReachable() const;
     void observeDesktop();
     void refreshSoon();
     void prepareAfterFirstPaint();
@@ -136,6 +145,7 @@ private:
     TypingConsent m_typingConsent;
     Insertion m_insertion;
     TimeFollower m_timeFollower;
+    HiddenStart m_hiddenStart;
     bool m_terminating = false;
 };
 

@@ -11,11 +11,13 @@
 #include <platform_x11/X11Services.h>
 #include <platform_x11/XWayland.h>
 #include <platform_xdg/FileAppearance.h>
+#include <platform_xdg/XdgAutostart.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
 #include <settings/UserFolders.h>
 #include <time/SystemCurrentZone.h>
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <optional>
@@ -62,6 +64,9 @@ void addServicesOfEveryDisplay(
     services.pasteboard = std::make_unique<QtPasteboard>(queue, clipboardAccess(qtPlatform));
     services.timeChanges =
         std::make_unique<SystemTimeChanges>(SystemCurrentZone::settingFile(environment));
+    // In a sandbox the user's entries are out of reach, and one of the sandbox's starts nothing.
+    if (!QFileInfo::exists(u"/.flatpak-info"_s))
+        services.autostart = std::make_unique<XdgAutostart>(settingsFolders(environment));
 }
 
 /// The portal's word counts most, then what the settings manager of the display says, which

@@ -56,6 +56,7 @@ void PreferencesWindowController::setupWindow() {
             m_dependencies.zones,
             m_dependencies.mainQueue,
             m_dependencies.clock,
+            m_dependencies.autostart,
             m_callbacks.shortcutStatus,
             m_dependencies.pasteReader},
         m_callbacks.onHotKeyChange);

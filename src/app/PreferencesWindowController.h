@@ -31,6 +31,7 @@ public:
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
         const Clock& clock;
+        Autostart& autostart;
         WindowFrameStore& windowFrames;
         const Workspace& workspace;
         WindowTraits& windowTraits;

@@ -3,6 +3,7 @@
 #include "AppearanceFollower.h"
 #include "ApplicationAccessible.h"
 #include "Backends.h"
+#include "CommandLine.h"
 #include "TerminationSignals.h"
 
 #include <controls/ToolTipWrapping.h>
@@ -33,6 +34,9 @@ using namespace std::chrono_literals;
 constexpr auto busPatience = 1500ms;
 constexpr auto diskPatience = 5s;
 
+// The status by which shells tell that a program was called in a wrong way.
+constexpr int misuse = 2;
+
 /// What is still written while the program ends.
 struct Disk {
     QtMainQueue outcomes;
@@ -49,6 +53,15 @@ void configure(QApplication& application) {
     application.setQuitOnLastWindowClosed(false);
 }
 
+ApplicationInstance::Request requestOf(const CommandLine& line) {
+    using Request = ApplicationInstance::Request;
+    return line.isHidden ? Request::Nothing : Request::Show;
+}
+
+AppDelegate::Launch launchOf(const CommandLine& line) {
+    return line.isHidden ? AppDelegate::Launch::Hidden : AppDelegate::Launch::Shown;
+}
+
 /// Ends the program, with a status by which a session starts it anew.
 std::function<void()> endingIn(MainQueue& queue) {
     return [&queue, hasBegun = std::make_shared<bool>(false)] {
@@ -59,7 +72,11 @@ std::function<void()> endingIn(MainQueue& queue) {
     };
 }
 
-int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& instance) {
+int run(
+    QApplication& application,
+    SettingsWriter& writer,
+    ApplicationInstance& instance,
+    AppDelegate::Launch launch) {
     const auto environment = processEnvironment();
     const auto folders = UserFolders::fromEnvironment(environment);
     QtMainQueue mainQueue;
@@ -89,7 +106,7 @@ int run(QApplication& application, SettingsWriter& writer, ApplicationInstance& 
          mainQueue,
          platform});
     appearanceFollower.onApplied([&] { delegate.appearanceChanged(); });
-    mainQueue.async([&] { delegate.applicationDidFinishLaunching(); });
+    mainQueue.async([&, launch] { delegate.applicationDidFinishLaunching(launch); });
     // Through the queue as well, so that requests from the bus run after the launch.
     instance.onReopen([&] { mainQueue.async([&] { delegate.surfaceMainUIForReopen(); }); });
     instance.onAction(
@@ -108,14 +125,20 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     busGuard.settle();
     configure(application);
+    const auto commandLine = CommandLine::parse(application.arguments());
+    if (!commandLine.unknown.isEmpty()) {
+        reportFailure(
+            u"unknown argument %1; the only option is --hidden"_s.arg(commandLine.unknown.first()));
+        return misuse;
+    }
     DBusApplicationInstance instance(
         QDBusConnection::sessionBus(), BusSocket::ofSession(environment));
     // The constructor of the model writes settings, which a second process must not do.
-    if (instance.claim() == ApplicationInstance::Role::Second)
+    if (instance.claim(requestOf(commandLine)) == ApplicationInstance::Role::Second)
         return 0;
     // Static: exit(), which Qt calls when its connection to the display breaks, waits for it, too.
     static Disk disk;
-    const int status = run(application, disk.settings, instance);
+    const int status = run(application, disk.settings, instance, launchOf(commandLine));
     // All that the session could miss has been given back: windows, keys, clipboard, bus name.
     if (!disk.settings.finish(diskPatience))
         reportFailure(u"the disk does not answer; waiting until it has taken the settings"_s);

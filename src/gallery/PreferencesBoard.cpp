@@ -13,8 +13,10 @@
 #include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>
+#include <testing/FakeAutostart.h>
 #include <testing/FakeKeyboardLayout.h>
 #include <testing/MemoryDefaults.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <QCoreApplication>
 #include <QHoverEvent>
@@ -73,6 +75,9 @@ void hover(PreferencesView& view, const QString& city) {
 struct PreferencesBoard::Sample {
     MemoryDefaults defaults;
     NoQueue queue;
+    VirtualMainQueue noTime;
+    CallLog calls{noTime};
+    FakeAutostart autostart{calls};
     FakeKeyboardLayout layout = sample::keyboard();
     DateTimeModel model{
         {sample::clock(), defaults, sample::currentZone(), sample::zones(), sample::locale()}};
@@ -163,6 +168,7 @@ PreferencesView& PreferencesBoard::addWindow(
             sample::zones(),
             sample.queue,
             sample::clock(),
+            sample.autostart,
             [activity] {
                 return ShortcutRecorder::Status{activity, {}};
             }},

@@ -7,6 +7,7 @@
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeAppearance.h>
+#include <testing/FakeAutostart.h>
 #include <testing/FakeDesktopShortcut.h>
 #include <testing/FakeEventTaps.h>
 #include <testing/FakeKeyPoster.h>
@@ -131,6 +132,7 @@ protected:
     FakeDesktopShortcut* desktopShortcut = nullptr;
     FakeAppearance* appearance = nullptr;
     FakeTimeChanges* timeChanges = nullptr;
+    FakeAutostart* autostart = nullptr;
     PlatformServices platform;
     std::unique_ptr<AppDelegate> delegate;
 
@@ -153,6 +155,8 @@ private:
         auto poster = std::make_unique<FakeKeyPoster>(log);
         auto changes = std::make_unique<FakeTimeChanges>();
         timeChanges = changes.get();
+        auto login = std::make_unique<FakeAutostart>(log);
+        autostart = login.get();
         notifications = centre.get();
         right = permission.get();
         keyPoster = poster.get();
@@ -172,6 +176,7 @@ private:
             std::make_unique<FakeSoftwareCentre>(log),
             std::move(bar),
             std::move(changes),
+            std::move(login),
             {}};
     }
 

@@ -61,15 +61,15 @@ DBusApplicationInstance::~DBusApplicationInstance() {
     m_bus.unregisterObject(objectPath.toString());
 }
 
-ApplicationInstance::Role DBusApplicationInstance::claim() {
-    const auto role = claimOnce();
+ApplicationInstance::Role DBusApplicationInstance::claim(Request request) {
+    const auto role = claimOnce(request);
     if (role != Role::Second)
         m_follower = std::make_unique<SessionBusFollower>(
             m_bus, m_socket, [this](const QDBusConnection& bus) { serve(bus); });
     return role;
 }
 
-ApplicationInstance::Role DBusApplicationInstance::claimOnce() {
+ApplicationInstance::Role DBusApplicationInstance::claimOnce(Request request) {
     if (!m_bus.isConnected()) {
         qCInfo(lcInstance, "no session bus");
         return Role::Alone;
@@ -85,7 +85,7 @@ ApplicationInstance::Role DBusApplicationInstance::claimOnce() {
         }
         if (reply.value() == primaryOwner || reply.value() == alreadyOwner)
             return Role::First;
-        if (activateFirst())
+        if (request == Request::Nothing || activateFirst())
             return Role::Second;
     }
     return Role::Alone;

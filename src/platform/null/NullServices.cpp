@@ -191,6 +191,17 @@ public:
     void onChanged(std::function<void()>) override {}
 };
 
+class NullAutostart final : public Autostart {
+public:
+    [[nodiscard]] bool isAvailable() const override { return false; }
+
+    [[nodiscard]] bool isOn() const override { return false; }
+
+    void setOn(bool) override {}
+
+    void onChanged(std::function<void()>) override {}
+};
+
 } // namespace
 
 PlatformServices makeNullServices(MainQueue& mainQueue) {
@@ -208,6 +219,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .softwareCentre = std::make_unique<NullSoftwareCentre>(),
         .statusBar = std::make_unique<NullStatusBar>(),
         .timeChanges = std::make_unique<NullTimeChanges>(),
+        .autostart = std::make_unique<NullAutostart>(),
         .states = {},
     };
 }

@@ -6,6 +6,7 @@
 
 namespace quorvane {
 
+class Autostart;
 class DateTimeModel;
 
 /// How the program begins.
@@ -16,7 +17,9 @@ public:
     /// How far the section extends beyond what it paints, at its lower end.
     static constexpr int overhang = SwitchRow::overhang;
 
-    GeneralSection(DateTimeModel& model, QWidget* parent);
+    /// Both must outlive the section.
+    GeneralSection(DateTimeModel& model, Autostart& autostart, QWidget* parent);
+    ~GeneralSection() override;
 
     void refresh();
 
@@ -24,6 +27,8 @@ private:
     void add(SwitchRow* row);
 
     DateTimeModel& m_model;
+    Autostart& m_autostart;
+    SwitchRow* m_startAtLogin; ///< null where that cannot be decided here
     SwitchRow* m_remember;
     int m_below = 0; ///< how far the last row extends beyond what it paints
 };

@@ -50,7 +50,7 @@ PreferencesView::PreferencesView(
           m_dependencies.mainQueue,
           this)),
       m_icons(new IconsSection(model, this)),
-      m_general(new GeneralSection(model, this)),
+      m_general(new GeneralSection(model, m_dependencies.autostart, this)),
       m_favorites(new FavoritesSection(
           model,
           m_dependencies.zones,

@@ -29,14 +29,14 @@ _ENVIRONMENT = {
 class Quorvane:
     """One run of the program in a session."""
 
-    def __init__(self, session: PrivateSession, **environment: str) -> None:
+    def __init__(self, session: PrivateSession, *options: str, **environment: str) -> None:
         self._session = session
         self._environment = _ENVIRONMENT | {"QUORVANE_BACKEND": session.backend} | environment
-        self.process = self.launch()
+        self.process = self.launch(*options)
 
-    def launch(self) -> subprocess.Popen[bytes]:
+    def launch(self, *options: str) -> subprocess.Popen[bytes]:
         """Starts the program once more, as a launcher's icon does."""
-        return self._session.start([str(PROGRAM)], self._environment)
+        return self._session.start([str(PROGRAM), *options], self._environment)
 
     def panel(self) -> int | None:
         """The panel's window while it shows."""

@@ -36,6 +36,12 @@ TEST_F(NullServices, ShowNothingOnTheDesktop) {
     EXPECT_FALSE(m_services.softwareCentre->showPage(u"org.quorvane.Quorvane"_s));
 }
 
+TEST_F(NullServices, StartNothingAtLogin) {
+    EXPECT_FALSE(m_services.autostart->isAvailable());
+    m_services.autostart->setOn(true);
+    EXPECT_FALSE(m_services.autostart->isOn());
+}
+
 TEST_F(NullServices, HaveNobodyWhoShowsNotifications) {
     std::optional<NotificationOutcome> outcome;
     m_services.notifications->show({}, [&](NotificationOutcome told) { outcome = told; });

@@ -8,6 +8,7 @@
 #include <support/HeldPaste.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
+#include <testing/FakeAutostart.h>
 #include <testing/FakeKeyboardLayout.h>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
@@ -30,6 +31,8 @@ namespace quorvane {
 class PreferencesFixture : public testing::Test {
 protected:
     VirtualMainQueue queue;
+    CallLog log{queue};
+    FakeAutostart autostart{log};
     FakeKeyboardLayout layout;
     ZoneDatabase zones;
     FixedClock clock{Instant{1705320000}};
@@ -65,6 +68,7 @@ protected:
                 zones,
                 queue,
                 clock,
+                autostart,
                 [this] {
                     return ShortcutRecorder::Status{activity, holder};
                 },

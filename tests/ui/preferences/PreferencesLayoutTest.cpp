@@ -85,6 +85,8 @@ TEST_F(PreferencesLayoutTest, ListTakesTheHeightThatThereIs) {
 TEST_F(PreferencesLayoutTest, NothingOverlapsInSmallAndLargeFonts) {
     for (const int pixels : {9, 13, 16, 20}) {
         setBody(pixels);
+        // What is longer than the window scrolls.
+        QCoreApplication::sendPostedEvents();
         const std::vector<QWidget*> column{
             label(u"Keyboard Shortcut"_s),
             view->findChild<ShortcutRecorder*>(),
@@ -93,6 +95,7 @@ TEST_F(PreferencesLayoutTest, NothingOverlapsInSmallAndLargeFonts) {
             label(u"Show icon in system tray"_s),
             label(u"Show windows in taskbar"_s),
             label(u"General"_s),
+            label(u"Start at login"_s),
             label(u"Remember format and zones"_s),
             label(u"Favorite Time Zones"_s),
             label(u"Favorites appear as one-click chips in the popover."_s),
@@ -126,7 +129,7 @@ TEST_F(PreferencesLayoutTest, WhatIsLongerThanTheWindowScrollsAndTheFocusIsSeen)
     ASSERT_GT(area.verticalScrollBar()->maximum(), 0);
     EXPECT_GE(list().height(), preferencesmetrics::leastListHeight);
     button(u"Record new shortcut"_s).setFocus(Qt::TabFocusReason);
-    for (int tab = 0; tab < 6; ++tab) {
+    for (int tab = 0; tab < 7; ++tab) {
         QTest::keyClick(view->windowHandle(), Qt::Key_Tab);
         const auto* focused = view->focusWidget();
         const QRect seen(area.viewport()->mapTo(view.get(), QPoint()), area.viewport()->size());

@@ -249,6 +249,7 @@ TEST_F(PreferencesViewTest, TabGoesFromTopToBottom) {
     const std::vector<QWidget*> order{
         &box(menuBar),
         &box(dock),
+        &box(u"Start at login"_s),
         &box(remember),
         &field(),
         &starredOnly(),

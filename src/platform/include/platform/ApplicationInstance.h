@@ -12,15 +12,21 @@ class ApplicationInstance {
 public:
     enum class Role {
         First,  ///< this process is the one
-        Second, ///< another one runs, and has been asked to come forward
+        Second, ///< another one runs
         Alone,  ///< the session has no way to tell; this process runs by itself
+    };
+
+    /// What a start means for the process that runs already.
+    enum class Request {
+        Show,   ///< it is to come forward
+        Nothing ///< it stays as it is
     };
 
     virtual ~ApplicationInstance() = default;
 
-    /// Becomes the running process, or asks the one that is to show itself. Called once, before
+    /// Becomes the running process, or hands the request to the one that is. Called once, before
     /// anything is made that a second process must not have.
-    [[nodiscard]] virtual Role claim() = 0;
+    [[nodiscard]] virtual Role claim(Request request) = 0;
 
     /// Releases the name before the process ends, so that a new start becomes the first process.
     virtual void release() = 0;

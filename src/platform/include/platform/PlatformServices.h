@@ -3,6 +3,7 @@
 
 #include <platform/AccessibilityRight.h>
 #include <platform/Appearance.h>
+#include <platform/Autostart.h>
 #include <platform/DesktopShortcut.h>
 #include <platform/EventTap.h>
 #include <platform/KeyPoster.h>
@@ -38,6 +39,7 @@ struct PlatformServices {
     std::unique_ptr<SoftwareCentre> softwareCentre;
     std::unique_ptr<StatusBar> statusBar;
     std::unique_ptr<TimeChanges> timeChanges;
+    std::unique_ptr<Autostart> autostart;
 
     /// What was chosen for each of those that differ between desktops; empty where all are whole.
     std::vector<ServiceState> states;

@@ -33,13 +33,13 @@ public:
     DBusApplicationInstance(const DBusApplicationInstance&) = delete;
     DBusApplicationInstance& operator=(const DBusApplicationInstance&) = delete;
 
-    [[nodiscard]] Role claim() override;
+    [[nodiscard]] Role claim(Request request) override;
     void release() override;
     void onReopen(std::function<void()> handler) override;
     void onAction(std::function<void(const QString& name)> handler) override;
 
 private:
-    [[nodiscard]] Role claimOnce();
+    [[nodiscard]] Role claimOnce(Request request);
 
     /// False if the first process is gone and took the request with it.
     [[nodiscard]] bool activateFirst();

@@ -5,6 +5,7 @@
 #include <loop/CoalescedRefresh.h>
 #include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
+#include <platform/Autostart.h>
 #include <platform/KeyboardLayout.h>
 #include <recorder/ShortcutRecorder.h>
 #include <time/ZoneDatabase.h>
@@ -34,6 +35,7 @@ public:
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
         const Clock& clock;
+        Autostart& autostart;
         /// Whether the shortcut reaches the program; asked at each refresh.
         std::function<ShortcutRecorder::Status()> shortcutStatus;
         PasteReader pasteReader = {};

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "DelegateFixture.h"
+
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::Contains;
+
+class HiddenStartTest : public DelegateFixture {
+protected:
+    HiddenStartTest() {
+        statusBar->hasButton = false;
+        taps->setHeldElsewhere(true);
+    }
+
+    void launchHidden() {
+        delegate->applicationDidFinishLaunching(AppDelegate::Launch::Hidden);
+        queue.run();
+    }
+
+    void waitAsLongAsItDoes() { queue.advance(HiddenStart::patience); }
+};
+
+TEST_F(HiddenStartTest, NothingShowsAndTheShortcutLeadsToThePanel) {
+    taps->setHeldElsewhere(false);
+    launchHidden();
+    EXPECT_THAT(calls(), Contains("makeStatusItem"));
+    waitAsLongAsItDoes();
+    EXPECT_FALSE(isShown(panel()));
+    pressShortcut();
+    EXPECT_TRUE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, IconIsEnough) {
+    statusBar->hasButton = true;
+    launchHidden();
+    waitAsLongAsItDoes();
+    EXPECT_FALSE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, IconThatTheUserHasHiddenIsNot) {
+    statusBar->hasButton = true;
+    delegate->model().setShowInMenuBar(false);
+    launchHidden();
+    waitAsLongAsItDoes();
+    EXPECT_TRUE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, ShortcutInTheDesktopsOwnListIsEnough) {
+    desktopShortcut->setBound(KeyChord{2, modifier::command});
+    launchHidden();
+    waitAsLongAsItDoes();
+    EXPECT_FALSE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, WithoutIconAndShortcutThePanelShowsAfterAll) {
+    launchHidden();
+    EXPECT_FALSE(isShown(panel()));
+    waitAsLongAsItDoes();
+    EXPECT_TRUE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, BarMayComeLater) {
+    launchHidden();
+    statusBar->hasButton = true;
+    waitAsLongAsItDoes();
+    EXPECT_FALSE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, WhoeverHasAskedForTheInterfaceKnowsAWayToIt) {
+    for (const auto& action : {u"toggle"_s, u"preferences"_s, u"copy"_s}) {
+        makeDelegate();
+        statusBar->hasButton = false;
+        taps->setHeldElsewhere(true);
+        launchHidden();
+        delegate->performAction(action);
+        if (isShown(panel()))
+            delegate->performAction(u"toggle"_s);
+        waitAsLongAsItDoes();
+        EXPECT_FALSE(isShown(panel())) << action.toStdString();
+    }
+}
+
+TEST_F(HiddenStartTest, IconNeedNotWaitForAPaintToKnowTheDesktopsColours) {
+    launchHidden();
+    EXPECT_EQ(appearance->reads(), 1);
+    EXPECT_EQ(panel(), nullptr);
+}
+
+TEST_F(HiddenStartTest, EndBeforeTheLastMomentHarmsNobody) {
+    launchHidden();
+    delegate.reset();
+    waitAsLongAsItDoes();
+}
+
+} // namespace
+} // namespace quorvane
