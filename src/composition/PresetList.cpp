@@ -2,7 +2,7 @@
 #include <composition/PresetList.h>
 
 #include <algorithm>
-#include <unordered_set>
+#include <set>
 
 namespace quorvane {
 
@@ -32,7 +32,7 @@ bool isOffered(DateFormatPreset preset, const std::vector<DateFormatPreset>& ava
 std::vector<DateFormatPreset>
 availableFormatPresets(Instant sample, const TimeZone& zone, const FormatSettings& settings) {
     std::vector<DateFormatPreset> available;
-    std::unordered_set<QString> texts;
+    std::set<QString> texts;
     for (const auto preset : allDateFormatPresets) {
         if (!suitsFlags(preset, settings))
             continue;

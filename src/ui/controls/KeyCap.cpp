@@ -55,7 +55,7 @@ void paintArrow(QPainter& painter, QPointF center, int angle, const QColor& colo
 
 /// Where a label starts: all letters of a row on one line, capitals in the middle of the cap.
 QPointF textOrigin(const QPainter& painter, const QRectF& cap, const QString& label) {
-    const auto font = painter.font();
+    const auto& font = painter.font();
     if (!standsOnLine(label))
         return cap.center() - foregroundOf(label, font).center();
     const QFontMetricsF metrics(font);

@@ -136,8 +136,8 @@ void X11KeyPoster::tap(const Keys& keys) {
         fake(XCB_KEY_RELEASE, key);
     for (const auto key : keys)
         fake(XCB_KEY_PRESS, key);
-    for (auto key = keys.rbegin(); key != keys.rend(); ++key)
-        fake(XCB_KEY_RELEASE, *key);
+    std::for_each(
+        keys.rbegin(), keys.rend(), [this](xcb_keycode_t key) { fake(XCB_KEY_RELEASE, key); });
 }
 
 void X11KeyPoster::fake(std::uint8_t event, xcb_keycode_t keycode) {
