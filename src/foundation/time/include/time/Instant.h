@@ -11,8 +11,6 @@ namespace quorvane {
 struct Instant {
     double secondsSince1970 = 0;
 
-    // The linter takes the zero that rewritten comparisons compare with for a pointer.
-    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend constexpr auto operator<=>(const Instant&, const Instant&) = default;
 
     friend constexpr Instant operator+(Instant instant, Seconds span) {
