@@ -99,19 +99,26 @@ void X11Keymap::reload() {
         return;
     }
     m_keymap = std::move(keymap);
-    m_state.reset(xkb_state_new(m_keymap.get()));
-    // Of all that is pressed, latched or locked, only the group: labels show the key alone.
-    const auto group = x11xkb::group(m_connection->xcb(), x11xkb::coreKeyboard);
-    xkb_state_update_mask(m_state.get(), 0, 0, 0, 0, 0, group);
+    m_state = stateWith(0);
+    const auto shift = xkb_keymap_mod_get_index(m_keymap.get(), XKB_MOD_NAME_SHIFT);
+    m_shiftedState = stateWith(shift != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << shift : 0);
 }
 
-std::u16string X11Keymap::characters(xkb_keycode_t keycode) const {
-    const int length = xkb_state_key_get_utf8(m_state.get(), keycode, nullptr, 0);
+X11Keymap::State X11Keymap::stateWith(xkb_mod_mask_t modifiers) const {
+    State state(xkb_state_new(m_keymap.get()));
+    // Of all that is pressed, latched or locked, only the group: labels show the key alone.
+    const auto group = x11xkb::group(m_connection->xcb(), x11xkb::coreKeyboard);
+    xkb_state_update_mask(state.get(), modifiers, 0, 0, 0, 0, group);
+    return state;
+}
+
+std::u16string X11Keymap::characters(xkb_keycode_t keycode, Held held) const {
+    auto* state = held == Held::Shift ? m_shiftedState.get() : m_state.get();
+    const int length = xkb_state_key_get_utf8(state, keycode, nullptr, 0);
     if (length <= 0)
         return {};
     QByteArray text(length + 1, '\0');
-    xkb_state_key_get_utf8(
-        m_state.get(), keycode, text.data(), static_cast<std::size_t>(text.size()));
+    xkb_state_key_get_utf8(state, keycode, text.data(), static_cast<std::size_t>(text.size()));
     text.chop(1);
     return QString::fromUtf8(text).toStdU16String();
 }

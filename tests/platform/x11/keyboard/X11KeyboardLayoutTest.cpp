@@ -69,6 +69,14 @@ TEST_F(KeyboardLayoutOnX11, HasNothingForACodeThatNamesNoKey) {
     EXPECT_EQ(m_layout.characters(0xffff), u"");
 }
 
+TEST_F(KeyboardLayoutOnX11, TellsWhatAKeyTypesWithShift) {
+    setLayout(u"de"_s);
+    EXPECT_TRUE(waitUntil([this] { return m_layout.shiftedCharacters(keycode::digit7) == u"/"; }));
+    EXPECT_EQ(m_layout.characters(keycode::digit7), u"7");
+    EXPECT_EQ(m_layout.shiftedCharacters(keycode::d), u"D");
+    EXPECT_EQ(m_layout.shiftedCharacters(0xffff), u"");
+}
+
 TEST_F(KeyboardLayoutOnX11, CannotBeAskedWithoutAKeymap) {
     EXPECT_EQ(X11KeyboardLayout(nullptr).characters(keycode::d), std::nullopt);
 }

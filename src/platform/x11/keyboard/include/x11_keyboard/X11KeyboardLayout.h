@@ -14,9 +14,14 @@ public:
     explicit X11KeyboardLayout(std::shared_ptr<X11Keymap> keymap);
 
     [[nodiscard]] std::optional<std::u16string> characters(std::uint16_t keyCode) const override;
+    [[nodiscard]] std::optional<std::u16string>
+    shiftedCharacters(std::uint16_t keyCode) const override;
     void onChanged(std::function<void()> handler) override;
 
 private:
+    [[nodiscard]] std::optional<std::u16string>
+    typed(std::uint16_t keyCode, X11Keymap::Held held) const;
+
     std::shared_ptr<X11Keymap> m_keymap;
 };
 

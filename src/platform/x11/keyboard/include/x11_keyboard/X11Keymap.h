@@ -31,8 +31,11 @@ public:
     [[nodiscard]] static std::unique_ptr<X11Keymap> open(
         MainQueue& mainQueue, Source source = Source::UsersKeys, std::function<void()> onLost = {});
 
-    /// What the key types on its own; empty for dead keys and keys without a character.
-    [[nodiscard]] std::u16string characters(xkb_keycode_t keycode) const;
+    /// The modifiers with which a key is asked for.
+    enum class Held { Nothing, Shift };
+
+    /// What the key types; empty for dead keys and keys without a character.
+    [[nodiscard]] std::u16string characters(xkb_keycode_t keycode, Held held = Held::Nothing) const;
 
     /// A key that yields the keysym on its own: in the group in use if there is one, else in any.
     [[nodiscard]] std::optional<xcb_keycode_t> keycodeOf(xkb_keysym_t keysym) const;
@@ -65,6 +68,7 @@ private:
 
     void handleEvent(const xcb_generic_event_t& event);
     void reload();
+    [[nodiscard]] State stateWith(xkb_mod_mask_t modifiers) const;
     [[nodiscard]] xkb_keysym_t plainKeysym(xcb_keycode_t keycode, xkb_layout_index_t group) const;
 
     std::shared_ptr<X11Connection> m_connection;
@@ -72,6 +76,7 @@ private:
     Context m_context;
     Keymap m_keymap;
     State m_state;
+    State m_shiftedState;
     CoalescedRefresh m_refresh;
     X11Connection::Subscription m_subscription;
 };
