@@ -55,7 +55,9 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            *m_dependencies.platform.eventTaps,
            m_dependencies.mainQueue},
           {weakly(&AppDelegate::togglePresentation),
-           [this] {
+           [this] { m_preferences.refreshSoon(); },
+           [this](HotKeyCombo combo) {
+               m_model.setHotKey(combo);
                m_preferences.refreshSoon();
            }}),
       m_preferences(

@@ -26,6 +26,7 @@ GlobalShortcut::~GlobalShortcut() {
     m_monitor->setOnTriggered({});
     m_monitor->setOnReleased({});
     m_monitor->setOnDeliveryChanged({});
+    m_monitor->setOnComboChanged({});
 }
 
 void GlobalShortcut::startHotKeyMonitor(HotKeyCombo combo) {
@@ -35,6 +36,7 @@ void GlobalShortcut::startHotKeyMonitor(HotKeyCombo combo) {
     m_monitor->setOnTriggered([this] { handleTrigger(); });
     m_monitor->setOnReleased([this] { m_press.end(); });
     m_monitor->setOnDeliveryChanged(m_callbacks.onActivityChanged);
+    m_monitor->setOnComboChanged([this] { m_callbacks.onComboChanged(m_monitor->combo()); });
     m_monitor->start();
 }
 
@@ -64,6 +66,8 @@ ShortcutRecorder::Activity GlobalShortcut::activity() const {
         return Activity::Active;
     case TapDelivery::HeldElsewhere:
         return Activity::HeldElsewhere;
+    case TapDelivery::Unavailable:
+        return Activity::Unavailable;
     case TapDelivery::NoSuchKey:
     case TapDelivery::Off: // of modifiers that no keyboard has, no press is watched
         break;

@@ -26,6 +26,9 @@ public:
         std::function<void()> onPressed;
         /// activity() says something else than before.
         std::function<void()> onActivityChanged;
+        /// The user has chosen another one in the desktop's settings; it is armed already.
+        std::function<void(HotKeyCombo)> onComboChanged = [](HotKeyCombo) {
+        };
     };
 
     GlobalShortcut(Dependencies dependencies, Callbacks callbacks);

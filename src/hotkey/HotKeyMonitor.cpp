@@ -48,6 +48,10 @@ void HotKeyMonitor::setOnDeliveryChanged(std::function<void()> onDeliveryChanged
     m_onDeliveryChanged = std::move(onDeliveryChanged);
 }
 
+void HotKeyMonitor::setOnComboChanged(std::function<void()> onComboChanged) {
+    m_onComboChanged = std::move(onComboChanged);
+}
+
 void HotKeyMonitor::start() {
     m_lastFailure.reset();
     if (!m_dependencies.accessibilityRight.mayReadShortcut())
@@ -56,8 +60,9 @@ void HotKeyMonitor::start() {
     auto result = m_dependencies.eventTaps.createTap(
         {[this](const KeyPress& press) { return handle(press); },
          [this] { schedule(&HotKeyMonitor::m_onReleased); },
-         [this] {
-             announceDelivery();
+         [this] { announce(&HotKeyMonitor::m_onDeliveryChanged); },
+         [this](const KeyChord& chord) {
+             adopt(chord);
          }});
     if (auto* failure = std::get_if<TapFailure>(&result))
         return fail(std::move(*failure));
@@ -104,11 +109,19 @@ void HotKeyMonitor::schedule(Callback HotKeyMonitor::*callback) {
     });
 }
 
-void HotKeyMonitor::announceDelivery() {
-    m_dependencies.mainQueue.async([weak = weak_from_this()] {
-        if (const auto self = weak.lock(); self && self->m_onDeliveryChanged)
-            self->m_onDeliveryChanged();
+/// Unlike a trigger, it does not keep the monitor alive.
+void HotKeyMonitor::announce(Callback HotKeyMonitor::*callback) {
+    m_dependencies.mainQueue.async([weak = weak_from_this(), callback] {
+        const auto self = weak.lock();
+        // A copy: the callback may replace itself.
+        if (const auto run = self ? (*self).*callback : Callback())
+            run();
     });
+}
+
+void HotKeyMonitor::adopt(const KeyChord& chord) {
+    m_combo = {chord.keyCode, toCarbonModifiers(chord.flags)};
+    announce(&HotKeyMonitor::m_onComboChanged);
 }
 
 void HotKeyMonitor::watchCombo() {

@@ -108,4 +108,12 @@ void FakeEventTaps::release() {
         m_tap->handlers.released();
 }
 
+void FakeEventTaps::changeChord(const KeyChord& chord) {
+    if (!m_tap || !m_tap->alive)
+        return;
+    m_tap->watched = chord;
+    m_tap->grabbed = chord;
+    m_tap->handlers.chordChanged(chord);
+}
+
 } // namespace quorvane

@@ -2,6 +2,7 @@
 #include "DelegateFixture.h"
 
 #include <panel/PanelMetrics.h>
+#include <platform/KeyCodes.h>
 #include <support/WidgetSearch.h>
 
 #include <QApplication>
@@ -127,6 +128,19 @@ TEST_F(AppDelegateTest, PreferencesNameWhoHoldsTheShortcut) {
     const auto* said = widgetByRole(*preferences(), QAccessible::StaticText, words);
     ASSERT_NE(said, nullptr);
     EXPECT_TRUE(said->isVisible());
+}
+
+TEST_F(AppDelegateTest, TheModelFollowsTheShortcutOfTheDesktopsSettings) {
+    launch();
+    delegate->showPreferences();
+    log.clear();
+    taps->changeChord({keycode::f, modifier::control | modifier::option});
+    queue.run();
+    const HotKeyCombo chosen{keycode::f, combomodifier::control | combomodifier::option};
+    EXPECT_EQ(delegate->model().hotKey(), chosen);
+    EXPECT_EQ(HotKeyCombo::load(defaults), chosen);
+    EXPECT_THAT(calls(), testing::Not(testing::Contains("watch")))
+        << "the desktop is not told what it has told";
 }
 
 TEST_F(AppDelegateTest, ReopenShowsAHiddenPanelAndRemembersWhatWasInFront) {

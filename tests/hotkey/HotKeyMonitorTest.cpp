@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <hotkey/HotKeyMonitor.h>
+#include <platform/KeyCodes.h>
 #include <testing/CallLog.h>
 #include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeEventTaps.h>
 #include <testing/VirtualMainQueue.h>
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace quorvane {
 namespace {
@@ -90,6 +93,20 @@ TEST_F(HotKeyMonitorTest, ReleasesAreToldInOrderWithTheTriggers) {
     EXPECT_EQ(order, "");
     queue.run();
     EXPECT_EQ(order, "TRTR");
+}
+
+TEST_F(HotKeyMonitorTest, TakesTheKeysThatTheUserChoseInTheDesktopsSettings) {
+    std::vector<HotKeyCombo> told;
+    monitor->setOnComboChanged([&] { told.push_back(monitor->combo()); });
+    monitor->start();
+    taps.changeChord({keycode::f, modifier::control | modifier::option});
+    EXPECT_EQ(taps.press({keycode::f, modifier::control | modifier::option}), TapVerdict::Swallow);
+    EXPECT_TRUE(told.empty());
+    queue.run();
+    const HotKeyCombo chosen{keycode::f, combomodifier::control | combomodifier::option};
+    EXPECT_EQ(told, std::vector{chosen});
+    EXPECT_EQ(triggered, 1);
+    EXPECT_EQ(taps.press(shortcut), TapVerdict::Pass);
 }
 
 TEST_F(HotKeyMonitorTest, StopOnAnIdleMonitorTouchesNothing) {

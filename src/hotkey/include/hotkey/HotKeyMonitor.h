@@ -43,6 +43,10 @@ public:
     /// Run in a later event-loop iteration after delivery() has become another.
     void setOnDeliveryChanged(std::function<void()> onDeliveryChanged);
 
+    /// Run in a later event-loop iteration after the user has given the shortcut other keys in the
+    /// desktop's settings: combo() says which, and its presses are waited for already.
+    void setOnComboChanged(std::function<void()> onComboChanged);
+
     /// Arms the monitor; without the accessibility right, or where no tap can be had, it stays idle
     /// and says so to nobody but lastFailure() and the log. Asks the user for nothing.
     void start();
@@ -78,7 +82,8 @@ private:
 
     [[nodiscard]] TapVerdict handle(const KeyPress& press);
     void schedule(Callback HotKeyMonitor::*callback);
-    void announceDelivery();
+    void announce(Callback HotKeyMonitor::*callback);
+    void adopt(const KeyChord& chord);
     void watchCombo();
     void fail(TapFailure failure);
 
@@ -87,6 +92,7 @@ private:
     Callback m_onTriggered;
     Callback m_onReleased;
     Callback m_onDeliveryChanged;
+    Callback m_onComboChanged;
     std::unique_ptr<EventTap> m_eventTap;
     std::optional<TapFailure> m_lastFailure;
 };

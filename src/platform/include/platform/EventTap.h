@@ -38,7 +38,8 @@ enum class TapDelivery {
     Off, ///< disabled, or nothing is watched
     Delivering,
     HeldElsewhere, ///< another program held it when this tap last tried, by watch() or enable()
-    NoSuchKey      ///< this keyboard cannot type it
+    NoSuchKey,     ///< this keyboard cannot type it
+    Unavailable ///< the desktop's service for it has gone, or the user took the shortcut away there
 };
 
 /// What a tap calls, on the main thread.

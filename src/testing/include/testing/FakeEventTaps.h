@@ -41,6 +41,9 @@ public:
     /// Lets go of the watched key, which the tap is told where the desktop tells releases.
     void release();
 
+    /// The user gives the shortcut other keys in the desktop's settings.
+    void changeChord(const KeyChord& chord);
+
     /// From now on, no tap can be had.
     void refuse(TapFailure failure) { m_refusal = std::move(failure); }
 
