@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/WaitUntil.h"
+#include <support/WaitUntil.h>
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
