@@ -2,7 +2,6 @@
 #include "AppDelegate.h"
 #include "AppearanceFollower.h"
 #include "ApplicationAccessible.h"
-#include "Backends.h"
 #include "CommandLine.h"
 #include "TerminationSignals.h"
 
@@ -20,8 +19,11 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <backends/PlatformChoice.h>
+#include <backends/QtPlatformChoice.h>
 #include <chrono>
 #include <cstdlib>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -33,6 +35,9 @@ using namespace std::chrono_literals;
 // A start on a bus that hangs is to be done within two seconds.
 constexpr auto busPatience = 1500ms;
 constexpr auto diskPatience = 5s;
+// Longer than a busy compositor takes while a session starts: what it says decides for the whole
+// run.
+constexpr auto compositorPatience = 5s;
 
 // The status by which shells tell that a program was called in a wrong way.
 constexpr int misuse = 2;
@@ -76,7 +81,8 @@ int run(
     QApplication& application,
     SettingsWriter& writer,
     ApplicationInstance& instance,
-    AppDelegate::Launch launch) {
+    AppDelegate::Launch launch,
+    std::unique_ptr<const Compositor> compositor) {
     const auto environment = processEnvironment();
     const auto folders = UserFolders::fromEnvironment(environment);
     QtMainQueue mainQueue;
@@ -86,7 +92,13 @@ int run(
     JsonDefaultsStore defaults(folders.defaultsFile(), writer);
     WindowFrameStore windowFrames(folders.windowsFile(), writer);
     auto platform = makePlatformServices(
-        environment, QGuiApplication::platformName(), mainQueue, endingIn(mainQueue));
+        {environment,
+         QGuiApplication::platformName(),
+         mainQueue,
+         *compositor,
+         endingIn(mainQueue)});
+    // Its connection lives on if a service uses it.
+    compositor.reset();
     AppearanceFollower appearanceFollower(
         *platform.appearance,
         AppearanceFollower::paletteSource(),
@@ -122,7 +134,16 @@ int main(int argc, char** argv) {
     const auto environment = processEnvironment();
     HungBusGuard busGuard(environment, busPatience);
     ApplicationAccessible::install();
+    auto compositor =
+        std::make_unique<const Compositor>(Compositor::ask(environment, compositorPatience));
+    const auto qtPlatform = chooseQtPlatform(environment, *compositor);
+    if (qtPlatform == QtPlatform::None) {
+        reportFailure(u"the compositor does not answer"_s);
+        return EXIT_FAILURE;
+    }
+    QtPlatformSetting qtPlatformSetting(qtPlatform);
     QApplication application(argc, argv);
+    qtPlatformSetting.settle();
     busGuard.settle();
     configure(application);
     const auto commandLine = CommandLine::parse(application.arguments());
@@ -138,7 +159,8 @@ int main(int argc, char** argv) {
         return 0;
     // Static: exit(), which Qt calls when its connection to the display breaks, waits for it, too.
     static Disk disk;
-    const int status = run(application, disk.settings, instance, launchOf(commandLine));
+    const int status =
+        run(application, disk.settings, instance, launchOf(commandLine), std::move(compositor));
     // All that the session could miss has been given back: windows, keys, clipboard, bus name.
     if (!disk.settings.finish(diskPatience))
         reportFailure(u"the disk does not answer; waiting until it has taken the settings"_s);

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Backends.h"
-
 #include <platform/LayeredAppearance.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
@@ -10,6 +8,7 @@
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 
+#include <backends/PlatformChoice.h>
 #include <string_view>
 
 namespace quorvane {
@@ -22,13 +21,12 @@ protected:
     VirtualMainQueue queue;
 
     PlatformServices services(const QString& forced, const QString& qtPlatform) {
-        return makePlatformServices(
-            [forced](const char* name) {
-                return std::string_view(name) == "QUORVANE_BACKEND" ? std::optional(forced)
-                                                                    : std::nullopt;
-            },
-            qtPlatform,
-            queue);
+        const Environment environment = [forced](const char* name) {
+            return std::string_view(name) == "QUORVANE_BACKEND" ? std::optional(forced)
+                                                                : std::nullopt;
+        };
+        const Compositor none;
+        return makePlatformServices({environment, qtPlatform, queue, none});
     }
 };
 

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "ServicesOfEveryDisplay.h"
+
+#include <platform/LayeredAppearance.h>
+#include <platform_dbus/DBusNotifications.h>
+#include <platform_dbus/PortalAppearance.h>
+#include <platform_null/NullServices.h>
+#include <platform_system/SystemTimeChanges.h>
+#include <platform_tray/TrayStatusBar.h>
+#include <platform_xdg/FileAppearance.h>
+#include <platform_xdg/XdgAutostart.h>
+#include <platform_xdg/XdgSoftwareCentre.h>
+#include <settings/UserFolders.h>
+#include <time/SystemCurrentZone.h>
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace quorvane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
+
+} // namespace
+
+PlatformServices servicesOfEveryDisplay(const DesktopSession& session) {
+    const auto bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        qCInfo(
+            lcBackend,
+            "no session bus: neither its tray, nor the settings portal, nor notifications");
+    auto services = makeNullServices(session.queue);
+    services.softwareCentre = std::make_unique<XdgSoftwareCentre>(
+        MimeHandlers(processEnvironment()), QDesktopServices::openUrl);
+    services.notifications = std::make_unique<DBusNotifications>(bus, session.queue);
+    services.statusBar = std::make_unique<TrayStatusBar>(bus);
+    services.timeChanges =
+        std::make_unique<SystemTimeChanges>(SystemCurrentZone::settingFile(session.environment));
+    // In a sandbox the user's entries are out of reach, and one of the sandbox's starts nothing.
+    if (!QFileInfo::exists(u"/.flatpak-info"_s))
+        services.autostart = std::make_unique<XdgAutostart>(settingsFolders(session.environment));
+    return services;
+}
+
+void completeAppearance(PlatformServices& services, const Environment& environment) {
+    LayeredAppearance::Sources sources;
+    sources.push_back(std::make_unique<PortalAppearance>(QDBusConnection::sessionBus()));
+    sources.push_back(std::move(services.appearance));
+    sources.push_back(std::make_unique<FileAppearance>(settingsFolders(environment)));
+    services.appearance = std::make_unique<LayeredAppearance>(std::move(sources));
+}
+
+} // namespace quorvane
