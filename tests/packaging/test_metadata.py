@@ -1,0 +1,135 @@
+# SPDX-License-Identifier: MIT
+"""The files for menus, software centres, readers of manuals and packagers."""
+
+import configparser
+import re
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+import yaml
+from tree import ID, TREE, install, run
+
+_PACKAGING = TREE / "packaging"
+
+# What a validator says, and why it is so.
+_EXPECTED_REMARKS = {
+    # It is the name on the bus as well, which the desktop file has to be called by.
+    "cid-contains-uppercase-letter",
+    # The place that later releases look in is unknown to Debian 12's.
+    "developer-name-tag-deprecated",
+    "developer-info-missing",
+    # There is none, and none is made up.
+    "url-homepage-missing",
+}
+
+# What only developers need: a compiler is there wherever packages are built.
+_NOT_FOR_PACKAGES = {"g++", "ccache", "libgtest-dev", "libgmock-dev", "libbenchmark-dev"}
+
+
+def version() -> str:
+    """What the build calls it."""
+    found = re.search(r"project\(quorvane VERSION ([\d.]+)", text(TREE / "CMakeLists.txt"))
+    assert found
+    return found[1]
+
+
+def text(file: Path) -> str:
+    """The contents of a file."""
+    return file.read_text(encoding="utf-8")
+
+
+class Metadata(unittest.TestCase):
+    """What is installed, seen by those that it is for."""
+
+    @classmethod
+    def setUpClass(cls) -> None:
+        folder = tempfile.TemporaryDirectory(prefix="qv-metadata-")
+        cls.addClassCleanup(folder.cleanup)
+        install("/usr", DESTDIR=folder.name)
+        cls.share = Path(folder.name) / "usr" / "share"
+
+    def test_menus_take_the_desktop_file(self) -> None:
+        file = self.share / "applications" / f"{ID}.desktop"
+        checked = run(["desktop-file-validate", file])
+        self.assertEqual((0, ""), (checked.returncode, checked.stdout))
+
+    def test_each_action_of_the_menu_is_called_on_the_bus(self) -> None:
+        file = configparser.ConfigParser(interpolation=None)
+        file.read(self.share / "applications" / f"{ID}.desktop")
+        actions = file["Desktop Entry"]["Actions"].strip(";").split(";")
+        known = text(TREE / "src" / "app" / "DesktopAction.cpp")
+        for action in actions:
+            command = file[f"Desktop Action {action}"]["Exec"]
+            self.assertEqual(f"gapplication action {ID} {action}", command)
+            self.assertIn(f'DesktopAction{{"{action}"_L1', known)
+
+    def test_software_centres_take_the_metainfo(self) -> None:
+        file = self.share / "metainfo" / f"{ID}.metainfo.xml"
+        checked = run(["appstreamcli", "validate", "--pedantic", "--no-net", "--no-color", file])
+        remarks = re.findall(r"^[EWIP]: \S+ (\S+)", checked.stdout, re.MULTILINE)
+        self.assertLessEqual(set(remarks), _EXPECTED_REMARKS, checked.stdout)
+        self.assertIn("successful", checked.stdout)
+
+    def test_the_manual_has_no_mistakes(self) -> None:
+        file = self.share / "man" / "man1" / "quorvane.1"
+        checked = run(["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", file])
+        self.assertEqual(0, checked.returncode)
+        self.assertNotIn("warning", checked.stdout)
+        shown = run(["man", "-l", file], MANWIDTH="80", MANPAGER="cat").stdout
+        for word in (version(), "--hidden", "toggle", "preferences", "defaults.json"):
+            self.assertIn(word, shown)
+
+    def test_prose_is_spelled_as_in_the_dictionary(self) -> None:
+        files = ["README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs", "packaging", "dev"]
+        checked = run(["codespell", "--skip", "*.png", *(TREE / name for name in files)])
+        self.assertEqual((0, ""), (checked.returncode, checked.stdout))
+
+
+class Sources(unittest.TestCase):
+    """What the tree says in more than one place."""
+
+    def test_every_file_has_the_version_of_the_build(self) -> None:
+        changes = re.findall(r"^## \[([\d.]+)\] - ([\d-]+)$", text(TREE / "CHANGELOG.md"), re.M)
+        debian = text(_PACKAGING / "debian" / "changelog").split()[1]
+        metainfo = ElementTree.parse(_PACKAGING / f"{ID}.metainfo.xml")
+        releases = [
+            (release.get("version"), release.get("date"))
+            for release in metainfo.findall("releases/release")
+        ]
+        self.assertEqual(version(), changes[0][0])
+        self.assertRegex(debian, rf"^\({re.escape(version())}-\d+\)$")
+        self.assertEqual(changes, releases)
+
+    def test_the_package_needs_what_a_build_installs(self) -> None:
+        listed = re.search(r"packages_build=\(([^)]*)\)", text(TREE / "dev"))
+        assert listed
+        control = text(_PACKAGING / "debian" / "control").split("\nPackage:")[0]
+        declared = set(re.findall(r"^ ([a-z0-9.+-]+)", control, re.MULTILINE))
+        self.assertLessEqual(set(listed[1].split()) - _NOT_FOR_PACKAGES, declared)
+
+    def test_the_sandbox_asks_for_nothing_but_display_and_tray(self) -> None:
+        manifest = yaml.safe_load(text(_PACKAGING / "flatpak" / f"{ID}.yml"))
+        self.assertEqual(ID, manifest["id"])
+        self.assertEqual("quorvane", manifest["command"])
+        self.assertEqual(
+            [
+                "--socket=wayland",
+                "--socket=fallback-x11",
+                "--share=ipc",
+                "--talk-name=org.kde.StatusNotifierWatcher",
+            ],
+            manifest["finish-args"],
+        )
+        for option in manifest["modules"][0]["config-opts"]:
+            name = option.removeprefix("-D").split("=")[0]
+            known = name.startswith("CMAKE_") or any(
+                f"option({name} " in text(file)
+                for file in (TREE / "CMakeLists.txt", *TREE.glob("cmake/*.cmake"))
+            )
+            self.assertTrue(known, option)
+
+
+if __name__ == "__main__":
+    unittest.main()
