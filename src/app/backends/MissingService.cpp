@@ -3,6 +3,8 @@
 
 #include "QtClipboard.h"
 
+#include <platform_gnome/GnomeShortcut.h>
+
 #include <QCoreApplication>
 
 namespace quorvane {
@@ -79,6 +81,10 @@ void standIn(
     const DesktopSession& session) {
     if (missing.contains(ChosenService::Clipboard))
         services.pasteboard = makeQtClipboard(session);
+    // Of the desktops that keep such a list, and do not have it where the shortcut is.
+    if (missing.contains(ChosenService::Shortcut))
+        services.desktopShortcut = std::make_unique<GnomeShortcut>(
+            QDBusConnection::sessionBus(), session.queue, *services.keyboardLayout);
     if (missing.contains(ChosenService::Keys) && !missing.contains(ChosenService::Shortcut))
         services.accessibilityRight = std::make_unique<NoTypingRight>();
 }
