@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AppDelegate.h"
 
-#include "ContentView.h"
 #include "DesktopAction.h"
-#include "FieldPaste.h"
 #include "MainMenu.h"
 
 #include <delivery/CopyText.h>
@@ -62,15 +60,12 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            }}),
       m_preferences(
           {m_model,
-           *m_dependencies.platform.keyboardLayout,
            m_dependencies.zones,
            m_dependencies.mainQueue,
            m_dependencies.clock,
-           *m_dependencies.platform.autostart,
            m_dependencies.windowFrames,
-           *m_dependencies.platform.workspace,
-           *m_dependencies.platform.windowTraits,
-           fieldPaste(*m_dependencies.platform.pasteboard)},
+           m_dependencies.platform,
+           m_dependencies.environment},
           preferencesCallbacks()),
       m_dock({*m_dependencies.platform.windowTraits, m_preferences, m_presentation.panel()}),
       m_modelObserver(m_model, m_dependencies.mainQueue, modelCallbacks()),
@@ -107,6 +102,7 @@ AppDelegate::~AppDelegate() {
     m_dependencies.platform.workspace->onActiveSpaceChanged({});
     m_dependencies.platform.windowTraits->onCompositingChanged({});
     m_dependencies.platform.keyboardLayout->onChanged({});
+    m_dependencies.platform.desktopShortcut->onChanged([] {});
 }
 
 void AppDelegate::applicationDidFinishLaunching(Launch launch) {
@@ -168,11 +164,15 @@ void AppDelegate::performCopy() {
 }
 
 void AppDelegate::showPreferences() {
+    showPreferences(PreferencesPlace::AsLeft);
+}
+
+void AppDelegate::showPreferences(PreferencesPlace place) {
     m_hiddenStart.end();
     m_shortcut.retry();
     const auto device = m_presentation.lastInput();
     m_presentation.hide();
-    m_preferences.showWindow(device);
+    m_preferences.showWindow(device, place);
 }
 
 void AppDelegate::checkForUpdates() {
@@ -206,92 +206,6 @@ void AppDelegate::terminate() {
     });
 }
 
-/// A callback that may outlive the delegate and then does nothing.
-std::function<void()> AppDelegate::weakly(void (AppDelegate::*call)()) {
-    return [self = QPointer(this), call] {
-        if (self)
-            (self->*call)();
-    };
-}
-
-TrayIcon::Callbacks AppDelegate::trayIconCallbacks() {
-    return {
-        [this] {
-            m_shortcut.retry();
-            m_presentation.handleIconClick();
-        },
-        weakly(&AppDelegate::surfaceMainUIForReopen),
-        weakly(&AppDelegate::showPreferences),
-        weakly(&AppDelegate::checkForUpdates),
-        weakly(&AppDelegate::terminate)};
-}
-
-InterfaceCallbacks AppDelegate::interfaceCallbacks() {
-    return {
-        [this] { return makeContentView(m_model, m_dependencies, contentViewCallbacks()); },
-        [this](QWidget& window) { m_mainMenu->attachTo(window); },
-        [this] { renew(); },
-        weakly(&AppDelegate::prepareAfterFirstPaint)};
-}
-
-PreferencesWindowController::Callbacks AppDelegate::preferencesCallbacks() {
-    return {
-        [this] {
-            return ShortcutRecorder::Status{m_shortcut.activity(), m_shortcut.holder()};
-        },
-        [self = QPointer(this)](HotKeyCombo combo) {
-            if (!self)
-                return;
-            self->m_model.setHotKey(combo);
-            self->m_shortcut.change(combo);
-        },
-        [this](QWidget& window) {
-            m_mainMenu->attachTo(window);
-        }};
-}
-
-ModelObserver::Callbacks AppDelegate::modelCallbacks() {
-    return {
-        [this](bool show) {
-            if (!show)
-                m_presentation.popover().close();
-            m_trayIcon.setVisible(show);
-        },
-        [this](PresentationMode mode) { m_presentation.handlePresentationModeChange(mode); },
-        [this](bool show) {
-            m_dock.setVisible(show);
-        }};
-}
-
-DeliveryNotice::Callbacks AppDelegate::noticeCallbacks() {
-    return {
-        [this] {
-            m_trayIcon.setNotice(m_notice.text());
-            m_presentation.setNotice(m_notice.text());
-        },
-        weakly(&AppDelegate::showPreferences)};
-}
-
-Insertion::Callbacks AppDelegate::insertionCallbacks() {
-    return {
-        [this] { m_notice.clear(); },
-        [this](CopyReason reason) {
-            m_notice.tellCopied(reason);
-        }};
-}
-
-PopoverView::Callbacks AppDelegate::contentViewCallbacks() {
-    return {
-        weakly(&AppDelegate::performInsert),
-        weakly(&AppDelegate::showPreferences),
-        weakly(&AppDelegate::checkForUpdates),
-        [self = QPointer(this)] {
-            if (self)
-                self->m_presentation.hide();
-        },
-        weakly(&AppDelegate::terminate)};
-}
-
 void AppDelegate::setupMainMenu() {
     m_mainMenu = std::make_unique<MainMenu>(MainMenu::Callbacks{
         weakly(&AppDelegate::checkForUpdates), weakly(&AppDelegate::terminate)});
@@ -310,6 +224,7 @@ void AppDelegate::observeDesktop() {
         [this] { m_presentation.panel().compositingDidChange(); });
     connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
     platform.keyboardLayout->onChanged([this] { refreshSoon(); });
+    platform.desktopShortcut->onChanged([this] { m_preferences.refreshSoon(); });
 }
 
 void AppDelegate::refreshSoon() {

@@ -16,6 +16,7 @@
 
 #include <platform/PlatformServices.h>
 #include <settings/DefaultsStore.h>
+#include <settings/Environment.h>
 #include <time/CurrentZone.h>
 #include <time/UserLocale.h>
 #include <timezones/ZoneWarmUp.h>
@@ -46,6 +47,7 @@ public:
         UserLocale locale;
         MainQueue& mainQueue;
         PlatformServices& platform;
+        Environment environment = {}; ///< of the session; none for one that tells nothing
     };
 
     /// How the program begins.
@@ -79,6 +81,7 @@ public:
     void performCopy();
 
     void showPreferences();
+    void showPreferences(PreferencesPlace place);
 
     /// The user has chosen to allow typing: the desktop asks, if it has not got the answer.
     void allowTyping() { m_typingConsent.allow(); }

@@ -4,11 +4,10 @@
 #include "PreferencesFrame.h"
 
 #include <controls/InputDevice.h>
-#include <controls/PasteReader.h>
 #include <model/DateTimeModel.h>
-#include <platform/WindowTraits.h>
-#include <platform/Workspace.h>
+#include <platform/PlatformServices.h>
 #include <preferences/PreferencesView.h>
+#include <settings/Environment.h>
 
 #include <QPointer>
 
@@ -27,20 +26,18 @@ public:
     /// All must outlive the controller.
     struct Dependencies {
         DateTimeModel& model;
-        const KeyboardLayout& keyboardLayout;
         const ZoneDatabase& zones;
         MainQueue& mainQueue;
         const Clock& clock;
-        Autostart& autostart;
         WindowFrameStore& windowFrames;
-        const Workspace& workspace;
-        WindowTraits& windowTraits;
-        PasteReader pasteReader;
+        PlatformServices& platform;
+        Environment environment;
     };
 
     struct Callbacks {
         std::function<ShortcutRecorder::Status()> shortcutStatus;
         std::function<void(HotKeyCombo)> onHotKeyChange;
+        std::function<void()> onAllowTyping;
         std::function<void(QWidget& window)> attachMainMenu;
     };
 
@@ -50,8 +47,9 @@ public:
     PreferencesWindowController(const PreferencesWindowController&) = delete;
     PreferencesWindowController& operator=(const PreferencesWindowController&) = delete;
 
-    /// Shows the window and gives it the focus; opened by keyboard it shows where that is.
-    void showWindow(InputDevice device);
+    /// Shows the window and gives it the focus; opened by keyboard, or at a place, it shows where
+    /// that is.
+    void showWindow(InputDevice device, PreferencesPlace place);
 
     /// Saves a frame that is due to be saved.
     void saveFrameNow();
@@ -64,6 +62,7 @@ public:
 
 private:
     void setupWindow();
+    [[nodiscard]] PreferencesView::Dependencies viewDependencies() const;
 
     Dependencies m_dependencies;
     Callbacks m_callbacks;

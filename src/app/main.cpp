@@ -116,7 +116,8 @@ int run(
          zones,
          UserLocale::fromEnvironment(environment),
          mainQueue,
-         platform});
+         platform,
+         environment});
     appearanceFollower.onApplied([&] { delegate.appearanceChanged(); });
     mainQueue.async([&, launch] { delegate.applicationDidFinishLaunching(launch); });
     // Through the queue as well, so that requests from the bus run after the launch.

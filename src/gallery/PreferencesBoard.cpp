@@ -13,7 +13,9 @@
 #include <preferences/PreferencesMetrics.h>
 #include <preferences/PreferencesView.h>
 #include <recorder/KeyCapture.h>
+#include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeAutostart.h>
+#include <testing/FakeDesktopShortcut.h>
 #include <testing/FakeKeyboardLayout.h>
 #include <testing/MemoryDefaults.h>
 #include <testing/VirtualMainQueue.h>
@@ -75,9 +77,12 @@ void hover(PreferencesView& view, const QString& city) {
 struct PreferencesBoard::Sample {
     MemoryDefaults defaults;
     NoQueue queue;
-    VirtualMainQueue noTime;
-    CallLog calls{noTime};
-    FakeAutostart autostart{calls};
+    VirtualMainQueue fakesQueue; ///< for the times in the log
+    CallLog log{fakesQueue};
+    FakeAutostart autostart{log};
+    FakeDesktopShortcut shortcuts{log};
+    FakeAccessibilityRight right{log};
+    std::vector<ServiceState> states;
     FakeKeyboardLayout layout = sample::keyboard();
     DateTimeModel model{
         {sample::clock(), defaults, sample::currentZone(), sample::zones(), sample::locale()}};
@@ -169,8 +174,15 @@ PreferencesView& PreferencesBoard::addWindow(
             sample.queue,
             sample::clock(),
             sample.autostart,
+            sample.shortcuts,
+            sample.right,
+            sample.states,
             [activity] {
                 return ShortcutRecorder::Status{activity, {}};
+            },
+            [] {},
+            [](const QString&) {
+                return true;
             }},
         [](HotKeyCombo) {},
         this);

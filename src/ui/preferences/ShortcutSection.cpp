@@ -2,6 +2,8 @@
 #include "ShortcutSection.h"
 
 #include "LabelledRow.h"
+#include "ListedShortcut.h"
+#include "ShortcutLine.h"
 
 #include <controls/WrappedText.h>
 #include <preferences/PreferencesMetrics.h>
@@ -13,9 +15,18 @@
 namespace quorvane {
 
 ShortcutSection::ShortcutSection(
-    Binding<HotKeyCombo> combo, const KeyboardLayout& layout, MainQueue& queue, QWidget* parent)
+    Binding<HotKeyCombo> combo, Dependencies dependencies, QWidget* parent)
     : PreferencesSection(tr("Keyboard Shortcut"), parent),
-      m_recorder(new ShortcutRecorder(std::move(combo), layout, queue, this)) {
+      m_list(dependencies.list),
+      m_recorder(new ShortcutRecorder(combo, dependencies.layout, dependencies.queue, this)),
+      m_listed(new ListedShortcut(m_list, combo.get, dependencies.layout, this)),
+      m_line(new ShortcutLine(
+          combo.get,
+          dependencies.layout,
+          dependencies.syntax,
+          dependencies.popoverEffects,
+          std::move(dependencies.copy),
+          this)) {
     const auto name = tr("Invoke Quorvane");
     m_recorder->setAccessibleName(name);
     auto* label = new WrappedText(name, TextStyle::Body, WrappedText::Color::Secondary, this);
@@ -27,11 +38,33 @@ ShortcutSection::ShortcutSection(
         TextStyle::Caption,
         WrappedText::Color::Secondary));
     addNotice();
+    column().addWidget(m_listed);
+    column().addWidget(m_line);
     connect(m_recorder, &ShortcutRecorder::noticeChanged, this, &ShortcutSection::showNotice);
+    connect(
+        m_listed, &ListedShortcut::recordRequested, m_recorder, &ShortcutRecorder::startRecording);
+    setStatus({});
 }
 
 void ShortcutSection::setStatus(const ShortcutRecorder::Status& status) {
-    m_recorder->setStatus(status);
+    const bool isNobodys = status.activity == ShortcutRecorder::Activity::Unavailable;
+    const bool isListed = isNobodys && !m_list.desktopName().isEmpty();
+    // The list says more than that no program can have one.
+    m_recorder->setStatus(isListed ? ShortcutRecorder::Status() : status);
+    m_listed->setVisible(isListed);
+    m_line->setVisible(isNobodys && !isListed);
+    m_listed->refresh();
+    m_line->refresh();
+}
+
+bool ShortcutSection::needsHelp() const {
+    return offer() != nullptr;
+}
+
+QWidget* ShortcutSection::offer() const {
+    if (m_listed->isVisibleTo(this))
+        return m_listed->offer();
+    return m_line->isVisibleTo(this) ? m_line->offer() : nullptr;
 }
 
 void ShortcutSection::showNotice() {

@@ -100,6 +100,11 @@ void ShortcutRecorder::resizeEvent(QResizeEvent* event) {
     m_capture->setGeometry(rect());
 }
 
+void ShortcutRecorder::startRecording() {
+    if (!m_isRecording)
+        setRecording(true);
+}
+
 void ShortcutRecorder::toggle() {
     setRecording(!m_isRecording);
 }

@@ -8,7 +8,10 @@
 #include <support/HeldPaste.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
+#include <testing/CallLog.h>
+#include <testing/FakeAccessibilityRight.h>
 #include <testing/FakeAutostart.h>
+#include <testing/FakeDesktopShortcut.h>
 #include <testing/FakeKeyboardLayout.h>
 #include <testing/FixedClock.h>
 #include <testing/FixedCurrentZone.h>
@@ -42,6 +45,12 @@ protected:
     QString holder;
     std::vector<HotKeyCombo> changes;
     HeldPaste clipboardOwner;
+    FakeDesktopShortcut shortcuts{log};
+    FakeAccessibilityRight right{log};
+    std::vector<ServiceState> states;
+    BindingSyntax syntax = BindingSyntax::Command;
+    QStringList copied;
+    bool canCopy = true;
     std::unique_ptr<DateTimeModel> model;
     std::unique_ptr<PreferencesView> view;
     std::unique_ptr<PhysicalKeyboard> keyboard;
@@ -60,24 +69,36 @@ protected:
         openView();
     }
 
+    PreferencesView::Dependencies dependencies() {
+        return {
+            layout,
+            zones,
+            queue,
+            clock,
+            autostart,
+            shortcuts,
+            right,
+            states,
+            [this] {
+                return ShortcutRecorder::Status{activity, holder};
+            },
+            [this] { right.prompt(); },
+            [this](const QString& text) {
+                if (canCopy)
+                    copied.append(text);
+                return canCopy;
+            },
+            clipboardOwner.reader(),
+            {},
+            syntax};
+    }
+
     void openView() {
-        view = std::make_unique<PreferencesView>(
-            *model,
-            PreferencesView::Dependencies{
-                layout,
-                zones,
-                queue,
-                clock,
-                autostart,
-                [this] {
-                    return ShortcutRecorder::Status{activity, holder};
-                },
-                clipboardOwner.reader()},
-            [this](HotKeyCombo combo) {
-                changes.push_back(combo);
-                EXPECT_EQ(view->editingCombo(), combo);
-                model->setHotKey(combo);
-            });
+        view = std::make_unique<PreferencesView>(*model, dependencies(), [this](HotKeyCombo combo) {
+            changes.push_back(combo);
+            EXPECT_EQ(view->editingCombo(), combo);
+            model->setHotKey(combo);
+        });
         auto font = view->font();
         font.setPixelSize(13);
         view->setFont(font);

@@ -2,11 +2,17 @@
 #pragma once
 
 #include <controls/PasteReader.h>
+#include <controls/PopoverEffects.h>
+#include <hotkey/BindingLine.h>
 #include <loop/CoalescedRefresh.h>
 #include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
+#include <platform/AccessibilityRight.h>
 #include <platform/Autostart.h>
+#include <platform/DesktopShortcut.h>
 #include <platform/KeyboardLayout.h>
+#include <platform/ServiceState.h>
+#include <preferences/PreferencesPlace.h>
 #include <recorder/ShortcutRecorder.h>
 #include <time/ZoneDatabase.h>
 
@@ -16,11 +22,13 @@
 
 namespace quorvane {
 
+class DesktopSection;
 class FavoritesSection;
 class GeneralSection;
 class IconsSection;
 class SectionColumn;
 class ShortcutSection;
+class TypingSection;
 
 /// The settings that the main interface does not show: the shortcut, where the icon shows, how the
 /// program begins, and the favourite zones. Changes take effect at once. As wide as its window is
@@ -36,9 +44,19 @@ public:
         MainQueue& mainQueue;
         const Clock& clock;
         Autostart& autostart;
+        DesktopShortcut& desktopShortcut;
+        const AccessibilityRight& accessibilityRight;
+        const std::vector<ServiceState>& serviceStates;
         /// Whether the shortcut reaches the program; asked at each refresh.
         std::function<ShortcutRecorder::Status()> shortcutStatus;
+        /// The user wants the desktop to ask about typing.
+        std::function<void()> onAllowTyping;
+        /// Puts a text on the clipboard, and says whether it did.
+        std::function<bool(const QString&)> copy;
         PasteReader pasteReader = {};
+        PopoverEffects popoverEffects = {};
+        /// Whose words the line for a configuration is shown in first.
+        BindingSyntax bindingSyntax = BindingSyntax::Command;
     };
 
     /// Puts a newly recorded shortcut into effect.
@@ -55,15 +73,21 @@ public:
     [[nodiscard]] HotKeyCombo editingCombo() const { return m_editingCombo; }
 
     /// Shows everything anew in a later event-loop iteration, for changes that the model does not
-    /// announce: of the keyboard layout, and of who holds the shortcut.
+    /// announce: of the keyboard layout, of who holds the shortcut, and of the right to type.
     void refreshSoon() { m_refresh.schedule(); }
+
+    /// Scrolls there, with the keyboard's focus on what is to be pressed; only while it is visible.
+    void reveal(PreferencesPlace place);
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
     void layOut();
-    void addDivider(SectionColumn& column, int overhang);
+    void addDivider(int overhang);
+    [[nodiscard]] QWidget* addOptional(QWidget* section);
+    void reveal(QWidget& section, QWidget* focused);
+    void focusFirst();
     void change(HotKeyCombo combo);
     void refresh();
 
@@ -73,10 +97,15 @@ private:
     HotKeyCombo m_editingCombo;
     CoalescedRefresh m_refresh;
 
+    SectionColumn* m_sections;
     ShortcutSection* m_shortcut;
+    TypingSection* m_typing;
     IconsSection* m_icons;
     GeneralSection* m_general;
+    DesktopSection* m_desktop;
     FavoritesSection* m_favorites;
+    QWidget* m_typingPlace = nullptr;  ///< the section with its divider
+    QWidget* m_desktopPlace = nullptr; ///< likewise
 };
 
 } // namespace quorvane

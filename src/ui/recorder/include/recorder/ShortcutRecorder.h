@@ -59,6 +59,9 @@ public:
 
     void setStatus(Status status);
 
+    /// As if its button were pressed; does nothing while one is recorded.
+    void startRecording();
+
     /// Shows binding and keyboard layout as they are now.
     void refresh();
 

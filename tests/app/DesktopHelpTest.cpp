@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "DelegateFixture.h"
+
+#include <controls/FocusRing.h>
+#include <hotkey/BindingLine.h>
+#include <support/PhysicalKeyboard.h>
+#include <support/WidgetSearch.h>
+
+#include <QAbstractButton>
+#include <QTest>
+
+namespace quorvane {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr KeyChord standard{2, modifier::control | modifier::shift | modifier::command};
+constexpr KeyChord other{40, modifier::control | modifier::option};
+
+/// A desktop that does nothing unasked: neither the shortcut nor typing.
+class DesktopHelpTest : public DelegateFixture {
+protected:
+    DesktopHelpTest() {
+        taps->refuse(TapFailure{u"this desktop has none"_s});
+        right->setCanPrompt();
+        right->setTyping(TypingRight::NotAsked);
+    }
+
+    void showPreferences() {
+        delegate->showPreferences();
+        queue.run();
+    }
+
+    static QWidget* found(QAccessible::Role role, const QString& name) {
+        auto* widget = widgetByRole(*preferences(), role, name);
+        return widget != nullptr && widget->isVisible() ? widget : nullptr;
+    }
+
+    static QAbstractButton* button(const QString& name) {
+        return qobject_cast<QAbstractButton*>(found(QAccessible::Button, name));
+    }
+
+    static bool shows(const QString& text) {
+        return found(QAccessible::StaticText, text) != nullptr;
+    }
+};
+
+TEST_F(DesktopHelpTest, AllowingAsksTheDesktopAndIsRememberedForLaterRuns) {
+    launch();
+    showPreferences();
+    ASSERT_NE(button(u"Allow…"_s), nullptr);
+    button(u"Allow…"_s)->click();
+    queue.run();
+    EXPECT_EQ(right->typing(), TypingRight::Asking);
+    EXPECT_TRUE(delegate->model().wantsTyping());
+    EXPECT_TRUE(shows(u"Waiting for your answer"_s));
+    right->setTyping(TypingRight::Granted);
+    queue.run();
+    EXPECT_TRUE(shows(u"Allowed"_s));
+    EXPECT_EQ(button(u"Allow…"_s), nullptr);
+    right->setTyping(TypingRight::Stopped);
+    queue.run();
+    EXPECT_TRUE(shows(u"Stopped by your desktop; Insert copies instead"_s));
+}
+
+TEST_F(DesktopHelpTest, NotificationLeadsToTheButtonThatAllowsTyping) {
+    launch();
+    queue.run();
+    delegate->performAction(u"insert"_s);
+    queue.advance(std::chrono::seconds(2));
+    ASSERT_TRUE(notifications->shown && notifications->shown->action);
+    EXPECT_EQ(notifications->shown->action->label, u"Allow typing…"_s);
+    notifications->shown->action->perform();
+    queue.run();
+    ASSERT_TRUE(isShown(preferences()));
+    ASSERT_NE(button(u"Allow…"_s), nullptr);
+    EXPECT_EQ(preferences()->focusWidget(), button(u"Allow…"_s));
+    EXPECT_EQ(FocusRing::lastInput(*preferences()), InputDevice::Keyboard) << "the focus is seen";
+    EXPECT_EQ(right->typing(), TypingRight::NotAsked) << "only by a press of it";
+}
+
+TEST_F(DesktopHelpTest, EntryInTheDesktopsListFollowsWhatIsRecorded) {
+    desktopShortcut->setDesktopName(u"GNOME"_s);
+    launch();
+    showPreferences();
+    button(u"Add to GNOME shortcuts"_s)->click();
+    queue.run();
+    EXPECT_TRUE(shows(u"It stands in the shortcuts of GNOME."_s));
+    EXPECT_EQ(desktopShortcut->bound(), standard);
+    button(u"Record new shortcut"_s)->click();
+    queue.run();
+    PhysicalKeyboard keyboard(*preferences());
+    keyboard.type(physicalkey::k, {physicalkey::control, physicalkey::alt});
+    queue.run();
+    EXPECT_EQ(desktopShortcut->bound(), other);
+}
+
+TEST_F(DesktopHelpTest, RecordedShortcutOfAnotherCommandLeavesTheEntryAlone) {
+    desktopShortcut->setDesktopName(u"GNOME"_s);
+    desktopShortcut->setHolder(other, u"Terminal"_s);
+    launch();
+    showPreferences();
+    button(u"Add to GNOME shortcuts"_s)->click();
+    button(u"Record new shortcut"_s)->click();
+    queue.run();
+    PhysicalKeyboard keyboard(*preferences());
+    keyboard.type(physicalkey::k, {physicalkey::control, physicalkey::alt});
+    queue.run();
+    EXPECT_EQ(desktopShortcut->bound(), standard);
+    EXPECT_TRUE(shows(u"In the shortcuts of GNOME, this one belongs to “Terminal”."_s));
+}
+
+TEST_F(DesktopHelpTest, LineForAConfigurationGoesToTheClipboard) {
+    launch();
+    showPreferences();
+    ASSERT_NE(button(u"Copy"_s), nullptr);
+    button(u"Copy"_s)->click();
+    EXPECT_EQ(pasteboard->contents(), plainText(toggleCommand()));
+    EXPECT_TRUE(shows(u"Copied"_s));
+}
+
+TEST_F(DesktopHelpTest, ServicesThatAreNotWholeAreExplained) {
+    platform.states = {
+        {DesktopService::Panel, false, u"The panel stands where the desktop puts it."_s}};
+    launch();
+    showPreferences();
+    EXPECT_TRUE(shows(u"The panel stands where the desktop puts it."_s));
+}
+
+} // namespace
+} // namespace quorvane
