@@ -20,6 +20,7 @@
 #include <QIcon>
 
 #include <backends/PlatformChoice.h>
+#include <backends/QtPlaces.h>
 #include <backends/QtPlatformChoice.h>
 #include <chrono>
 #include <cstdlib>
@@ -143,6 +144,7 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     QtPlatformSetting qtPlatformSetting(qtPlatform);
+    letQtKeepPlaces(environment);
     QApplication application(argc, argv);
     qtPlatformSetting.settle();
     busGuard.settle();

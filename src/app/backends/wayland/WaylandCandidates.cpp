@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "../Candidates.h"
+#include "KeyboardCandidates.h"
 #include "WaylandLink.h"
+#include "WindowCandidates.h"
 
 #include <memory>
 
@@ -8,7 +10,10 @@ namespace quorvane {
 
 ServiceCandidates waylandCandidates(const DesktopSession& session) {
     const auto link = std::make_shared<WaylandLink>(session);
-    return {};
+    ServiceCandidates all;
+    for (const auto& some : {keyboardCandidates(link), windowCandidates(link)})
+        all.insert(all.end(), some.begin(), some.end());
+    return all;
 }
 
 } // namespace quorvane

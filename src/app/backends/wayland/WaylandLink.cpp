@@ -30,4 +30,16 @@ std::shared_ptr<WaylandSeats> WaylandLink::seats() {
     return m_seats;
 }
 
+std::shared_ptr<WaylandToplevels> WaylandLink::toplevels() {
+    if (!m_toplevels)
+        m_toplevels = std::make_shared<WaylandToplevels>(connection(), seats());
+    return m_toplevels;
+}
+
+std::shared_ptr<SwayLink> WaylandLink::sway() {
+    if (!std::exchange(m_isSwayTried, true))
+        m_sway = SwayLink::open(m_session.environment("SWAYSOCK").value_or(QString()));
+    return m_sway;
+}
+
 } // namespace quorvane

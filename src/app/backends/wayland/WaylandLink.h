@@ -5,6 +5,8 @@
 #include <memory>
 #include <wayland_server/WaylandConnection.h>
 #include <wayland_server/WaylandSeats.h>
+#include <wayland_sway/SwayLink.h>
+#include <wayland_windows/WaylandToplevels.h>
 
 namespace quorvane {
 
@@ -25,10 +27,19 @@ public:
     /// Only where there is a connection.
     [[nodiscard]] std::shared_ptr<WaylandSeats> seats();
 
+    /// The same.
+    [[nodiscard]] std::shared_ptr<WaylandToplevels> toplevels();
+
+    /// Null where sway does not answer.
+    [[nodiscard]] std::shared_ptr<SwayLink> sway();
+
 private:
     DesktopSession m_session;
     bool m_isFollowed = false;
     std::shared_ptr<WaylandSeats> m_seats;
+    std::shared_ptr<WaylandToplevels> m_toplevels;
+    bool m_isSwayTried = false;
+    std::shared_ptr<SwayLink> m_sway;
 };
 
 } // namespace quorvane
