@@ -66,7 +66,7 @@ class ChosenTarget(DesktopCase):
         self.insert(quorvane, dialog)
 
 
-class LostTarget(DesktopCase):
+class LostTargetCase(DesktopCase):
     """Nothing is typed, the text is copied, and the user is told."""
 
     def setUp(self) -> None:
@@ -74,56 +74,6 @@ class LostTarget(DesktopCase):
         self.server = NotificationServer(self.session.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(self.server.close)
         self.clipboard.own(plain_text("what the user had copied"))
-
-    def test_a_window_that_is_closed_leaves_nothing_to_the_one_behind(self) -> None:
-        behind = Terminal(self.session)
-        editor = self.editor()
-        quorvane = self.summoned_over(editor)
-        self.session.stop(editor.process)
-        windows = self.session.windows
-        windows.wait(lambda: windows.of_process(editor.process.pid) is None, "the end of a window")
-        self.expect_copy(quorvane)
-        behind.focus()
-        # What had been typed would have come before this.
-        self.keyboard.tap(Key.D)
-        behind.wait_text("d")
-
-    def test_a_window_that_is_minimised(self) -> None:
-        editor = self.editor()
-        quorvane = self.summoned_over(editor)
-        self.session.windows.minimise(editor.window)
-        self.expect_copy(quorvane)
-        self.assertEqual("", editor.text())
-
-    def test_a_window_on_another_desktop(self) -> None:
-        editor = self.editor()
-        quorvane = self.summoned_over(editor)
-        self.session.windows.show_desktop(1)
-        self.expect_copy(quorvane)
-        self.assertEqual("", editor.text())
-
-    def test_no_window_at_all(self) -> None:
-        quorvane = self.hidden_quorvane()
-        self.summon(quorvane)
-        self.expect_copy(quorvane)
-
-    def test_a_screen_lock_has_the_keyboard(self) -> None:
-        editor = self.editor()
-        quorvane = self.summoned_over(editor)
-        text = quorvane.preview()
-        with ScreenLock(self.session.display):
-            quorvane.action("insert")
-            self.assertEqual(_TOLD, self.server.wait_shown())
-        self.assertEqual("", editor.text())
-        self.expect_on_clipboard(text)
-
-    def test_a_second_notification_takes_the_place_of_the_first(self) -> None:
-        quorvane = self.hidden_quorvane()
-        for _ in range(2):
-            self.server.clear()
-            quorvane.action("insert")
-            self.assertEqual(_TOLD, self.server.wait_shown())
-        self.assertEqual(1, self.server.total)
 
     def summoned_over(self, target: Target) -> Quorvane:
         quorvane = self.hidden_quorvane()
@@ -141,6 +91,64 @@ class LostTarget(DesktopCase):
         self.assertEqual(text.encode(), self.clipboard.data("UTF8_STRING"))
         offered = [offer.target for offer in self.clipboard.contents()]
         self.assertNotIn("x-kde-passwordManagerHint", offered)
+
+
+class LostTarget(LostTargetCase):
+    """A target that has gone before Insert, or never was."""
+
+    def test_a_window_that_is_closed_leaves_nothing_to_the_one_behind(self) -> None:
+        behind = Terminal(self.session)
+        editor = self.editor()
+        quorvane = self.summoned_over(editor)
+        self.session.stop(editor.process)
+        windows = self.session.windows
+        windows.wait(lambda: windows.of_process(editor.process.pid) is None, "the end of a window")
+        self.expect_copy(quorvane)
+        behind.focus()
+        # What had been typed would have come before this.
+        self.keyboard.tap(Key.D)
+        behind.wait_text("d")
+
+    def test_a_window_on_another_desktop(self) -> None:
+        editor = self.editor()
+        quorvane = self.summoned_over(editor)
+        self.session.windows.show_desktop(1)
+        self.expect_copy(quorvane)
+        self.assertEqual("", editor.text())
+
+    def test_no_window_at_all(self) -> None:
+        quorvane = self.hidden_quorvane()
+        self.summon(quorvane)
+        self.expect_copy(quorvane)
+
+    def test_a_second_notification_takes_the_place_of_the_first(self) -> None:
+        quorvane = self.hidden_quorvane()
+        for _ in range(2):
+            self.server.clear()
+            quorvane.action("insert")
+            self.assertEqual(_TOLD, self.server.wait_shown())
+        self.assertEqual(1, self.server.total)
+
+
+class HiddenTarget(LostTargetCase):
+    """What a window manager of X11 lets the user do besides."""
+
+    def test_a_window_that_is_minimised(self) -> None:
+        editor = self.editor()
+        quorvane = self.summoned_over(editor)
+        self.session.windows.minimise(editor.window)
+        self.expect_copy(quorvane)
+        self.assertEqual("", editor.text())
+
+    def test_a_screen_lock_has_the_keyboard(self) -> None:
+        editor = self.editor()
+        quorvane = self.summoned_over(editor)
+        text = quorvane.preview()
+        with ScreenLock(self.session.display):
+            quorvane.action("insert")
+            self.assertEqual(_TOLD, self.server.wait_shown())
+        self.assertEqual("", editor.text())
+        self.expect_on_clipboard(text)
 
 
 class NotificationServers(DesktopCase):

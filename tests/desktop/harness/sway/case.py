@@ -13,6 +13,7 @@ class SwayCase(DesktopCase):
 
     session: SwaySession
     keyboard: UsersKeyboard  # type: ignore[assignment]
+    mouse: UsersPointer  # type: ignore[assignment]
     clipboard: WaylandClipboard  # type: ignore[assignment]
 
     scale = 1.0
@@ -24,7 +25,7 @@ class SwayCase(DesktopCase):
     def setUp(self) -> None:
         self.keyboard = UsersKeyboard(self.session.socket)
         self.addCleanup(self.keyboard.close)
-        self.pointer = UsersPointer(self.session.socket, SIZE)
-        self.addCleanup(self.pointer.close)
+        self.mouse = UsersPointer(self.session.socket, SIZE)
+        self.addCleanup(self.mouse.close)
         self.clipboard = WaylandClipboard(self.session.socket)
         self.addCleanup(self.clipboard.close)

@@ -4,6 +4,7 @@
 import time
 from pathlib import Path
 
+from ..accessible import Accessible
 from .connection import WaylandConnection
 
 _CREATE = 0
@@ -46,6 +47,11 @@ class UsersPointer:
         self.move_to(x, y)
         self.press(button)
         self.release(button)
+
+    def click(self, target: Accessible) -> None:
+        """Presses and releases in the middle of something that shows."""
+        left, top, width, height = target.extents
+        self.click_at(left + width // 2, top + height // 2)
 
     def _act(self, request: int, *arguments: int) -> None:
         now = time.monotonic_ns() // 1_000_000

@@ -1,0 +1,45 @@
+# SPDX-License-Identifier: MIT
+"""Quorvane's icon in the bar of sway's users."""
+
+from harness.quorvane import Quorvane
+from harness.sway.case import SwayCase
+from harness.sway.waybar import Waybar
+
+_APART = 6  # pixels from the middle of the icon
+
+class Tray(SwayCase):
+    """A bar of Wayland's own."""
+
+    def test_clicks_on_the_icon_show_and_hide_the_panel(self) -> None:
+        tray = Waybar(self.session)
+        tray.start()
+        quorvane = self.hidden_quorvane()
+        tray.wait_icon()
+        x, y = tray.place()
+        for _ in range(3):
+            # Apart from each other, or the bar takes them for a double click.
+            self.mouse.click_at(x - _APART, y)
+            quorvane.wait_active()
+            self.mouse.click_at(x + _APART, y)
+            quorvane.wait_hidden()
+
+    def test_a_bar_that_comes_later_has_the_icon_too(self) -> None:
+        quorvane = self.hidden_quorvane()
+        tray = Waybar(self.session)
+        tray.start()
+        tray.wait_icon()
+        self.mouse.click_at(*tray.place())
+        quorvane.wait_active()
+
+
+class End(SwayCase):
+    """What becomes of the program when the compositor has gone."""
+
+    def test_one_line_and_no_crash(self) -> None:
+        quorvane = Quorvane(self.session, QT_LOGGING_RULES="quorvane.*=false")
+        quorvane.wait_active()
+        self.session.kill_compositor()
+        self.assertEqual(1, quorvane.process.wait(10))
+        # Qt's own connection, or ours, whichever hears of it first.
+        (line,) = self.session.log("quorvane").splitlines()
+        self.assertIn("connection", line)
