@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "X11SystemCounters.h"
+
 #include <x11_server/X11ServerClock.h>
 
 #include <xcb/sync.h>
 
-#include <string_view>
+#include <cstddef>
+#include <span>
 #include <utility>
 
 namespace quorvane {
@@ -23,12 +26,6 @@ bool hasSyncExtension(xcb_connection_t* connection) {
     return version != nullptr;
 }
 
-// On the wire the name follows its length at once. xcb's own accessor, of 1.15, looks for it behind
-// the padding that the compiler adds to the structure.
-std::string_view nameOf(const xcb_sync_systemcounter_t& counter) {
-    return {reinterpret_cast<const char*>(&counter.name_len + 1), counter.name_len};
-}
-
 // The one counter that every server has (X Synchronization Extension 2.1). Unlike the time stamp of
 // an event, which the recipe of ICCCM 2.1 provokes, its value comes as a reply: it is known before
 // the next request is sent.
@@ -39,12 +36,10 @@ std::uint32_t serverTimeCounter(xcb_connection_t* connection) {
         connection, xcb_sync_list_system_counters(connection), nullptr));
     if (!list)
         return noCounter;
-    auto counters = xcb_sync_list_system_counters_counters_iterator(list.get());
-    for (; counters.rem > 0; xcb_sync_systemcounter_next(&counters)) {
-        if (nameOf(*counters.data) == "SERVERTIME")
-            return counters.data->counter;
-    }
-    return noCounter;
+    // What follows the fixed part; the protocol counts in units of four bytes, from byte 32 on.
+    const std::span data(
+        reinterpret_cast<const std::byte*>(list.get() + 1), std::size_t{list->length} * 4);
+    return systemCounter(data, "SERVERTIME").value_or(noCounter);
 }
 
 } // namespace
