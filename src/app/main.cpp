@@ -96,6 +96,7 @@ int run(
         {environment,
          QGuiApplication::platformName(),
          mainQueue,
+         defaults,
          *compositor,
          endingIn(mainQueue)});
     // Its connection lives on if a service uses it.

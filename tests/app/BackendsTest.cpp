@@ -2,6 +2,7 @@
 #include <platform/LayeredAppearance.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_xdg/XdgSoftwareCentre.h>
+#include <testing/MemoryDefaults.h>
 #include <testing/VirtualMainQueue.h>
 
 #include <QClipboard>
@@ -19,6 +20,7 @@ using namespace Qt::StringLiterals;
 class BackendsTest : public testing::Test {
 protected:
     VirtualMainQueue queue;
+    MemoryDefaults defaults;
 
     PlatformServices services(const QString& forced, const QString& qtPlatform) {
         const Environment environment = [forced](const char* name) {
@@ -26,7 +28,7 @@ protected:
                                                                 : std::nullopt;
         };
         const Compositor none;
-        return makePlatformServices({environment, qtPlatform, queue, none});
+        return makePlatformServices({environment, qtPlatform, queue, defaults, none});
     }
 };
 

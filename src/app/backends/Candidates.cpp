@@ -13,6 +13,7 @@ ServiceCandidates allCandidates(const DesktopSession& session) {
     };
     add(waylandCandidates(session));
     add(x11Candidates(session));
+    add(portalCandidates(session));
     return all;
 }
 

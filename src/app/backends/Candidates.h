@@ -10,6 +10,7 @@ namespace quorvane {
 
 [[nodiscard]] ServiceCandidates waylandCandidates(const DesktopSession& session);
 [[nodiscard]] ServiceCandidates x11Candidates(const DesktopSession& session);
+[[nodiscard]] ServiceCandidates portalCandidates(const DesktopSession& session);
 
 /// All of them; of those for one service, the first that can have it gets it.
 [[nodiscard]] ServiceCandidates allCandidates(const DesktopSession& session);

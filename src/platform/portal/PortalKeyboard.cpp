@@ -35,12 +35,13 @@ QString text(const QVariantMap& map, const QString& key) {
 
 } // namespace
 
-PortalKeyboard::PortalKeyboard(PortalDesktop& portal, MainQueue& queue, RestoreToken token)
-    : m_portal(portal),
+PortalKeyboard::PortalKeyboard(
+    std::shared_ptr<PortalDesktop> portal, MainQueue& queue, RestoreToken token)
+    : m_portal(std::move(portal)),
       m_queue(queue),
       m_token(token) {
-    connect(&m_portal, &PortalDesktop::lost, this, &PortalKeyboard::losePortal);
-    connect(&m_portal, &PortalDesktop::appeared, this, &PortalKeyboard::look);
+    connect(m_portal.get(), &PortalDesktop::lost, this, &PortalKeyboard::losePortal);
+    connect(m_portal.get(), &PortalDesktop::appeared, this, &PortalKeyboard::look);
     look();
 }
 
@@ -50,7 +51,7 @@ void PortalKeyboard::open() {
     if (m_state == TypingRight::Asking || m_state == TypingRight::Granted)
         return;
     setState(TypingRight::Asking);
-    m_portal.meet(
+    m_portal->meet(
         portalname::remoteDesktop, this, [this](const std::optional<QVariantMap>& properties) {
             adoptOffer(properties);
             if (m_state == TypingRight::Asking)
@@ -63,7 +64,7 @@ void PortalKeyboard::move(std::uint16_t key, Move move, Sent sent) {
         return sent(false);
     auto message = m_session->question(u"NotifyKeyboardKeycode");
     message << QVariantMap() << static_cast<int>(key) << (move == Move::Down ? 1U : 0U);
-    m_portal.ask(
+    m_portal->ask(
         message,
         this,
         [this, session = QPointer(m_session.get()), sent = std::move(sent)](
@@ -80,7 +81,7 @@ void PortalKeyboard::move(std::uint16_t key, Move move, Sent sent) {
 
 /// Without a question to the user.
 void PortalKeyboard::look() {
-    m_portal.meet(
+    m_portal->meet(
         portalname::remoteDesktop, this, [this](const std::optional<QVariantMap>& properties) {
             adoptOffer(properties);
         });
@@ -98,7 +99,7 @@ void PortalKeyboard::adoptOffer(const std::optional<QVariantMap>& properties) {
 
 void PortalKeyboard::createSession() {
     m_session = std::make_unique<PortalSession>(
-        m_portal,
+        *m_portal,
         m_queue,
         portalname::remoteDesktop,
         PortalSession::Callbacks{

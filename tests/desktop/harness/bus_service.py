@@ -37,13 +37,17 @@ class BusService(ABC):
     def _answer(self, *call: Any) -> None:
         """One call, as Gio hands it on: the method is the fifth, the invocation the last."""
 
+    def _read(self, *call: Any) -> GLib.Variant | None:
+        """A property that somebody asks for, whose name is the fifth; none has one by default."""
+        return None
+
     def _serve(
         self, address: str, name: str, path: str, introspection: str, ready: threading.Event
     ) -> None:
         self._context.push_thread_default()
         self._bus = MessageBus(address)
         interface = Gio.DBusNodeInfo.new_for_xml(introspection).interfaces[0]
-        self._bus.connection.register_object(path, interface, self._answer, None, None)
+        self._bus.connection.register_object(path, interface, self._answer, self._read, None)
         self._bus.request_name(name)
         ready.set()
         self._loop.run()

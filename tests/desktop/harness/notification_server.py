@@ -64,6 +64,12 @@ class NotificationServer(BusService):
         """Waits for the next one from now on, which may still replace the last."""
         self._shown = {}
 
+    def invoke(self, action: str) -> None:
+        """The user presses a button of the one on the screen."""
+        (number,) = self._shown
+        arguments = GLib.Variant("(us)", (number, action))
+        self._bus.connection.emit_signal(None, _PATH, _NAME, "ActionInvoked", arguments)
+
     @property
     def total(self) -> int:
         """How many are on the screen, those included that wait_shown() was told to forget."""

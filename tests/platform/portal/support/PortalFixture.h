@@ -23,8 +23,8 @@ protected:
     /// A new run of the program, with the settings of the last one.
     void startProgram() {
         keyboard.reset();
-        desktop = std::make_unique<PortalDesktop>(bus.connection());
-        keyboard = std::make_shared<PortalKeyboard>(*desktop, queue, RestoreToken(defaults));
+        desktop = std::make_shared<PortalDesktop>(bus.connection());
+        keyboard = std::make_shared<PortalKeyboard>(desktop, queue, RestoreToken(defaults));
         keyboard->onChanged([this] { states.push_back(keyboard->state()); });
     }
 
@@ -61,7 +61,7 @@ protected:
     MemoryDefaults defaults;
     FakeRemoteDesktop portal{bus.connection()};
     std::vector<TypingRight> states;
-    std::unique_ptr<PortalDesktop> desktop;
+    std::shared_ptr<PortalDesktop> desktop;
     std::shared_ptr<PortalKeyboard> keyboard;
 };
 

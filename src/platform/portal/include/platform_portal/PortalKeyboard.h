@@ -30,8 +30,8 @@ public:
     /// Of one key.
     static constexpr std::chrono::milliseconds keyPatience{500};
 
-    /// Portal and queue must outlive it.
-    PortalKeyboard(PortalDesktop& portal, MainQueue& queue, RestoreToken token);
+    /// The queue must outlive it.
+    PortalKeyboard(std::shared_ptr<PortalDesktop> portal, MainQueue& queue, RestoreToken token);
     ~PortalKeyboard() override;
 
     PortalKeyboard(const PortalKeyboard&) = delete;
@@ -65,7 +65,7 @@ private:
     void end(TypingRight state);
     void setState(TypingRight state);
 
-    PortalDesktop& m_portal;
+    std::shared_ptr<PortalDesktop> m_portal;
     MainQueue& m_queue;
     RestoreToken m_token;
     TypingRight m_state = TypingRight::NotAsked;

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform_portal/PortalDesktop.h>
+
+#include <backends/ServiceCandidate.h>
+#include <memory>
+
+namespace quorvane {
+
+/// The desktop portal, met when the first service asks for it.
+class PortalLink {
+public:
+    /// Null where there is no session bus; without a wish also where nobody on it is the portal, or
+    /// would be started as it.
+    [[nodiscard]] std::shared_ptr<PortalDesktop> portal(Wish wish);
+
+private:
+    std::shared_ptr<PortalDesktop> m_portal;
+};
+
+} // namespace quorvane
