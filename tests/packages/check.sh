@@ -27,8 +27,9 @@ say() {
 # Packages come from where this machine has its own.
 make_system() {
     local root=$1 source
-    source=$(sed -n 's/^URIs: *//p; s/^deb \(\[[^]]*\] \)\?\([^ ]*\) .*/\2/p' \
-        /etc/apt/sources.list.d/* /etc/apt/sources.list 2>/dev/null | head -n 1)
+    # One of the two is enough.
+    source=$(cat /etc/apt/sources.list.d/* /etc/apt/sources.list 2>/dev/null |
+        sed -n 's/^URIs: *//p; s/^deb \(\[[^]]*\] \)\?\([^ ]*\) .*/\2/p' | head -n 1) || true
     debootstrap --variant=minbase --include=ca-certificates "$suite" "$root" "$source"
     rm --force "$root/etc/apt/sources.list"
     cp --recursive /etc/apt/sources.list.d /etc/apt/apt.conf.d "$root/etc/apt/"
