@@ -18,12 +18,12 @@ namespace {
 Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
 
 constexpr std::array chosenServices{
+    ChosenService::Layout, // which the services of shortcut and keys read
     ChosenService::Clipboard,
     ChosenService::Keys,
     ChosenService::Shortcut,
     ChosenService::Windows,
     ChosenService::Panel,
-    ChosenService::Layout,
 };
 
 void log(const ServiceCandidate& candidate, const ServiceVerdict& verdict) {

@@ -17,13 +17,16 @@ Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
 
 constexpr auto variable = "QT_QPA_PLATFORM";
 
-constexpr std::array<std::string_view, 5> ofItsOwn{
+constexpr std::array<std::string_view, 4> ofItsOwn{
     "ext_data_control_manager_v1",
     "zwlr_data_control_manager_v1",
     "zwp_virtual_keyboard_manager_v1",
     "zwlr_layer_shell_v1",
-    "org_kde_plasma_shell",
 };
+
+// KWin has services of its own, whatever Qt runs on; but a place, the state above others and all
+// virtual desktops are had by windows of X11 alone that are no part of the shell.
+constexpr std::string_view kwinsShell = "org_kde_plasma_shell";
 
 QtPlatform choose(bool hasX11, const QString& usersChoice, const Compositor& compositor) {
     const bool isUsers = !usersChoice.isEmpty();
@@ -35,7 +38,8 @@ QtPlatform choose(bool hasX11, const QString& usersChoice, const Compositor& com
     const bool isPoor = std::ranges::none_of(
         ofItsOwn, [&](std::string_view name) { return compositor.offers(name); });
     const bool hasBoth = hasX11 && compositor.answer() == Compositor::Answer::Offers;
-    return !isUsers && hasBoth && isPoor ? QtPlatform::X11 : QtPlatform::Qts;
+    const bool isBetterOff = isPoor || compositor.offers(kwinsShell);
+    return !isUsers && hasBoth && isBetterOff ? QtPlatform::X11 : QtPlatform::Qts;
 }
 
 const char* nameOf(QtPlatform platform) {
@@ -43,7 +47,7 @@ const char* nameOf(QtPlatform platform) {
     case QtPlatform::Qts:
         return "Qt's own choice, or the user's";
     case QtPlatform::X11:
-        return "X11, the compositor offers less";
+        return "X11, the compositor offers windows of Wayland less";
     case QtPlatform::None:
         break;
     }

@@ -6,6 +6,7 @@
 #include <backends/QtPlatformChoice.h>
 #include <chrono>
 #include <map>
+#include <plasma-shell-client.h>
 #include <string>
 #include <virtual-keyboard-unstable-v1-client.h>
 #include <wayland-server-core.h>
@@ -33,11 +34,13 @@ protected:
         };
     }
 
-    void offerVirtualKeyboards() {
-        m_compositor.run([](wl_display* display) {
+    void offerVirtualKeyboards() { offer(zwp_virtual_keyboard_manager_v1_interface); }
+
+    void offer(const wl_interface& interface) {
+        m_compositor.run([&interface](wl_display* display) {
             wl_global_create(
                 display,
-                &zwp_virtual_keyboard_manager_v1_interface,
+                &interface,
                 1,
                 nullptr,
                 [](wl_client*, void*, std::uint32_t, std::uint32_t) {});
@@ -52,6 +55,12 @@ TEST_F(PlatformOfQt, IsXWaylandWhereTheCompositorOffersLess) {
 TEST_F(PlatformOfQt, IsQtsOwnChoiceWhereTheCompositorHasWhatWeNeed) {
     offerVirtualKeyboards();
     EXPECT_EQ(choice(), QtPlatform::Qts);
+}
+
+TEST_F(PlatformOfQt, IsXWaylandWhereTheCompositorPlacesTheWindowsOfItsShellAlone) {
+    offerVirtualKeyboards();
+    offer(org_kde_plasma_shell_interface);
+    EXPECT_EQ(choice(), QtPlatform::X11);
 }
 
 TEST_F(PlatformOfQt, IsQtsOwnChoiceWithoutAnXServer) {

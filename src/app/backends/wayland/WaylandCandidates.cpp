@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "../Candidates.h"
 #include "KeyboardCandidates.h"
+#include "KwinCandidates.h"
 #include "WaylandLink.h"
 #include "WindowCandidates.h"
 
@@ -11,7 +12,8 @@ namespace quorvane {
 ServiceCandidates waylandCandidates(const DesktopSession& session) {
     const auto link = std::make_shared<WaylandLink>(session);
     ServiceCandidates all;
-    for (const auto& some : {keyboardCandidates(link), windowCandidates(link)})
+    for (const auto& some :
+         {keyboardCandidates(link), windowCandidates(link), kwinCandidates(link)})
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

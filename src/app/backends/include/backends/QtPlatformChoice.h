@@ -16,7 +16,7 @@ enum class QtPlatform {
 
 /// A compositor that offers neither the clipboard, nor posted keys, nor layers offers windows of
 /// X11 more than those of Wayland: a place, above others, on all virtual desktops, and the
-/// clipboard at any time.
+/// clipboard at any time. So does KWin, as far as the place is concerned.
 [[nodiscard]] QtPlatform
 chooseQtPlatform(const Environment& environment, const Compositor& compositor);
 
