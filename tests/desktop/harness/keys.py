@@ -36,6 +36,7 @@ class Key(IntEnum):
     CONTROL = 37
     A = 38
     D = 40
+    J = 44
     K = 45
     L = 46
     SEMICOLON = 47

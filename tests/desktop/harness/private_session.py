@@ -13,7 +13,7 @@ from types import TracebackType
 from typing import Any, Self
 
 from .accessible import Accessibility
-from .paths import FONTS
+from .paths import FONTS, PROGRAM
 from .processes import Processes
 from .session_bus import SessionBus
 from .windows import Windows
@@ -34,6 +34,9 @@ class PrivateSession(ABC):
 
     backend = ""
     """The services of the display that programs under test are to use; empty for their choice."""
+
+    program = PROGRAM
+    """Quorvane's, as it is installed in this session."""
 
     def __init__(self) -> None:
         self.environment: dict[str, str] = {}

@@ -9,7 +9,6 @@ from pathlib import Path
 from .accessible import Accessible
 from .expected import ZONE
 from .message_bus import MessageBus
-from .paths import PROGRAM
 from .private_session import PrivateSession
 from .waiting import wait_until
 
@@ -36,7 +35,7 @@ class Quorvane:
 
     def launch(self, *options: str) -> subprocess.Popen[bytes]:
         """Starts the program once more, as a launcher's icon does."""
-        return self._session.start([str(PROGRAM), *options], self._environment)
+        return self._session.start([str(self._session.program), *options], self._environment)
 
     def panel(self) -> int | None:
         """The panel's window while it shows."""

@@ -33,6 +33,11 @@ class GlobalShortcuts:
         """Waits until Quorvane's shortcut is this."""
         wait_until(lambda: self.keys() == list(keys), f"{keys} in System Settings")
 
+    def is_active(self) -> bool:
+        """Whether a press of Quorvane's shortcut is kept from applications."""
+        path = self._ask("getComponent", "(s)", OURS[0])[0]
+        return self._bus.call(_DAEMON[0], path, "org.kde.kglobalaccel.Component", "isActive")[0]
+
     def change(self, *keys: int) -> None:
         """Gives Quorvane another shortcut, or takes it away, as System Settings does."""
         self._ask("setForeignShortcutKeys", "(asa(ai))", OURS, _sequences(keys))

@@ -66,6 +66,9 @@ class KwinSession(PrivateSession):
         undo.callback(self.accessibility.close)
 
     def _install(self) -> None:
+        # KWin reads all of it to know the program again, for each connection and interface.
+        self.program = self.root / PROGRAM.name
+        self.run(["strip", "-o", str(self.program), str(PROGRAM)])
         applications = self.directory("data") / "applications"
         applications.mkdir()
         interpreter = Path(sys.executable).resolve()
@@ -74,7 +77,7 @@ class KwinSession(PrivateSession):
         if self._is_installed:
             entry = "org.quorvane.Quorvane.desktop"
             text = (TREE / "packaging" / f"{entry}.in").read_text()
-            folder = str(PROGRAM.parent)
+            folder = str(self.root)
             (applications / entry).write_text(text.replace("@CMAKE_INSTALL_FULL_BINDIR@", folder))
 
     def _start_compositor(self) -> None:
