@@ -11,6 +11,16 @@ fail() {
     exit 1
 }
 
+# What still runs would keep the system's mounts busy.
+end_session() {
+    local running
+    running=$(jobs -p)
+    # shellcheck disable=SC2086 # numbers
+    [[ -z $running ]] || kill $running 2>/dev/null || true
+    wait
+}
+trap end_session EXIT
+
 # eventually WHAT COMMAND...: asks until the command succeeds.
 eventually() {
     local what=$1 attempt

@@ -19,8 +19,7 @@ class FreedesktopApplication final : public QDBusAbstractAdaptor {
 
 public:
     /// Why this process runs. If the bus started it, its first request is the one that it was
-    /// started for; starting already shows the interface, so that a "toggle" must not hide it
-    /// again.
+    /// started for: a "toggle" is to show the interface, also where the start has shown it already.
     enum class Start { ByUser, ByBus };
 
     FreedesktopApplication(Start start, QObject* parent);
