@@ -152,8 +152,10 @@ void AppDelegate::performInsert() {
     renewHidden();
     const auto text = m_model.formattedOutput();
     m_presentation.rememberTarget();
-    m_presentation.hide();
+    // Where nothing can be typed it copies, and some clipboards take a text only from the program
+    // that has the keyboard.
     m_insertion.start(text, m_previousFrontmostApp.current());
+    m_presentation.hide();
 }
 
 void AppDelegate::performCopy() {

@@ -37,7 +37,9 @@ Insertion::Insertion(Dependencies dependencies, Callbacks callbacks)
 }
 
 void Insertion::start(const QString& text, const FrontmostApplication& target) {
-    if (m_dependencies.consent.isAsked())
+    const auto& consent = m_dependencies.consent;
+    const bool canType = m_dependencies.accessibilityRight.isTrusted() || consent.isDue();
+    if (consent.isAsked() || !canType)
         copyInstead(text, CopyReason::NoWayToType);
     else if (!m_isUnderWay)
         begin({text, target});
