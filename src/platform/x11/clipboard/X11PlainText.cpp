@@ -2,36 +2,12 @@
 #include "X11PlainText.h"
 
 #include <algorithm>
-#include <array>
 
 namespace quorvane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct TextType {
-    QStringView name;
-    QString (*decoded)(const QByteArray& bytes);
-};
-
-QString fromUtf8(const QByteArray& bytes) {
-    return QString::fromUtf8(bytes);
-}
-
-QString fromLatin1(const QByteArray& bytes) {
-    return QString::fromLatin1(bytes);
-}
-
-constexpr std::array textTypes{
-    TextType{u"UTF8_STRING", fromUtf8},
-    TextType{u"text/plain;charset=utf-8", fromUtf8},
-    TextType{u"text/plain", fromUtf8},
-    TextType{u"STRING", fromLatin1},
-};
-
-// Klipper's convention, which other clipboard histories have adopted.
-constexpr QStringView historyHint = u"x-kde-passwordManagerHint";
 
 bool isLatin1(const QString& text) {
     return std::ranges::all_of(text, [](QChar unit) { return unit.unicode() <= 0xFF; });
@@ -60,36 +36,9 @@ PasteboardItem plainTextItem(const QString& text) {
 
 PasteboardItem plainTextItem(const QString& text, TextStay stay) {
     auto item = plainTextItem(text);
-    const auto hint = historyHint.toString();
     if (stay == TextStay::Passing)
-        item.push_back({hint, "secret"_ba, hint});
+        item.push_back(historyHint());
     return item;
-}
-
-std::optional<QString> textOf(const PasteboardItem& item) {
-    for (const auto& [name, decoded] : textTypes) {
-        const auto entry = std::ranges::find(item, name, &PasteboardEntry::type);
-        if (entry != item.end() && entry->unitBits == 8)
-            return decoded(entry->bytes);
-    }
-    return std::nullopt;
-}
-
-QStringList plainTextTargets() {
-    QStringList names;
-    for (const auto& type : textTypes)
-        names.append(type.name.toString());
-    return names;
-}
-
-bool isPlainText(const QString& type) {
-    return type == u"TEXT" || type == u"COMPOUND_TEXT" ||
-           std::ranges::find(textTypes, type, &TextType::name) != textTypes.end();
-}
-
-bool isSecret(const PasteboardItem& item) {
-    const auto hint = std::ranges::find(item, historyHint, &PasteboardEntry::type);
-    return hint != item.end() && hint->bytes.startsWith("secret");
 }
 
 } // namespace quorvane

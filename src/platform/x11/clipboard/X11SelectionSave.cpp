@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "X11SelectionTargets.h"
-
+#include <platform/PasteboardTypes.h>
 #include <x11_clipboard/X11SelectionSave.h>
 
 #include <QLoggingCategory>
@@ -69,7 +68,7 @@ void X11SelectionSave::noteTargets(const std::vector<xcb_atom_t>& atoms) {
     const auto names = m_inbox.connection()->atomNames(atoms);
     for (qsizetype i = 0; i < names.size(); ++i)
         m_atoms.emplace(names[i], atoms[static_cast<std::size_t>(i)]);
-    m_targets = contentTargets(names);
+    m_targets = contentTypes(names);
 }
 
 void X11SelectionSave::readNext() {

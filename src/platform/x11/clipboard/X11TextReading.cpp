@@ -27,7 +27,7 @@ X11TextReading::X11TextReading(
       m_time(time),
       m_limits(limits),
       m_done(std::move(done)),
-      m_unasked(plainTextTargets()),
+      m_unasked(plainTextTypes()),
       m_end(inbox.queue().after(limits.all, [this] { finish(std::nullopt); })) {
     if (source.atHand)
         finishSoon(boundedTextOf(*source.atHand, limits.bytes));

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "SelectionOffers.h"
-#include "SteppedMainQueue.h"
 #include "support/ForeignWindow.h"
 #include "support/WaitUntil.h"
 
+#include <testing/SteppedMainQueue.h>
 #include <x11_clipboard/X11Pasteboard.h>
 
 #include <gtest/gtest.h>

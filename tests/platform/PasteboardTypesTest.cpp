@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "X11SelectionTargets.h"
+#include <platform/PasteboardTypes.h>
 
 #include <gtest/gtest.h>
 
@@ -18,12 +18,12 @@ TEST(X11SelectionTargets, QuestionsAndOrdersAreNoContents) {
         u"INSERT_SELECTION"_s,
         u"INSERT_PROPERTY"_s,
         u"text/html"_s};
-    EXPECT_EQ(contentTargets(all), QStringList{u"text/html"_s});
+    EXPECT_EQ(contentTypes(all), QStringList{u"text/html"_s});
 }
 
 TEST(X11SelectionTargets, ContentsKeepTheOwnersOrderEachOnce) {
     const QStringList all{u"b"_s, u"TARGETS"_s, u"a"_s, u"b"_s, QString(), u"delete"_s};
-    EXPECT_EQ(contentTargets(all), (QStringList{u"b"_s, u"a"_s, u"delete"_s}));
+    EXPECT_EQ(contentTypes(all), (QStringList{u"b"_s, u"a"_s, u"delete"_s}));
 }
 
 TEST(X11SelectionTargets, TextAddressesHtmlAndPicturesAreReadFirst) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "X11SelectionTargets.h"
+#include <platform/PasteboardTypes.h>
 
 #include <QSet>
 
@@ -36,7 +36,7 @@ auto rankOf(const QString& target) {
 
 } // namespace
 
-QStringList contentTargets(const QStringList& targets) {
+QStringList contentTypes(const QStringList& targets) {
     QStringList contents;
     QSet<QStringView> known(questionsAndOrders.begin(), questionsAndOrders.end());
     for (const auto& target : targets) {
