@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "../Candidates.h"
+#include "ClipboardCandidates.h"
 #include "KeyboardCandidates.h"
 #include "KwinCandidates.h"
 #include "WaylandLink.h"
@@ -13,7 +14,10 @@ ServiceCandidates waylandCandidates(const DesktopSession& session) {
     const auto link = std::make_shared<WaylandLink>(session);
     ServiceCandidates all;
     for (const auto& some :
-         {keyboardCandidates(link), windowCandidates(link), kwinCandidates(link)})
+         {clipboardCandidates(link),
+          keyboardCandidates(link),
+          windowCandidates(link),
+          kwinCandidates(link)})
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

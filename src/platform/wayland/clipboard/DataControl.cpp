@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "DataControlDevice.h"
+#include "ExtDataControl.h"
+#include "WlrDataControl.h"
+
+#include <utility>
+#include <wayland_clipboard/DataControl.h>
+
+namespace quorvane {
+
+const std::vector<std::string_view>& DataControl::interfaces() {
+    static const std::vector<std::string_view> names{
+        ExtDataControl::interface().name, WlrDataControl::interface().name};
+    return names;
+}
+
+DataControl::DataControl(
+    std::shared_ptr<WaylandConnection> connection,
+    std::shared_ptr<WaylandSeats> seats,
+    Handlers handlers)
+    : m_connection(std::move(connection)),
+      m_seats(std::move(seats)),
+      m_handlers(std::move(handlers)) {
+    follow<ExtDataControl>(m_ext);
+    follow<WlrDataControl>(m_wlr);
+    m_followings.push_back(m_seats->whenChanged([this] { renewDevice(); }));
+    m_followings.push_back(m_connection->whenLost([this] { m_handlers.deviceChanged(); }));
+}
+
+DataControl::~DataControl() = default;
+
+DataDevice* DataControl::device() const {
+    return m_connection->isLost() ? nullptr : m_device.get();
+}
+
+template <typename Protocol>
+void DataControl::follow(std::vector<Manager>& managers) {
+    using Device = DataControlDevice<Protocol>;
+    const auto came = [this, &managers](const WaylandGlobal& global) {
+        auto* proxy = m_connection->globals().bind<typename Protocol::Manager>(
+            global, Protocol::interface(), Protocol::version);
+        const auto shared =
+            std::make_shared<typename Device::Manager>(typename Device::Manager(proxy));
+        managers.push_back(
+            {global.name, [this, shared](wl_seat* seat, DataDevice::Handlers handlers) {
+                 return std::make_unique<Device>(m_connection, shared, seat, std::move(handlers));
+             }});
+        if (!m_device)
+            makeDevice();
+    };
+    m_followings.push_back(m_connection->globals().follow(
+        Protocol::interface().name, {came, [this, &managers](std::uint32_t global) {
+                                         forget(managers, global);
+                                     }}));
+}
+
+void DataControl::forget(std::vector<Manager>& managers, std::uint32_t global) {
+    std::erase_if(managers, [global](const auto& manager) { return manager.global == global; });
+    if (m_device && m_deviceManager == global)
+        renewDevice();
+}
+
+const DataControl::Manager* DataControl::manager() const {
+    if (!m_ext.empty())
+        return &m_ext.front();
+    return m_wlr.empty() ? nullptr : &m_wlr.front();
+}
+
+void DataControl::renewDevice() {
+    if (m_device) {
+        m_device.reset();
+        m_handlers.deviceChanged();
+    }
+    makeDevice();
+}
+
+void DataControl::makeDevice() {
+    auto* seat = m_seats->first();
+    const auto* from = manager();
+    if (seat == nullptr || from == nullptr)
+        return;
+    m_deviceManager = from->global;
+    m_device = from->makeDevice(
+        seat,
+        {[this](WaylandClipboard clipboard, std::shared_ptr<DataOffer> offer) {
+             m_handlers.offered(clipboard, std::move(offer));
+         },
+         [this] {
+             m_device.reset();
+             m_handlers.deviceChanged();
+         }});
+}
+
+} // namespace quorvane

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+#include <utility>
+#include <wayland_clipboard/PipeReading.h>
+
+namespace quorvane {
+
+namespace {
+
+// What a pipe holds unless it is asked for more.
+constexpr std::size_t pieceSize = 65'536;
+
+} // namespace
+
+std::unique_ptr<PipeReading>
+PipeReading::begin(const std::function<void(int)>& hand, qsizetype mostBytes, Callbacks callbacks) {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+        return nullptr;
+    // Only our own end: many a program that writes does not expect to be told to try again.
+    ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    hand(ends[1]);
+    ::close(ends[1]);
+    return std::unique_ptr<PipeReading>(new PipeReading(ends[0], mostBytes, std::move(callbacks)));
+}
+
+PipeReading::PipeReading(int descriptor, qsizetype mostBytes, Callbacks callbacks)
+    : m_descriptor(descriptor),
+      m_mostBytes(mostBytes),
+      m_callbacks(std::move(callbacks)),
+      m_notifier(descriptor, QSocketNotifier::Read) {
+    QObject::connect(&m_notifier, &QSocketNotifier::activated, &m_notifier, [this] { read(); });
+}
+
+PipeReading::~PipeReading() {
+    m_notifier.setEnabled(false);
+    ::close(m_descriptor);
+}
+
+void PipeReading::read() {
+    std::array<char, pieceSize> piece{};
+    const auto length = ::read(m_descriptor, piece.data(), piece.size());
+    if (length < 0 && (errno == EAGAIN || errno == EINTR))
+        return;
+    if (length < 0 || length > m_mostBytes - m_bytes.size())
+        return finish(std::nullopt);
+    if (length == 0)
+        return finish(std::move(m_bytes));
+    m_bytes.append(piece.data(), static_cast<qsizetype>(length));
+    m_callbacks.progress();
+}
+
+void PipeReading::finish(std::optional<QByteArray> bytes) {
+    m_notifier.setEnabled(false);
+    const auto done = std::move(m_callbacks.done);
+    done(std::move(bytes));
+}
+
+} // namespace quorvane

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include <utility>
+#include <wayland_clipboard/WaylandPasteboardSave.h>
+
+namespace quorvane {
+
+WaylandPasteboardSave::WaylandPasteboardSave(
+    WaylandConnection& connection,
+    MainQueue& queue,
+    const WaylandPasteboardSelection& clipboard,
+    const WaylandPasteboardSelection* primary,
+    Done done)
+    : m_queue(queue),
+      m_done(std::move(done)),
+      m_clipboard{&clipboard, 0, {}, nullptr},
+      m_primary{primary, 0, {}, nullptr},
+      m_settling(connection.whenSettled([this] { begin(); })),
+      m_settled(queue.after(longestSettling, [this] { begin(); })),
+      m_end(queue.after(longestSave, [this] {
+          cutOff(m_clipboard);
+          cutOff(m_primary);
+      })) {
+}
+
+// What was copied shortly before we were asked is what is read.
+void WaylandPasteboardSave::begin() {
+    if (std::exchange(m_isReading, true))
+        return;
+    m_settled.cancel();
+    begin(m_clipboard);
+    begin(m_primary);
+    finishWhenRead();
+}
+
+void WaylandPasteboardSave::begin(Part& part) {
+    if (part.selection == nullptr)
+        return;
+    part.copiesBefore = part.selection->copies();
+    auto source = part.selection->source();
+    part.item = std::move(source.atHand);
+    if (part.item)
+        return;
+    part.reading = std::make_unique<WaylandSelectionSave>(
+        m_queue, std::move(source.offer), [this, &part](PasteboardItem item) {
+            part.item = std::move(item);
+            finishWhenRead();
+        });
+}
+
+void WaylandPasteboardSave::cutOff(Part& part) {
+    if (!isRead(part))
+        part.reading->finish();
+}
+
+bool WaylandPasteboardSave::isRead(const Part& part) {
+    return part.selection == nullptr || part.item;
+}
+
+bool WaylandPasteboardSave::hasChanged(const Part& part) {
+    return part.selection != nullptr && part.selection->copies() != part.copiesBefore;
+}
+
+void WaylandPasteboardSave::finishWhenRead() {
+    if (!isRead(m_clipboard) || !isRead(m_primary))
+        return;
+    PasteboardContents contents;
+    if (!m_clipboard.item->empty())
+        contents.items.push_back(*std::move(m_clipboard.item));
+    contents.selection = std::move(m_primary.item);
+    const bool hasBeenCopiedMeanwhile = hasChanged(m_clipboard) || hasChanged(m_primary);
+    const auto done = std::move(m_done);
+    done(std::move(contents), hasBeenCopiedMeanwhile);
+}
+
+} // namespace quorvane

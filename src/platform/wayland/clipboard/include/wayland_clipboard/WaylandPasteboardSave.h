@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <platform/Pasteboard.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <wayland_clipboard/WaylandPasteboardSelection.h>
+#include <wayland_clipboard/WaylandSelectionSave.h>
+#include <wayland_server/WaylandConnection.h>
+
+namespace quorvane {
+
+/// One save of the pasteboard: of the clipboard, and of the primary selection where the text passes
+/// through it, side by side.
+class WaylandPasteboardSave {
+public:
+    using Done = std::function<void(PasteboardContents, bool hasBeenCopiedMeanwhile)>;
+
+    /// A compositor that does not catch up for this long is taken at what it told before.
+    static constexpr Seconds longestSettling{0.3};
+    static constexpr Seconds longestSave{1.0};
+
+    /// Calls `done` once, in a later event-loop iteration, after longestSave at most; it may
+    /// destroy the save. Destroying it earlier gives up. All but the handler must outlive it.
+    WaylandPasteboardSave(
+        WaylandConnection& connection,
+        MainQueue& queue,
+        const WaylandPasteboardSelection& clipboard,
+        const WaylandPasteboardSelection* primary,
+        Done done);
+
+    WaylandPasteboardSave(const WaylandPasteboardSave&) = delete;
+    WaylandPasteboardSave& operator=(const WaylandPasteboardSave&) = delete;
+
+private:
+    struct Part {
+        const WaylandPasteboardSelection* selection = nullptr; ///< null for none
+        std::uint64_t copiesBefore = 0;
+        std::optional<PasteboardItem> item;
+        std::unique_ptr<WaylandSelectionSave> reading;
+    };
+
+    [[nodiscard]] static bool isRead(const Part& part);
+    [[nodiscard]] static bool hasChanged(const Part& part);
+    void begin();
+    void begin(Part& part);
+    void cutOff(Part& part);
+    void finishWhenRead();
+
+    MainQueue& m_queue;
+    Done m_done;
+    Part m_clipboard;
+    Part m_primary;
+    bool m_isReading = false;
+    WaylandSubscription m_settling;
+    Deadline m_settled;
+    Deadline m_end;
+};
+
+} // namespace quorvane

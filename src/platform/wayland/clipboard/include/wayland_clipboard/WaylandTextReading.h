@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <loop/MainQueue.h>
+#include <platform/Pasteboard.h>
+
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <wayland_clipboard/PipeReading.h>
+#include <wayland_clipboard/WaylandSelectionSource.h>
+
+namespace quorvane {
+
+/// Reads one plain text from a clipboard.
+class WaylandTextReading final : public PasteboardRequest {
+public:
+    struct Limits {
+        Seconds silence; ///< an owner that sends nothing for this long is cut off
+        Seconds all;     ///< and in any case after this long
+        qsizetype bytes; ///< a longer text counts as none
+    };
+
+    /// Calls `done` once, in a later event-loop iteration. The queue must outlive it.
+    WaylandTextReading(
+        MainQueue& queue,
+        WaylandSelectionSource source,
+        const Limits& limits,
+        Pasteboard::TextHandler done);
+
+private:
+    void begin();
+    void ask();
+    void awaitProgress();
+    void take(const QString& type, const std::optional<QByteArray>& bytes);
+    void finish(const std::optional<QString>& text);
+
+    MainQueue& m_queue;
+    WaylandSelectionSource m_source;
+    Limits m_limits;
+    Pasteboard::TextHandler m_done;
+    QStringList m_unasked;
+    std::unique_ptr<PipeReading> m_reading;
+    Deadline m_begin;
+    Deadline m_silence;
+    Deadline m_end;
+};
+
+} // namespace quorvane
