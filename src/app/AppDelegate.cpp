@@ -53,11 +53,14 @@ AppDelegate::AppDelegate(Dependencies dependencies)
            *m_dependencies.platform.eventTaps,
            m_dependencies.mainQueue},
           {weakly(&AppDelegate::togglePresentation),
-           [this] { m_preferences.refreshSoon(); },
+           [this] { shortcutDidChange(); },
            [this](HotKeyCombo combo) {
                m_model.setHotKey(combo);
                m_preferences.refreshSoon();
            }}),
+      m_shortcutHint(
+          {m_model, m_shortcut, *m_dependencies.platform.desktopShortcut, m_dependencies.mainQueue},
+          [this](const QString& text) { m_presentation.setHint(text); }),
       m_preferences(
           {m_model,
            m_dependencies.zones,
@@ -115,6 +118,7 @@ void AppDelegate::applicationDidFinishLaunching(Launch launch) {
     m_shortcut.startHotKeyMonitor(m_model.hotKey());
     m_modelObserver.start();
     observeDesktop();
+    m_shortcutHint.begin();
     if (launch == Launch::Hidden)
         startHidden();
 }
@@ -186,6 +190,8 @@ void AppDelegate::checkForUpdates() {
 void AppDelegate::performAction(const QString& name) {
     m_shortcut.retry();
     const auto* action = desktopAction(name);
+    if (action != nullptr && action->perform == &AppDelegate::togglePresentation)
+        m_shortcutHint.noteCall();
     if (action == nullptr)
         qCInfo(lcApp, "no action \"%ls\"", qUtf16Printable(name));
     else if (action->isDelivery && !m_model.isDeliverable())
@@ -226,7 +232,12 @@ void AppDelegate::observeDesktop() {
         [this] { m_presentation.panel().compositingDidChange(); });
     connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
     platform.keyboardLayout->onChanged([this] { refreshSoon(); });
-    platform.desktopShortcut->onChanged([this] { m_preferences.refreshSoon(); });
+    platform.desktopShortcut->onChanged([this] { shortcutDidChange(); });
+}
+
+void AppDelegate::shortcutDidChange() {
+    m_preferences.refreshSoon();
+    m_shortcutHint.refresh();
 }
 
 void AppDelegate::refreshSoon() {

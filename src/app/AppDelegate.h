@@ -10,6 +10,7 @@
 #include "PreferencesWindowController.h"
 #include "Presentation.h"
 #include "PreviousFrontmostApp.h"
+#include "ShortcutHint.h"
 #include "TimeFollower.h"
 #include "TrayIcon.h"
 #include "TypingConsent.h"
@@ -131,6 +132,7 @@ private:
     [[nodiscard]] bool isReachable() const;
     void observeDesktop();
     void refreshSoon();
+    void shortcutDidChange();
     void prepareAfterFirstPaint();
 
     Dependencies m_dependencies;
@@ -140,6 +142,7 @@ private:
     PreviousFrontmostApp m_previousFrontmostApp;
     Presentation m_presentation;
     GlobalShortcut m_shortcut;
+    ShortcutHint m_shortcutHint;
     PreferencesWindowController m_preferences;
     DockPresence m_dock;
     ModelObserver m_modelObserver;

@@ -97,7 +97,15 @@ PopoverView::Callbacks AppDelegate::contentViewCallbacks() {
             if (self)
                 self->m_presentation.hide();
         },
-        weakly(&AppDelegate::terminate)};
+        weakly(&AppDelegate::terminate),
+        [self = QPointer(this)] {
+            if (self)
+                self->showPreferences(PreferencesPlace::Shortcut);
+        },
+        [self = QPointer(this)] {
+            if (self)
+                self->m_shortcutHint.dismiss();
+        }};
 }
 
 } // namespace quorvane

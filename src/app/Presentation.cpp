@@ -143,6 +143,11 @@ void Presentation::setNotice(const QString& text) {
         announce(*view, text);
 }
 
+void Presentation::setHint(const QString& text) {
+    m_hint = text;
+    prepareViews();
+}
+
 InterfaceCallbacks Presentation::preparing(InterfaceCallbacks callbacks) {
     callbacks.makeContentView = [this, make = std::move(callbacks.makeContentView)] {
         auto view = make();
@@ -155,6 +160,7 @@ InterfaceCallbacks Presentation::preparing(InterfaceCallbacks callbacks) {
 void Presentation::prepare(PopoverView& view) const {
     view.setInsertTarget(m_previousFrontmostApp.title());
     view.setNotice(m_notice);
+    view.setHint(m_hint);
 }
 
 void Presentation::prepareViews() const {

@@ -64,6 +64,9 @@ public:
     /// A caption at the preview; empty for none.
     void setNotice(const QString& text);
 
+    /// What the user has still to set up; empty for nothing to say.
+    void setHint(const QString& text);
+
     /// The mode actually used: a popover needs a tray icon to be placed at.
     [[nodiscard]] PresentationMode effectivePresentationMode() const;
 
@@ -85,6 +88,7 @@ private:
     PreviousFrontmostApp& m_previousFrontmostApp;
     std::function<void()> m_onAppearing;
     QString m_notice;
+    QString m_hint;
     PanelPresentation m_panel;
     PopoverPresentation m_popover;
 };

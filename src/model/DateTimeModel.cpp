@@ -149,6 +149,12 @@ void DateTimeModel::setRemembersChoices(bool remember) {
     });
 }
 
+void DateTimeModel::setShortcutHintDismissed(bool dismissed) {
+    assign(m_preferences.shortcutHintDismissed, dismissed);
+    setting::shortcutHintDismissed.store(
+        m_dependencies.defaults, m_preferences.shortcutHintDismissed);
+}
+
 void DateTimeModel::setWantsTyping(bool wants) {
     assign(m_preferences.wantsTyping, wants);
     setting::wantsTyping.store(m_dependencies.defaults, m_preferences.wantsTyping);

@@ -27,6 +27,7 @@ Preferences Preferences::load(
         .showInDock = setting::showInDock.valueIn(defaults),
         .presentationMode = storedPresentationMode(defaults),
         .remembersChoices = setting::remembersChoices.valueIn(defaults),
+        .shortcutHintDismissed = setting::shortcutHintDismissed.valueIn(defaults),
         .wantsTyping = setting::wantsTyping.valueIn(defaults)};
 }
 

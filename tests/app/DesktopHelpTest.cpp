@@ -40,6 +40,11 @@ protected:
         return qobject_cast<QAbstractButton*>(found(QAccessible::Button, name));
     }
 
+    static bool hints() {
+        const auto* hint = widgetByRole(*panel(), QAccessible::Grouping, u"Hint"_s);
+        return hint != nullptr && hint->isVisibleTo(panel());
+    }
+
     static bool shows(const QString& text) {
         return found(QAccessible::StaticText, text) != nullptr;
     }
@@ -117,6 +122,55 @@ TEST_F(DesktopHelpTest, LineForAConfigurationGoesToTheClipboard) {
     button(u"Copy"_s)->click();
     EXPECT_EQ(pasteboard->contents(), plainText(toggleCommand()));
     EXPECT_TRUE(shows(u"Copied"_s));
+}
+
+TEST_F(DesktopHelpTest, PanelSaysThatNoShortcutWorksAndLeadsToWhereItIsSetUp) {
+    desktopShortcut->setDesktopName(u"GNOME"_s);
+    launch();
+    queue.advance(ShortcutHint::patience);
+    ASSERT_TRUE(hints());
+    auto* setUp = widgetByRole(*panel(), QAccessible::Button, u"Set Up…"_s);
+    qobject_cast<QAbstractButton*>(setUp)->click();
+    queue.run();
+    EXPECT_EQ(preferences()->focusWidget(), button(u"Add to GNOME shortcuts"_s));
+    button(u"Add to GNOME shortcuts"_s)->click();
+    EXPECT_FALSE(hints()) << "there is one now";
+    desktopShortcut->setBound(std::nullopt);
+    EXPECT_TRUE(hints());
+}
+
+TEST_F(DesktopHelpTest, HintThatIsDismissedNeverComesBack) {
+    launch();
+    queue.advance(ShortcutHint::patience);
+    auto* dismiss = widgetByRole(*panel(), QAccessible::Button, u"Do not show this again"_s);
+    ASSERT_NE(dismiss, nullptr);
+    qobject_cast<QAbstractButton*>(dismiss)->click();
+    EXPECT_FALSE(hints());
+    EXPECT_TRUE(setting::shortcutHintDismissed.valueIn(defaults));
+    makeDelegate();
+    taps->refuse(TapFailure{u"this desktop has none"_s});
+    launch();
+    queue.advance(ShortcutHint::patience);
+    EXPECT_FALSE(hints());
+}
+
+TEST_F(DesktopHelpTest, KeyThatCallsTheProgramByItsNameEndsTheHint) {
+    launch();
+    queue.advance(ShortcutHint::patience);
+    ASSERT_TRUE(hints());
+    delegate->performAction(u"toggle"_s);
+    delegate->performAction(u"toggle"_s);
+    EXPECT_FALSE(hints());
+    EXPECT_TRUE(setting::shortcutHintDismissed.valueIn(defaults));
+}
+
+TEST_F(DesktopHelpTest, NoHintBeforeTheDesktopHasToldItsListAndNoneWhereTheShortcutWorks) {
+    launch();
+    EXPECT_FALSE(hints());
+    makeDelegate();
+    launch();
+    queue.advance(ShortcutHint::patience);
+    EXPECT_FALSE(hints());
 }
 
 TEST_F(DesktopHelpTest, ServicesThatAreNotWholeAreExplained) {

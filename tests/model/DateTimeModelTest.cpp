@@ -242,6 +242,10 @@ std::vector<Assignment> assignments() {
          [](auto& m) { m.setPresentationMode(PresentationMode::Popover); },
          [](auto& m) { return m.presentationMode() == PresentationMode::Popover; },
          {u"presentationMode"_s}},
+        {"shortcutHintDismissed",
+         [](auto& m) { m.setShortcutHintDismissed(true); },
+         [](auto& m) { return m.isShortcutHintDismissed(); },
+         {u"shortcutHintDismissed"_s}},
         {"wantsTyping",
          [](auto& m) { m.setWantsTyping(true); },
          [](auto& m) { return m.wantsTyping(); },
@@ -342,6 +346,7 @@ TEST_F(DateTimeModelTest, WhatTheUserComposedEndsWithTheRun) {
     EXPECT_EQ(next->startDate(), march9);
     EXPECT_EQ(next->presentationMode(), PresentationMode::Popover);
     EXPECT_EQ(next->hotKey(), (HotKeyCombo{9, 256}));
+    EXPECT_TRUE(next->isShortcutHintDismissed());
     EXPECT_TRUE(next->wantsTyping());
 }
 

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quorvane {
@@ -23,7 +24,8 @@ TextButton::TextButton(const QString& label, QWidget* parent) : PressableControl
 QSize TextButton::sizeHint() const {
     const QFontMetricsF metrics(textFont(font(), TextStyle::Headline));
     const auto label = static_cast<int>(std::ceil(metrics.horizontalAdvance(text())));
-    return {label + 2 * horizontalPadding, buttonHeight};
+    const int line = static_cast<int>(std::ceil(metrics.height()));
+    return {label + 2 * horizontalPadding, std::max(buttonHeight, line)};
 }
 
 double TextButton::cornerRadius() const {

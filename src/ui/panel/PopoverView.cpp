@@ -3,6 +3,7 @@
 #include "CopyButton.h"
 #include "DateSection.h"
 #include "FormatSection.h"
+#include "HintLine.h"
 #include "PopoverHeader.h"
 #include "PreviewSection.h"
 #include "TimeZoneSection.h"
@@ -33,6 +34,7 @@ PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callba
       m_callbacks(std::move(callbacks)),
       m_refresh(m_dependencies.mainQueue, [this] { refresh(); }),
       m_header(makeHeader()),
+      m_hint(new HintLine(tr("Set Up…"), this)),
       m_dateSection(new DateSection(model, entryDependencies(), this)),
       m_timeZoneSection(new TimeZoneSection(
           model,
@@ -72,6 +74,10 @@ void PopoverView::setInsertTarget(const QString& name) {
 
 void PopoverView::setNotice(const QString& text) {
     m_previewSection->setNotice(text);
+}
+
+void PopoverView::setHint(const QString& text) {
+    m_hint->setText(text);
 }
 
 void PopoverView::togglePresentationMode() {
@@ -143,6 +149,7 @@ void PopoverView::layOut() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_header);
+    column->addWidget(m_hint);
     column->addWidget(sections, 1);
     column->addWidget(m_actionBar);
 }
@@ -173,6 +180,8 @@ void PopoverView::addShortcuts() {
 void PopoverView::connectControls() {
     connect(&m_model, &DateTimeModel::objectWillChange, this, [this] { m_refresh.schedule(); });
     connect(&m_actionBar->copyButton(), &CopyButton::clicked, this, &PopoverView::performCopy);
+    connect(m_hint, &HintLine::followed, this, [this] { m_callbacks.onHintFollowed(); });
+    connect(m_hint, &HintLine::dismissed, this, [this] { m_callbacks.onHintDismissed(); });
     connect(m_previewSection, &PreviewSection::copyRequested, this, &PopoverView::copy);
     connect(&m_actionBar->insertButton(), &ActionButton::clicked, this, [this] {
         m_callbacks.onInsert();

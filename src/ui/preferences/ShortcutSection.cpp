@@ -48,9 +48,10 @@ ShortcutSection::ShortcutSection(
 
 void ShortcutSection::setStatus(const ShortcutRecorder::Status& status) {
     const bool isNobodys = status.activity == ShortcutRecorder::Activity::Unavailable;
-    const bool isListed = isNobodys && !m_list.desktopName().isEmpty();
+    // An entry is shown as well where the desktop tells us of presses once it has one.
+    const bool isListed = !m_list.desktopName().isEmpty() && (isNobodys || m_list.bound());
     // The list says more than that no program can have one.
-    m_recorder->setStatus(isListed ? ShortcutRecorder::Status() : status);
+    m_recorder->setStatus(isNobodys && isListed ? ShortcutRecorder::Status() : status);
     m_listed->setVisible(isListed);
     m_line->setVisible(isNobodys && !isListed);
     m_listed->refresh();

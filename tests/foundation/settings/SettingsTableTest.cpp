@@ -25,6 +25,8 @@ TEST(SettingsTable, EveryRowHasItsKeyAndDefault) {
     EXPECT_EQ(setting::hotKeyModifiers.valueIn(empty), 4864); // Control, Shift and Command
     EXPECT_EQ(setting::wantsTyping.key, "allowTyping"_L1);
     EXPECT_FALSE(setting::wantsTyping.valueIn(empty));
+    EXPECT_EQ(setting::shortcutHintDismissed.key, "shortcutHintDismissed"_L1);
+    EXPECT_FALSE(setting::shortcutHintDismissed.valueIn(empty));
     EXPECT_EQ(setting::typingToken.key, "typingToken"_L1);
     EXPECT_EQ(setting::typingToken.valueIn(empty), QString());
 }

@@ -59,6 +59,15 @@ TEST_F(ShortcutHelpTest, IsAbsentWhereThePressesReachTheProgram) {
     EXPECT_TRUE(field().hasFocus());
 }
 
+TEST_F(ShortcutHelpTest, EntryCanBeTakenOutAlsoWhereItHasThePressesReachTheProgram) {
+    activity = ShortcutRecorder::Activity::Active;
+    shortcuts.setBound(standard);
+    openOn(u"GNOME"_s);
+    EXPECT_TRUE(field().hasFocus()) << "nothing is left to do";
+    press(u"Remove"_s);
+    EXPECT_EQ(shortcuts.bound(), std::nullopt);
+}
+
 TEST_F(ShortcutHelpTest, OneClickAddsTheShortcutToTheDesktopsListAndOneTakesItOut) {
     openOn(u"GNOME"_s);
     EXPECT_FALSE(shows(u"Global shortcuts are not available on this desktop."_s));

@@ -87,6 +87,10 @@ public:
     [[nodiscard]] bool remembersChoices() const { return m_preferences.remembersChoices; }
 
     /// Whether the user has ever chosen to let the desktop ask about typing.
+    [[nodiscard]] bool isShortcutHintDismissed() const {
+        return m_preferences.shortcutHintDismissed;
+    }
+
     [[nodiscard]] bool wantsTyping() const { return m_preferences.wantsTyping; }
 
     /// What the user has entered. Another minute makes the date the user's; the same one, with
@@ -120,6 +124,7 @@ public:
     void setPresentationMode(PresentationMode mode);
     /// Switched on, it stores the choices as they are.
     void setRemembersChoices(bool remember);
+    void setShortcutHintDismissed(bool dismissed);
     void setWantsTyping(bool wants);
 
     [[nodiscard]] const UserLocale& locale() const { return m_dependencies.locale; }

@@ -17,8 +17,9 @@ struct Preferences {
     bool showInMenuBar = true;
     bool showInDock = false;
     PresentationMode presentationMode = PresentationMode::Window;
-    bool remembersChoices = false; ///< format and zones survive a restart, too
-    bool wantsTyping = false;      ///< the desktop may ask about typing when a text is inserted
+    bool remembersChoices = false;      ///< format and zones survive a restart, too
+    bool shortcutHintDismissed = false; ///< the user knows that no shortcut works
+    bool wantsTyping = false; ///< the desktop may ask about typing when a text is inserted
 
     /// What is stored, with defaults for the rest; the favourites of a first start are made from
     /// the current zone. A stored shortcut that is out of range stops the process.

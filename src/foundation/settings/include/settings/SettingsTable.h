@@ -36,6 +36,10 @@ inline constexpr StoredSetting<bool> wantsTyping{QLatin1StringView("allowTyping"
 inline constexpr StoredSetting<QString, QLatin1StringView> typingToken{
     QLatin1StringView("typingToken"), QLatin1StringView("")};
 
+/// Whether the user does not want to be told again that no shortcut works.
+inline constexpr StoredSetting<bool> shortcutHintDismissed{
+    QLatin1StringView("shortcutHintDismissed"), false};
+
 /// Whether the choices below are kept. While it is off they are neither read nor written.
 inline constexpr StoredSetting<bool> remembersChoices{
     QLatin1StringView("rememberFormatAndZones"), false};

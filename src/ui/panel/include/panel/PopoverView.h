@@ -19,6 +19,7 @@ namespace quorvane {
 class ActionBar;
 class DateSection;
 class FormatSection;
+class HintLine;
 class PopoverHeader;
 class PreviewSection;
 class TimeZoneSection;
@@ -47,6 +48,8 @@ public:
         std::function<void()> onCheckForUpdates;
         std::function<void()> onClose;
         std::function<void()> onQuit;
+        std::function<void()> onHintFollowed = {};  ///< to where it can be set up
+        std::function<void()> onHintDismissed = {}; ///< for good
     };
 
     PopoverView(DateTimeModel& model, Dependencies dependencies, Callbacks callbacks);
@@ -67,6 +70,9 @@ public:
 
     /// What became of the last delivery, at the preview; empty for nothing to say.
     void setNotice(const QString& text);
+
+    /// What the user has still to set up, below the header; empty for nothing to say.
+    void setHint(const QString& text);
 
     /// Switches between the popover at the menu bar and the detached window.
     void togglePresentationMode();
@@ -93,6 +99,7 @@ private:
     CoalescedRefresh m_refresh;
 
     PopoverHeader* m_header;
+    HintLine* m_hint;
     DateSection* m_dateSection;
     TimeZoneSection* m_timeZoneSection;
     FormatSection* m_formatSection;
