@@ -20,6 +20,9 @@ Gallery::Gallery(QWidget* parent) : QScrollArea(parent) {
     grid->addWidget(new StatesBoard(ColorScheme::Dark), 0, 1);
     grid->addWidget(new PreferencesBoard(ColorScheme::Light), 1, 0, 1, 2, Qt::AlignLeft);
     grid->addWidget(new PreferencesBoard(ColorScheme::Dark), 2, 0, 1, 2, Qt::AlignLeft);
+    constexpr auto help = PreferencesBoard::Content::DesktopHelp;
+    grid->addWidget(new PreferencesBoard(ColorScheme::Light, help), 3, 0, 1, 2, Qt::AlignLeft);
+    grid->addWidget(new PreferencesBoard(ColorScheme::Dark, help), 4, 0, 1, 2, Qt::AlignLeft);
     setWidget(boards);
 }
 

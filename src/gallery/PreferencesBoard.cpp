@@ -8,6 +8,7 @@
 #include <controls/IconButton.h>
 #include <controls/SearchField.h>
 #include <controls/TextStyle.h>
+#include <hotkey/ShortcutChord.h>
 #include <picker/ZoneList.h>
 #include <platform/KeyCodes.h>
 #include <preferences/PreferencesMetrics.h>
@@ -83,15 +84,25 @@ struct PreferencesBoard::Sample {
     FakeDesktopShortcut shortcuts{log};
     FakeAccessibilityRight right{log};
     std::vector<ServiceState> states;
+    BindingSyntax syntax = BindingSyntax::Command;
     FakeKeyboardLayout layout = sample::keyboard();
     DateTimeModel model{
         {sample::clock(), defaults, sample::currentZone(), sample::zones(), sample::locale()}};
     std::unique_ptr<PreferencesView> view;
 };
 
-PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidget(parent) {
+PreferencesBoard::PreferencesBoard(ColorScheme scheme, Content content, QWidget* parent)
+    : QWidget(parent),
+      m_content(content) {
     setPalette(builtInPalette(scheme));
     setFixedSize(boardSize);
+    if (content == Content::Settings)
+        addSettings();
+    else
+        addDesktopHelp();
+}
+
+void PreferencesBoard::addSettings() {
     addWindow(u"Preferences"_s, Icons::MenuBar);
 
     auto& recording = addWindow(u"Recording; starred only"_s, Icons::Nowhere);
@@ -113,7 +124,7 @@ PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidge
         u"Starred only, without favourites"_s,
         Icons::MenuBar,
         ShortcutRecorder::Activity::Active,
-        [](DateTimeModel& model) { model.setFavoriteTimeZoneIdentifiers({}); })
+        [](Sample& sample) { sample.model.setFavoriteTimeZoneIdentifiers({}); })
         .findChild<CheckBox*>()
         ->click();
 
@@ -121,10 +132,39 @@ PreferencesBoard::PreferencesBoard(ColorScheme scheme, QWidget* parent) : QWidge
         u"Every zone a favourite; a key that this keyboard lacks"_s,
         Icons::MenuBar,
         ShortcutRecorder::Activity::NoSuchKey,
-        [](DateTimeModel& model) {
+        [](Sample& sample) {
+            auto& model = sample.model;
             model.setFavoriteTimeZoneIdentifiers(sample::everyZone());
             model.setHotKey({keycode::leftArrow, combomodifier::control | combomodifier::option});
         });
+}
+
+void PreferencesBoard::addDesktopHelp() {
+    constexpr auto nobodys = ShortcutRecorder::Activity::Unavailable;
+    const auto asking = [](Sample& sample, TypingRight right) {
+        sample.shortcuts.setDesktopName(u"GNOME"_s);
+        sample.right.setCanPrompt();
+        sample.right.setTyping(right);
+    };
+    addWindow(
+        u"A list to be added to; not allowed yet"_s, Icons::MenuBar, nobodys, [=](Sample& it) {
+            asking(it, TypingRight::NotAsked);
+        });
+    addWindow(u"In the list; allowed"_s, Icons::MenuBar, nobodys, [=](Sample& it) {
+        it.shortcuts.setBound(chordOf(it.model.hotKey()));
+        asking(it, TypingRight::Granted);
+    });
+    addWindow(u"Another command has it; stopped"_s, Icons::MenuBar, nobodys, [=](Sample& it) {
+        it.shortcuts.setBound(KeyChord{keycode::f5, modifier::command});
+        it.shortcuts.setHolder(*chordOf(it.model.hotKey()), u"Lock screen"_s);
+        asking(it, TypingRight::Stopped);
+        it.states = sample::serviceStates();
+    });
+    addWindow(u"A line for a configuration"_s, Icons::MenuBar, nobodys, [](Sample& it) {
+        it.syntax = BindingSyntax::Sway;
+        it.states = sample::serviceStates();
+    });
+    addWindow(u"A command for a desktop's settings"_s, Icons::MenuBar, nobodys);
 }
 
 PreferencesBoard::~PreferencesBoard() = default;
@@ -151,6 +191,8 @@ void PreferencesBoard::paintEvent(QPaintEvent* /*event*/) {
 
 void PreferencesBoard::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (m_content == Content::DesktopHelp)
+        return;
     hover(*m_samples.front()->view, u"Pago Pago"_s);
     hover(*m_samples[2]->view, u"Nome"_s);
 }
@@ -159,13 +201,13 @@ PreferencesView& PreferencesBoard::addWindow(
     const QString& note,
     Icons icons,
     ShortcutRecorder::Activity activity,
-    const std::function<void(DateTimeModel&)>& prepare) {
+    const std::function<void(Sample&)>& prepare) {
     const auto frame = frameOf(m_samples.size());
     auto& sample = *m_samples.emplace_back(std::make_unique<Sample>());
     sample.model.setShowInMenuBar(icons != Icons::Nowhere);
     sample.model.setShowInDock(icons == Icons::Everywhere);
     if (prepare)
-        prepare(sample.model);
+        prepare(sample);
     sample.view = std::make_unique<PreferencesView>(
         sample.model,
         PreferencesView::Dependencies{
@@ -181,9 +223,10 @@ PreferencesView& PreferencesBoard::addWindow(
                 return ShortcutRecorder::Status{activity, {}};
             },
             [] {},
-            [](const QString&) {
-                return true;
-            }},
+            [](const QString&) { return true; },
+            {},
+            {},
+            sample.syntax},
         [](HotKeyCombo) {},
         this);
     sample.view->setGeometry(

@@ -52,6 +52,18 @@ void selectZones(DateTimeModel& model, const QStringList& identifiers) {
     model.setSelectedTimeZones(zones().zones(identifiers));
 }
 
+std::vector<ServiceState> serviceStates() {
+    return {
+        {DesktopService::Shortcut,
+         false,
+         u"This desktop does not let Quorvane take a shortcut: bind one to it in the desktop's own "
+         "settings."_s},
+        {DesktopService::FrontWindow,
+         false,
+         u"This desktop does not tell which window is in front: Insert goes to the one that gets "
+         "the keyboard when the panel has closed."_s}};
+}
+
 void composeRange(DateTimeModel& model, Instant end) {
     model.setIsRange(true);
     model.setEndDate(end);

@@ -3,6 +3,7 @@
 
 #include <entry/EntryDependencies.h>
 #include <model/DateTimeModel.h>
+#include <platform/ServiceState.h>
 #include <testing/FakeKeyboardLayout.h>
 #include <time/ZoneDatabase.h>
 
@@ -28,6 +29,9 @@ inline constexpr Instant daysLater{1795550400}; ///< 2026-11-24T20:00:00Z
 
 /// Identifiers that name no zone are left out.
 void selectZones(DateTimeModel& model, const QStringList& identifiers);
+
+/// What a desktop that is not whole says of its services.
+[[nodiscard]] std::vector<ServiceState> serviceStates();
 
 /// From now to `end`, in four zones, a line each.
 void composeRange(DateTimeModel& model, Instant end);
