@@ -11,7 +11,7 @@ from harness.wayland.terminal import Foot
 
 
 class Workflow(test_workflow.Workflow, SwayCase):
-    """Into programs of Wayland and, the Qt editor among them, of X11."""
+    """Into programs of Wayland and of X11."""
 
     rounds = 5
 
@@ -56,6 +56,7 @@ class Workflow(test_workflow.Workflow, SwayCase):
         before = quorvane.preview()
         for zone in ("Tokyo", "Berlin"):
             quorvane.tree().find_role("push button", zone).press()
+        quorvane.tree().find_role("radio button", "Lines").press()
         text = wait_until(
             lambda: len(quorvane.preview().splitlines()) == 3 and quorvane.preview(),
             f"three lines instead of {before}",

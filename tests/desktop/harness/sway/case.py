@@ -2,6 +2,7 @@
 """What the test cases under sway have in common."""
 
 from ..case import DesktopCase
+from ..targets import EDITORS, Editor
 from ..wayland.clipboard import WaylandClipboard
 from ..wayland.keyboard import UsersKeyboard
 from ..wayland.pointer import UsersPointer
@@ -21,6 +22,16 @@ class SwayCase(DesktopCase):
 
     def make_session(self) -> SwaySession:
         return SwaySession(self.scale)
+
+    def editor(self, name: str = "mousepad") -> Editor:
+        """An editor of Wayland; in the place of the others stands one of X11.
+
+        Qt 5 finds the accessibility bus by the X server's root window, and under XWayland by luck.
+        """
+        command = EDITORS["mousepad"]
+        if name != "mousepad":
+            command = ["env", "GDK_BACKEND=x11", *command]
+        return Editor(self.session, command)
 
     def setUp(self) -> None:
         self.keyboard = UsersKeyboard(self.session.socket)

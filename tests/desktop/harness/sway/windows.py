@@ -78,8 +78,8 @@ class SwayWindows:
         self.wait(lambda: self.active() == window, "the window to be active")
 
     def show_desktop(self, number: int) -> None:
-        """Brings another workspace to the front."""
-        self.sway.command(f"workspace number {number}")
+        """Brings another workspace to the front; the first is 0."""
+        self.sway.command(f"workspace number {number + 1}")
 
     def command(self, window: int, text: str) -> None:
         """Has sway do something to a window."""
