@@ -16,6 +16,15 @@ from .windows import KwinWindows
 SIZE = (1280, 800)
 """The screen, in pixels."""
 
+_SETTINGS = """\
+[Desktops]
+Number=2
+Rows=1
+
+[Plugins]
+slideEnabled=false
+"""
+
 _SOCKET = "wayland-kwin"
 
 # The tests are a taskbar and a user's hands. KWin looks into the first file of applications that
@@ -58,6 +67,7 @@ class KwinSession(PrivateSession):
         }
         self.bus = SessionBus(self._processes, self.environment.copy(), self.directory("bus"))
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
+        (self.directory("config") / "kwinrc").write_text(_SETTINGS)
         self._install()
         self._start_compositor()
         self.windows = KwinWindows(self.socket)

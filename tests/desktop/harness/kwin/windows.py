@@ -15,6 +15,7 @@ Frame = tuple[int, int, int, int]
 _GET_WINDOW = 2
 _WINDOW_CAME = 4
 _SET_STATE = 0
+_GET_DESKTOP, _DESKTOP_CAME, _SHOW_DESKTOP = 0, 0, 0
 _TITLE, _APP_ID, _STATE, _WENT, _GEOMETRY, _PID = 0, 1, 2, 5, 8, 10
 
 _ACTIVE = 1 << 0
@@ -43,6 +44,10 @@ class KwinWindows:
         self._windows: dict[int, _Window] = {}
         self._manager = self._connection.bind(
             "org_kde_plasma_window_management", 16, self._handle_manager
+        )
+        self._desktops: list[str] = []
+        self._desktop_manager = self._connection.bind(
+            "org_kde_plasma_virtual_desktop_management", 1, self._handle_desktops
         )
         self._catch_up()
 
@@ -114,6 +119,14 @@ class KwinWindows:
         self._connection.request(window, _SET_STATE, _MINIMISED, _MINIMISED)
         self.wait(lambda: window not in self.shown(), "the window to be minimised")
 
+    def show_desktop(self, number: int) -> None:
+        """Brings another virtual desktop to the front; the first is 0."""
+        desktop = self._connection.make_object()
+        request = (self._desktop_manager, _GET_DESKTOP, desktop, self._desktops[number])
+        self._connection.request(*request)
+        self._connection.request(desktop, _SHOW_DESKTOP)
+        self._catch_up()
+
     def _catch_up(self) -> None:
         self._connection.settle()
 
@@ -129,6 +142,10 @@ class KwinWindows:
         self._connection.follow(item, lambda event, told: self._handle(item, event, told))
         self._windows[item] = window
         self._connection.request(self._manager, _GET_WINDOW, item, arguments.text())
+
+    def _handle_desktops(self, event: int, arguments: Reader) -> None:
+        if event == _DESKTOP_CAME:
+            self._desktops.append(arguments.text())
 
     def _handle(self, item: int, event: int, arguments: Reader) -> None:
         window = self._windows.get(item, _Window())

@@ -1,0 +1,57 @@
+# SPDX-License-Identifier: MIT
+"""Where a text goes under KWin, and what becomes of it where it cannot go anywhere."""
+
+import test_target
+from harness.keys import INSERT, Key
+from harness.kwin.case import KwinCase
+from harness.kwin.session import KwinSession
+from harness.notification_server import NotificationServer
+from harness.quorvane import Quorvane
+
+
+class LostTarget(test_target.LostTarget, KwinCase):
+    """Nothing is typed, the text is copied, and the user is told."""
+
+
+class Panel(KwinCase):
+    """A window of XWayland, as the desktop shows it."""
+
+    def test_it_is_above_on_all_desktops_and_out_of_the_taskbar(self) -> None:
+        quorvane = Quorvane(self.session)
+        panel = quorvane.wait_active()
+        windows = self.session.windows
+        self.assertTrue(windows.is_above(panel))
+        self.assertTrue(windows.is_on_all_desktops(panel))
+        self.assertFalse(windows.is_in_taskbar(panel))
+
+
+class NotInstalled(KwinCase):
+    """Without a desktop entry KWin lets nobody type."""
+
+    def make_session(self) -> KwinSession:
+        return KwinSession(is_installed=False)
+
+    def test_the_text_is_copied_instead(self) -> None:
+        notifications = NotificationServer(self.session.bus.address)
+        self.addCleanup(notifications.close)
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.wait_active()
+        self.summon(quorvane)
+        text = quorvane.preview()
+        self.keyboard.tap(*INSERT)
+        self.assertIn("does not let Quorvane type", notifications.wait_shown().body)
+        self.clipboard.wait_data("text/plain;charset=utf-8", text.encode())
+        self.keyboard.tap(Key.D)
+        editor.wait_text("d")
+
+
+class End(KwinCase):
+    """What becomes of the program when KWin has gone."""
+
+    def test_it_ends_and_says_so_in_one_line(self) -> None:
+        quorvane = Quorvane(self.session, QT_LOGGING_RULES="quorvane.*=false")
+        quorvane.wait_active()
+        self.session.kill_compositor()
+        self.assertEqual(1, quorvane.process.wait(10))
+        self.assertEqual(1, self.session.log("quorvane").count(" is lost"))
