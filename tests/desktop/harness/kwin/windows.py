@@ -46,6 +46,7 @@ class KwinWindows:
             "org_kde_plasma_window_management", 16, self._handle_manager
         )
         self._desktops: list[str] = []
+        self._changes = 0
         self._desktop_manager = self._connection.bind(
             "org_kde_plasma_virtual_desktop_management", 1, self._handle_desktops
         )
@@ -60,9 +61,14 @@ class KwinWindows:
         answers: list[Result] = []
 
         def holds() -> bool:
-            if result := condition():
-                answers.append(result)
-            return bool(answers)
+            while not answers:
+                before = self._changes
+                if result := condition():
+                    answers.append(result)
+                elif self._changes == before:
+                    return False
+                # What changed while it was asked has no event any more that would wake us.
+            return True
 
         try:
             self._connection.wait(holds, what)
@@ -148,6 +154,7 @@ class KwinWindows:
             self._desktops.append(arguments.text())
 
     def _handle(self, item: int, event: int, arguments: Reader) -> None:
+        self._changes += 1
         window = self._windows.get(item, _Window())
         if event == _TITLE:
             window.title = arguments.text()
