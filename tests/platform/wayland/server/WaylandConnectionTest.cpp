@@ -50,11 +50,8 @@ TEST_F(ConnectionToACompositor, IsThereWhenTheCompositorHasAnswered) {
 
 TEST_F(ConnectionToACompositor, IsGivenUpWhereTheCompositorHangs) {
     m_compositor.hang();
-    const auto begin = std::chrono::steady_clock::now();
     const auto opened = WaylandConnection::open(m_compositor.environment(), 100ms);
     EXPECT_EQ(opened.attempt, WaylandConnection::Attempt::Silent);
-    EXPECT_GE(std::chrono::steady_clock::now() - begin, 100ms);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, 5s);
 }
 
 // The queue of a socket on which nobody takes connections is full after a few.
