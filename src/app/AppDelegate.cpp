@@ -232,7 +232,11 @@ void AppDelegate::observeDesktop() {
         [this] { m_presentation.panel().compositingDidChange(); });
     connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
     platform.keyboardLayout->onChanged([this] { refreshSoon(); });
-    platform.desktopShortcut->onChanged([this] { shortcutDidChange(); });
+    platform.desktopShortcut->onChanged([this] {
+        // Presses come to us once the desktop has added the shortcut.
+        m_shortcut.retry();
+        shortcutDidChange();
+    });
 }
 
 void AppDelegate::shortcutDidChange() {

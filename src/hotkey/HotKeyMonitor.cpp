@@ -64,6 +64,7 @@ void HotKeyMonitor::start() {
          [this](const KeyChord& chord) {
              adopt(chord);
          }});
+    m_lacksTap = std::holds_alternative<TapFailure>(result);
     if (auto* failure = std::get_if<TapFailure>(&result))
         return fail(std::move(*failure));
 
@@ -75,6 +76,7 @@ void HotKeyMonitor::start() {
 }
 
 void HotKeyMonitor::stop() {
+    m_lacksTap = false;
     if (!m_eventTap)
         return;
     m_eventTap->disable();
@@ -84,6 +86,14 @@ void HotKeyMonitor::stop() {
 void HotKeyMonitor::retry() {
     if (delivery() == TapDelivery::HeldElsewhere)
         m_eventTap->enable();
+    else if (m_lacksTap)
+        startAgain();
+}
+
+void HotKeyMonitor::startAgain() {
+    start();
+    if (!m_lacksTap)
+        announce(&HotKeyMonitor::m_onDeliveryChanged);
 }
 
 TapDelivery HotKeyMonitor::delivery() const {

@@ -133,6 +133,23 @@ class NotAllowed(TypingByPortal):
         self.expect_copy(text, _NO_WAY)
 
 
+class Chosen(TypingByPortal):
+    """The portal types where neither a compositor nor an X server does."""
+
+    def test_it_is_asked_where_there_is_no_display_that_types(self) -> None:
+        quorvane = Quorvane(self.session, QT_QPA_PLATFORM="offscreen", QUORVANE_BACKEND="")
+        quorvane.action("insert")
+        self.portal.wait_asked()
+
+    def test_it_is_not_asked_on_an_x_server(self) -> None:
+        editor = self.editor()
+        quorvane = Quorvane(self.session, QUORVANE_BACKEND="")
+        quorvane.hide()
+        editor.focus()
+        self.insert(quorvane, editor)
+        self.assertEqual(0, self.portal.questions)
+
+
 class NeverAllowed(TypingByPortal):
     """Who has never chosen to allow it is not asked, but shown where to choose it."""
 

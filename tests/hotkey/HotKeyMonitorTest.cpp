@@ -259,6 +259,22 @@ TEST_F(HotKeyMonitorTest, RetryAsksAgainForAShortcutHeldElsewhereOnly) {
     EXPECT_TRUE(log.calls().empty());
 }
 
+TEST_F(HotKeyMonitorTest, RetryStartsAgainWhereThereWasNoTap) {
+    int changes = 0;
+    monitor->setOnDeliveryChanged([&] { ++changes; });
+    taps.refuse({u"not added yet"_s});
+    monitor->start();
+    monitor->retry();
+    queue.run();
+    EXPECT_FALSE(monitor->isArmed());
+    EXPECT_EQ(changes, 0);
+    taps.permit();
+    monitor->retry();
+    queue.run();
+    EXPECT_TRUE(monitor->isArmed());
+    EXPECT_GE(changes, 1);
+}
+
 TEST_F(HotKeyMonitorTest, KeyThatTheKeyboardLacksIsTold) {
     taps.setLacksKey(true);
     monitor->start();

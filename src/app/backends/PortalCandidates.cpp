@@ -3,6 +3,8 @@
 #include "PortalLink.h"
 
 #include <platform_portal/PortalAccessibilityRight.h>
+#include <platform_portal/PortalDesktopShortcut.h>
+#include <platform_portal/PortalEventTapService.h>
 #include <platform_portal/PortalKeyPoster.h>
 
 #include <QCoreApplication>
@@ -44,17 +46,51 @@ chooseKeys(PlatformServices& services, Wish wish, PortalLink& link, const Deskto
     return ServiceVerdict::limited(
         u"the portal has it, if the user agrees"_s,
         QCoreApplication::translate(
-            "Backends", "The desktop asks you once in each run whether Quorvane may type."));
+            "Backends",
+            "Quorvane types once you have allowed it under “Insert into Other Apps”; until then "
+            "Insert copies the text."));
+}
+
+/// Why others should have the shortcut; none for nothing.
+QString reasonAgainstShortcut() {
+    // It binds the keys without a dialog, and is there also where the portal has none.
+    if (PortalLink::isRunning(u"org.gnome.SettingsDaemon.MediaKeys"_s))
+        return u"the desktop has a list of its own"_s;
+    return PortalLink::offers(u"org.freedesktop.portal.GlobalShortcuts"_s)
+               ? QString()
+               : u"no portal that runs has shortcuts"_s;
+}
+
+ServiceVerdict chooseShortcut(
+    PlatformServices& services, Wish wish, PortalLink& link, const DesktopSession& session) {
+    const auto reason = wish == Wish::Free ? reasonAgainstShortcut() : QString();
+    const auto portal = reason.isEmpty() ? link.portal(wish) : nullptr;
+    if (!portal)
+        return ServiceVerdict::no(reason.isEmpty() ? u"there is no portal on the bus"_s : reason);
+    const auto shortcut = std::make_shared<PortalShortcut>(portal, session.queue, session.defaults);
+    services.eventTaps = std::make_unique<PortalEventTapService>(shortcut);
+    services.desktopShortcut = std::make_unique<PortalDesktopShortcut>(shortcut);
+    return ServiceVerdict::limited(
+        u"the portal may have it"_s,
+        QCoreApplication::translate(
+            "Backends",
+            "This desktop does not let Quorvane take a shortcut by itself: it is added under "
+            "“Keyboard Shortcut”."));
 }
 
 } // namespace
 
 ServiceCandidates portalCandidates(const DesktopSession& session) {
     const auto link = std::make_shared<PortalLink>();
+    const auto candidate = [link, session](ChosenService service, auto choose) -> ServiceCandidate {
+        return {
+            service, u"portal"_s, [link, session, choose](PlatformServices& services, Wish wish) {
+                return choose(services, wish, *link, session);
+            }};
+    };
     return {
-        {ChosenService::Keys, u"portal"_s, [link, session](PlatformServices& services, Wish wish) {
-             return chooseKeys(services, wish, *link, session);
-         }}};
+        candidate(ChosenService::Keys, chooseKeys),
+        candidate(ChosenService::Shortcut, chooseShortcut)};
 }
 
 } // namespace quorvane

@@ -55,7 +55,9 @@ void PortalSession::adopt(const PortalResponse& response) {
     m_isOpen = response.outcome == PortalResponse::Outcome::Success && isOurs;
     if (!m_isOpen)
         qCInfo(lcPortal, "no session");
-    m_callbacks.onCreated(m_isOpen);
+    // A copy: it may destroy this.
+    const auto created = m_callbacks.onCreated;
+    created(m_isOpen);
 }
 
 void PortalSession::put(
@@ -87,8 +89,10 @@ void PortalSession::end() {
         return;
     qCInfo(lcPortal, "the session is over");
     m_queue.async([self = QPointer(this)] {
-        if (self)
-            self->m_callbacks.onEnded();
+        if (!self)
+            return;
+        const auto ended = self->m_callbacks.onEnded;
+        ended();
     });
 }
 

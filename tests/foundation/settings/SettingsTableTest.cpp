@@ -29,6 +29,8 @@ TEST(SettingsTable, EveryRowHasItsKeyAndDefault) {
     EXPECT_FALSE(setting::shortcutHintDismissed.valueIn(empty));
     EXPECT_EQ(setting::typingToken.key, "typingToken"_L1);
     EXPECT_EQ(setting::typingToken.valueIn(empty), QString());
+    EXPECT_EQ(setting::portalShortcut.key, "portalShortcut"_L1);
+    EXPECT_FALSE(setting::portalShortcut.valueIn(empty));
 }
 
 TEST(SettingsTable, EveryRememberedChoiceHasItsKeyAndDefault) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/PortalFixture.h"
 
-#include <QDBusPendingCall>
 #include <gmock/gmock.h>
 
 namespace quorvane {
@@ -23,20 +22,6 @@ protected:
 
     [[nodiscard]] QString storedToken() {
         return defaults.stringForKey(u"typingToken"_s).value_or(QString());
-    }
-
-    /// A signal of somebody else's, to the program.
-    void
-    pretend(const QString& path, const QString& interface, const QString& name, QVariantList what) {
-        auto signal = QDBusMessage::createTargetedSignal(portal.client(), path, interface, name);
-        signal.setArguments(what);
-        auto stranger = bus.connection();
-        stranger.send(signal);
-        // In order with the signal: the bus has handed that over by then.
-        const auto ping = stranger.asyncCall(QDBusMessage::createMethodCall(
-            portal.client(), u"/"_s, u"org.freedesktop.DBus.Peer"_s, u"Ping"_s));
-        ASSERT_TRUE(comesTo([&] { return ping.isFinished(); }));
-        queue.run();
     }
 };
 
@@ -249,67 +234,6 @@ TEST_F(PortalKeyboardTest, IsNotToBeHadWhereASessionIsRefused) {
         startProgram();
         EXPECT_TRUE(opensTo(TypingRight::Unavailable)) << method.toStdString();
     }
-}
-
-TEST_F(PortalKeyboardTest, TrustsNoAnswerOfOtherTypes) {
-    portal.hasOddTypes = true;
-    portal.appear();
-    startProgram();
-    EXPECT_TRUE(opensTo(TypingRight::Unavailable));
-}
-
-TEST_F(PortalKeyboardTest, TrustsNoHandlesThatAreNotOurs) {
-    portal.foreignSession = u"/org/freedesktop/portal/desktop/session/1_1/other"_s;
-    portal.appear();
-    startProgram();
-    EXPECT_TRUE(opensTo(TypingRight::Unavailable));
-    portal.foreignSession.reset();
-    portal.user = Answer::NotYet;
-    portal.foreignRequest = u"/org/freedesktop/portal/desktop/request/1_1/other"_s;
-    EXPECT_TRUE(opensTo(TypingRight::Unavailable));
-}
-
-TEST_F(PortalKeyboardTest, TakesNoConsentWithoutTheKeyboard) {
-    for (const QVariant& devices : {QVariant(6U), QVariant(u"1"_s), QVariant()}) {
-        portal.consent[u"devices"_s] = devices.isValid() ? devices : QVariant(false);
-        portal.appear();
-        startProgram();
-        EXPECT_TRUE(opensTo(TypingRight::Refused));
-        portal.vanish();
-    }
-}
-
-TEST_F(PortalKeyboardTest, IgnoresTokensThatAreNone) {
-    makeVersion2();
-    for (const QVariant& token : {QVariant(7U), QVariant(QString(4096, u'x'))}) {
-        portal.consent[u"restore_token"_s] = token;
-        portal.appear();
-        startProgram();
-        EXPECT_TRUE(opensTo(TypingRight::Granted));
-        EXPECT_EQ(storedToken(), QString());
-        portal.vanish();
-    }
-}
-
-TEST_F(PortalKeyboardTest, HearsThePortalAloneWhateverOthersSay) {
-    portal.user = Answer::NotYet;
-    portal.appear();
-    startProgram();
-    keyboard->open();
-    ASSERT_TRUE(comesTo([&] { return portal.callsOf(u"Start"_s) == 1; }));
-    pretend(
-        portal.requestPath(),
-        u"org.freedesktop.portal.Request"_s,
-        u"Response"_s,
-        {0U, QVariantMap{{u"devices"_s, 1U}}});
-    ASSERT_TRUE(settles());
-    EXPECT_EQ(keyboard->state(), TypingRight::Asking);
-    portal.answer(Answer::Yes);
-    ASSERT_TRUE(comesTo(TypingRight::Granted));
-    pretend(
-        portal.sessionPath(), u"org.freedesktop.portal.Session"_s, u"Closed"_s, {QVariantMap()});
-    ASSERT_TRUE(settles());
-    EXPECT_EQ(keyboard->state(), TypingRight::Granted);
 }
 
 } // namespace

@@ -54,8 +54,8 @@ public:
     /// Disarms it; harmless when idle.
     void stop();
 
-    /// Asks again for a shortcut that another program held; does nothing when it is ours, and when
-    /// idle.
+    /// Asks again for a shortcut that another program held, or for the tap that start() did not get;
+    /// does nothing when the shortcut is ours, and when stopped.
     void retry();
 
     /// Whether presses of the shortcut reach us, and if not, why; Off while idle.
@@ -84,6 +84,7 @@ private:
     void schedule(Callback HotKeyMonitor::*callback);
     void announce(Callback HotKeyMonitor::*callback);
     void adopt(const KeyChord& chord);
+    void startAgain();
     void watchCombo();
     void fail(TapFailure failure);
 
@@ -95,6 +96,7 @@ private:
     Callback m_onComboChanged;
     std::unique_ptr<EventTap> m_eventTap;
     std::optional<TapFailure> m_lastFailure;
+    bool m_lacksTap = false; ///< since the last start()
 };
 
 } // namespace quorvane

@@ -47,6 +47,9 @@ public:
     /// From now on, no tap can be had.
     void refuse(TapFailure failure) { m_refusal = std::move(failure); }
 
+    /// Taps can be had again.
+    void permit() { m_refusal.reset(); }
+
     /// Whether another program holds the shortcuts that no tap has taken.
     void setHeldElsewhere(bool held) { m_desktop->heldElsewhere = held; }
 

@@ -45,8 +45,10 @@ protected:
         return comesTo(state);
     }
 
-    /// Whether the bus has handed over all that was sent until now.
-    [[nodiscard]] bool settles() {
+    /// Whether the bus has handed over all that was sent until now, and what was sent in reply.
+    [[nodiscard]] bool settles() { return isPingAnswered() && isPingAnswered(); }
+
+    [[nodiscard]] bool isPingAnswered() {
         bool isAnswered = false;
         QObject context;
         desktop->ask(

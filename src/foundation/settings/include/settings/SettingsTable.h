@@ -40,6 +40,9 @@ inline constexpr StoredSetting<QString, QLatin1StringView> typingToken{
 inline constexpr StoredSetting<bool> shortcutHintDismissed{
     QLatin1StringView("shortcutHintDismissed"), false};
 
+/// Whether the user has had the desktop's portal add the shortcut.
+inline constexpr StoredSetting<bool> portalShortcut{QLatin1StringView("portalShortcut"), false};
+
 /// Whether the choices below are kept. While it is off they are neither read nor written.
 inline constexpr StoredSetting<bool> remembersChoices{
     QLatin1StringView("rememberFormatAndZones"), false};
