@@ -3,9 +3,13 @@
 
 #include "QtClipboard.h"
 
+#include <platform/ShortcutLists.h>
 #include <platform_gnome/GnomeShortcut.h>
 
 #include <QCoreApplication>
+
+#include <algorithm>
+#include <utility>
 
 namespace quorvane {
 
@@ -24,6 +28,21 @@ public:
 
     void onChanged(std::function<void()> /*handler*/) override {}
 };
+
+bool isShortcutWhole(const PlatformServices& services) {
+    return std::ranges::any_of(services.states, [](const ServiceState& state) {
+        return state.service == DesktopService::Shortcut && state.isWhole;
+    });
+}
+
+/// After what the portal has: only the later portals of GNOME know shortcuts.
+void addGnomesList(PlatformServices& services, const DesktopSession& session) {
+    ShortcutLists::Lists lists;
+    lists.push_back(std::move(services.desktopShortcut));
+    lists.push_back(std::make_unique<GnomeShortcut>(
+        QDBusConnection::sessionBus(), session.queue, *services.keyboardLayout));
+    services.desktopShortcut = std::make_unique<ShortcutLists>(std::move(lists));
+}
 
 } // namespace
 
@@ -81,10 +100,8 @@ void standIn(
     const DesktopSession& session) {
     if (missing.contains(ChosenService::Clipboard))
         services.pasteboard = makeQtClipboard(session);
-    // Of the desktops that keep such a list, and do not have it where the shortcut is.
-    if (missing.contains(ChosenService::Shortcut))
-        services.desktopShortcut = std::make_unique<GnomeShortcut>(
-            QDBusConnection::sessionBus(), session.queue, *services.keyboardLayout);
+    if (!isShortcutWhole(services))
+        addGnomesList(services, session);
     if (missing.contains(ChosenService::Keys) && !missing.contains(ChosenService::Shortcut))
         services.accessibilityRight = std::make_unique<NoTypingRight>();
 }
