@@ -126,6 +126,10 @@ class Accessible:
         """Everything below that shows."""
         return (found for found in self._descendants() if found.is_showing())
 
+    def all(self) -> Iterator["Accessible"]:
+        """Everything below, whether it shows or not."""
+        return self._descendants()
+
     def is_showing(self) -> bool:
         """Whether it shows; what is gone does not."""
         try:

@@ -53,6 +53,7 @@ class Key(IntEnum):
     SPACE = 65
     CAPS_LOCK = 66
     ALT_GR = 108
+    F5 = 71
     HOME = 110
     UP = 111
     PAGE_UP = 112

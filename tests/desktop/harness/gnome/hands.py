@@ -15,7 +15,7 @@ _SCREEN_CAST = "org.gnome.Mutter.ScreenCast"
 
 _X_OFFSET = 8  # X counts keys from there, evdev from 0
 _LEFT_BUTTON = 272
-_BETWEEN_KEYS = 0.01  # seconds: no finger is faster, and Mutter then keeps the order for everybody
+_BETWEEN_KEYS = 0.02  # seconds: no finger is faster, and Mutter then keeps the order for everybody
 
 
 class Hands:

@@ -3,6 +3,7 @@
 
 import re
 import shutil
+import subprocess
 from collections.abc import Sequence
 from contextlib import ExitStack
 from os import environ
@@ -10,6 +11,7 @@ from pathlib import Path
 
 from ..accessible import Accessibility
 from ..message_bus import MessageBus
+from ..paths import PROGRAM, TREE
 from ..private_session import PrivateSession
 from ..session_bus import SessionBus
 from ..waiting import wait_until
@@ -17,8 +19,11 @@ from ..windows import Windows
 from .hands import Hands
 from .shell import Shell
 
+_DAEMON = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
+
 _HERE = Path(__file__).parent
 _PROBE = "probe@quorvane.org"
+_NAME = "org.quorvane.Quorvane"
 
 # What programs of the session may have the bus start for them.
 _SERVICES = (
@@ -69,12 +74,26 @@ class GnomeSession(PrivateSession):
         """Changes a setting of the desktop; the value is written as GVariant's text."""
         self.run(["gsettings", "set", schema, key, value])
 
+    def get(self, schema: str, key: str) -> str:
+        """A setting of the desktop, as GVariant's text."""
+        command = ["gsettings", "get", schema, key]
+        return subprocess.check_output(command, env=self.environment, text=True).strip()
+
+    def offer_service(self, name: str, command: str) -> None:
+        """Lets the bus start a program when somebody calls its name."""
+        file = self.directory("bus") / "services" / f"{name}.service"
+        file.write_text(f"[D-BUS Service]\nName={name}\nExec={command}\n")
+        bus = MessageBus(self.bus.address)
+        bus.call(*_DAEMON, "ReloadConfig")
+        bus.close()
+
     def _begin(self, undo: ExitStack) -> None:
         self.environment |= _DESKTOP
         self._start_buses()
         self.accessibility = Accessibility(self.bus.address)
         undo.callback(self.accessibility.close)
         self._install_probe()
+        self._install_quorvane()
         for setting in _SETTINGS:
             self.set(*setting)
         self.set("org.gnome.shell", "enabled-extensions", str(self._extensions))
@@ -100,6 +119,18 @@ class GnomeSession(PrivateSession):
         extensions = self.directory("data") / "gnome-shell" / "extensions"
         shutil.copytree(_HERE / "extension", extensions / _PROBE)
 
+    def _install_quorvane(self) -> None:
+        """What the shell looks for beside the program: its entry and its icons."""
+        icons = self.directory("data") / "icons" / "hicolor"
+        for file, folder in ((f"{_NAME}.svg", "scalable"), (f"{_NAME}-symbolic.svg", "symbolic")):
+            (icons / folder / "apps").mkdir(parents=True)
+            shutil.copy(TREE / "resources" / "icons" / file, icons / folder / "apps")
+        applications = self.directory("data") / "applications"
+        applications.mkdir()
+        entry = (TREE / "packaging" / f"{_NAME}.desktop.in").read_text()
+        program = entry.replace("@CMAKE_INSTALL_FULL_BINDIR@", str(PROGRAM.parent))
+        (applications / f"{_NAME}.desktop").write_text(program)
+
     def _follow_displays(self, undo: ExitStack) -> None:
         """Lets programs find the compositor and its X server, those that the bus starts too."""
         runtime = self.directory("run")
@@ -113,9 +144,8 @@ class GnomeSession(PrivateSession):
             "XAUTHORITY": str(next(runtime.glob(".mutter-Xwaylandauth.*"))),
         }
         self.environment |= displays
-        daemon = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
         bus = MessageBus(self.bus.address)
-        bus.call(*daemon, "UpdateActivationEnvironment", "(a{ss})", displays)
+        bus.call(*_DAEMON, "UpdateActivationEnvironment", "(a{ss})", displays)
         bus.close()
         # The tests' own connections to the X server.
         environ["XAUTHORITY"] = displays["XAUTHORITY"]

@@ -72,6 +72,20 @@ class Shell:
         """The value of an expression inside the shell."""
         return json.loads(self._ask("Evaluate", "(s)", code))
 
+    def has_remote_access(self) -> bool:
+        """Whether a program may type; the user sees an indicator in the bar then."""
+        return self.evaluate("Main.panel.statusArea.screenSharing.visible")
+
+    def remote_access_indicator(self) -> tuple[float, float]:
+        """Where a click ends that permission."""
+        return self.middle_of("Main.panel.statusArea.screenSharing")
+
+    def middle_of(self, actor: str) -> tuple[float, float]:
+        """Where a part of the shell is on the screen, by an expression for it."""
+        left, top = self.evaluate(f"{actor}.get_transformed_position()")
+        width, height = self.evaluate(f"{actor}.get_transformed_size()")
+        return left + width / 2, top + height / 2
+
     def screenshot(self, file: Path) -> None:
         """Writes a picture of the whole screen."""
         # The shell lets the owner of this name take pictures, once it has heard of it.
