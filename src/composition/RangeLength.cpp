@@ -28,9 +28,12 @@ SpanParts spanBetween(Instant earlier, Instant later, const TimeZone& zone) {
     const auto moved = [&] {
         return movedToDay(earlier, civilDay(earlier, zone) + days, zone);
     };
-    if (moved() > later)
+    const auto secondsLeft = [&] {
+        return later.secondsSince1970 - moved().secondsSince1970;
+    };
+    if (secondsLeft() < 0)
         days -= std::chrono::days(1);
-    const double seconds = std::max(0.0, later.secondsSince1970 - moved().secondsSince1970);
+    const double seconds = std::max(0.0, secondsLeft());
     const auto minutes = static_cast<std::int64_t>(std::floor(seconds / secondsInMinute));
     return {days.count(), minutes / minutesInHour, minutes % minutesInHour};
 }
@@ -40,7 +43,9 @@ SpanParts spanBetween(Instant earlier, Instant later, const TimeZone& zone) {
 RangeLength RangeLength::between(Instant start, Instant end, const TimeZone& zone) {
     const auto from = startOfMinute(start, zone);
     const auto to = startOfMinute(end, zone);
-    return {spanBetween(std::min(from, to), std::max(from, to), zone), to < from, false};
+    const bool isNegative = to.secondsSince1970 < from.secondsSince1970;
+    return {
+        isNegative ? spanBetween(to, from, zone) : spanBetween(from, to, zone), isNegative, false};
 }
 
 RangeLength RangeLength::daysBetween(Instant start, Instant end, const TimeZone& zone) {
