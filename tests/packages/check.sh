@@ -12,10 +12,10 @@ here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 work=$(mktemp --directory "/var/tmp/quorvane-$suite.XXXXXX")
 log=${archive%/*}/$suite.log
 
-# Nothing is removed before all mounts are gone.
+# Nothing is removed below a mount. What a service of the bus still holds goes with the namespaces.
 clean_up() {
     awk -v work="$work/" 'index($2, work) == 1 { print $2 }' /proc/self/mounts | sort --reverse |
-        xargs --no-run-if-empty umount
+        xargs --no-run-if-empty umount --lazy
     rm --recursive --force --one-file-system "$work"
 }
 trap clean_up EXIT
