@@ -90,7 +90,7 @@ TEST_F(DesktopHelpTest, EntryInTheDesktopsListFollowsWhatIsRecorded) {
     showPreferences();
     button(u"Add to GNOME shortcuts"_s)->click();
     queue.run();
-    EXPECT_TRUE(shows(u"It stands in the shortcuts of GNOME."_s));
+    EXPECT_TRUE(shows(u"It is in the shortcuts of GNOME."_s));
     EXPECT_EQ(desktopShortcut->bound(), standard);
     button(u"Record new shortcut"_s)->click();
     queue.run();

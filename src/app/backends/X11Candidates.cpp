@@ -72,12 +72,12 @@ private:
 
 ServiceCandidates x11Candidates(const DesktopSession& session) {
     const auto x11 = std::make_shared<X11Candidate>(session);
-    const auto own = [x11](ChosenService service, Adding add) -> ServiceCandidate {
+    const auto own = [x11](ChosenService service, const Adding& add) -> ServiceCandidate {
         return {service, u"x11"_s, [x11, add](PlatformServices& services, Wish wish) {
                     return x11->chooseOwn(services, wish, add);
                 }};
     };
-    const auto ofOthers = [x11](ChosenService service, Adding add) -> ServiceCandidate {
+    const auto ofOthers = [x11](ChosenService service, const Adding& add) -> ServiceCandidate {
         return {service, u"x11"_s, [x11, add](PlatformServices& services, Wish wish) {
                     return x11->chooseOfOthers(services, wish, add);
                 }};

@@ -89,11 +89,11 @@ QString ListedShortcut::statusText(State state) const {
     const auto desktop = m_list.desktopName();
     switch (state) {
     case State::Absent:
-        return tr("%1 lets programs have a shortcut only by its own list of them.").arg(desktop);
+        return tr("To use this shortcut, add it to the shortcuts of %1.").arg(desktop);
     case State::Bound:
-        return tr("It stands in the shortcuts of %1.").arg(desktop);
+        return tr("It is in the shortcuts of %1.").arg(desktop);
     case State::OtherKeys:
-        return tr("In the shortcuts of %1, Quorvane still has %2.")
+        return tr("The shortcuts of %1 still have %2 for Quorvane.")
             .arg(desktop, shortcutText(comboOf(*m_list.bound()), m_layout));
     case State::Taken:
         break;

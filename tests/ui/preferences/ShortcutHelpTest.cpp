@@ -71,12 +71,12 @@ TEST_F(ShortcutHelpTest, EntryCanBeTakenOutAlsoWhereItHasThePressesReachTheProgr
 TEST_F(ShortcutHelpTest, OneClickAddsTheShortcutToTheDesktopsListAndOneTakesItOut) {
     openOn(u"GNOME"_s);
     EXPECT_FALSE(shows(u"Global shortcuts are not available on this desktop."_s));
-    EXPECT_TRUE(shows(u"GNOME lets programs have a shortcut only by its own list of them."_s));
+    EXPECT_TRUE(shows(u"To use this shortcut, add it to the shortcuts of GNOME."_s));
     EXPECT_FALSE(hasButton(u"Remove"_s));
     EXPECT_TRUE(button(u"Add to GNOME shortcuts"_s).hasFocus());
     press(u"Add to GNOME shortcuts"_s);
     EXPECT_EQ(shortcuts.bound(), standard);
-    EXPECT_TRUE(shows(u"It stands in the shortcuts of GNOME."_s));
+    EXPECT_TRUE(shows(u"It is in the shortcuts of GNOME."_s));
     EXPECT_FALSE(hasButton(u"Add to GNOME shortcuts"_s));
     press(u"Remove"_s);
     EXPECT_EQ(shortcuts.bound(), std::nullopt);
@@ -105,7 +105,7 @@ TEST_F(ShortcutHelpTest, ListIsReadAnewWhenThePreferencesShow) {
 TEST_F(ShortcutHelpTest, EntryWithOtherKeysIsToldAndChanged) {
     shortcuts.setBound(other);
     openOn(u"GNOME"_s);
-    EXPECT_TRUE(shows(u"In the shortcuts of GNOME, Quorvane still has Ctrl+Alt+K."_s));
+    EXPECT_TRUE(shows(u"The shortcuts of GNOME still have Ctrl+Alt+K for Quorvane."_s));
     EXPECT_TRUE(hasButton(u"Remove"_s));
     press(u"Change in GNOME shortcuts"_s);
     EXPECT_EQ(shortcuts.bound(), standard);
