@@ -35,7 +35,7 @@ std::vector<TimeZone> someZones(std::size_t count) {
 }
 
 void readDatabase(benchmark::State& state) {
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto round : state)
         benchmark::DoNotOptimize(ZoneDatabase());
 }
 
@@ -43,7 +43,7 @@ void formatOneInstant(benchmark::State& state) {
     const auto preset = allDateFormatPresets[static_cast<std::size_t>(state.range(0))];
     const auto zone = *ZoneDatabase().zone(u"America/Los_Angeles"_s);
     const auto settings = americanSettings();
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto round : state)
         benchmark::DoNotOptimize(formatSingle(instant, zone, preset, settings));
     state.SetLabel(rawValue(preset).toStdString());
 }
@@ -57,14 +57,14 @@ void composeOutput(benchmark::State& state) {
         .end = {},
         .layout = MultiZoneLayout::Lines};
     const FixedCurrentZone currentZone(ZoneDatabase::utc());
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto round : state)
         benchmark::DoNotOptimize(composedOutput(request, currentZone));
 }
 
 void makeChipTexts(benchmark::State& state) {
     const auto zone = *ZoneDatabase().zone(u"America/Los_Angeles"_s);
     const auto locale = UserLocale::named(u"en_US"_s);
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto round : state) {
         benchmark::DoNotOptimize(dateChipText(instant, zone, locale));
         benchmark::DoNotOptimize(timeChipText(instant, zone, locale));
     }

@@ -39,14 +39,14 @@ double percentile99(const std::vector<double>& samples) {
 
 void buildCatalogue(benchmark::State& state) {
     const ZoneDatabase database;
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto round : state)
         benchmark::DoNotOptimize(TimeZoneCatalogue(database, instant));
 }
 
 /// The query that opens the search of a new list; nothing of an earlier search is at hand.
 void searchFirst(benchmark::State& state) {
     const TimeZoneCatalogue catalogue(ZoneDatabase(), instant);
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto round : state)
         benchmark::DoNotOptimize(ZoneSearch(catalogue, american()).results(u"x"_s, instant));
 }
 
@@ -57,7 +57,7 @@ void searchKeystroke(benchmark::State& state) {
     benchmark::DoNotOptimize(search.results(u"first"_s, instant));
     std::vector<double> samples;
     auto now = instant;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto round : state) {
         now = now + Seconds(0.1); // no two keystrokes are at the same instant
         const auto start = Clock::now();
         benchmark::DoNotOptimize(search.results(query, now));

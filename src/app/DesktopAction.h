@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 namespace quorvane {
 

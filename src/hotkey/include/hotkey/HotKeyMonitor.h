@@ -54,8 +54,8 @@ public:
     /// Disarms it; harmless when idle.
     void stop();
 
-    /// Asks again for a shortcut that another program held, or for the tap that start() did not get;
-    /// does nothing when the shortcut is ours, and when stopped.
+    /// Asks again for a shortcut that another program held, or for the tap that start() did not
+    /// get; does nothing when the shortcut is ours, and when stopped.
     void retry();
 
     /// Whether presses of the shortcut reach us, and if not, why; Off while idle.

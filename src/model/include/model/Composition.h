@@ -29,9 +29,9 @@ struct Composition {
     /// That of a new run: an hour from `now`, in `zone`.
     [[nodiscard]] static Composition startingAt(Instant now, TimeZone zone);
 
-    /// Moves the start to `now` and keeps the distance to the end, which is that of the minutes that
-    /// the clocks of `zone` show: the entry controls drop the seconds of one date and not of the
-    /// other. Neither date is the user's then.
+    /// Moves the start to `now` and keeps the distance to the end, which is that of the minutes
+    /// that the clocks of `zone` show: the entry controls drop the seconds of one date and not of
+    /// the other. Neither date is the user's then.
     void moveTo(Instant now, const TimeZone& zone);
 };
 

@@ -4,10 +4,9 @@
 #include "DataControlOffer.h"
 #include "DataControlSource.h"
 
-#include <wayland_server/WaylandSeats.h>
-
 #include <memory>
 #include <utility>
+#include <wayland_server/WaylandSeats.h>
 
 namespace quorvane {
 

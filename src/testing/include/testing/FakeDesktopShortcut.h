@@ -53,7 +53,8 @@ private:
     QString m_name;
     std::optional<KeyChord> m_bound;
     std::pair<KeyChord, QString> m_held;
-    std::function<void()> m_changed = [] {};
+    std::function<void()> m_changed = [] {
+    };
 };
 
 } // namespace quorvane

@@ -61,8 +61,8 @@ protected:
         return atTarget && eventsAreDelivered();
     }
 
-    /// The server reads the connections in any order: without a round trip it may get the key before
-    /// it learns that the tap has let go of the keyboard.
+    /// The server reads the connections in any order: without a round trip it may get the key
+    /// before it learns that the tap has let go of the keyboard.
     void typeAfterAllRequests(std::uint16_t key) {
         m_connection->waitForServer();
         m_keyboard.type({key});
