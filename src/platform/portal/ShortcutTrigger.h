@@ -11,7 +11,7 @@
 /// A shortcut in the words of portals.
 namespace quorvane::shortcuttrigger {
 
-/// As the Shortcuts specification writes it, "CTRL+SHIFT+LOGO+d"; empty for a key that it is not
+/// As freedesktop.org has shortcuts written, "CTRL+SHIFT+LOGO+d"; empty for a key that it is not
 /// sure to name as the user's keyboard does.
 [[nodiscard]] QString preferred(const KeyChord& chord);
 

@@ -5,10 +5,8 @@ from typing import Any
 
 from gi.repository import GLib
 
-from .bus_service import BusService
+from .portal import PATH, SUCCESS, Portal
 
-_NAME = "org.freedesktop.portal.Desktop"
-_PATH = "/org/freedesktop/portal/desktop"
 _INTERFACE = "org.freedesktop.portal.GlobalShortcuts"
 
 _INTROSPECTION = f"""
@@ -38,22 +36,20 @@ _INTROSPECTION = f"""
 _TRIGGER = "Ctrl+Shift+Meta+D"
 
 
-class ShortcutPortal(BusService):
+class ShortcutPortal(Portal):
     """Agrees to every shortcut; `known` are those that were added in earlier runs."""
 
     def __init__(self, session_bus_address: str, *known: str) -> None:
         self.bound: tuple[str, ...] = ()
         """The shortcuts that a program of this moment has bound."""
         self._known = known
-        self._client = ""
-        self._session = ""
-        super().__init__(session_bus_address, _NAME, _PATH, _INTROSPECTION)
+        super().__init__(session_bus_address, _INTROSPECTION)
 
     def press(self, shortcut: str) -> None:
         """The user presses the keys and lets them go."""
         for signal in ("Activated", "Deactivated"):
             self._emit(
-                _PATH,
+                PATH,
                 _INTERFACE,
                 signal,
                 GLib.Variant("(osta{sv})", (self._session, shortcut, 1, {})),
@@ -63,31 +59,15 @@ class ShortcutPortal(BusService):
         return GLib.Variant("u", 1)
 
     def _answer(self, *call: Any) -> None:
-        self._client, method, arguments, invocation = call[1], call[4], call[5].unpack(), call[6]
-        options = arguments[-1]
-        request = self._path_of("request", options["handle_token"])
-        invocation.return_value(GLib.Variant("(o)", (request,)))
+        method, arguments, invocation = call[4], call[5].unpack(), call[6]
+        self._begin_request(call[1], arguments[-1], invocation)
         if method == "CreateSession":
-            self._session = self._path_of("session", options["session_handle_token"])
-            results = {"session_handle": GLib.Variant("s", self._session)}
+            self._respond_with_session()
         elif method == "ListShortcuts":
-            results = {"shortcuts": _listed(self._known)}
+            self._respond(SUCCESS, {"shortcuts": _listed(self._known)})
         else:
             self.bound = self._known = tuple(name for name, _traits in arguments[1])
-            results = {"shortcuts": _listed(self.bound)}
-        self._emit(
-            request,
-            "org.freedesktop.portal.Request",
-            "Response",
-            GLib.Variant("(ua{sv})", (0, results)),
-        )
-
-    def _path_of(self, kind: str, token: str) -> str:
-        sender = self._client[1:].replace(".", "_")
-        return f"{_PATH}/{kind}/{sender}/{token}"
-
-    def _emit(self, path: str, interface: str, signal: str, arguments: GLib.Variant) -> None:
-        self._bus.connection.emit_signal(self._client, path, interface, signal, arguments)
+            self._respond(SUCCESS, {"shortcuts": _listed(self.bound)})
 
 
 def _listed(shortcuts: tuple[str, ...]) -> GLib.Variant:

@@ -6,12 +6,10 @@ from typing import Any
 
 from gi.repository import GLib
 
-from .bus_service import BusService
 from .keys import Key, Keyboard
+from .portal import REFUSED, SUCCESS, Portal
 from .waiting import wait_until
 
-_NAME = "org.freedesktop.portal.Desktop"
-_PATH = "/org/freedesktop/portal/desktop"
 _INTERFACE = "org.freedesktop.portal.RemoteDesktop"
 
 _INTROSPECTION = f"""
@@ -45,10 +43,9 @@ _INTROSPECTION = f"""
 """
 
 _KEYBOARD = 1
-_SUCCESS, _REFUSED = range(2)
 
 
-class TypingPortal(BusService):
+class TypingPortal(Portal):
     """Types on the display what programs send once the user has agreed, with the keys of evdev.
 
     From version 2 on it gives a token with each consent, which stands for the user once."""
@@ -60,12 +57,9 @@ class TypingPortal(BusService):
         self._version = version
         self._token: str | None = None
         self._presented: str | None = None
-        self._client = ""
-        self._request = ""
-        self._session = ""
         self._is_open = False
         self._waits = threading.Event()
-        super().__init__(session_bus_address, _NAME, _PATH, _INTROSPECTION)
+        super().__init__(session_bus_address, _INTROSPECTION)
 
     def close(self) -> None:
         if self._keyboard:
@@ -85,7 +79,7 @@ class TypingPortal(BusService):
     def refuse(self) -> None:
         """The user does not agree."""
         self._waits.clear()
-        self._respond(_REFUSED, {})
+        self._respond(REFUSED, {})
 
     def withdraw(self) -> None:
         """The user ends it, as by the mark that desktops show meanwhile."""
@@ -103,19 +97,17 @@ class TypingPortal(BusService):
         return GLib.Variant("u", self._version if is_version else _KEYBOARD)
 
     def _answer(self, *call: Any) -> None:
-        self._client, method, arguments, invocation = call[1], call[4], call[5].unpack(), call[6]
+        method, arguments, invocation = call[4], call[5].unpack(), call[6]
         if method == "NotifyKeyboardKeycode":
             self._type(arguments[2], arguments[3], invocation)
             return
         options = arguments[-1]
-        self._request = self._path_of("request", options["handle_token"])
-        invocation.return_value(GLib.Variant("(o)", (self._request,)))
+        self._begin_request(call[1], options, invocation)
         if method == "CreateSession":
-            self._session = self._path_of("session", options["session_handle_token"])
-            self._respond(_SUCCESS, {"session_handle": GLib.Variant("s", self._session)})
+            self._respond_with_session()
         elif method == "SelectDevices":
             self._presented = options.get("restore_token")
-            self._respond(_SUCCESS, {})
+            self._respond(SUCCESS, {})
         elif self._presented and self._presented == self._token:
             self._consent()
         else:
@@ -128,7 +120,7 @@ class TypingPortal(BusService):
             self._token = f"token for {self._session}"
             results["restore_token"] = GLib.Variant("s", self._token)
         self._is_open = True
-        self._respond(_SUCCESS, results)
+        self._respond(SUCCESS, results)
 
     def _type(self, code: int, state: int, invocation: Any) -> None:
         if not self._is_open or not self._keyboard:
@@ -140,18 +132,3 @@ class TypingPortal(BusService):
         else:
             self._keyboard.release(key)
         invocation.return_value(None)
-
-    def _path_of(self, kind: str, token: str) -> str:
-        sender = self._client[1:].replace(".", "_")
-        return f"{_PATH}/{kind}/{sender}/{token}"
-
-    def _respond(self, code: int, results: dict[str, GLib.Variant]) -> None:
-        self._emit(
-            self._request,
-            "org.freedesktop.portal.Request",
-            "Response",
-            GLib.Variant("(ua{sv})", (code, results)),
-        )
-
-    def _emit(self, path: str, interface: str, signal: str, arguments: GLib.Variant) -> None:
-        self._bus.connection.emit_signal(self._client, path, interface, signal, arguments)

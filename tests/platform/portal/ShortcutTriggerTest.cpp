@@ -12,7 +12,7 @@ using shortcuttrigger::understood;
 
 constexpr auto controlShift = modifier::control | modifier::shift;
 
-TEST(ShortcutTrigger, IsWrittenAsTheSpecificationWritesIt) {
+TEST(ShortcutTrigger, IsWrittenInTheWordsOfPortals) {
     EXPECT_EQ(preferred({2, controlShift | modifier::command}), u"CTRL+SHIFT+LOGO+d"_s);
     EXPECT_EQ(preferred({96, modifier::option}), u"ALT+F5"_s);
     EXPECT_EQ(preferred({49, modifier::command}), u"LOGO+space"_s);

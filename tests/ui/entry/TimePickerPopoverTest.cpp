@@ -1,61 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "TimePickerPopover.h"
-
-#include "EntryFixture.h"
-
-#include <controls/Theme.h>
-#include <entry/TimeField.h>
-
-#include <memory>
+#include "TimePickerFixture.h"
 
 namespace quorvane {
 namespace {
 
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
-
-// Midnight of 2024-03-09 in New York, which is 05:00Z.
-constexpr Instant midnight{1709960400};
-
-class TimePickerPopoverTest : public EntryFixture {
-protected:
-    TimeField chip{binding(), {}, dependencies(), &window};
-
-    TimePickerPopoverTest() { chip.setGeometry(20, 20, 120, 30); }
-
-    void openOn(Seconds timeOfDay) {
-        date = midnight + timeOfDay;
-        showWindow();
-        chip.click();
-    }
-
-    QLineEdit& hour() { return field(u"Hour"_s); }
-
-    QLineEdit& minute() { return field(u"Minute"_s); }
-
-    QAbstractButton& period(const QString& name) {
-        return find<QAbstractButton>(QAccessible::RadioButton, name);
-    }
-
-    static void type(const QString& text) {
-        QTest::keyClicks(QApplication::activePopupWidget()->focusWidget(), text);
-    }
-
-    /// Whether its frame says that the text is not taken.
-    static bool isRefused(QWidget& field) {
-        const auto image = field.grab().toImage();
-        return image.pixel(image.width() / 2, 0) ==
-               Theme::of(field.parentWidget()->palette()).danger.rgb();
-    }
-
-    static QString descriptionOf(QWidget& field) {
-        return QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Description);
-    }
-
-    bool isPM() { return period(u"PM"_s).isChecked(); }
-
-    Seconds timeOfDay() const { return Seconds(date.secondsSince1970 - midnight.secondsSince1970); }
-};
+class TimePickerPopoverTest : public TimePickerFixture {};
 
 TEST_F(TimePickerPopoverTest, OpeningShortlyAfterMidnightShowsTwelveAndDropsTheSeconds) {
     openOn(30min + 45s);
@@ -286,92 +235,6 @@ TEST_F(TimePickerPopoverTest, RefusedTextIsReplacedWhenItsFieldIsLeft) {
     EXPECT_EQ(timeOfDay(), 2h + 15min);
 }
 
-TEST_F(TimePickerPopoverTest, WholeTimeTypedInTheHourSetsBothFieldsWithItsLastDigit) {
-    openOn(9h + 15min);
-    type(u"14:0"_s);
-    EXPECT_EQ(hour().text(), u"14:0"_s);
-    EXPECT_EQ(minute().text(), u"15"_s);
-    type(u"5"_s);
-    EXPECT_EQ(hour().text(), u"2"_s);
-    EXPECT_EQ(minute().text(), u"05"_s);
-    EXPECT_TRUE(isPM());
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    EXPECT_TRUE(hour().hasFocus());
-    EXPECT_FALSE(isRefused(hour()));
-}
-
-TEST_F(TimePickerPopoverTest, FourDigitsAreAWholeTime) {
-    openOn(15h + 20min);
-    type(u"1405"_s);
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    hour().selectAll();
-    type(u"0030"_s);
-    EXPECT_EQ(hour().text(), u"12"_s);
-    EXPECT_FALSE(isPM());
-    EXPECT_EQ(timeOfDay(), 30min);
-}
-
-TEST_F(TimePickerPopoverTest, WholeTimeOnTheDialKeepsTheHalfOfTheDay) {
-    openOn(15h + 20min);
-    type(u"9:45"_s);
-    EXPECT_EQ(timeOfDay(), 21h + 45min);
-    hour().selectAll();
-    type(u"12:30"_s);
-    EXPECT_EQ(timeOfDay(), 12h + 30min);
-    hour().selectAll();
-    type(u"0:10"_s);
-    EXPECT_EQ(timeOfDay(), 10min);
-}
-
-TEST_F(TimePickerPopoverTest, WordMayBeTypedAfterAWholeTime) {
-    openOn(9h + 15min);
-    type(u"2:05 pm"_s);
-    EXPECT_TRUE(isPM());
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    EXPECT_FALSE(isRefused(hour()));
-    press(Qt::Key_Return);
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
-TEST_F(TimePickerPopoverTest, WordInTheHourYieldsToAChosenHalf) {
-    openOn(9h + 15min);
-    type(u"7 p"_s);
-    EXPECT_EQ(timeOfDay(), 19h + 15min);
-    press(Qt::Key_A, Qt::AltModifier);
-    EXPECT_EQ(hour().text(), u"7"_s);
-    EXPECT_EQ(timeOfDay(), 7h + 15min);
-    hour().selectAll();
-    type(u"7 p"_s);
-    press(Qt::Key_Up);
-    EXPECT_EQ(hour().text(), u"8"_s);
-    EXPECT_EQ(timeOfDay(), 20h + 15min);
-}
-
-TEST_F(TimePickerPopoverTest, PastedTimeIsTakenAtOnce) {
-    openOn(9h + 15min);
-    paste(u"2:05 pm"_s);
-    EXPECT_EQ(hour().text(), u"2"_s);
-    EXPECT_EQ(minute().text(), u"05"_s);
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    paste(u"11.30"_s);
-    EXPECT_EQ(timeOfDay(), 23h + 30min);
-}
-
-TEST_F(TimePickerPopoverTest, DigitsOfOtherScriptsCountAsDigits) {
-    openOn(9h + 15min);
-    paste(u"٧"_s);
-    EXPECT_EQ(timeOfDay(), 7h + 15min);
-    press(Qt::Key_Up);
-    EXPECT_EQ(hour().text(), u"8"_s);
-    paste(u"۱۴:۰۵"_s);
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    press(Qt::Key_Tab);
-    paste(u"３０"_s);
-    EXPECT_EQ(timeOfDay(), 14h + 30min);
-    EXPECT_FALSE(isRefused(minute()));
-}
-
 TEST_F(TimePickerPopoverTest, AnotherTimeTakesRefusalsBack) {
     openOn(9h + 15min);
     press(Qt::Key_Tab);
@@ -383,39 +246,6 @@ TEST_F(TimePickerPopoverTest, AnotherTimeTakesRefusalsBack) {
     paste(u"x"_s);
     press(Qt::Key_N, Qt::AltModifier);
     EXPECT_FALSE(isRefused(hour()));
-}
-
-TEST_F(TimePickerPopoverTest, LongerTextIsShownSmallerThanTheNumber) {
-    openOn(9h + 15min);
-    const auto large = hour().font().pixelSize();
-    type(u"14:0"_s);
-    EXPECT_LT(hour().font().pixelSize(), large);
-    EXPECT_LE(QFontMetrics(hour().font()).horizontalAdvance(u"14:0"_s), hour().width() - 6);
-    type(u"5"_s);
-    EXPECT_EQ(hour().font().pixelSize(), large);
-}
-
-TEST_F(TimePickerPopoverTest, SignedHoursAreNumbers) {
-    openOn(15h + 20min);
-    paste(u"+7"_s);
-    EXPECT_EQ(timeOfDay(), 19h + 20min);
-    paste(u"-3"_s);
-    EXPECT_EQ(timeOfDay(), 19h + 20min);
-    press(Qt::Key_Up);
-    EXPECT_EQ(hour().text(), u"10"_s);
-    EXPECT_EQ(timeOfDay(), 22h + 20min);
-}
-
-TEST_F(TimePickerPopoverTest, LongTextsAreTakenOrRefusedWhole) {
-    openOn(15h + 20min);
-    const auto seven = QString(9'999, u'0') + u'7';
-    paste(seven);
-    EXPECT_EQ(timeOfDay(), 19h + 20min);
-    for (const auto& text : {seven + u'x', QString(1'000'000, u'1'), QString(1'000'000, u'x')}) {
-        paste(text);
-        EXPECT_EQ(hour().text(), seven);
-        EXPECT_EQ(timeOfDay(), 19h + 20min);
-    }
 }
 
 TEST_F(TimePickerPopoverTest, ThePeriodMovesTheDateByTwelveHoursAndLeavesTheFocus) {
@@ -438,6 +268,7 @@ TEST_F(TimePickerPopoverTest, ThePeriodHasKeysOfItsOwn) {
 }
 
 // The clock shows 13:00.
+
 TEST_F(TimePickerPopoverTest, NowTakesHourAndMinuteAndLeavesTheDay) {
     openOn(9h + 15min + 10s);
     press(Qt::Key_N, Qt::AltModifier);
@@ -518,77 +349,6 @@ TEST_F(TimePickerPopoverTest, TheClockIsNotMirrored) {
     openOn(9h + 15min);
     EXPECT_LT(hour().mapToGlobal(QPoint()).x(), minute().mapToGlobal(QPoint()).x());
     EXPECT_LT(period(u"AM"_s).mapToGlobal(QPoint()).x(), period(u"PM"_s).mapToGlobal(QPoint()).x());
-}
-
-/// Where hours are counted to 23.
-class TimePicker24Test : public TimePickerPopoverTest {
-protected:
-    void openOn(Seconds timeOfDay, const char* locale = "de_DE") {
-        m_chip = std::make_unique<TimeField>(binding(), MinDate(), dependencies(locale), &window);
-        m_chip->show();
-        date = midnight + timeOfDay;
-        showWindow();
-        m_chip->click();
-    }
-
-private:
-    std::unique_ptr<TimeField> m_chip;
-};
-
-TEST_F(TimePicker24Test, ShowsHoursOfTwoDigitsAndNoHalfOfTheDay) {
-    openOn(14h + 5min);
-    EXPECT_EQ(hour().text(), u"14"_s);
-    EXPECT_EQ(minute().text(), u"05"_s);
-    EXPECT_EQ(widgetByRole(window, QAccessible::Client, u"AM or PM"_s), nullptr);
-    press(Qt::Key_A, Qt::AltModifier);
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-}
-
-TEST_F(TimePicker24Test, ShowsMidnightAsTwoNoughts) {
-    openOn(45s);
-    EXPECT_EQ(hour().text(), u"00"_s);
-    EXPECT_EQ(minute().text(), u"00"_s);
-}
-
-TEST_F(TimePicker24Test, HoursGoToTwentyThree) {
-    openOn(9h + 15min);
-    for (int typed = 0; typed < 24; ++typed) {
-        paste(QString::number(typed));
-        EXPECT_EQ(timeOfDay(), typed * 1h + 15min);
-        EXPECT_FALSE(isRefused(hour()));
-    }
-    for (const auto& text : {u"24"_s, u"-1"_s, u"99"_s}) {
-        paste(text);
-        EXPECT_EQ(timeOfDay(), 23h + 15min);
-        EXPECT_TRUE(isRefused(hour()));
-    }
-}
-
-TEST_F(TimePicker24Test, StepsRoundTheDay) {
-    openOn(23h + 15min);
-    press(Qt::Key_Up);
-    EXPECT_EQ(hour().text(), u"00"_s);
-    EXPECT_EQ(timeOfDay(), 15min);
-    press(Qt::Key_Down);
-    EXPECT_EQ(hour().text(), u"23"_s);
-    EXPECT_EQ(timeOfDay(), 23h + 15min);
-    press(Qt::Key_9);
-    press(Qt::Key_Up);
-    EXPECT_EQ(hour().text(), u"10"_s);
-}
-
-TEST_F(TimePicker24Test, WholeTimesSetBothFields) {
-    openOn(9h + 15min);
-    type(u"2:05"_s);
-    EXPECT_EQ(hour().text(), u"02"_s);
-    EXPECT_EQ(timeOfDay(), 2h + 5min);
-    paste(u"2:05 pm"_s);
-    EXPECT_EQ(hour().text(), u"14"_s);
-    EXPECT_EQ(timeOfDay(), 14h + 5min);
-    paste(u"2.30 nachm."_s);
-    EXPECT_EQ(timeOfDay(), 14h + 30min);
-    paste(u"1830"_s);
-    EXPECT_EQ(timeOfDay(), 18h + 30min);
 }
 
 } // namespace

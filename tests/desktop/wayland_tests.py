@@ -1,0 +1,112 @@
+# SPDX-License-Identifier: MIT
+"""Tests that every compositor of Wayland has to pass, each in its own session."""
+
+import os
+
+import test_workflow
+from harness.keys import INSERT, SHORTCUT, Key
+from harness.offer import Offer, plain_text
+from harness.targets import Terminal
+from harness.waiting import wait_until
+from harness.wayland.case import WaylandCase
+
+
+class Session(WaylandCase):
+    """What all other tests stand on."""
+
+    def test_keys_reach_programs_of_wayland_and_of_x11(self) -> None:
+        editor = self.editor()
+        self.keyboard.tap(Key.SHIFT, Key.A)
+        self.keyboard.tap(Key.B)
+        editor.wait_text("Ab")
+        terminal = Terminal(self.session)
+        self.keyboard.tap(Key.D)
+        terminal.wait_text("d")
+        editor.focus()
+        self.keyboard.tap(Key.C)
+        editor.wait_text("Abc")
+
+    def test_the_clipboard_holds_what_a_program_copied(self) -> None:
+        had = [Offer("image/png", os.urandom(3_000_000)), *plain_text("beside it")]
+        self.clipboard.own(had)
+        self.clipboard.wait_for(had)
+
+
+class Workflow(test_workflow.Workflow, WaylandCase):
+    """Into programs of Wayland and of X11."""
+
+    rounds = 5
+
+    def test_a_terminal_of_x11_pastes_what_is_marked(self) -> None:
+        terminal = Terminal(self.session)
+        quorvane = self.hidden_quorvane()
+        terminal.wait_active()
+        marked = plain_text("what the user had marked")
+        self.clipboard.own(marked, "PRIMARY")
+        self.insert(quorvane, terminal)
+        self.clipboard.wait_for(marked, "PRIMARY")
+
+    def test_the_shortcut_in_the_middle_of_typing_costs_no_letter(self) -> None:
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.wait_active()
+        for key in (Key.A, Key.B):
+            self.keyboard.tap(key)
+        self.summon(quorvane)
+        self.keyboard.tap(*SHORTCUT)
+        quorvane.wait_hidden()
+        editor.wait_active()
+        self.keyboard.tap(Key.C)
+        editor.wait_text("abc")
+
+    def test_a_text_of_several_lines_arrives_as_it_is(self) -> None:
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.wait_active()
+        self.summon(quorvane)
+        before = quorvane.preview()
+        for zone in ("Tokyo", "Berlin"):
+            quorvane.tree().find_role("push button", zone).press()
+        quorvane.tree().find_role("radio button", "Lines").press()
+        text = wait_until(
+            lambda: len(quorvane.preview().splitlines()) == 3 and quorvane.preview(),
+            f"three lines instead of {before}",
+        )
+        self.keyboard.tap(*INSERT)
+        editor.wait_text(text)
+
+
+class Clipboard(WaylandCase):
+    """The clipboard of another program, before and after an insertion."""
+
+    def test_four_types_and_three_megabytes_come_back(self) -> None:
+        had = [
+            Offer("image/png", os.urandom(3_000_000)),
+            Offer("text/html", b"<p>a</p>"),
+            Offer("text/plain;charset=utf-8", "süß".encode()),
+            Offer("application/x-empty", b""),
+        ]
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.wait_active()
+        self.clipboard.own(had)
+        self.insert(quorvane, editor)
+        self.clipboard.wait_for(had)
+
+    def test_an_empty_clipboard_is_empty_again(self) -> None:
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.wait_active()
+        self.insert(quorvane, editor)
+        self.clipboard.wait_empty()
+
+    def test_a_copy_stays_when_the_panel_is_closed(self) -> None:
+        quorvane = self.hidden_quorvane()
+        self.clipboard.own(plain_text("what the user had copied"))
+        self.summon(quorvane)
+        text = quorvane.preview()
+        quorvane.tree().find_role("push button", "Copy").press()
+        self.clipboard.wait_data("text/plain;charset=utf-8", text.encode())
+        quorvane.action("toggle")
+        quorvane.wait_hidden()
+        self.assertEqual(text.encode(), self.clipboard.data("text/plain;charset=utf-8"))
