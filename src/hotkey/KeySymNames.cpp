@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "KeySymNames.h"
 
+#include <platform/AnsiKeys.h>
 #include <platform/KeyCodes.h>
 
 #include <algorithm>
@@ -49,38 +50,6 @@ constexpr std::array fixedKeys{
     KeyName{keycode::menu, "Menu"},
 };
 
-struct AnsiKey {
-    std::uint32_t keyCode;
-    char character;
-};
-
-constexpr std::array ansiKeys{
-    AnsiKey{keycode::a, 'a'},           AnsiKey{keycode::b, 'b'},
-    AnsiKey{keycode::c, 'c'},           AnsiKey{keycode::d, 'd'},
-    AnsiKey{keycode::e, 'e'},           AnsiKey{keycode::f, 'f'},
-    AnsiKey{keycode::g, 'g'},           AnsiKey{keycode::h, 'h'},
-    AnsiKey{keycode::i, 'i'},           AnsiKey{keycode::j, 'j'},
-    AnsiKey{keycode::k, 'k'},           AnsiKey{keycode::l, 'l'},
-    AnsiKey{keycode::m, 'm'},           AnsiKey{keycode::n, 'n'},
-    AnsiKey{keycode::o, 'o'},           AnsiKey{keycode::p, 'p'},
-    AnsiKey{keycode::q, 'q'},           AnsiKey{keycode::r, 'r'},
-    AnsiKey{keycode::s, 's'},           AnsiKey{keycode::t, 't'},
-    AnsiKey{keycode::u, 'u'},           AnsiKey{keycode::v, 'v'},
-    AnsiKey{keycode::w, 'w'},           AnsiKey{keycode::x, 'x'},
-    AnsiKey{keycode::y, 'y'},           AnsiKey{keycode::z, 'z'},
-    AnsiKey{keycode::digit0, '0'},      AnsiKey{keycode::digit1, '1'},
-    AnsiKey{keycode::digit2, '2'},      AnsiKey{keycode::digit3, '3'},
-    AnsiKey{keycode::digit4, '4'},      AnsiKey{keycode::digit5, '5'},
-    AnsiKey{keycode::digit6, '6'},      AnsiKey{keycode::digit7, '7'},
-    AnsiKey{keycode::digit8, '8'},      AnsiKey{keycode::digit9, '9'},
-    AnsiKey{keycode::equal, '='},       AnsiKey{keycode::minus, '-'},
-    AnsiKey{keycode::leftBracket, '['}, AnsiKey{keycode::rightBracket, ']'},
-    AnsiKey{keycode::apostrophe, '\''}, AnsiKey{keycode::semicolon, ';'},
-    AnsiKey{keycode::backslash, '\\'},  AnsiKey{keycode::comma, ','},
-    AnsiKey{keycode::slash, '/'},       AnsiKey{keycode::period, '.'},
-    AnsiKey{keycode::grave, '`'},
-};
-
 struct SignName {
     char character;
     const char* name;
@@ -127,9 +96,7 @@ std::optional<QString> keySymName(std::uint32_t keyCode, const KeyboardLayout& l
 std::optional<QString> ansiKeySymName(std::uint32_t keyCode) {
     if (auto name = fixedName(keyCode))
         return name;
-    const auto* row = std::ranges::find(ansiKeys, keyCode, &AnsiKey::keyCode);
-    return row == ansiKeys.end() ? std::nullopt
-                                 : characterName(static_cast<char16_t>(row->character));
+    return characterName(static_cast<char16_t>(ansiCharacterOf(keyCode)));
 }
 
 } // namespace quorvane

@@ -3,6 +3,7 @@
 
 #include "AcceleratorKeys.h"
 
+#include <platform/AnsiKeys.h>
 #include <platform/KeyCodes.h>
 
 #include <xkbcommon/xkbcommon.h>
@@ -93,19 +94,19 @@ std::uint32_t keysymOf(std::uint32_t keyCode, const KeyboardLayout& layout) {
         return xkb_keysym_to_lower(xkb_utf32_to_keysym(character));
     // Desktops look for a letter that the layout in use does not have where Latin keyboards have
     // it. A sign they find where that layout has it.
-    const auto ofAnsi = acceleratorkeys::ansiCharacterOf(keyCode);
+    const auto ofAnsi = ansiCharacterOf(keyCode);
     const bool isKnown = layout.characters(static_cast<std::uint16_t>(keyCode)).has_value();
     const bool isLetter = ofAnsi >= U'a' && ofAnsi <= U'z';
     return isLetter || !isKnown ? xkb_utf32_to_keysym(ofAnsi) : XKB_KEY_NoSymbol;
 }
 
 std::optional<std::uint32_t> keyTyping(char32_t character, const KeyboardLayout& layout) {
-    const auto& keys = acceleratorkeys::charactersOfAnsi();
+    const auto keys = ansiKeys();
     for (const auto& key : keys) {
         if (characterOf(key.keyCode, layout) == character)
             return key.keyCode;
     }
-    const auto ansi = std::ranges::find(keys, character, &acceleratorkeys::AnsiKey::character);
+    const auto ansi = std::ranges::find(keys, character, &AnsiKey::character);
     return ansi == keys.end() ? std::nullopt : std::optional(ansi->keyCode);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ShortcutTrigger.h"
 
+#include <platform/AnsiKeys.h>
 #include <platform/KeyCodes.h>
 
 #include <QStringList>
@@ -38,67 +39,20 @@ constexpr std::array otherModifiers{
     ModifierWord{u"META", modifier::command},
     ModifierWord{u"SUPER", modifier::command}};
 
-constexpr std::array keys{
-    KeyWord{u"a", keycode::a},
-    KeyWord{u"b", keycode::b},
-    KeyWord{u"c", keycode::c},
-    KeyWord{u"d", keycode::d},
-    KeyWord{u"e", keycode::e},
-    KeyWord{u"f", keycode::f},
-    KeyWord{u"g", keycode::g},
-    KeyWord{u"h", keycode::h},
-    KeyWord{u"i", keycode::i},
-    KeyWord{u"j", keycode::j},
-    KeyWord{u"k", keycode::k},
-    KeyWord{u"l", keycode::l},
-    KeyWord{u"m", keycode::m},
-    KeyWord{u"n", keycode::n},
-    KeyWord{u"o", keycode::o},
-    KeyWord{u"p", keycode::p},
-    KeyWord{u"q", keycode::q},
-    KeyWord{u"r", keycode::r},
-    KeyWord{u"s", keycode::s},
-    KeyWord{u"t", keycode::t},
-    KeyWord{u"u", keycode::u},
-    KeyWord{u"v", keycode::v},
-    KeyWord{u"w", keycode::w},
-    KeyWord{u"x", keycode::x},
-    KeyWord{u"y", keycode::y},
-    KeyWord{u"z", keycode::z},
-    KeyWord{u"0", keycode::digit0},
-    KeyWord{u"1", keycode::digit1},
-    KeyWord{u"2", keycode::digit2},
-    KeyWord{u"3", keycode::digit3},
-    KeyWord{u"4", keycode::digit4},
-    KeyWord{u"5", keycode::digit5},
-    KeyWord{u"6", keycode::digit6},
-    KeyWord{u"7", keycode::digit7},
-    KeyWord{u"8", keycode::digit8},
-    KeyWord{u"9", keycode::digit9},
-    KeyWord{u"F1", keycode::f1},
-    KeyWord{u"F2", keycode::f2},
-    KeyWord{u"F3", keycode::f3},
-    KeyWord{u"F4", keycode::f4},
-    KeyWord{u"F5", keycode::f5},
-    KeyWord{u"F6", keycode::f6},
-    KeyWord{u"F7", keycode::f7},
-    KeyWord{u"F8", keycode::f8},
-    KeyWord{u"F9", keycode::f9},
-    KeyWord{u"F10", keycode::f10},
-    KeyWord{u"F11", keycode::f11},
-    KeyWord{u"F12", keycode::f12},
-    KeyWord{u"space", keycode::space},
-    KeyWord{u"Return", keycode::returnKey},
-    KeyWord{u"Tab", keycode::tab},
-    KeyWord{u"Insert", keycode::insert},
-    KeyWord{u"Home", keycode::home},
-    KeyWord{u"End", keycode::end},
-    KeyWord{u"Left", keycode::leftArrow},
-    KeyWord{u"Right", keycode::rightArrow},
-    KeyWord{u"Up", keycode::upArrow},
-    KeyWord{u"Down", keycode::downArrow},
-    KeyWord{u"Page_Up", keycode::pageUp},
-    KeyWord{u"Page_Down", keycode::pageDown}};
+/// Beside letters and digits.
+constexpr std::array namedKeys{
+    KeyWord{u"F1", keycode::f1},          KeyWord{u"F2", keycode::f2},
+    KeyWord{u"F3", keycode::f3},          KeyWord{u"F4", keycode::f4},
+    KeyWord{u"F5", keycode::f5},          KeyWord{u"F6", keycode::f6},
+    KeyWord{u"F7", keycode::f7},          KeyWord{u"F8", keycode::f8},
+    KeyWord{u"F9", keycode::f9},          KeyWord{u"F10", keycode::f10},
+    KeyWord{u"F11", keycode::f11},        KeyWord{u"F12", keycode::f12},
+    KeyWord{u"space", keycode::space},    KeyWord{u"Return", keycode::returnKey},
+    KeyWord{u"Tab", keycode::tab},        KeyWord{u"Insert", keycode::insert},
+    KeyWord{u"Home", keycode::home},      KeyWord{u"End", keycode::end},
+    KeyWord{u"Left", keycode::leftArrow}, KeyWord{u"Right", keycode::rightArrow},
+    KeyWord{u"Up", keycode::upArrow},     KeyWord{u"Down", keycode::downArrow},
+    KeyWord{u"Page_Up", keycode::pageUp}, KeyWord{u"Page_Down", keycode::pageDown}};
 
 template <typename Rows>
 auto rowOf(const Rows& rows, QStringView word) -> const typename Rows::value_type* {
@@ -115,18 +69,37 @@ std::optional<ModifierFlags> modifierOf(QStringView word) {
     return row != nullptr ? std::optional(row->flag) : std::nullopt;
 }
 
+QString wordOf(std::uint32_t keyCode) {
+    const QChar typed(static_cast<char16_t>(ansiCharacterOf(keyCode)));
+    if (typed.isLetterOrNumber())
+        return typed;
+    const auto* row = std::ranges::find(namedKeys, keyCode, &KeyWord::keyCode);
+    return row == namedKeys.end() ? QString() : row->word.toString();
+}
+
+std::optional<std::uint32_t> keyCodeOf(QStringView word) {
+    if (const auto* row = rowOf(namedKeys, word))
+        return row->keyCode;
+    if (word.size() != 1 || !word.front().isLetterOrNumber())
+        return std::nullopt;
+    const auto keys = ansiKeys();
+    const char32_t character = word.front().toLower().unicode();
+    const auto key = std::ranges::find(keys, character, &AnsiKey::character);
+    return key == keys.end() ? std::nullopt : std::optional(key->keyCode);
+}
+
 } // namespace
 
 QString preferred(const KeyChord& chord) {
-    const auto key = std::ranges::find(keys, chord.keyCode, &KeyWord::keyCode);
-    if (key == keys.end())
+    const auto key = wordOf(chord.keyCode);
+    if (key.isEmpty())
         return {};
     QString text;
     for (const auto& [word, flag] : writtenModifiers) {
         if ((chord.flags & flag) == flag)
             text.append(word).append(u'+');
     }
-    return text.append(key->word);
+    return text.append(key);
 }
 
 std::optional<KeyChord> understood(QStringView description) {
@@ -134,10 +107,10 @@ std::optional<KeyChord> understood(QStringView description) {
     if (description.size() > longest)
         return std::nullopt;
     auto words = description.toString().remove(u'<').replace(u'>', u'+').split(u'+');
-    const auto* key = rowOf(keys, words.takeLast().trimmed());
-    if (key == nullptr || words.isEmpty())
+    const auto key = keyCodeOf(words.takeLast().trimmed());
+    if (!key || words.isEmpty())
         return std::nullopt;
-    KeyChord chord{key->keyCode, {}};
+    KeyChord chord{*key, {}};
     for (const auto& word : words) {
         const auto flag = modifierOf(word.trimmed());
         if (!flag)
