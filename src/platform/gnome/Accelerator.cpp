@@ -6,6 +6,7 @@
 #include <platform/AnsiKeys.h>
 #include <platform/KeyCodes.h>
 
+#include <QList>
 #include <xkbcommon/xkbcommon.h>
 
 #include <algorithm>

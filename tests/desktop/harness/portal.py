@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the interfaces of a portal have in common: requests that are answered by a signal."""
+"""The desktop's settings portal, with what it says about the appearance of programs."""
 
 from typing import Any
 
@@ -7,44 +7,57 @@ from gi.repository import GLib
 
 from .bus_service import BusService
 
-PATH = "/org/freedesktop/portal/desktop"
+_NAME = "org.freedesktop.portal.Desktop"
+_PATH = "/org/freedesktop/portal/desktop"
+_INTERFACE = "org.freedesktop.portal.Settings"
+_APPEARANCE = "org.freedesktop.appearance"
 
-SUCCESS, REFUSED = range(2)
+_INTROSPECTION = f"""
+<node>
+  <interface name="{_INTERFACE}">
+    <method name="ReadAll">
+      <arg type="as" direction="in"/>
+      <arg type="a{{sa{{sv}}}}" direction="out"/>
+    </method>
+    <signal name="SettingChanged">
+      <arg type="s"/><arg type="s"/><arg type="v"/>
+    </signal>
+  </interface>
+</node>
+"""
+
+NO_PREFERENCE, DARK, LIGHT = range(3)
+"""The values of color-scheme."""
 
 
 class Portal(BusService):
-    """One interface of a portal, with one client and one session at a time."""
+    """A portal that tells what the test sets; a silent one takes questions and never answers."""
 
-    def __init__(self, session_bus_address: str, introspection: str) -> None:
-        self._client = ""
-        self._request = ""
-        self._session = ""
-        super().__init__(
-            session_bus_address, "org.freedesktop.portal.Desktop", PATH, introspection
-        )
+    def __init__(self, session_bus_address: str, silent: bool = False) -> None:
+        self._silent = silent
+        self._settings: dict[str, GLib.Variant] = {}
+        super().__init__(session_bus_address, _NAME, _PATH, _INTROSPECTION)
 
-    def _begin_request(self, client: str, options: dict[str, Any], invocation: Any) -> None:
-        """Hands out the request that the call is about, and its session where it makes one."""
-        self._client = client
-        self._request = self._path_of("request", options["handle_token"])
-        if "session_handle_token" in options:
-            self._session = self._path_of("session", options["session_handle_token"])
-        invocation.return_value(GLib.Variant("(o)", (self._request,)))
+    def set_scheme(self, scheme: int) -> None:
+        """Says light, dark or nothing."""
+        self._set("color-scheme", GLib.Variant("u", scheme))
 
-    def _respond(self, code: int, results: dict[str, GLib.Variant]) -> None:
-        self._emit(
-            self._request,
-            "org.freedesktop.portal.Request",
-            "Response",
-            GLib.Variant("(ua{sv})", (code, results)),
-        )
+    def set_accent(self, red: float, green: float, blue: float) -> None:
+        """Names an accent, in sRGB from 0 to 1."""
+        self._set("accent-color", GLib.Variant("(ddd)", (red, green, blue)))
 
-    def _respond_with_session(self) -> None:
-        self._respond(SUCCESS, {"session_handle": GLib.Variant("s", self._session)})
+    def set_high_contrast(self, high: bool) -> None:
+        """Asks programs for more contrast, or no longer."""
+        self._set("contrast", GLib.Variant("u", int(high)))
 
-    def _emit(self, path: str, interface: str, signal: str, arguments: GLib.Variant) -> None:
-        self._bus.connection.emit_signal(self._client, path, interface, signal, arguments)
+    def _set(self, key: str, value: GLib.Variant) -> None:
+        self._settings[key] = value
+        arguments = GLib.Variant("(ssv)", (_APPEARANCE, key, value))
+        self._bus.connection.emit_signal(None, _PATH, _INTERFACE, "SettingChanged", arguments)
 
-    def _path_of(self, kind: str, token: str) -> str:
-        sender = self._client[1:].replace(".", "_")
-        return f"{PATH}/{kind}/{sender}/{token}"
+    def _answer(self, *call: Any) -> None:
+        invocation = call[-1]
+        if not self._silent:
+            told = {_APPEARANCE: dict(self._settings)}
+            invocation.return_value(GLib.Variant("(a{sa{sv}})", (told,)))
+        self.asked.set()

@@ -5,7 +5,7 @@ from typing import Any
 
 from gi.repository import GLib
 
-from .portal import PATH, SUCCESS, Portal
+from .request_portal import PATH, SUCCESS, RequestPortal
 
 _INTERFACE = "org.freedesktop.portal.GlobalShortcuts"
 
@@ -36,7 +36,7 @@ _INTROSPECTION = f"""
 _TRIGGER = "Ctrl+Shift+Meta+D"
 
 
-class ShortcutPortal(Portal):
+class ShortcutPortal(RequestPortal):
     """Agrees to every shortcut; `known` are those that were added in earlier runs."""
 
     def __init__(self, session_bus_address: str, *known: str) -> None:

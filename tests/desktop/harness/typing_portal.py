@@ -7,7 +7,7 @@ from typing import Any
 from gi.repository import GLib
 
 from .keys import Key, Keyboard
-from .portal import REFUSED, SUCCESS, Portal
+from .request_portal import REFUSED, SUCCESS, RequestPortal
 from .waiting import wait_until
 
 _INTERFACE = "org.freedesktop.portal.RemoteDesktop"
@@ -45,7 +45,7 @@ _INTROSPECTION = f"""
 _KEYBOARD = 1
 
 
-class TypingPortal(Portal):
+class TypingPortal(RequestPortal):
     """Types on the display what programs send once the user has agreed, with the keys of evdev.
 
     From version 2 on it gives a token with each consent, which stands for the user once."""
