@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "KeptFocus.h"
 #include "PanelPlacement.h"
 #include "WindowActivation.h"
 
@@ -31,6 +32,7 @@ Panel::Panel(QWidget* content)
     layout->addWidget(content);
     setBackground(Background::Plain);
     new FocusRing(this);
+    new KeptFocus(this);
     m_fittingHeight = fittingHeight();
 }
 

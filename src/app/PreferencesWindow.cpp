@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesWindow.h"
 
+#include "KeptFocus.h"
+
 #include <controls/FocusRing.h>
 #include <preferences/PreferencesMetrics.h>
 
@@ -24,6 +26,7 @@ PreferencesWindow::PreferencesWindow(QWidget* content)
     setFixedWidth(preferencesmetrics::size.width());
     resize(preferencesmetrics::size);
     new FocusRing(this);
+    new KeptFocus(this);
     // A shortcut, unlike a key press, is found in layouts without a Latin W as well.
     auto* closing = new QShortcut(Qt::CTRL | Qt::Key_W, this);
     connect(closing, &QShortcut::activated, this, &QWidget::close);

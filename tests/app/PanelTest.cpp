@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "WindowActivation.h"
+
 #include <app/Panel.h>
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QStyleHints>
@@ -46,6 +49,33 @@ TEST_F(PanelTest, ReportsAChangedFittingHeight) {
     QApplication::sendPostedEvents();
     EXPECT_EQ(spy.count(), 1);
     EXPECT_GE(panel.fittingHeight(), 700);
+}
+
+TEST_F(PanelTest, FocusIsWhereItWasThoughTheDesktopGivesItToThePanelOnceMoreAsItIsHidden) {
+    auto* focused = new QLineEdit;
+    column->addWidget(focused);
+    column->addWidget(new QLineEdit);
+    panel.show();
+    makeActive(panel);
+    focused->setFocus();
+    panel.hide();
+    makeActive(panel);
+    panel.show();
+    EXPECT_EQ(panel.focusWidget(), focused);
+}
+
+TEST_F(PanelTest, FocusThatHasNoWidgetAnyMoreStaysWhereItIs) {
+    auto* gone = new QLineEdit;
+    auto* other = new QLineEdit;
+    column->addWidget(gone);
+    column->addWidget(other);
+    panel.show();
+    gone->setFocus();
+    panel.hide();
+    delete gone;
+    other->setFocus();
+    panel.show();
+    EXPECT_EQ(panel.focusWidget(), other);
 }
 
 class PanelDrag : public PanelTest {

@@ -8,6 +8,8 @@ from harness.kwin.session import KwinSession
 from harness.notification_server import NotificationServer
 from harness.quorvane import Quorvane
 
+_END_OF_A_CONNECTION = r" is lost|The X11 connection broke"
+
 
 class LostTarget(test_target.LostTarget, KwinCase):
     """Nothing is typed, the text is copied, and the user is told."""
@@ -49,9 +51,14 @@ class NotInstalled(KwinCase):
 class End(KwinCase):
     """What becomes of the program when KWin has gone."""
 
-    def test_it_ends_and_says_so_in_one_line(self) -> None:
+    def test_it_ends_and_says_so_in_one_line_for_each_connection(self) -> None:
         quorvane = Quorvane(self.session, QT_LOGGING_RULES="quorvane.*=false")
         quorvane.wait_active()
         self.session.kill_compositor()
         self.assertEqual(1, quorvane.process.wait(10))
-        self.assertEqual(1, self.session.log("quorvane").count(" is lost"))
+        # Qt's connection to XWayland may break before ours to KWin, and ends the program then.
+        lines = [line for line in self.session.log("quorvane").splitlines() if line]
+        self.assertEqual(len(set(lines)), len(lines))
+        self.assertIn(len(lines), (1, 2))
+        for line in lines:
+            self.assertRegex(line, _END_OF_A_CONNECTION)
