@@ -56,9 +56,9 @@ class End(KwinCase):
         quorvane.wait_active()
         self.session.kill_compositor()
         self.assertEqual(1, quorvane.process.wait(10))
-        # Qt's connection to XWayland may break before ours to KWin, and ends the program then.
+        # Ours to KWin and to XWayland, and Qt's: whichever breaks first ends the program.
         lines = [line for line in self.session.log("quorvane").splitlines() if line]
         self.assertEqual(len(set(lines)), len(lines))
-        self.assertIn(len(lines), (1, 2))
+        self.assertTrue(lines)
         for line in lines:
             self.assertRegex(line, _END_OF_A_CONNECTION)
