@@ -13,6 +13,9 @@ inline constexpr QStringView registry = u"org.freedesktop.host.portal.Registry";
 inline constexpr QStringView request = u"org.freedesktop.portal.Request";
 inline constexpr QStringView session = u"org.freedesktop.portal.Session";
 inline constexpr QStringView globalShortcuts = u"org.freedesktop.portal.GlobalShortcuts";
+/// Of the desktop's own service.
+inline constexpr QStringView globalShortcutsOfTheDesktop =
+    u"org.freedesktop.impl.portal.GlobalShortcuts";
 inline constexpr QStringView remoteDesktop = u"org.freedesktop.portal.RemoteDesktop";
 
 } // namespace quorvane::portalname

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "PortalBackendName.h"
 #include "PortalLog.h"
 #include "PortalNames.h"
 #include "PortalSession.h"
@@ -36,13 +37,19 @@ PortalShortcut::PortalShortcut(
     std::shared_ptr<PortalDesktop> portal, MainQueue& queue, DefaultsStore& defaults)
     : m_portal(std::move(portal)),
       m_queue(queue),
-      m_defaults(defaults) {
+      m_defaults(defaults),
+      m_backendName(std::make_unique<PortalBackendName>(
+          m_portal->bus(), portalname::globalShortcutsOfTheDesktop.toString())) {
     connect(m_portal.get(), &PortalDesktop::lost, this, &PortalShortcut::lose);
     connect(m_portal.get(), &PortalDesktop::appeared, this, &PortalShortcut::look);
     look();
 }
 
 PortalShortcut::~PortalShortcut() = default;
+
+QString PortalShortcut::desktopName() const {
+    return m_backendName->name();
+}
 
 std::optional<KeyChord> PortalShortcut::chord() const {
     if (!m_isBound)
@@ -93,6 +100,8 @@ void PortalShortcut::look() {
         m_isOffered = properties.has_value();
         if (m_isOffered && !m_session && setting::portalShortcut.valueIn(m_defaults))
             makeSession([this] { recall(); });
+        if (m_isOffered)
+            m_backendName->look([this] { m_changed(); });
         m_changed();
     });
 }

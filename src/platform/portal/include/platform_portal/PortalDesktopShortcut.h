@@ -16,7 +16,10 @@ public:
         : m_shortcut(std::move(shortcut)) {}
 
     [[nodiscard]] QString desktopName() const override {
-        return m_shortcut->isOffered() ? PortalShortcut::tr("the desktop") : QString();
+        if (!m_shortcut->isOffered())
+            return {};
+        const auto name = m_shortcut->desktopName();
+        return name.isEmpty() ? PortalShortcut::tr("the desktop") : name;
     }
 
     [[nodiscard]] std::optional<KeyChord> bound() const override { return m_shortcut->chord(); }

@@ -14,6 +14,7 @@
 
 namespace quorvane {
 
+class PortalBackendName;
 class PortalSession;
 
 /// The shortcut as the portal delivers it (org.freedesktop.portal.GlobalShortcuts), once the user
@@ -43,6 +44,9 @@ public:
     /// Whether the portal has shortcuts to give; not before it has said so.
     [[nodiscard]] bool isOffered() const { return m_isOffered; }
 
+    /// What people call the desktop that gives them; empty where it is not known.
+    [[nodiscard]] QString desktopName() const;
+
     [[nodiscard]] bool isBound() const { return m_isBound; }
 
     /// As far as it can be understood, else as it was wished for; none while it is not bound.
@@ -63,7 +67,8 @@ public:
     /// Who gets the presses from now on.
     void deliverTo(Presses presses) { m_presses = std::move(presses); }
 
-    /// isOffered(), isBound() or chord() may say something else; replaces an earlier handler.
+    /// isOffered(), desktopName(), isBound() or chord() may say something else; replaces an earlier
+    /// handler.
     void onChanged(std::function<void()> handler) { m_changed = std::move(handler); }
 
 private Q_SLOTS:
@@ -89,6 +94,7 @@ private:
     std::shared_ptr<PortalDesktop> m_portal;
     MainQueue& m_queue;
     DefaultsStore& m_defaults;
+    std::unique_ptr<PortalBackendName> m_backendName;
     std::unique_ptr<PortalSession> m_session;
     QString m_listenedOwner;
     bool m_isOffered = false;
