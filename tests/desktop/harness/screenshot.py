@@ -25,11 +25,34 @@ class Picture:
         geometry = target.get_geometry()
         place = root.translate_coords(target, 0, 0)
         screen = display.screen()
-        self._width = min(geometry.width, screen.width_in_pixels - place.x)
-        self._height = min(geometry.height, screen.height_in_pixels - place.y)
+        self.width = min(geometry.width, screen.width_in_pixels - place.x)
+        self.height = min(geometry.height, screen.height_in_pixels - place.y)
         self._pixels: bytes = root.get_image(
-            place.x, place.y, self._width, self._height, X.ZPixmap, 0xFFFFFFFF
+            place.x, place.y, self.width, self.height, X.ZPixmap, 0xFFFFFFFF
         ).data
+
+    def cropped(self, left: int, top: int, width: int, height: int) -> "Picture":
+        """A part of the picture, which has to be inside of it."""
+        part = object.__new__(Picture)
+        part.width, part.height = width, height
+        part._pixels = b"".join(
+            self._row(y)[_BYTES_PER_PIXEL * left : _BYTES_PER_PIXEL * (left + width)]
+            for y in range(top, top + height)
+        )
+        return part
+
+    def difference(self, other: "Picture") -> tuple[int, int, int, int] | None:
+        """Left, top, width and height of what is not as in another picture of the same size."""
+        rows = [y for y in range(self.height) if self._row(y) != other._row(y)]
+        if not rows:
+            return None
+        columns = [
+            x
+            for x in range(self.width)
+            if any(self.color(x, y) != other.color(x, y) for y in rows)
+        ]
+        left, right = columns[0], columns[-1]
+        return left, rows[0], right - left + 1, rows[-1] - rows[0] + 1
 
     def __eq__(self, other: object) -> bool:
         return isinstance(other, Picture) and self._pixels == other._pixels
@@ -44,35 +67,47 @@ class Picture:
 
     def color(self, x: int, y: int) -> int:
         """The pixel at a place, as 0xRRGGBB."""
-        start = _BYTES_PER_PIXEL * (y * self._width + x)
+        start = _BYTES_PER_PIXEL * (y * self.width + x)
         return int.from_bytes(self._pixels[start : start + 3], "little")
 
     def write(self, file: Path) -> None:
         """Writes the picture as a PNG file (ISO/IEC 15948)."""
-        header = struct.pack(">IIBBBBB", self._width, self._height, 8, 2, 0, 0, 0)
+        data = zlib.compress(self.scanlines(0, 0, self.width, self.height))
         file.write_bytes(
-            b"\x89PNG\r\n\x1a\n"
-            + _chunk(b"IHDR", header)
-            + _chunk(b"IDAT", zlib.compress(self._scanlines()))
-            + _chunk(b"IEND", b"")
+            png_header(self.width, self.height)
+            + png_chunk(b"IDAT", data)
+            + png_chunk(b"IEND", b"")
         )
 
-    def _scanlines(self) -> bytes:
-        rgb = bytearray(3 * self._width * self._height)
-        for channel in range(3):
-            rgb[channel::3] = self._pixels[2 - channel :: _BYTES_PER_PIXEL]
-        length = 3 * self._width
+    def scanlines(self, left: int, top: int, width: int, height: int) -> bytes:
+        """A part of the pixels as PNG has them: red first, each line after its filter, none."""
         no_filter = b"\0"
         return b"".join(
-            no_filter + rgb[start : start + length] for start in range(0, len(rgb), length)
+            no_filter + self._rgb(left, y, width) for y in range(top, top + height)
         )
+
+    def _rgb(self, left: int, y: int, width: int) -> bytes:
+        part = self._row(y)[_BYTES_PER_PIXEL * left : _BYTES_PER_PIXEL * (left + width)]
+        rgb = bytearray(3 * width)
+        for channel in range(3):
+            rgb[channel::3] = part[2 - channel :: _BYTES_PER_PIXEL]
+        return bytes(rgb)
+
+    def _row(self, y: int) -> bytes:
+        length = _BYTES_PER_PIXEL * self.width
+        return self._pixels[y * length : (y + 1) * length]
 
 
 def take(session: Session, window: int, file: Path) -> None:
     """Writes a picture of a window once it is painted and has come to rest."""
+    at_rest(session, window).write(file)
+
+
+def at_rest(session: Session, window: int) -> Picture:
+    """A picture of a window once it is painted and has come to rest."""
     display = Display(session.display)
     try:
-        wait_until(lambda: _at_rest(display, window), "a painted window", interval=0.1).write(file)
+        return wait_until(lambda: _at_rest(display, window), "a painted window", interval=0.1)
     finally:
         display.close()
 
@@ -82,6 +117,13 @@ def _at_rest(display: Display, window: int) -> Picture | None:
     return second if first == second and second.is_painted() else None
 
 
-def _chunk(kind: bytes, data: bytes) -> bytes:
+def png_header(width: int, height: int) -> bytes:
+    """How a PNG file of eight bits a colour begins."""
+    header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
+    return b"\x89PNG\r\n\x1a\n" + png_chunk(b"IHDR", header)
+
+
+def png_chunk(kind: bytes, data: bytes) -> bytes:
+    """A piece of a PNG file."""
     checksum = zlib.crc32(kind + data)
     return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", checksum)
