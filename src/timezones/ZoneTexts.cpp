@@ -2,6 +2,7 @@
 #include <time/ZoneNames.h>
 #include <timezones/ZoneTexts.h>
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <cstdlib>
@@ -75,7 +76,10 @@ QString placeName(const QString& identifier) {
 QString placeAndOffset(const TimeZone& zone, Instant instant) {
     const auto place = placeName(zone.identifier());
     const auto offset = offsetString(zone, instant).replace(u'-', minus);
-    return place.startsWith("UTC"_L1) ? place : u"%1, %2"_s.arg(place, offset);
+    if (place.startsWith("UTC"_L1))
+        return place;
+    //: A place and its offset: "Toronto, UTC−5"
+    return QCoreApplication::translate("ZoneTexts", "%1, %2").arg(place, offset);
 }
 
 QString zoneLabel(const TimeZone& zone, Instant instant, const UserLocale& locale) {

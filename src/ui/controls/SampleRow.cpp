@@ -10,8 +10,6 @@
 
 namespace quorvane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int leastCodeColumn = 44;
@@ -31,7 +29,8 @@ SampleRow::SampleRow(SampleItem item, SampleList::Form form, const QFont& codeFo
       m_item(std::move(item)),
       m_form(form),
       m_codeFont(codeFont) {
-    setAccessibleDescription(u"%1, %2"_s.arg(m_item.code, m_item.sample));
+    //: Letters of a pattern, then what they make: "yyyy, 2026"
+    setAccessibleDescription(tr("%1, %2").arg(m_item.code, m_item.sample));
 }
 
 QSize SampleRow::sizeHint() const {

@@ -12,7 +12,8 @@ std::optional<QString> FavoriteTZRow::abbreviation() const {
 
 QString FavoriteTZRow::description() const {
     const auto name = abbreviation();
-    return name ? u"%1, %2"_s.arg(offsetString(), *name) : offsetString();
+    //: The offset and the name of a time zone: "UTC-5, EST"
+    return name ? tr("%1, %2").arg(offsetString(), *name) : offsetString();
 }
 
 } // namespace quorvane

@@ -3,10 +3,14 @@
 
 #include <picker/TimeZoneRow.h>
 
+#include <QCoreApplication>
+
 namespace quorvane {
 
 /// What the list of favourites shows of one zone at one instant.
 class FavoriteTZRow {
+    Q_DECLARE_TR_FUNCTIONS(FavoriteTZRow)
+
 public:
     explicit FavoriteTZRow(TimeZoneRow row) : m_row(std::move(row)) {}
 

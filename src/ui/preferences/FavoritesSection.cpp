@@ -52,7 +52,7 @@ FavoritesSection::FavoritesSection(
           this)),
       m_list(new ZoneList(this)),
       m_nothing(new NothingFound(m_list)),
-      m_found(queue, *m_list, *m_nothing) {
+      m_found(queue, *m_list, *m_nothing, model.locale()) {
     m_field->setTrailingRoom(StarredFilter::room);
     m_list->setItemDelegate(new FavoriteRowDelegate(m_list));
     m_list->setModel(m_rows);

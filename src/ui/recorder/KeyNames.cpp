@@ -166,7 +166,7 @@ QString spokenKey(std::uint32_t keyCode, const KeyboardLayout& layout) {
         return QCoreApplication::translate(context, row->name);
     if (const auto label = readableLabel(keyCode, layout))
         return *label;
-    return QCoreApplication::translate(context, "Key %1").arg(keyCode);
+    return QCoreApplication::translate("KeyNames", "Key %1").arg(keyCode);
 }
 
 QStringList spokenKeys(const HotKeyCombo& combo, const KeyboardLayout& layout) {

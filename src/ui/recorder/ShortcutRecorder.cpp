@@ -143,6 +143,14 @@ QString ShortcutRecorder::notice() const {
     return price();
 }
 
+/// "Control, Shift, D".
+QString ShortcutRecorder::spokenList(const QStringList& names) {
+    auto list = names.front();
+    for (const auto& name : names.mid(1))
+        list = tr("%1, %2").arg(list, name);
+    return list;
+}
+
 /// What can no longer be typed while Shift and a key are the shortcut.
 QString ShortcutRecorder::lostByShift(const QString& key) {
     return key.front().isLetter()
@@ -170,8 +178,8 @@ void ShortcutRecorder::refreshTexts() {
     m_button->setFace(
         m_isRecording ? Symbol::XmarkCircleFill : Symbol::Keyboard,
         m_isRecording ? tr("Cancel") : tr("Record new shortcut"));
-    const auto spoken = keyNames().join(u", "_s);
-    const auto described = notice().isEmpty() ? spoken : spoken + u". "_s + notice();
+    const auto spoken = spokenList(keyNames());
+    const auto described = notice().isEmpty() ? spoken : tr("%1. %2").arg(spoken, notice());
     setAccessibleDescription(m_isRecording ? tr("Recording: %1").arg(spoken) : described);
     // Told when the focus comes back to it: this is what the recording has led to.
     m_button->setAccessibleDescription(m_isRecording ? QString() : described);

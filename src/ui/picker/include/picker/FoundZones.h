@@ -2,6 +2,7 @@
 #pragma once
 
 #include <controls/PausedAnnouncement.h>
+#include <time/UserLocale.h>
 
 #include <QCoreApplication>
 
@@ -15,8 +16,8 @@ class FoundZones {
     Q_DECLARE_TR_FUNCTIONS(FoundZones)
 
 public:
-    /// All must outlive this.
-    FoundZones(MainQueue& queue, ZoneList& list, const NothingFound& nothing);
+    /// The first three must outlive this.
+    FoundZones(MainQueue& queue, ZoneList& list, const NothingFound& nothing, UserLocale numbers);
 
     /// Tells soon what the list holds now.
     void tell();
@@ -29,6 +30,7 @@ private:
 
     ZoneList& m_list;
     const NothingFound& m_nothing;
+    UserLocale m_numbers;
     PausedAnnouncement m_announcement;
 };
 

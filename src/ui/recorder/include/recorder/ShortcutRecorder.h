@@ -82,6 +82,7 @@ private:
 
     [[nodiscard]] QStringList keyNames() const;
     [[nodiscard]] QString price() const;
+    [[nodiscard]] static QString spokenList(const QStringList& names);
     [[nodiscard]] static QString lostByShift(const QString& key);
     void refreshCaps();
     void refreshTexts();
