@@ -6,6 +6,7 @@
 #include "TerminationSignals.h"
 
 #include <controls/ToolTipWrapping.h>
+#include <language/InterfaceLanguage.h>
 #include <loop/Failure.h>
 #include <loop/QtMainQueue.h>
 #include <platform_dbus/DBusApplicationInstance.h>
@@ -161,6 +162,8 @@ int main(int argc, char** argv) {
     // The constructor of the model writes settings, which a second process must not do.
     if (instance.claim(requestOf(commandLine)) == ApplicationInstance::Role::Second)
         return 0;
+    const InterfaceLanguage language(environment);
+    QGuiApplication::setLayoutDirection(language.direction());
     // Static: exit(), which Qt calls when its connection to the display breaks, waits for it, too.
     static Disk disk;
     const int status =
