@@ -8,7 +8,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from tree import ID, install, installed_files
+from tree import ID, LANGUAGES, install, installed_files
 
 _SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 _FILES = sorted(
@@ -21,6 +21,7 @@ _FILES = sorted(
         "share/man/man1/quorvane.1",
         f"share/metainfo/{ID}.metainfo.xml",
     ]
+    + [f"share/man/{language}/man1/quorvane.1" for language in LANGUAGES]
     + [f"share/icons/hicolor/{size}x{size}/apps/{ID}.png" for size in _SIZES]
 )
 

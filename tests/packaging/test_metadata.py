@@ -9,7 +9,7 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 import yaml
-from tree import ID, TREE, install, run
+from tree import ID, LANGUAGES, TREE, install, run
 
 _PACKAGING = TREE / "packaging"
 
@@ -26,6 +26,16 @@ _EXPECTED_REMARKS = {
 
 # What only developers need: a compiler is there wherever packages are built.
 _NOT_FOR_PACKAGES = {"g++", "ccache", "libgtest-dev", "libgmock-dev", "libbenchmark-dev"}
+
+
+# The elements of the metainfo that people read, but for names.
+_TRANSLATED = {"summary", "p", "li", "keyword", "caption"}
+_LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
+
+
+def marks(manual: str) -> list[str]:
+    """Its headings, paragraphs and marked words, in their order."""
+    return [mark for mark in re.findall(r"^\.\w+", manual, re.MULTILINE) if mark != ".ad"]
 
 
 def version() -> str:
@@ -73,17 +83,45 @@ class Metadata(unittest.TestCase):
         self.assertIn("successful", checked.stdout)
 
     def test_the_manual_has_no_mistakes(self) -> None:
-        file = self.share / "man" / "man1" / "quorvane.1"
-        checked = run(["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", file])
-        self.assertEqual(0, checked.returncode)
-        self.assertNotIn("warning", checked.stdout)
-        shown = run(["man", "-l", file], MANWIDTH="80", MANPAGER="cat").stdout
-        for word in (version(), "--hidden", "toggle", "preferences", "defaults.json"):
-            self.assertIn(word, shown)
+        for folder in ("man1", *(f"{language}/man1" for language in LANGUAGES)):
+            file = self.share / "man" / folder / "quorvane.1"
+            checked = run(["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", file])
+            self.assertEqual(0, checked.returncode)
+            warnings = [line for line in checked.stdout.splitlines() if "warning" in line]
+            self.assertEqual([], warnings, folder)
+            shown = run(["man", "-l", file], MANWIDTH="80", MANPAGER="cat").stdout
+            for word in (version(), "--hidden", "toggle", "preferences", "defaults.json"):
+                self.assertIn(word, shown)
+
+    def test_the_manual_says_the_same_in_every_language(self) -> None:
+        wanted = marks(text(_PACKAGING / "quorvane.1.in"))
+        for language in LANGUAGES:
+            self.assertEqual(wanted, marks(text(_PACKAGING / f"quorvane.{language}.1.in")))
+
+    def test_the_menu_entry_is_translated(self) -> None:
+        file = configparser.ConfigParser(interpolation=None)
+        file.read(self.share / "applications" / f"{ID}.desktop")
+        for section in file.values():
+            for key in ("genericname", "comment", "keywords", "name"):
+                if key in section and section[key] != "Quorvane":
+                    for language in LANGUAGES:
+                        self.assertTrue(section.get(f"{key}[{language}]"), f"{key} {language}")
+
+    def test_what_software_centres_show_is_translated(self) -> None:
+        tree = ElementTree.parse(self.share / "metainfo" / f"{ID}.metainfo.xml")
+        for parent in tree.iter():
+            for tag in _TRANSLATED & {child.tag for child in parent}:
+                ours = [child.get(_LANGUAGE) for child in parent.findall(tag)]
+                for language in LANGUAGES:
+                    self.assertEqual(ours.count(None), ours.count(language), f"{tag} {language}")
 
     def test_prose_is_spelled_as_in_the_dictionary(self) -> None:
         files = ["README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs", "packaging", "dev"]
-        checked = run(["codespell", "--skip", "*.png", *(TREE / name for name in files)])
+        # The dictionary is English.
+        skipped = ",".join(["*.png", *(f"quorvane.{language}.1.in" for language in LANGUAGES)])
+        foreign = r"^.*(xml:lang=|\[[a-z_A-Z]+\]=).*$"
+        options = ["--skip", skipped, "--ignore-regex", foreign]
+        checked = run(["codespell", *options, *(TREE / name for name in files)])
         self.assertEqual((0, ""), (checked.returncode, checked.stdout))
 
 

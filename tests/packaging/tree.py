@@ -10,6 +10,11 @@ TREE = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ.get("QUORVANE_BUILD", TREE / "build"))
 CMAKE = os.environ.get("QUORVANE_CMAKE", "cmake")
 ID = "org.quorvane.Quorvane"
+# Beside English.
+LANGUAGES = sorted(
+    file.stem.removeprefix("quorvane_")
+    for file in (TREE / "resources" / "translations").glob("quorvane_*.ts")
+)
 
 
 def run(
