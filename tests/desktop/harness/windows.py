@@ -104,9 +104,14 @@ class Windows:
         return None
 
     def active(self) -> int | None:
-        """The window that has the user's attention."""
+        """The window that has the user's attention, and the keyboard.
+
+        Window managers go on naming a window that was hidden, and name it when it shows again,
+        before they have given it the keyboard.
+        """
         if self.is_managed():
-            return self._first(self._root, "_NET_ACTIVE_WINDOW")
+            named = self._first(self._root, "_NET_ACTIVE_WINDOW")
+            return named if named and self._has_keyboard(named) else None
         focus = self._display.get_input_focus().focus
         return focus.id if isinstance(focus, Window) and focus != self._root else None
 
@@ -194,6 +199,21 @@ class Windows:
 
         wait_until(answers, "an answer from the window manager")
         return probe
+
+    def _has_keyboard(self, window: int) -> bool:
+        # Selected before it is asked: a wait goes on with the event.
+        self._window(window).change_attributes(
+            event_mask=X.FocusChangeMask, onerror=lambda *_: None
+        )
+        focus = self._display.get_input_focus().focus
+        try:
+            while isinstance(focus, Window) and focus != self._root:
+                if focus.id == window:
+                    return True
+                focus = focus.query_tree().parent
+        except XError:
+            pass  # it went while it was looked at
+        return False
 
     def _wait_for_event(self, deadline: Deadline) -> None:
         # The question asked before may have read the event into the client's queue already.
