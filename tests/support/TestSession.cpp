@@ -19,6 +19,7 @@ constexpr std::array keptVariables{
     "TERM",
     "QT_LOGGING_RULES",
     "QUORVANE_GALLERY_FOLDER",
+    "QUORVANE_THOROUGH",
     "ASAN_OPTIONS",
     "LSAN_OPTIONS",
     "UBSAN_OPTIONS"};
