@@ -2,7 +2,9 @@
 """A whole X11 desktop session that shares nothing with the one the tests run in."""
 
 import os
+import subprocess
 from contextlib import ExitStack
+from typing import NamedTuple
 
 from .accessible import Accessibility
 from .paths import TREE
@@ -15,6 +17,13 @@ _WINDOW_MANAGERS = {
     "xfwm4": ["xfwm4", "--compositor=off"],
     "i3": ["i3", "-c", str(TREE / "tests" / "desktop" / "harness" / "i3.conf")],
 }
+
+
+class XServer(NamedTuple):
+    """A running X server, and what its clients call it."""
+
+    display: str
+    process: subprocess.Popen[bytes]
 
 
 class Session(PrivateSession):
@@ -30,6 +39,34 @@ class Session(PrivateSession):
         """Starts a bus that is empty but for its services, and returns its address."""
         return self._make_bus(name).address
 
+    def start_server(self) -> XServer:
+        """Starts an X server that nobody uses yet."""
+        reading, writing = os.pipe()
+        try:
+            process = self._processes.start(
+                # The server would otherwise begin a new life with every last client that leaves.
+                ["Xvfb", "-displayfd", str(writing), "-noreset", "-nolisten", "tcp"]
+                + ["-screen", "0", "1280x800x24"],
+                self.environment,
+                pass_fds=[writing],
+            )
+        finally:
+            os.close(writing)
+        with os.fdopen(reading) as announcement:
+            number = announcement.readline().strip()
+        if not number:
+            raise RuntimeError(f"no X server:\n{self.logs()}")
+        return XServer(f":{number}", process)
+
+    def replace_manager(self, name: str) -> None:
+        """Has another window manager take over, and waits until it has."""
+        before = self.windows.manager()
+        self.start([*_WINDOW_MANAGERS[name], "--replace"])
+        self.windows.wait(
+            lambda: self.windows.manager() not in (None, before), f"{name} to take over"
+        )
+        self.windows.wait_for_manager()
+
     def restart_bus(self) -> None:
         """Ends the session's bus as a crash would, and starts another one at its place."""
         self.bus.restart()
@@ -38,7 +75,7 @@ class Session(PrivateSession):
     def _begin(self, undo: ExitStack) -> None:
         # No settings daemon: GTK programs start at once.
         self.environment["GSETTINGS_BACKEND"] = "memory"
-        self.display = self._start_server()
+        self.display = self.start_server().display
         self.environment["DISPLAY"] = self.display
         self.bus = self._make_bus("bus")
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
@@ -52,21 +89,3 @@ class Session(PrivateSession):
 
     def _make_bus(self, name: str) -> SessionBus:
         return SessionBus(self._processes, self.environment.copy(), self.directory(name))
-
-    def _start_server(self) -> str:
-        reading, writing = os.pipe()
-        try:
-            self._processes.start(
-                # The server would otherwise begin a new life with every last client that leaves.
-                ["Xvfb", "-displayfd", str(writing), "-noreset", "-nolisten", "tcp"]
-                + ["-screen", "0", "1280x800x24"],
-                self.environment,
-                pass_fds=[writing],
-            )
-        finally:
-            os.close(writing)
-        with os.fdopen(reading) as announcement:
-            number = announcement.readline().strip()
-        if not number:
-            raise RuntimeError(f"no X server:\n{self.logs()}")
-        return f":{number}"

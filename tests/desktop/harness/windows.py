@@ -63,6 +63,10 @@ class Windows:
         check = self._first(self._root, "_NET_SUPPORTING_WM_CHECK")
         return bool(check) and self._first(self._window(check), "_NET_SUPPORTING_WM_CHECK") == check
 
+    def manager(self) -> int | None:
+        """The window by which the window manager at work announces itself."""
+        return self._first(self._root, "_NET_SUPPORTING_WM_CHECK") if self.is_managed() else None
+
     def wait_for_manager(self) -> None:
         """Waits until a window manager is at work.
 
