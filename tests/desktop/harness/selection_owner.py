@@ -39,12 +39,17 @@ class SelectionOwner(SelectionClient):
 
     def own(self, selection: str, offers: list[Offer]) -> None:
         """Takes the selection."""
-        self._offers = {offer.target: offer for offer in offers}
-        self._since = self.server_time()
-        self.window.set_selection_owner(self.atom(selection), self._since)
+        self.claim(selection, offers, self.server_time())
         owner = self.display.get_selection_owner(self.atom(selection))
         if owner == X.NONE or owner.id != self.window.id:
             raise RuntimeError(f"{selection} is not ours")
+
+    def claim(self, selection: str, offers: list[Offer], since: int) -> None:
+        """Asks for the selection as of a time of the server, and does not look who got it."""
+        self._offers = {offer.target: offer for offer in offers}
+        self._since = since
+        self.window.set_selection_owner(self.atom(selection), since)
+        self.display.flush()
 
     def handle(self, event: Event) -> bool:
         """Does what an event asks for; false once the selection is lost."""
