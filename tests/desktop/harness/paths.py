@@ -18,6 +18,9 @@ MOVED_CLOCK = Path(
 )
 """What is preloaded into a program whose clock a test moves."""
 
+CONTACTS = Path(os.environ.get("QUORVANE_CONTACTS_LIBRARY", TREE / "build" / "tests" / "contacts.so"))
+"""What is preloaded into a program to see whom it connects to."""
+
 TEXT_FIELD = Path(
     os.environ.get("QUORVANE_TEXT_FIELD", TREE / "build" / "tests" / "quorvane-text-field")
 )
