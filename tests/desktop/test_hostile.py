@@ -82,7 +82,7 @@ class Clipboard(HostileCase):
         thief = self.thief(times=20_000, greedy=True)
 
         def quarrel() -> None:
-            self.clipboard.own(_MINE)
+            self.quorvane.action("copy")
             self.quorvane.action("insert")
             self.quorvane.action("copy")
             wait_until(lambda: thief.thefts > 3000, "a quarrel about the clipboard")
