@@ -129,10 +129,12 @@ std::optional<PosixRule> PosixRule::parse(QByteArrayView text) {
     PosixRule rule;
     reader.skipName();
     rule.m_standard = {-reader.time(), false};
+    reader.require(rule.m_standard.isPossible());
     if (!reader.isBroken() && !reader.isAtEnd()) {
         reader.skipName();
         const bool hasOwnOffset = !reader.skip(',');
         rule.m_daylight = {hasOwnOffset ? -reader.time() : rule.m_standard.seconds + 3600, true};
+        reader.require(rule.m_daylight->isPossible());
         reader.require(!hasOwnOffset || reader.skip(','));
         rule.m_start = reader.moment();
         reader.require(reader.skip(','));

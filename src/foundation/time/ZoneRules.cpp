@@ -118,7 +118,8 @@ std::optional<ZoneRules> ZoneRules::parse(QByteArrayView file) {
     const auto indices = reader.take(header->times);
     const auto types = readTypes(reader, header->types);
     reader.take(header->trailingSize(isLong ? 8 : 4));
-    if (reader.isShort() || !std::ranges::is_sorted(times))
+    if (reader.isShort() || !std::ranges::is_sorted(times) ||
+        !std::ranges::all_of(types, &LocalOffset::isPossible))
         return std::nullopt;
     ZoneRules rules;
     rules.m_first = types.front();

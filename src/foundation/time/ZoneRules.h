@@ -18,7 +18,7 @@ public:
     /// The same offset always: none.
     ZoneRules() = default;
 
-    /// None for bytes that are no such file, or are cut off.
+    /// None for bytes that are no such file, are cut off, or have an offset that no place can have.
     [[nodiscard]] static std::optional<ZoneRules> parse(QByteArrayView file);
 
     /// At so many seconds since 1970.

@@ -2,7 +2,10 @@
 #include "ZoneRules.h"
 
 #include <QFile>
+#include <QtEndian>
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace quorvane {
 namespace {
@@ -24,6 +27,34 @@ TEST(ZoneRules, FileThatIsCutOffOrNoneAtAllGivesNone) {
     auto counts = bytes;
     counts.replace(20, 24, QByteArray(24, '\xff'));
     EXPECT_FALSE(ZoneRules::parse(counts).has_value());
+}
+
+/// A file of the first version with one type and no transitions.
+QByteArray fileWithOffset(qint32 seconds) {
+    QByteArray file =
+        "TZif" + QByteArray(16 + 24, '\0') + QByteArray(6, '\0') + QByteArray("A\0", 2);
+    qToBigEndian<quint32>(1, file.data() + 20 + 16); // types
+    qToBigEndian<quint32>(2, file.data() + 20 + 20); // characters
+    qToBigEndian(seconds, file.data() + 20 + 24);
+    return file;
+}
+
+// RFC 9636, 3.2: more than 25 hours west and less than 26 east is what readers need to take.
+TEST(ZoneRules, OffsetThatNoPlaceCanHaveGivesNone) {
+    for (const qint32 seconds : {0, 5 * 3600 + 45 * 60, -89999, 93599})
+        EXPECT_TRUE(ZoneRules::parse(fileWithOffset(seconds)).has_value()) << seconds;
+    constexpr std::numeric_limits<qint32> limits;
+    for (const qint32 seconds : {-90000, 93600, limits.min(), limits.max()})
+        EXPECT_FALSE(ZoneRules::parse(fileWithOffset(seconds)).has_value()) << seconds;
+}
+
+TEST(PosixRule, OffsetThatNoPlaceCanHaveIsNone) {
+    EXPECT_TRUE(PosixRule::parse("AAA24:59:59").has_value());
+    EXPECT_TRUE(PosixRule::parse("AAA-25:59:59").has_value());
+    EXPECT_TRUE(PosixRule::parse("AAA3BBB2,0/-167,365/167").has_value());
+    for (const char* text :
+         {"AAA25", "AAA-26", "AAA9999:9999:9999", "AAA0BBB-26,M3.2.0,M11.1.0", "AAA-25BBB,1,9"})
+        EXPECT_FALSE(PosixRule::parse(text).has_value()) << text;
 }
 
 int secondsAt(const char* rule, long long seconds) {
