@@ -52,7 +52,8 @@ QByteArray indexLine(const fs::path& path, const fs::path& folder) {
     const auto name = path.lexically_relative(folder).string();
     if (!fs::is_symlink(path, error))
         return QByteArray::fromStdString("Z " + name + '\n');
-    const auto target = fs::proximate(fs::canonical(path, error), fs::canonical(folder, error));
+    const auto target =
+        fs::proximate(fs::canonical(path, error), fs::canonical(folder, error), error);
     return QByteArray::fromStdString("L " + target.string() + ' ' + name + '\n');
 }
 
