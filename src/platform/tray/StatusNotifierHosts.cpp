@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// As libdbus has it.
-constexpr int forever = std::numeric_limits<int>::max();
+constexpr int unlimited = std::numeric_limits<int>::max();
 
 QDBusMessage question() {
     auto message = QDBusMessage::createMethodCall(
@@ -84,7 +84,7 @@ void StatusNotifierHosts::askAtOnce(std::chrono::milliseconds patience) {
 
 void StatusNotifierHosts::ask() {
     // One host may go while another one stays: only the watcher knows.
-    m_question = new QDBusPendingCallWatcher(m_bus.asyncCall(question(), forever), this);
+    m_question = new QDBusPendingCallWatcher(m_bus.asyncCall(question(), unlimited), this);
     connect(
         m_question,
         &QDBusPendingCallWatcher::finished,

@@ -40,7 +40,7 @@ public:
 
 Q_SIGNALS:
     /// Pressed, and not refused.
-    void picked(CivilDay day);
+    void picked(quorvane::CivilDay day);
 
 protected:
     [[nodiscard]] double cornerRadius() const override;

@@ -39,7 +39,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void picked(CivilDay day);
+    void picked(quorvane::CivilDay day);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
