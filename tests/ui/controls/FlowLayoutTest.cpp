@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <controls/FlowLayout.h>
+#include <support/Draws.h>
 
 #include <QVBoxLayout>
 #include <QWidget>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quorvane {
@@ -172,6 +174,33 @@ TEST(FlowLayoutRule, PlacesStartAtTheBounds) {
     const std::vector<QPointF> expected{{18, 14}, {64, 14}, {18, 40}};
     EXPECT_EQ(
         FlowLayout::placeSubviews({18, 14, 100, 5}, {{40, 20}, {40, 20}, {40, 20}}, 6), expected);
+}
+
+TEST(FlowLayoutRule, HoldsForAnyItems) {
+    Draws draws;
+    SCOPED_TRACE(draws.origin());
+    for (int round = 0; round < 500; ++round) {
+        const double spacing = draws.number(0, 12);
+        const double width = draws.number(1, 300);
+        std::vector<QSizeF> sizes;
+        for (int count = draws.number(1, 20); count > 0; --count)
+            sizes.emplace_back(draws.number(1, 200), draws.number(1, 40));
+        const auto places = FlowLayout::placeSubviews({7, 3, width, 5}, sizes, spacing);
+        ASSERT_EQ(places.size(), sizes.size());
+        double bottom = places[0].y() + sizes[0].height();
+        EXPECT_EQ(places[0], QPointF(7, 3));
+        for (std::size_t i = 1; i < places.size(); ++i) {
+            const auto next = places[i - 1].x() + sizes[i - 1].width() + spacing;
+            // An item leaves its row only where it would cross the edge.
+            if (next + sizes[i].width() <= 7 + width) {
+                EXPECT_EQ(places[i], QPointF(next, places[i - 1].y()));
+            } else {
+                EXPECT_EQ(places[i], QPointF(7, bottom + spacing));
+            }
+            bottom = std::max(bottom, places[i].y() + sizes[i].height());
+        }
+        EXPECT_EQ(FlowLayout::sizeThatFits(width, sizes, spacing), QSizeF(width, bottom - 3));
+    }
 }
 
 } // namespace
