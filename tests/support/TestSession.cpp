@@ -22,6 +22,7 @@ constexpr std::array keptVariables{
     "QUORVANE_THOROUGH",
     "ASAN_OPTIONS",
     "LSAN_OPTIONS",
+    "TSAN_OPTIONS",
     "UBSAN_OPTIONS"};
 
 bool isKept(const QString& variable) {
@@ -38,9 +39,18 @@ void dropInheritedVariables() {
     }
 }
 
+/// What a run of the tests on purpose as on another machine has instead (./dev nightly).
+QByteArray chosen(const char* variable, const char* usual) {
+    const auto value = qgetenv(variable);
+    return value.isEmpty() ? QByteArray(usual) : value;
+}
+
 } // namespace
 
 TestSession::TestSession() {
+    const auto locale = chosen("QUORVANE_TEST_LOCALE", "C.UTF-8");
+    const auto zone = chosen("QUORVANE_TEST_ZONE", "UTC");
+    const auto fonts = chosen("QUORVANE_TEST_FONT_FILE", QUORVANE_TEST_FONTS);
     dropInheritedVariables();
     makeFolder("HOME", "home");
     makeFolder("XDG_RUNTIME_DIR", "run");
@@ -51,9 +61,9 @@ TestSession::TestSession() {
     // Neither icon themes nor services nor settings that the machine happens to have.
     makeFolder("XDG_CONFIG_DIRS", "system");
     makeFolder("XDG_DATA_DIRS", "system");
-    qputenv("LC_ALL", "C.UTF-8");
-    qputenv("TZ", "UTC");
-    qputenv("FONTCONFIG_FILE", QUORVANE_TEST_FONTS);
+    qputenv("LC_ALL", locale);
+    qputenv("TZ", zone);
+    qputenv("FONTCONFIG_FILE", fonts);
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }

@@ -18,7 +18,14 @@ from .processes import Processes
 from .session_bus import SessionBus
 from .windows import Windows
 
-_INHERITED = ("PATH", "QT_LOGGING_RULES", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
+_INHERITED = (
+    "PATH",
+    "QT_LOGGING_RULES",
+    "ASAN_OPTIONS",
+    "LSAN_OPTIONS",
+    "TSAN_OPTIONS",
+    "UBSAN_OPTIONS",
+)
 
 
 class PrivateSession(ABC):
