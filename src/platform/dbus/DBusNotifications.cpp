@@ -142,11 +142,13 @@ void DBusNotifications::follow() {
     // From any sender: to match one by its name, Qt would wait for the bus to tell its owner.
     const auto service = serviceName.toString();
     const auto path = objectPath.toString();
+    // Where no signature is asked for, Qt ends the process when somebody sends a structure instead.
     m_bus.connect(
         QString(),
         path,
         service,
         u"ActionInvoked"_s,
+        u"us"_s,
         this,
         SLOT(actionInvoked(uint, QString, QDBusMessage)));
     m_bus.connect(
@@ -154,6 +156,7 @@ void DBusNotifications::follow() {
         path,
         service,
         u"NotificationClosed"_s,
+        u"uu"_s,
         this,
         SLOT(closed(uint, uint, QDBusMessage)));
 }

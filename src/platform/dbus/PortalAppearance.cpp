@@ -42,12 +42,14 @@ void PortalAppearance::read() {
 }
 
 void PortalAppearance::follow() {
-    // From any sender: to match one by its name, Qt would wait for the bus to tell its owner.
+    // From any sender: to match one by its name, Qt would wait for the bus to tell its owner. Where
+    // no signature is asked for, Qt ends the process when somebody sends a structure instead.
     m_bus.connect(
         QString(),
         objectPath.toString(),
         interfaceName.toString(),
         u"SettingChanged"_s,
+        u"ssv"_s,
         this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
     m_arrivals = std::make_unique<QDBusServiceWatcher>(

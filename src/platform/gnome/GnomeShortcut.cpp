@@ -134,7 +134,7 @@ void GnomeShortcut::askForDaemon(const QDBusConnection& bus) {
         u"org.freedesktop.DBus"_s,
         u"NameOwnerChanged"_s,
         {daemonName},
-        QString(),
+        u"sss"_s,
         this,
         SLOT(handleOwner(QString, QString, QString)));
     auto question = QDBusMessage::createMethodCall(

@@ -178,6 +178,23 @@ TEST_F(DBusNotificationsActionTest, IsOfferedByAServerThatHasButtons) {
     EXPECT_EQ(m_performed, 1);
 }
 
+// Qt ends the process where a structure stands for what a slot takes. Any program can send these.
+TEST_F(DBusNotificationsActionTest, SignalsOfOtherArgumentsDoNothing) {
+    server.capabilities = {u"actions"_s};
+    server.appear();
+    show(m_notification);
+    ASSERT_TRUE(isTold({Outcome::Shown}));
+    const QVariantMap map{{u"a"_s, 1}};
+    for (const auto& signal : {u"ActionInvoked"_s, u"NotificationClosed"_s}) {
+        server.send(signal, {map, map});
+        server.send(signal, {11U, map});
+        server.send(signal, {map});
+        server.send(signal, {});
+    }
+    server.invokeAction(11, argument(0, 5).toStringList().value(0));
+    EXPECT_TRUE(comesTo([this] { return m_performed > 0; }));
+}
+
 TEST_F(DBusNotificationsActionTest, IsLeftOutWhereTheServerHasNoButtons) {
     server.appear();
     show(m_notification);

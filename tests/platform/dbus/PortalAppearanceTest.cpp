@@ -206,6 +206,21 @@ TEST_F(PortalAppearanceTest, ChangeOfAWrongTypeChangesNothing) {
     EXPECT_EQ(changes, 2);
 }
 
+// Qt ends the process where a structure stands for what a slot takes.
+TEST_F(PortalAppearanceTest, ChangeOfOtherArgumentsChangesNothing) {
+    readAs(Scheme::Dark, one(scheme, dark));
+    const auto structure = QVariant::fromValue(Triple{1, 2, 3});
+    portal.announceAnything({structure, structure, structure});
+    portal.announceAnything({appearanceSettings, structure, QVariant::fromValue(QDBusVariant(1U))});
+    portal.announceAnything({appearanceSettings, scheme, structure});
+    portal.announceAnything({QVariantMap{{scheme, 1U}}, scheme, QVariantMap()});
+    portal.announceAnything({appearanceSettings});
+    portal.announceAnything({});
+    portal.announce(appearanceSettings, u"contrast"_s, 1U);
+    EXPECT_TRUE(comesTo([this] { return appearance->current().wantsMoreContrast; }));
+    EXPECT_EQ(appearance->current().scheme, Scheme::Dark);
+}
+
 TEST_F(PortalAppearanceTest, AnErrorKeepsWhatIsKnown) {
     readAs(Scheme::Dark, one(scheme, dark));
     portal.answerWithError();

@@ -38,12 +38,12 @@ void FakeNotificationServer::answerAll() {
 }
 
 void FakeNotificationServer::invokeAction(uint id, const QString& key) {
-    send(u"ActionInvoked"_s, id, key);
+    send(u"ActionInvoked"_s, {id, key});
 }
 
 void FakeNotificationServer::close(uint id) {
     constexpr uint dismissedByUser = 2;
-    send(u"NotificationClosed"_s, id, dismissedByUser);
+    send(u"NotificationClosed"_s, {id, dismissedByUser});
 }
 
 QString FakeNotificationServer::introspect(const QString& /*path*/) const {
@@ -73,9 +73,9 @@ void FakeNotificationServer::answer(const QDBusMessage& call) {
     m_bus.send(call.createReply(replaced != 0 ? replaced : nextId++));
 }
 
-void FakeNotificationServer::send(const QString& signal, uint id, const QVariant& argument) {
+void FakeNotificationServer::send(const QString& signal, const QVariantList& arguments) {
     auto message = QDBusMessage::createSignal(path, service, signal);
-    message << id << argument;
+    message.setArguments(arguments);
     m_bus.send(message);
 }
 

@@ -30,6 +30,9 @@ public:
     void invokeAction(uint id, const QString& key);
     void close(uint id);
 
+    /// One of its signals, with whatever arguments.
+    void send(const QString& signal, const QVariantList& arguments);
+
     /// The arguments of each call of Notify, in order.
     [[nodiscard]] const QList<QVariantList>& notifications() const { return m_notifications; }
 
@@ -44,7 +47,6 @@ public:
 
 private:
     void answer(const QDBusMessage& call);
-    void send(const QString& signal, uint id, const QVariant& argument);
 
     QDBusConnection m_bus;
     bool m_hangs = false;

@@ -65,8 +65,12 @@ void FakePortal::answerWithError() {
 }
 
 void FakePortal::announce(const QString& nameSpace, const QString& key, const QVariant& value) {
+    announceAnything({nameSpace, key, QVariant::fromValue(QDBusVariant(value))});
+}
+
+void FakePortal::announceAnything(const QVariantList& arguments) {
     auto signal = QDBusMessage::createSignal(path, interface, u"SettingChanged"_s);
-    signal << nameSpace << key << QVariant::fromValue(QDBusVariant(value));
+    signal.setArguments(arguments);
     m_bus.send(signal);
 }
 

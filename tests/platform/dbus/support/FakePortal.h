@@ -46,6 +46,9 @@ public:
 
     void announce(const QString& nameSpace, const QString& key, const QVariant& value);
 
+    /// The signal of a change, with whatever arguments.
+    void announceAnything(const QVariantList& arguments);
+
     [[nodiscard]] const QList<QDBusMessage>& questions() const { return m_questions; }
 
     [[nodiscard]] QString introspect(const QString& path) const override;
