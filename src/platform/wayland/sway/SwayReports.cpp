@@ -3,6 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <functional>
 #include <wayland_sway/SwayReports.h>
 
@@ -16,12 +17,19 @@ QJsonObject objectIn(const QByteArray& payload) {
     return QJsonDocument::fromJson(payload).object();
 }
 
+/// Beyond any screen, and far enough from the end of the numbers to be added up.
+constexpr int farthest = 1 << 24;
+
+int lengthOf(const QJsonValue& value) {
+    return std::clamp(value.toInt(), -farthest, farthest);
+}
+
 QRect rectOf(const QJsonValue& value) {
     return {
-        value["x"_L1].toInt(),
-        value["y"_L1].toInt(),
-        value["width"_L1].toInt(),
-        value["height"_L1].toInt()};
+        lengthOf(value["x"_L1]),
+        lengthOf(value["y"_L1]),
+        lengthOf(value["width"_L1]),
+        lengthOf(value["height"_L1])};
 }
 
 SwayWindow windowOf(const QJsonObject& container) {

@@ -39,6 +39,16 @@ TEST(SwayReports, TellOfAWindowThatTakesItsTitle) {
     EXPECT_EQ(namedWindowIn(R"({"change":"focus","container":{"id":6}})"), std::nullopt);
 }
 
+TEST(SwayReports, AreOfAFrameThatCanBeReckonedWith) {
+    const auto window = namedWindowIn(
+        R"({"change":"title","container":{"rect":{"x":2147483647,"y":-2147483648},
+            "window_rect":{"x":2147483647,"y":-2147483648,"width":2147483647,"height":-9}}})");
+    ASSERT_TRUE(window);
+    EXPECT_GT(window->frame.left(), 1'000'000);
+    EXPECT_LT(window->frame.top(), -1'000'000);
+    EXPECT_GT(window->frame.right(), window->frame.left());
+}
+
 TEST(SwayReports, FindTheWindowOfAProcessInTheTree) {
     const auto window = windowIn(tree, 41, u"Quorvane"_s);
     ASSERT_TRUE(window);
