@@ -137,9 +137,9 @@ private:
         const auto unitBits = m_input.oneOf(sizes);
         const auto type = atom();
         auto bytes = m_input.piece();
-        // Some are longer than one piece of a property that is read.
+        // Some are longer than what may be read of them.
         if (m_input.below(16) == 0)
-            bytes = bytes.repeated(m_input.number<std::uint16_t>());
+            bytes = bytes.repeated(m_input.number<std::uint8_t>());
         bytes.truncate(bytes.size() / 4 * 4);
         const auto& asked = FakeXServer::instance().lastConversion();
         FakeXServer::instance().set(asked.requestor, asked.property, {type, unitBits, bytes});

@@ -40,7 +40,7 @@ TestCompositor::TestCompositor() : m_display(wl_display_create()) {
     wl_display_add_socket_fd(m_display, listeningSocket(path));
     if (::pipe(m_orders) != 0)
         qFatal("the compositor of the tests takes no orders");
-    wl_event_loop_add_fd(
+    m_orderSource = wl_event_loop_add_fd(
         wl_display_get_event_loop(m_display), m_orders[0], WL_EVENT_READABLE, carryOut, this);
     m_thread = std::thread([this] { serve(); });
 }
@@ -107,6 +107,7 @@ void TestCompositor::serve() {
         wl_event_loop_dispatch(wl_display_get_event_loop(m_display), -1);
     }
     wl_display_destroy_clients(m_display);
+    wl_event_source_remove(m_orderSource);
     wl_display_destroy(m_display);
 }
 

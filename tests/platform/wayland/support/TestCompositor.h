@@ -49,6 +49,7 @@ private:
     QTemporaryDir m_folder;
     wl_display* m_display;
     int m_orders[2] = {-1, -1};
+    wl_event_source* m_orderSource = nullptr;
     bool m_isStopping = false;
     int m_hanging[2] = {-1, -1};
     std::thread m_thread;
