@@ -35,9 +35,10 @@ check_tsan() {
 
 check_valgrind() {
     need build valgrind
-    build_preset dev "${handle_owners[@]/#/quorvane-test-}"
-    local name
-    for name in "${@:-${handle_owners[@]}}"; do
+    local name names=("$@")
+    ((${#names[@]} > 0)) || names=("${handle_owners[@]}")
+    build_preset dev "${names[@]/#/quorvane-test-}"
+    for name in "${names[@]}"; do
         echo "$name"
         # Children are others' programs.
         valgrind --quiet --trace-children=no --child-silent-after-fork=yes \
