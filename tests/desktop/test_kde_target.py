@@ -7,6 +7,9 @@ from harness.kwin.case import KwinCase
 from harness.kwin.session import KwinSession
 from harness.notification_server import NotificationServer
 from harness.quorvane import Quorvane
+from harness.waiting import wait_until
+
+_TEXT = "text/plain;charset=utf-8"
 
 _END_OF_A_CONNECTION = r" is lost|X11 connection broke"
 
@@ -43,9 +46,28 @@ class NotInstalled(KwinCase):
         text = quorvane.preview()
         self.keyboard.tap(*INSERT)
         self.assertIn("does not let Quorvane type", notifications.wait_shown().body)
-        self.clipboard.wait_data("text/plain;charset=utf-8", text.encode())
+        self.clipboard.wait_data(_TEXT, text.encode())
         self.keyboard.tap(Key.D)
         editor.wait_text("d")
+
+
+class Locked(KwinCase):
+    """Behind a locked screen KWin tells of the same windows as before."""
+
+    def make_session(self) -> KwinSession:
+        return KwinSession(has_lock=True)
+
+    def test_nothing_is_typed_into_the_lock(self) -> None:
+        notifications = NotificationServer(self.session.bus.address)
+        self.addCleanup(notifications.close)
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        editor.wait_active()
+        self.session.lock()
+        quorvane.action("insert")
+        self.assertIn("There was no window", notifications.wait_shown().body)
+        self.assertEqual("", editor.text())
+        wait_until(lambda: self.clipboard.data(_TEXT), "the text on the clipboard")
 
 
 class End(KwinCase):

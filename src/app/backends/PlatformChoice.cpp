@@ -81,6 +81,9 @@ void chooseAll(PlatformServices& services, const DesktopSession& session) {
 PlatformServices makePlatformServices(const DesktopSession& session) {
     auto services = servicesOfEveryDisplay(session);
     chooseAll(services, session);
+    // On X11 a lock takes the keyboard, which shows there.
+    if (session.compositor.answer() == Compositor::Answer::Offers)
+        heedScreenLock(services);
     completeAppearance(services, session.environment);
     return services;
 }

@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, 4> ofItsOwn{
 };
 
 // KWin has services of its own, whatever Qt runs on; but a place, the state above others and all
-// virtual desktops are had by windows of X11 alone that are no part of the shell.
+// virtual desktops together are had by windows of X11 alone, unless the program is installed.
 constexpr std::string_view kwinsShell = "org_kde_plasma_shell";
 
 QtPlatform choose(bool hasX11, const QString& usersChoice, const Compositor& compositor) {

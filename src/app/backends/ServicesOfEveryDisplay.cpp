@@ -2,7 +2,9 @@
 #include "ServicesOfEveryDisplay.h"
 
 #include <platform/LayeredAppearance.h>
+#include <platform/LockableWorkspace.h>
 #include <platform_dbus/DBusNotifications.h>
+#include <platform_dbus/DBusScreenSaver.h>
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
 #include <platform_system/SystemTimeChanges.h>
@@ -54,6 +56,16 @@ void completeAppearance(PlatformServices& services, const Environment& environme
     sources.push_back(std::move(services.appearance));
     sources.push_back(std::make_unique<FileAppearance>(settingsFolders(environment)));
     services.appearance = std::make_unique<LayeredAppearance>(std::move(sources));
+}
+
+void heedScreenLock(PlatformServices& services) {
+    const auto bus = QDBusConnection::sessionBus();
+    const auto usual = std::make_shared<DBusScreenSaver>(bus, u"org.freedesktop.ScreenSaver"_s);
+    const auto gnomes = std::make_shared<DBusScreenSaver>(bus, u"org.gnome.ScreenSaver"_s);
+    services.workspace =
+        std::make_unique<LockableWorkspace>(std::move(services.workspace), [usual, gnomes] {
+            return usual->isActive() || gnomes->isActive();
+        });
 }
 
 } // namespace quorvane

@@ -14,4 +14,8 @@ namespace quorvane {
 /// `services` has by now, then what stands in files.
 void completeAppearance(PlatformServices& services, const Environment& environment);
 
+/// Has the desktop's word for a locked screen stop what would be typed into the lock. For desktops
+/// on which no program can have the keyboard for itself, and a lock shows by nothing else.
+void heedScreenLock(PlatformServices& services);
+
 } // namespace quorvane

@@ -6,7 +6,11 @@ import sys
 from contextlib import ExitStack
 from pathlib import Path
 
+from Xlib import Xatom
+from Xlib.display import Display
+
 from ..accessible import Accessibility
+from ..message_bus import MessageBus
 from ..paths import PROGRAM, TREE
 from ..private_session import PrivateSession
 from ..session_bus import SessionBus
@@ -23,9 +27,13 @@ Rows=1
 
 [Plugins]
 slideEnabled=false
+
+[Xwayland]
+Scale={scale}
 """
 
 _SOCKET = "wayland-kwin"
+_LOCK = ("org.freedesktop.ScreenSaver", "/ScreenSaver", "org.freedesktop.ScreenSaver")
 
 # The tests are a taskbar and a user's hands. KWin looks into the first file of applications that
 # names the path of a program, which is the one that the interpreter's package brings.
@@ -43,10 +51,14 @@ class KwinSession(PrivateSession):
 
     windows: KwinWindows  # type: ignore[assignment]
 
-    def __init__(self, is_installed: bool = True) -> None:
+    def __init__(
+        self, is_installed: bool = True, scale: float = 1, has_lock: bool = False
+    ) -> None:
         """`is_installed`: the user's applications have Quorvane among them."""
         super().__init__()
         self._is_installed = is_installed
+        self._scale = scale
+        self._has_lock = has_lock
 
     @property
     def socket(self) -> Path:
@@ -58,6 +70,13 @@ class KwinSession(PrivateSession):
         self._compositor.kill()
         self._compositor.wait()
 
+    def lock(self) -> None:
+        """Locks the screen as the user does, and waits until it is."""
+        bus = MessageBus(self.bus.address)
+        bus.call(*_LOCK, "Lock")
+        wait_until(lambda: bus.call(*_LOCK, "GetActive")[0], "a locked screen", interval=0.05)
+        bus.close()
+
     def _begin(self, undo: ExitStack) -> None:
         # No settings daemon: GTK programs start at once.
         self.environment |= {
@@ -67,7 +86,7 @@ class KwinSession(PrivateSession):
         }
         self.bus = SessionBus(self._processes, self.environment.copy(), self.directory("bus"))
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
-        (self.directory("config") / "kwinrc").write_text(_SETTINGS)
+        (self.directory("config") / "kwinrc").write_text(_SETTINGS.format(scale=self._scale))
         self._install()
         self._start_compositor()
         self.windows = KwinWindows(self.socket)
@@ -98,14 +117,22 @@ class KwinSession(PrivateSession):
         displays = self.root / "displays"
         width, height = SIZE
         # The last argument is run when the session is ready.
-        self._compositor = self.start(
-            [str(program), "--virtual", "--xwayland", "--width", str(width)]
-            + ["--height", str(height), "--no-lockscreen", "--no-kactivities"]
-            + ["--socket", _SOCKET, str(_script(self.root, displays))],
-            {"KWIN_COMPOSE": "Q"},
-        )
+        command = [str(program), "--virtual", "--xwayland", "--scale", str(self._scale)]
+        command += ["--width", str(width), "--height", str(height), "--no-kactivities"]
+        command += [] if self._has_lock else ["--no-lockscreen"]
+        command += ["--socket", _SOCKET, str(_script(self.root, displays))]
+        self._compositor = self.start(command, {"KWIN_COMPOSE": "Q"})
         self.display = wait_until(lambda: self._told(displays), "KWin")
         self.environment |= {"DISPLAY": self.display, "WAYLAND_DISPLAY": _SOCKET}
+        if self._scale != 1:
+            self._tell_scale()
+
+    def _tell_scale(self) -> None:
+        """What the desktop's module for fonts tells programs of X11 at a login."""
+        display = Display(self.display)
+        value = f"Xft.dpi:\t{round(96 * self._scale)}\n".encode()
+        display.screen().root.change_property(Xatom.RESOURCE_MANAGER, Xatom.STRING, 8, value)
+        display.close()
 
     def _told(self, file: Path) -> str | None:
         if self._compositor.poll() is not None:
