@@ -10,10 +10,10 @@ from harness.gnome.wayland_window import WaylandWindow
 from harness.keys import INSERT, SHORTCUT, Key
 from harness.message_bus import BusError
 from harness.quorvane import Quorvane
+from harness.rounds import ROUNDS
 from harness.targets import Editor
 from harness.waiting import wait_until
 
-_ROUNDS = 5
 _X11_EDITOR = ["env", "GDK_BACKEND=x11", "mousepad", "--disable-server"]
 _COPIED = "Copied instead"
 
@@ -69,11 +69,11 @@ class InsertCase(GnomeCase):
 class Insert(InsertCase):
     """With the desktop's permission."""
 
-    def test_the_workflow_five_times_over_a_window_of_wayland(self) -> None:
+    def test_the_workflow_many_times_over_a_window_of_wayland(self) -> None:
         window = WaylandWindow(self.session)
         quorvane, _text = self.allowed_quorvane(window)
         had = window.copy()
-        for _ in range(_ROUNDS):
+        for _ in range(ROUNDS):
             before = window.text()
             text = self.insert(quorvane)
             self.assertEqual(1, text.count("\n"))

@@ -6,9 +6,8 @@ import json
 from harness.gnome.case import GnomeCase
 from harness.gnome.wayland_window import WaylandWindow
 from harness.keys import SHORTCUT, Key
+from harness.rounds import ROUNDS
 from harness.waiting import wait_until
-
-_ROUNDS = 5
 
 
 class Panel(GnomeCase):
@@ -18,7 +17,7 @@ class Panel(GnomeCase):
         window = WaylandWindow(self.session)
         self.add_shortcut(self.shown_quorvane())
         window.wait_focused()
-        for typed in range(_ROUNDS):
+        for typed in range(ROUNDS):
             self.hands.tap(Key.A)
             window.wait_text("a" * (typed + 1))
             self.hands.tap(*SHORTCUT)

@@ -1,11 +1,17 @@
 # SPDX-License-Identifier: MIT
 """The panel and what opens over it, under sway."""
 
+from collections.abc import Callable
+
+import screen_edge_tests
 import test_entry
+import wayland_tests
 from harness.keys import SHORTCUT
 from harness.quorvane import Quorvane
 from harness.sway.case import SwayCase
+from harness.sway.picture import ScreenPicture
 from harness.sway.session import SIZE
+from harness.sway.windows import Frame
 from harness.waiting import wait_until
 
 
@@ -102,3 +108,24 @@ class Panel(SwayCase):
 
 class Entry(test_entry.Entry, SwayCase):
     """Popovers, calendar and sheets over the panel, by keyboard and by pointer."""
+
+
+class Edge(screen_edge_tests.ScreenEdge, SwayCase):
+    """The same in the corner of the screen."""
+
+    def next_menu(self) -> Callable[[], Frame]:
+        before = ScreenPicture(self.session)
+
+        def frame() -> Frame:
+            changed = wait_until(
+                lambda: ScreenPicture(self.session).changed_from(before), "a menu", interval=0.1
+            )
+            left, top, width, height = changed
+            # What reaches the edge may go on behind it.
+            return left - 1, top - 1, width + 2, height + 2
+
+        return frame
+
+
+class Idle(wayland_tests.Idle, SwayCase):
+    """With windows of Wayland and all services that sway has."""

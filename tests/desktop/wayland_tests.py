@@ -2,13 +2,19 @@
 """Tests that every compositor of Wayland has to pass, each in its own session."""
 
 import os
+from pathlib import Path
 
 import test_workflow
 from harness.keys import INSERT, SHORTCUT, Key
 from harness.offer import Offer, plain_text
+from harness.quorvane import Quorvane
+from harness.rounds import ROUNDS
 from harness.targets import Terminal
 from harness.waiting import wait_until
 from harness.wayland.case import WaylandCase
+from harness.wayland.connection import WaylandConnection
+
+_REST = 20_000  # questions that the compositor answers meanwhile: some seconds
 
 
 class Session(WaylandCase):
@@ -35,7 +41,7 @@ class Session(WaylandCase):
 class Workflow(test_workflow.Workflow, WaylandCase):
     """Into programs of Wayland and of X11."""
 
-    rounds = 5
+    rounds = ROUNDS
 
     def test_a_terminal_of_x11_pastes_what_is_marked(self) -> None:
         terminal = Terminal(self.session)
@@ -110,3 +116,37 @@ class Clipboard(WaylandCase):
         quorvane.action("toggle")
         quorvane.wait_hidden()
         self.assertEqual(text.encode(), self.clipboard.data("text/plain;charset=utf-8"))
+
+
+class Idle(WaylandCase):
+    """A program that nobody uses takes no time from anybody."""
+
+    def test_it_sleeps_while_it_is_hidden_and_while_its_panel_is_left_alone(self) -> None:
+        quorvane = Quorvane(self.session)
+        quorvane.wait_active()
+        self.expect_asleep(quorvane)
+        self.keyboard.tap(*SHORTCUT)
+        quorvane.wait_hidden()
+        self.expect_asleep(quorvane)
+
+    def expect_asleep(self, quorvane: Quorvane) -> None:
+        """Waits until the program has rested once, while the compositor worked."""
+        connection = WaylandConnection(self.session.socket)
+        self.addCleanup(connection.close)
+
+        def rests() -> bool:
+            before = _wakeups(quorvane.process.pid)
+            for _ in range(_REST):
+                connection.settle()
+            return _wakeups(quorvane.process.pid) == before
+
+        wait_until(rests, "a rest without a wakeup", seconds=30)
+
+
+def _wakeups(pid: int) -> dict[str, list[str]]:
+    """How often each thread of a process has given the processor away, or had it taken."""
+    threads = {}
+    for thread in Path(f"/proc/{pid}/task").iterdir():
+        lines = (thread / "status").read_text().splitlines()
+        threads[thread.name] = [line for line in lines if "ctxt_switches" in line]
+    return threads
