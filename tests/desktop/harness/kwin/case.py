@@ -4,6 +4,7 @@
 from ..wayland.case import WaylandCase
 from .global_shortcuts import GlobalShortcuts
 from .keyboard import Hands
+from .pointer import KwinPointer
 from .session import KwinSession
 
 
@@ -12,13 +13,19 @@ class KwinCase(WaylandCase):
 
     session: KwinSession
     keyboard: Hands  # type: ignore[assignment]
+    mouse: KwinPointer  # type: ignore[assignment]
+
+    scale = 1.0
+    """Pixels of the screen for each point."""
 
     def make_session(self) -> KwinSession:
-        return KwinSession()
+        return KwinSession(scale=self.scale)
 
     def setUp(self) -> None:
         super().setUp()
         self.keyboard = Hands(self.session.socket)
         self.addCleanup(self.keyboard.close)
+        self.mouse = KwinPointer(self.session.socket)
+        self.addCleanup(self.mouse.close)
         self.shortcuts = GlobalShortcuts(self.session.bus.address)
         self.addCleanup(self.shortcuts.close)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The user's keyboard and pointer under KWin."""
+"""The user's keyboard under KWin."""
 
 from collections.abc import Iterator
 from contextlib import contextmanager
@@ -8,14 +8,13 @@ from pathlib import Path
 from ..keys import Key
 from ..wayland.connection import WaylandConnection
 
-_AUTHENTICATE, _BUTTON, _MOVE_TO, _KEY = 0, 2, 9, 10
+_AUTHENTICATE, _KEY = 0, 10
 
 _X_OFFSET = 8  # X counts keys from there, evdev from 0
-_LEFT_BUTTON = 272
 
 
 class Hands:
-    """One keyboard and one pointer, from the start to close()."""
+    """One keyboard, from the start to close()."""
 
     def __init__(self, display: Path) -> None:
         self._connection = WaylandConnection(display)
@@ -24,7 +23,7 @@ class Hands:
         self._connection.settle()
 
     def close(self) -> None:
-        """Takes keyboard and pointer away."""
+        """Takes the keyboard away."""
         self._connection.close()
 
     def press(self, key: Key) -> None:
@@ -55,14 +54,6 @@ class Hands:
         finally:
             for key in reversed(keys):
                 self.release(key)
-
-    def click(self, x: int, y: int) -> None:
-        """Moves to a place on the screen and presses the left button there."""
-        fixed = 256  # to one pixel
-        self._connection.request(self._input, _MOVE_TO, x * fixed, y * fixed)
-        for is_down in (1, 0):
-            self._connection.request(self._input, _BUTTON, _LEFT_BUTTON, is_down)
-        self._connection.settle()
 
     def _key(self, key: Key, is_down: bool) -> None:
         self._connection.request(self._input, _KEY, key - _X_OFFSET, int(is_down))

@@ -133,6 +133,10 @@ class KwinWindows:
         self._connection.request(desktop, _SHOW_DESKTOP)
         self._catch_up()
 
+    def let_manager_catch_up(self) -> None:
+        """Waits until KWin has taken note of all that happened before."""
+        self._catch_up()
+
     def _catch_up(self) -> None:
         self._connection.settle()
 
