@@ -185,7 +185,10 @@ void PreferencesBoard::paintEvent(QPaintEvent* /*event*/) {
         const auto title = QRect(frame.topLeft(), QSize(frame.width(), titleHeight));
         painter.setFont(textFont(font(), TextStyle::Headline));
         painter.setPen(theme.text);
-        painter.drawText(title, Qt::AlignCenter, u"Quorvane Preferences"_s);
+        painter.drawText(
+            title,
+            Qt::AlignCenter,
+            QCoreApplication::translate("quorvane::PreferencesWindow", "Quorvane Preferences"));
     }
 }
 

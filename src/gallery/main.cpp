@@ -4,6 +4,7 @@
 
 #include <controls/ToolTipStyle.h>
 #include <controls/ToolTipWrapping.h>
+#include <language/InterfaceLanguage.h>
 #include <loop/QtMainQueue.h>
 
 #include <QApplication>
@@ -11,6 +12,8 @@
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
+    const quorvane::InterfaceLanguage language(quorvane::processEnvironment());
+    QApplication::setLayoutDirection(language.direction());
     QApplication::setStyle(new quorvane::ToolTipStyle);
     const quorvane::ToolTipWrapping toolTips;
     quorvane::Gallery gallery;

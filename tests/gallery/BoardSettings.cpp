@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "BoardSettings.h"
 
+#include "LongerTexts.h"
 #include "StillStyle.h"
+
+#include <testing/PseudoTexts.h>
 
 #include <QApplication>
 #include <QFont>
+#include <QLocale>
 
 namespace quorvane {
 
@@ -21,6 +25,29 @@ QFont bodyFont(const BoardSetting& setting) {
     return font;
 }
 
+std::unique_ptr<QTranslator> textsOf(const BoardSetting& setting) {
+    switch (setting.texts) {
+    case BoardSetting::Texts::Longer:
+        return std::make_unique<LongerTexts>();
+    case BoardSetting::Texts::Pseudo:
+        return std::make_unique<PseudoTexts>();
+    case BoardSetting::Texts::OfLanguage:
+        break;
+    }
+    return nullptr;
+}
+
+/// Texts and dates of one locale.
+BoardSetting spoken(const QString& name, const QString& localeName) {
+    const QLocale locale(localeName);
+    return {
+        .name = name,
+        .scale = 1,
+        .direction = locale.textDirection(),
+        .localeName = localeName,
+        .language = localeName.section(u'_', 0, 0)};
+}
+
 void apply(const BoardSetting& setting) {
     QApplication::setPalette(builtInPalette(setting.scheme, setting.contrast));
     QApplication::setFont(bodyFont(setting));
@@ -30,7 +57,7 @@ void apply(const BoardSetting& setting) {
 } // namespace
 
 std::vector<BoardSetting> boardSettings() {
-    return {
+    std::vector<BoardSetting> settings{
         {.name = u"light"_s},
         {.name = u"dark"_s, .scheme = ColorScheme::Dark},
         {.name = u"contrast"_s, .contrast = ContrastLevel::High},
@@ -46,9 +73,26 @@ std::vector<BoardSetting> boardSettings() {
          .scheme = ColorScheme::Dark,
          .direction = Qt::RightToLeft,
          .localeName = u"he_IL"_s},
-        {.name = u"french"_s, .localeName = u"fr_FR"_s},
+        {.name = u"french-dates"_s, .localeName = u"fr_FR"_s},
         {.name = u"thai"_s, .localeName = u"th_TH"_s},
         {.name = u"longer"_s, .texts = BoardSetting::Texts::Longer},
+    };
+    const auto languages = languageSettings();
+    settings.insert(settings.end(), languages.begin(), languages.end());
+    return settings;
+}
+
+std::vector<BoardSetting> languageSettings() {
+    return {
+        spoken(u"german"_s, u"de_DE"_s),
+        spoken(u"french"_s, u"fr_FR"_s),
+        spoken(u"spanish"_s, u"es_ES"_s),
+        spoken(u"japanese"_s, u"ja_JP"_s),
+        spoken(u"arabic"_s, u"ar_EG"_s),
+        {.name = u"pseudo"_s,
+         .scale = 1,
+         .direction = Qt::RightToLeft,
+         .texts = BoardSetting::Texts::Pseudo},
     };
 }
 
@@ -56,15 +100,15 @@ AppliedSetting::AppliedSetting(const BoardSetting& setting) {
     QApplication::setStyle(new StillStyle);
     QApplication::setCursorFlashTime(0);
     apply(setting);
-    if (setting.texts == BoardSetting::Texts::Longer) {
-        m_texts = std::make_unique<LongerTexts>();
+    m_language = std::make_unique<InterfaceLanguage>([&setting](const char* name) {
+        return qstrcmp(name, "LANG") == 0 ? std::optional(setting.language) : std::nullopt;
+    });
+    m_texts = textsOf(setting);
+    if (m_texts)
         QCoreApplication::installTranslator(m_texts.get());
-    }
 }
 
 AppliedSetting::~AppliedSetting() {
-    if (m_texts)
-        QCoreApplication::removeTranslator(m_texts.get());
     apply({});
 }
 

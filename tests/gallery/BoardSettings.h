@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "LongerTexts.h"
-
 #include <controls/Theme.h>
+#include <language/InterfaceLanguage.h>
 #include <time/UserLocale.h>
 
 #include <QString>
@@ -24,7 +23,8 @@ struct BoardSetting {
     int bodyPixels = 13;
     Qt::LayoutDirection direction = Qt::LeftToRight;
     QString localeName = QStringLiteral("en_US");
-    enum class Texts { Ours, Longer } texts = Texts::Ours;
+    QString language = QStringLiteral("en"); ///< of the texts
+    enum class Texts { OfLanguage, Longer, Pseudo } texts = Texts::OfLanguage;
 
     [[nodiscard]] UserLocale locale() const { return UserLocale::named(localeName); }
 
@@ -38,6 +38,10 @@ struct BoardSetting {
 /// All that the pictures are made for.
 [[nodiscard]] std::vector<BoardSetting> boardSettings();
 
+/// Those of them that have other texts than ours: every language that there is a catalogue for, and
+/// the one that nobody speaks.
+[[nodiscard]] std::vector<BoardSetting> languageSettings();
+
 /// Makes the application follow a setting for as long as it lives.
 class AppliedSetting {
 public:
@@ -46,7 +50,8 @@ public:
     Q_DISABLE_COPY_MOVE(AppliedSetting)
 
 private:
-    std::unique_ptr<LongerTexts> m_texts;
+    std::unique_ptr<QTranslator> m_texts;
+    std::unique_ptr<InterfaceLanguage> m_language;
 };
 
 } // namespace quorvane

@@ -71,6 +71,16 @@ TEST(Preferences, HelpWithTheDesktopIsWritten) {
         help);
 }
 
+TEST(Preferences, AreWrittenInEveryLanguage) {
+    for (auto setting : languageSettings()) {
+        const auto language = setting.name;
+        setting.name = u"preferences-"_s + language;
+        writePictures(setting, settings);
+        setting.name = u"desktop-help-"_s + language;
+        writePictures(setting, help);
+    }
+}
+
 class PanelHint : public testing::TestWithParam<BoardSetting> {};
 
 TEST_P(PanelHint, IsWritten) {

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "PanelPlay.h"
 #include "PopUpButton.h"
+#include "PreferencesBoard.h"
 #include "SegmentButton.h"
 
 #include <controls/KeyCap.h>
 #include <controls/SearchField.h>
+#include <controls/TextStyle.h>
+#include <controls/WrappedText.h>
 #include <entry/FieldChip.h>
 #include <panel/ZoneChip.h>
 
@@ -25,15 +28,20 @@ using namespace Qt::StringLiterals;
 
 void expectRoomForTexts(const QWidget& root) {
     for (const auto* label : root.findChildren<QLabel*>()) {
-        if (!label->isVisible() || label->wordWrap())
+        if (!label->isVisible())
             continue;
-        EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+        if (label->wordWrap())
+            EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+                << label->text().toStdString();
+        else
+            EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
     }
     for (const auto* control : root.findChildren<PressableControl*>()) {
         if (!control->isVisible())
             continue;
         EXPECT_GE(control->width(), control->sizeHint().width()) << control->text().toStdString();
-        EXPECT_GE(control->height(), control->sizeHint().height()) << control->text().toStdString();
+        EXPECT_GE(control->height(), control->sizeHint().height())
+            << control->metaObject()->className() << ' ' << control->text().toStdString();
     }
     for (const auto* field : root.findChildren<QLineEdit*>()) {
         if (!field->isVisible())
@@ -105,6 +113,15 @@ TEST_P(TextRoom, NothingOfThePickerIsCutOff) {
     EXPECT_FALSE(texts.contains(u'…'));
 }
 
+TEST_P(TextRoom, NothingOfThePreferencesIsCutOff) {
+    for (const auto content :
+         {PreferencesBoard::Content::Settings, PreferencesBoard::Content::DesktopHelp}) {
+        PreferencesBoard board(GetParam().scheme, content);
+        board.show();
+        expectRoomForTexts(board);
+    }
+}
+
 constexpr double inkScale = 2;
 
 QImage rendered(QWidget& widget) {
@@ -134,6 +151,19 @@ Space spaceAround(const QImage& with, const QImage& without) {
         }
     }
     return {first / inkScale, (with.height() - 1 - last) / inkScale};
+}
+
+TEST_P(TextRoom, LettersOfAnotherFontLeaveTheBaseLineWhereItIs) {
+    const auto painted = [](const QString& text) {
+        WrappedText widget(text, TextStyle::Callout, WrappedText::Color::Primary);
+        widget.setLayoutDirection(Qt::LeftToRight);
+        widget.resize(200, lineHeight(widget.font(), TextStyle::Callout));
+        const auto picture = rendered(widget);
+        const QFontMetrics metrics(textFont(widget.font(), TextStyle::Callout));
+        const auto first = static_cast<int>(metrics.horizontalAdvance(u'x') * inkScale);
+        return picture.copy(0, 0, first, picture.height());
+    };
+    EXPECT_EQ(painted(u"xx"_s), painted(u"xx \u2068١ س ٣٠ د\u2069"_s));
 }
 
 /// Small letters without strokes up or down, all of one width with what they replace.

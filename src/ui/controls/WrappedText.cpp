@@ -82,7 +82,8 @@ std::unique_ptr<QTextLayout> WrappedText::lines(int width) const {
     layout->beginLayout();
     for (auto line = layout->createLine(); line.isValid(); line = layout->createLine()) {
         line.setLineWidth(width);
-        line.setPosition({0, top + inset});
+        // Another font's letters stand on the same base line.
+        line.setPosition({0, top + inset + metrics.ascent() - line.ascent()});
         top += height;
     }
     layout->endLayout();

@@ -8,11 +8,13 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quorvane {
 
 namespace {
 
-constexpr int top = 96;
+constexpr int usualTop = 96;
 constexpr int lensSize = 24;
 constexpr double lensStroke = 1.25; ///< large, it would seem heavier than the text below
 constexpr int textGap = 8;
@@ -30,7 +32,7 @@ NothingFound::NothingFound(QWidget* parent) : QWidget(parent), m_text(new QLabel
     m_text->setForegroundRole(QPalette::PlaceholderText);
     m_text->setFont(textFont(font(), TextStyle::Body));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(sideMargin, top + lensSize + textGap, sideMargin, 0);
+    place();
     column->addWidget(m_text);
     column->addStretch();
 }
@@ -50,6 +52,7 @@ void NothingFound::showFor(const QString& query) {
 void NothingFound::showMessage(Symbol symbol, const QString& text) {
     m_symbol = symbol;
     m_text->setText(text);
+    place();
     update();
     setVisible(true);
     raise();
@@ -59,9 +62,24 @@ QString NothingFound::message() const {
     return m_text->text();
 }
 
+void NothingFound::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    place();
+}
+
+/// Higher than elsewhere in a list that has too little room.
+int NothingFound::top() const {
+    const int text = m_text->heightForWidth(width() - 2 * sideMargin);
+    return std::clamp(height() - lensSize - textGap - text, 0, usualTop);
+}
+
+void NothingFound::place() {
+    layout()->setContentsMargins(sideMargin, top() + lensSize + textGap, sideMargin, 0);
+}
+
 void NothingFound::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QRectF place(0, top, width(), lensSize);
+    const QRectF place(0, top(), width(), lensSize);
     const SymbolStyle style{lensSize, lensStroke};
     paintSymbol(painter, m_symbol, style, place, Theme::of(palette()).secondaryText);
 }

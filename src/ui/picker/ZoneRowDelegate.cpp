@@ -70,11 +70,15 @@ private:
         const QFontMetricsF metrics(callout);
         const int offsetEnd = m_row.option().rect.width() - endPadding;
         const int offsetStart = offsetEnd - grown(offsetWidth, callout);
-        const int abbreviationStart = offsetStart - grown(abbreviationWidth, callout);
         const auto offset = m_row.text(ZoneListModel::OffsetRole);
         // A long abbreviation extends into what the offset leaves of its column.
         const int abbreviationEnd =
             offsetEnd - columnGap - static_cast<int>(std::ceil(metrics.horizontalAdvance(offset)));
+        const auto abbreviation = m_row.text(ZoneListModel::AbbreviationRole);
+        // That of some languages is too long even for that.
+        const int abbreviationStart = std::min(
+            offsetStart - grown(abbreviationWidth, callout),
+            abbreviationEnd - static_cast<int>(std::ceil(metrics.horizontalAdvance(abbreviation))));
         const auto city = m_row.text();
         const int cityWidth =
             static_cast<int>(std::ceil(QFontMetricsF(cityFont).horizontalAdvance(city)));
@@ -87,9 +91,9 @@ private:
             reason.isEmpty() ? m_row.text(ZoneListModel::RegionRole) : reason,
             callout,
             secondary,
-            column(regionStart, abbreviationStart - regionStart));
+            column(regionStart, abbreviationStart - regionGap - regionStart));
         write(
-            m_row.text(ZoneListModel::AbbreviationRole),
+            abbreviation,
             callout,
             secondary,
             column(abbreviationStart, abbreviationEnd - abbreviationStart));

@@ -143,10 +143,15 @@ void FavoritesSection::layOut() {
     column().addSpacing(preferencesmetrics::rowSpacing);
     column().addLayout(search);
     column().addSpacing(listGap);
-    // It asks for no more than the least, which leaves it all that there is.
+    // It asks for no more than the least, which leaves it all that there is. The list itself is not
+    // asked in a layout whose height goes by its width: without the row's minimum that would be
+    // taken from what stands above.
     m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    m_list->setMinimumHeight(preferencesmetrics::leastListHeight);
-    column().addWidget(m_list, 1);
+    auto* rows = new QGridLayout;
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setRowMinimumHeight(0, preferencesmetrics::leastListHeight);
+    rows->addWidget(m_list, 0, 0);
+    column().addLayout(rows, 1);
 }
 
 void FavoritesSection::search() {

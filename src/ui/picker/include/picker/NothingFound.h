@@ -28,9 +28,13 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] int top() const;
+    void place();
+
     QLabel* m_text;
     Symbol m_symbol = Symbol::Magnifyingglass;
 };
