@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>Lines</source>
-        <translation>Mehrzeilig</translation>
+        <translation>Zeilen</translation>
     </message>
 </context>
 <context>
@@ -410,6 +410,25 @@
     <message>
         <source>Offset</source>
         <translation>UTC-Abstand</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
     </message>
 </context>
 <context>

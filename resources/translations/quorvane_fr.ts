@@ -413,6 +413,25 @@
     </message>
 </context>
 <context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrée</translation>
+    </message>
+</context>
+<context>
     <name>RangeLength</name>
     <message>
         <source>%1 d</source>
@@ -1244,7 +1263,7 @@
     <message>
         <source>for %1</source>
         <extracomment>Why a search found a time zone, after its name: &quot;New York, for Boston&quot;</extracomment>
-        <translation>pour %1</translation>
+        <translation>d’après %1</translation>
     </message>
 </context>
 </TS>

@@ -21,6 +21,7 @@ _MNEMONIC = re.compile(r"&(\w)")
 _QUOTED = re.compile(r"“([^”%]+)”")
 # Keys are named as they are printed, whatever the same word means elsewhere.
 _KEY_NAMES = "KeyNames"
+_KEYS_IN_MENUS = "QShortcut"
 # Spoken beside each other in one language, told apart in another: the words of a pop-up's list and
 # of a control.
 _TOLD_APART = {"AM or PM"}
@@ -122,6 +123,14 @@ class Catalogues(unittest.TestCase):
                 if message.context != _KEY_NAMES and message.source not in _TOLD_APART:
                     ways.setdefault(message.source, set()).add(message.forms)
             self.assertEqual([], [way for way in ways.items() if len(way[1]) > 1], language)
+
+    def test_keys_are_called_alike_in_menus_and_on_caps(self) -> None:
+        for language in languages():
+            all_messages = messages(file_of(language))
+            caps = {m.source: m.forms for m in all_messages if m.context == _KEY_NAMES}
+            for message in all_messages:
+                if message.context == _KEYS_IN_MENUS:
+                    self.assertEqual(caps[message.source], message.forms, language)
 
     def test_what_a_sentence_refers_to_is_named_as_it_is_shown(self) -> None:
         for language in languages():

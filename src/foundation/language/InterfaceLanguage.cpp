@@ -7,9 +7,23 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
+#include <array>
+
 namespace quorvane {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Qt itself names the keys in menus and tooltips. It is to call them as we do, also where its own
+// catalogue is not installed.
+[[maybe_unused]] constexpr std::array namesOfKeys{
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
+    QT_TRANSLATE_NOOP("QShortcut", "Alt"),
+    QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    QT_TRANSLATE_NOOP("QShortcut", "Return")};
+
+} // namespace
 
 InterfaceLanguage::InterfaceLanguage(const Environment& environment) : m_name(u"en"_s) {
     for (const auto& language : languagesRead(environment)) {
