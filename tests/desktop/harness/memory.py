@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What a process holds: memory, files, threads."""
+"""What a process holds: memory, files, threads, and the time that it takes."""
 
 import os
 import re
@@ -7,7 +7,7 @@ from pathlib import Path
 
 
 class Memory:
-    """The resident memory of one process, in bytes."""
+    """One process, by what the kernel tells of it; memory is in bytes."""
 
     def __init__(self, pid: int) -> None:
         self._folder = Path("/proc") / str(pid)
@@ -31,6 +31,11 @@ class Memory:
             1024 * int(kilobytes)
             for kilobytes in re.findall(r"^Private_Dirty:\s+(\d+) kB", rollup, re.MULTILINE)
         )
+
+    def processor_time(self) -> float:
+        """Seconds that the main thread has run so far, however busy the machine is."""
+        nanoseconds, *_ = (self._folder / "schedstat").read_text().split()
+        return int(nanoseconds) / 1e9
 
     def threads(self) -> int:
         """How many threads run."""
