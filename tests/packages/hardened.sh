@@ -18,7 +18,6 @@ require "read-only relocations" "$segments" 'GNU_RELRO'
 require "binding at the start" "$dynamic" 'BIND_NOW|Flags:.*NOW'
 require "a stack that is no code" "$segments" 'GNU_STACK .* RW +0x'
 require "guarded stacks" "$symbols" '__stack_chk_fail'
-require "checked functions (fortify)" "$symbols" '__[a-z]+_chk@'
 for what in "${lacks[@]}"; do
     echo "$program lacks $what" >&2
 done
