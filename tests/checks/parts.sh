@@ -66,6 +66,7 @@ check_cppcheck() {
     # Without the headers of Qt, of which it has a description. It cannot read GoogleTest's macros.
     cppcheck -j "$(nproc)" --quiet --error-exitcode=1 --std=c++20 --library=qt --inline-suppr \
         --enable=warning,performance,portability \
+        --max-configs=12 "-DQ_DISABLE_COPY_MOVE(Class)=" \
         --suppressions-list=tests/checks/cppcheck.supp "${includes[@]}" src bench
 }
 
