@@ -97,25 +97,35 @@ struct PlasmaWindows::Events {
     }
 
     static const org_kde_plasma_window_listener& listener() {
-        static constexpr org_kde_plasma_window_listener listener = {
-            .title_changed = [](void*, Proxy*, const char*) {},
-            .app_id_changed = appId,
-            .state_changed = state,
-            .virtual_desktop_changed = [](void*, Proxy*, std::int32_t) {},
-            .themed_icon_name_changed = [](void*, Proxy*, const char*) {},
-            .unmapped = unmapped,
-            .initial_state = initialState,
-            .parent_window = parent,
-            .geometry = geometry,
-            .icon_changed = [](void*, Proxy*) {},
-            .pid_changed = pid,
-            .virtual_desktop_entered = desktopEntered,
-            .virtual_desktop_left = desktopLeft,
-            .application_menu = [](void*, Proxy*, const char*, const char*) {},
-            .activity_entered = [](void*, Proxy*, const char*) {},
-            .activity_left = [](void*, Proxy*, const char*) {},
-            .resource_name_changed = resourceName,
-        };
+        static constexpr auto listener = [] {
+            // Later releases of the protocol have more events; none of them comes at our version.
+            org_kde_plasma_window_listener known{};
+            known.title_changed = [](void*, Proxy*, const char*) {
+            };
+            known.app_id_changed = appId;
+            known.state_changed = state;
+            known.virtual_desktop_changed = [](void*, Proxy*, std::int32_t) {
+            };
+            known.themed_icon_name_changed = [](void*, Proxy*, const char*) {
+            };
+            known.unmapped = unmapped;
+            known.initial_state = initialState;
+            known.parent_window = parent;
+            known.geometry = geometry;
+            known.icon_changed = [](void*, Proxy*) {
+            };
+            known.pid_changed = pid;
+            known.virtual_desktop_entered = desktopEntered;
+            known.virtual_desktop_left = desktopLeft;
+            known.application_menu = [](void*, Proxy*, const char*, const char*) {
+            };
+            known.activity_entered = [](void*, Proxy*, const char*) {
+            };
+            known.activity_left = [](void*, Proxy*, const char*) {
+            };
+            known.resource_name_changed = resourceName;
+            return known;
+        }();
         return listener;
     }
 
@@ -172,13 +182,19 @@ bool PlasmaWindows::activate(std::uint64_t id) {
 }
 
 void PlasmaWindows::add(const WaylandGlobal& global) {
-    static constexpr org_kde_plasma_window_management_listener listener = {
-        .show_desktop_changed = [](void*, Events::Manager*, std::uint32_t) {},
-        .window = [](void*, Events::Manager*, std::uint32_t) {},
-        .stacking_order_changed = [](void*, Events::Manager*, wl_array*) {},
-        .stacking_order_uuid_changed = [](void*, Events::Manager*, const char*) {},
-        .window_with_uuid = Events::window,
-    };
+    static constexpr auto listener = [] {
+        org_kde_plasma_window_management_listener known{};
+        known.show_desktop_changed = [](void*, Events::Manager*, std::uint32_t) {
+        };
+        known.window = [](void*, Events::Manager*, std::uint32_t) {
+        };
+        known.stacking_order_changed = [](void*, Events::Manager*, wl_array*) {
+        };
+        known.stacking_order_uuid_changed = [](void*, Events::Manager*, const char*) {
+        };
+        known.window_with_uuid = Events::window;
+        return known;
+    }();
     if (m_manager != nullptr || global.version < firstVersion)
         return;
     m_global = global.name;
