@@ -21,12 +21,21 @@ constexpr auto actionKey = "act"_L1;
 constexpr uchar normalUrgency = 1;
 constexpr int serversOwnTime = -1; ///< how long it stays on the screen
 
-QDBusMessage question(const QString& method) {
+QDBusMessage question(const QString& server, const QString& method) {
     return QDBusMessage::createMethodCall(
-        DBusNotifications::serviceName.toString(),
+        server,
         DBusNotifications::objectPath.toString(),
         DBusNotifications::serviceName.toString(),
         method);
+}
+
+/// Asks the bus which process shows notifications. Answers do not say who sent them: Qt 6.8 keeps
+/// that for signals and calls.
+QDBusMessage serverQuestion() {
+    const auto bus = u"org.freedesktop.DBus"_s;
+    auto question =
+        QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"GetNameOwner"_s);
+    return question << DBusNotifications::serviceName.toString();
 }
 
 bool isError(const QDBusMessage& answer) {
@@ -51,6 +60,7 @@ struct DBusNotifications::Request {
     Notification notification;
     Done done;
     Deadline limit = {};
+    QStringList capabilities = {}; ///< of the server
 };
 
 DBusNotifications::DBusNotifications(QDBusConnection bus, MainQueue& mainQueue)
@@ -78,40 +88,58 @@ void DBusNotifications::show(Notification notification, Done done) {
 void DBusNotifications::send(std::shared_ptr<Request> request) {
     m_sent = std::move(request);
     follow();
-    call(question(u"GetCapabilities"_s), [this, request = m_sent](const QDBusMessage& answer) {
-        notify(request, answer);
+    call(
+        question(serviceName.toString(), u"GetCapabilities"_s),
+        [this, request = m_sent](const QDBusMessage& answer) {
+            request->capabilities = answer.arguments().value(0).toStringList();
+            if (continues(request, answer))
+                findServer(request);
+        });
+}
+
+/// Unless there is no server, or the user has been told in another way meanwhile.
+bool DBusNotifications::continues(
+    const std::shared_ptr<Request>& request, const QDBusMessage& answer) {
+    if (isError(answer))
+        request->tell(NotificationOutcome::NoServer);
+    if (request->isTold())
+        sendNext();
+    return !request->isTold();
+}
+
+void DBusNotifications::findServer(const std::shared_ptr<Request>& request) {
+    call(serverQuestion(), [this, request](const QDBusMessage& answer) {
+        if (continues(request, answer))
+            notify(request, answer.arguments().value(0).toString());
     });
 }
 
-void DBusNotifications::notify(
-    const std::shared_ptr<Request>& request, const QDBusMessage& capabilities) {
-    if (isError(capabilities))
-        request->tell(NotificationOutcome::NoServer);
-    // The user has been told in another way meanwhile.
-    if (request->isTold())
-        return sendNext();
-    const auto known = capabilities.arguments().value(0).toStringList();
+void DBusNotifications::notify(const std::shared_ptr<Request>& request, const QString& server) {
+    const auto& known = request->capabilities;
     const auto& [title, body, action] = request->notification;
-    const bool replaces = m_shown && m_shown->server == capabilities.service();
+    const bool replaces = m_shown && m_shown->server == server;
     QStringList actions;
     if (action && known.contains("actions"_L1))
         actions = {actionKey, action->label};
-    auto message = question(u"Notify"_s);
+    auto message = question(server, u"Notify"_s);
     message
         << QString(applicationName) << (replaces ? m_shown->id : 0U) << QString(applicationId)
         << title << (known.contains("body-markup"_L1) ? body.toHtmlEscaped() : body) << actions
         << QVariantMap{{u"desktop-entry"_s, QString(applicationId)}, {u"urgency"_s, QVariant::fromValue(normalUrgency)}}
         << serversOwnTime;
-    call(message, [this, request](const QDBusMessage& answer) { adopt(request, answer); });
+    call(message, [this, request, server](const QDBusMessage& answer) {
+        adopt(request, server, answer);
+    });
 }
 
-void DBusNotifications::adopt(const std::shared_ptr<Request>& request, const QDBusMessage& answer) {
+void DBusNotifications::adopt(
+    const std::shared_ptr<Request>& request, const QString& server, const QDBusMessage& answer) {
     if (isError(answer)) {
         request->tell(NotificationOutcome::NoServer);
     } else {
         const auto& action = request->notification.action;
         m_shown = {
-            answer.service(),
+            server,
             answer.arguments().value(0).toUInt(),
             action ? action->perform : std::function<void()>()};
         request->tell(NotificationOutcome::Shown);

@@ -20,9 +20,11 @@ namespace {
 constexpr auto applicationId = "org.quorvane.Quorvane"_L1; ///< of the desktop entry
 constexpr auto busName = "org.freedesktop.DBus"_L1;
 
-/// The portal's own word, be it that it does not know the method; not the bus', nor our library's.
-bool isPortals(const QDBusMessage& answer) {
-    return answer.service().startsWith(u':');
+/// Asks the bus which process has the portal's name.
+QDBusMessage ownerQuestion() {
+    auto question = QDBusMessage::createMethodCall(
+        busName, u"/org/freedesktop/DBus"_s, busName, u"GetNameOwner"_s);
+    return question << portalname::service.toString();
 }
 
 } // namespace
@@ -51,15 +53,27 @@ void PortalDesktop::meet(QStringView interface, QObject* context, Met met) {
         portalname::registry.toString(),
         u"Register"_s);
     introduction << QString(applicationId) << QVariantMap();
-    // A portal without the registry (before 1.20) tells it by the error, and who it is, too.
+    // A portal without the registry (before 1.20) answers with an error, and so does one that two
+    // services of ours meet at once.
     ask(introduction,
         context,
         [this, interface, context, met = std::move(met)](const QDBusMessage& answer) {
-            if (!isPortals(answer)) {
+            if (answer.type() == QDBusMessage::ErrorMessage)
+                qCInfo(lcPortal, "not registered: %ls", qUtf16Printable(answer.errorMessage()));
+            findOwner(interface, context, met);
+        });
+}
+
+/// The answer itself does not say who sent it: Qt 6.8 keeps that for signals and calls.
+void PortalDesktop::findOwner(QStringView interface, QObject* context, Met met) {
+    ask(ownerQuestion(),
+        context,
+        [this, interface, context, met = std::move(met)](const QDBusMessage& answer) {
+            if (answer.signature() != "s"_L1) {
                 qCInfo(lcPortal, "no portal: %ls", qUtf16Printable(answer.errorMessage()));
                 return met(std::nullopt);
             }
-            m_owner = answer.service();
+            m_owner = answer.arguments().constFirst().toString();
             readProperties(interface, context, met);
         });
 }

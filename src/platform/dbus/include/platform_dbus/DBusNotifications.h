@@ -51,8 +51,12 @@ private:
 
     void follow();
     void send(std::shared_ptr<Request> request);
-    void notify(const std::shared_ptr<Request>& request, const QDBusMessage& capabilities);
-    void adopt(const std::shared_ptr<Request>& request, const QDBusMessage& answer);
+    [[nodiscard]] bool
+    continues(const std::shared_ptr<Request>& request, const QDBusMessage& answer);
+    void findServer(const std::shared_ptr<Request>& request);
+    void notify(const std::shared_ptr<Request>& request, const QString& server);
+    void adopt(
+        const std::shared_ptr<Request>& request, const QString& server, const QDBusMessage& answer);
     void sendNext();
     void call(const QDBusMessage& question, std::function<void(const QDBusMessage&)> answered);
     [[nodiscard]] bool isShown(uint id, const QDBusMessage& signal) const;

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void lose();
 
 private:
+    void findOwner(QStringView interface, QObject* context, Met met);
     void readProperties(QStringView interface, QObject* context, Met met);
 
     QDBusConnection m_bus;
