@@ -138,10 +138,11 @@ void PortalKeyboard::start(const PortalResponse& selected) {
 void PortalKeyboard::adoptConsent(const PortalResponse& started) {
     if (started.outcome == Outcome::Failed)
         return end(TypingRight::Stopped);
+    const auto agreed = started.outcome == Outcome::Success ? started.results : QVariantMap();
     // Whatever was answered, the earlier token is used up.
-    m_token.replace(text(started.results, u"restore_token"_s));
+    m_token.replace(text(agreed, u"restore_token"_s));
     // The user may have agreed, but not to the keyboard.
-    if ((number(started.results, u"devices"_s) & keyboardDevice) == 0)
+    if ((number(agreed, u"devices"_s) & keyboardDevice) == 0)
         return end(TypingRight::Refused);
     setState(TypingRight::Granted);
     wakeUp();

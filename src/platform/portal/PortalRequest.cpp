@@ -19,6 +19,7 @@ namespace {
 
 /// The codes of the signal.
 constexpr uint success = 0;
+constexpr uint cancelled = 1;
 
 } // namespace
 
@@ -81,9 +82,12 @@ void PortalRequest::respond(const QDBusMessage& signal) {
         return fail(u"an answer of other types"_s);
     const auto code = signal.arguments().at(0).toUInt();
     qCInfo(lcPortal, "%ls: %u", qUtf16Printable(m_name), code);
-    if (code != success)
-        return finish({PortalResponse::Outcome::Refused, {}});
-    finish({PortalResponse::Outcome::Success, qdbus_cast<QVariantMap>(signal.arguments().at(1))});
+    auto results = qdbus_cast<QVariantMap>(signal.arguments().at(1));
+    if (code == success)
+        return finish({PortalResponse::Outcome::Success, std::move(results)});
+    if (code == cancelled)
+        results.clear();
+    finish({PortalResponse::Outcome::Refused, std::move(results)});
 }
 
 void PortalRequest::fail(const QString& reason) {

@@ -23,7 +23,7 @@ struct PortalResponse {
     };
 
     Outcome outcome = Outcome::Failed;
-    QVariantMap results;
+    QVariantMap results; ///< of Refused as well, where the user has not cancelled
 };
 
 /// One question of the kind that the portal answers by a signal, at once or when the user has made

@@ -106,7 +106,9 @@ std::optional<KeyChord> understood(QStringView description) {
     constexpr qsizetype longest = 64;
     if (description.size() > longest)
         return std::nullopt;
-    auto words = description.toString().remove(u'<').replace(u'>', u'+').split(u'+');
+    // GNOME writes "Press <Control>d", in the user's language.
+    const auto modifiers = description.sliced(std::max(description.indexOf(u'<'), qsizetype{0}));
+    auto words = modifiers.toString().remove(u'<').replace(u'>', u'+').split(u'+');
     const auto key = keyCodeOf(words.takeLast().trimmed());
     if (!key || words.isEmpty())
         return std::nullopt;

@@ -131,6 +131,16 @@ TEST_F(PortalShortcutTest, IsAddedWhenTheUserWantsItAndTellsPressesAndReleases) 
     EXPECT_FALSE(m_tap->isKeyDown());
 }
 
+TEST_F(PortalShortcutTest, IsBoundByAnAnswerThatHoldsItThoughItSaysNoSuccess) {
+    m_desktop.agreement = 2;
+    m_desktop.trigger = u"Press <Shift><Control><Super>d"_s;
+    m_desktop.appear();
+    startProgram();
+    m_list->bind(controlShiftSuperD);
+    ASSERT_TRUE(isBound());
+    EXPECT_EQ(m_list->bound(), controlShiftSuperD);
+}
+
 TEST_F(PortalShortcutTest, KeepsTheActivationTokenForTheNextWindow) {
     qunsetenv("XDG_ACTIVATION_TOKEN");
     m_desktop.appear();

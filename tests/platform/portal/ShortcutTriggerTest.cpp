@@ -29,6 +29,7 @@ TEST(ShortcutTrigger, DescriptionsOfUsualKindsAreUnderstood) {
          {u"Ctrl+Alt+Shift+Meta+D"_s,
           u"Meta + Ctrl + Alt + Shift + D"_s,
           u"<Shift><Control><Alt><Super>d"_s,
+          u"Press <Shift><Control><Alt><Super>d"_s,
           u"CTRL+ALT+SHIFT+LOGO+d"_s})
         EXPECT_EQ(understood(text), all) << text.toStdString();
     EXPECT_EQ(understood(u"Ctrl+F12"), (KeyChord{111, modifier::control}));
@@ -44,6 +45,7 @@ TEST(ShortcutTrigger, OthersAreNot) {
           u"Ctrl+Ö"_s,
           u"press Ctrl+D"_s,
           u"<Control"_s,
+          u"Press <Control>d in Settings"_s,
           u"Ctrl+D, Ctrl+K"_s,
           QString(100'000, u'+')})
         EXPECT_EQ(understood(text), std::nullopt) << text.left(40).toStdString();

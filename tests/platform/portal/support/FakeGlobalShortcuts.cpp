@@ -102,7 +102,7 @@ void FakeGlobalShortcuts::bind(const QDBusMessage& message) {
     const auto wished = qdbus_cast<PortalShortcutList>(message.arguments().at(1));
     m_wish = wished.value(0).traits.value(u"preferred_trigger"_s).toString();
     knowsShortcut = userAgrees && !bindsNothing;
-    respond(userAgrees ? 0 : 1, {{u"shortcuts"_s, list(knowsShortcut)}});
+    respond(userAgrees ? agreement : 1, {{u"shortcuts"_s, list(knowsShortcut)}});
 }
 
 QVariant FakeGlobalShortcuts::list(bool isBound) const {

@@ -43,6 +43,7 @@ public:
 
     bool isOffered = true;
     bool userAgrees = true;
+    uint agreement = 0;         ///< how it answers then: GNOME 48 says 2
     bool bindsNothing = false;  ///< answers with success and an empty list
     bool knowsShortcut = false; ///< bound in an earlier run
     QString trigger = QStringLiteral("Ctrl+Shift+Meta+D"); ///< what it tells of the keys
