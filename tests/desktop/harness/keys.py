@@ -30,11 +30,13 @@ class Key(IntEnum):
     R = 27
     T = 28
     Y = 29
+    I = 31
     O = 32
     P = 33
     RETURN = 36
     CONTROL = 37
     A = 38
+    S = 39
     D = 40
     J = 44
     K = 45

@@ -5,10 +5,12 @@ from typing import Any
 
 from gi.repository import Gio, GLib
 
+from .waiting import PATIENCE
+
 BusError = GLib.Error
 """What a failed call raises."""
 
-_ANSWER_WITHIN = 3000  # milliseconds
+_ANSWER_WITHIN = int(PATIENCE * 300)  # milliseconds
 
 _DAEMON = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
 

@@ -23,6 +23,7 @@ _DAEMON = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBu
 
 _HERE = Path(__file__).parent
 _PROBE = "probe@quorvane.org"
+_FIRST_WITH_MODULES = 45  # of the releases, whose extensions are modules of JavaScript
 _NAME = "org.quorvane.Quorvane"
 
 # What programs of the session may have the bus start for them.
@@ -33,6 +34,7 @@ _SERVICES = (
     "org.freedesktop.impl.portal.desktop.gtk.service",
     "org.freedesktop.impl.portal.PermissionStore.service",
     "org.freedesktop.portal.Desktop.service",
+    "org.gnome.Settings.GlobalShortcutsProvider.service",
     "org.gnome.Shell.Notifications.service",
 )
 
@@ -65,6 +67,9 @@ class GnomeSession(PrivateSession):
     shell: Shell
     hands: Hands
 
+    release = 0
+    """The number of GNOME's release."""
+
     def __init__(self, extensions: Sequence[str] = ()) -> None:
         """`extensions` are those of the shell, by their UUIDs, that run beside the tests' own."""
         super().__init__()
@@ -92,6 +97,7 @@ class GnomeSession(PrivateSession):
         self._start_buses()
         self.accessibility = Accessibility(self.bus.address)
         undo.callback(self.accessibility.close)
+        self.release = self._find_release()
         self._install_probe()
         self._install_quorvane()
         for setting in _SETTINGS:
@@ -115,9 +121,17 @@ class GnomeSession(PrivateSession):
         )
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
 
+    def _find_release(self) -> int:
+        told = subprocess.check_output(["gnome-shell", "--version"], text=True)
+        return int(told.split()[-1].split(".")[0])
+
     def _install_probe(self) -> None:
-        extensions = self.directory("data") / "gnome-shell" / "extensions"
-        shutil.copytree(_HERE / "extension", extensions / _PROBE)
+        probe = self.directory("data") / "gnome-shell" / "extensions" / _PROBE
+        probe.mkdir(parents=True)
+        shutil.copy(_HERE / "extension" / "metadata.json", probe)
+        imports = "imports" if self.release >= _FIRST_WITH_MODULES else "imports_old"
+        parts = [_HERE / "extension" / f"{part}.js" for part in (imports, "probe")]
+        (probe / "extension.js").write_text("".join(part.read_text() for part in parts))
 
     def _install_quorvane(self) -> None:
         """What the shell looks for beside the program: its entry and its icons."""

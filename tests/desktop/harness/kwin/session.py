@@ -46,6 +46,19 @@ X-KDE-Wayland-Interfaces=org_kde_kwin_fake_input,org_kde_plasma_window_managemen
 """
 
 
+# From here KWin knows which applications there are; on a whole desktop the menu is Plasma's.
+_MENU = """\
+<!DOCTYPE Menu PUBLIC "-//freedesktop//DTD Menu 1.0//EN"
+ "http://www.freedesktop.org/standards/menu-spec/1.0/menu.dtd">
+<Menu>
+  <Name>Applications</Name>
+  <DefaultAppDirs/>
+  <DefaultDirectoryDirs/>
+  <Include><All/></Include>
+</Menu>
+"""
+
+
 class KwinSession(PrivateSession):
     """KWin with XWayland and a bus, and Quorvane installed; to be used inside of harness.sandbox."""
 
@@ -98,6 +111,9 @@ class KwinSession(PrivateSession):
         # KWin reads all of it to know the program again, for each connection and interface.
         self.program = self.root / PROGRAM.name
         self.run(["strip", "-o", str(self.program), str(PROGRAM)])
+        menus = self.directory("config") / "menus"
+        menus.mkdir()
+        (menus / "applications.menu").write_text(_MENU)
         applications = self.directory("data") / "applications"
         applications.mkdir()
         interpreter = Path(sys.executable).resolve()

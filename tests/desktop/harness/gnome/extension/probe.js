@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-/* exported init, enable, disable */
-
-const { Gio, Meta } = imports.gi;
-const Main = imports.ui.main;
+// What follows the imports, which each release of the shell has in its own words.
 
 const INTERFACE = `
 <node>
@@ -24,7 +21,7 @@ class Probe {
 
     Notifications() {
         const shown = Main.messageTray.getSources().flatMap(source => source.notifications);
-        return JSON.stringify(shown.map(note => [note.title, note.bannerBodyText]));
+        return JSON.stringify(shown.map(note => [note.title, note.body ?? note.bannerBodyText]));
     }
 
     Evaluate(code) {
@@ -48,34 +45,32 @@ function describe(window) {
     };
 }
 
-let exported;
-let name;
-
-function init() {}
-
-function enable() {
-    exported = Gio.DBusExportedObject.wrapJSObject(INTERFACE, new Probe());
-    // The overview that a session starts with would take the keys.
-    if (Main.layoutManager._startingUp) {
-        Main.sessionMode.hasOverview = false;
-        const connection = Main.layoutManager.connect('startup-complete', () => {
-            Main.layoutManager.disconnect(connection);
-            Main.sessionMode.hasOverview = true;
-            appear();
-        });
-    } else {
-        appear();
+class ProbeExtension {
+    enable() {
+        this._exported = Gio.DBusExportedObject.wrapJSObject(INTERFACE, new Probe());
+        // The overview that a session starts with would take the keys.
+        if (Main.layoutManager._startingUp) {
+            Main.sessionMode.hasOverview = false;
+            const connection = Main.layoutManager.connect('startup-complete', () => {
+                Main.layoutManager.disconnect(connection);
+                Main.sessionMode.hasOverview = true;
+                this._appear();
+            });
+        } else {
+            this._appear();
+        }
     }
-}
 
-/** On the bus from the moment at which the desktop is usable. */
-function appear() {
-    exported.export(Gio.DBus.session, '/org/quorvane/Probe');
-    name = Gio.bus_own_name(Gio.BusType.SESSION, 'org.quorvane.Probe', 0, null, null, null);
-}
+    disable() {
+        this._exported.unexport();
+        if (this._name)
+            Gio.bus_unown_name(this._name);
+    }
 
-function disable() {
-    exported.unexport();
-    if (name)
-        Gio.bus_unown_name(name);
+    /** On the bus from the moment at which the desktop is usable. */
+    _appear() {
+        this._exported.export(Gio.DBus.session, '/org/quorvane/Probe');
+        this._name = Gio.bus_own_name(
+            Gio.BusType.SESSION, 'org.quorvane.Probe', 0, null, null, null);
+    }
 }
