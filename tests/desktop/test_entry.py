@@ -181,11 +181,14 @@ class Entry(EntryCase):
 
 
 class ComposedEntry(EntryCase):
-    """Letters of several keys, as the X server's layouts have them."""
+    """Letters of several keys, as layouts have them."""
+
+    def take_accents(self) -> None:
+        """From now on the apostrophe is an acute accent that waits for a letter."""
+        self.session.run(["setxkbmap", "-layout", "us", "-variant", "intl"])
 
     def test_letter_that_an_input_method_composes_opens_the_line(self) -> None:
-        # Its apostrophe is an acute accent that waits for a letter.
-        self.session.run(["setxkbmap", "-layout", "us", "-variant", "intl"])
+        self.take_accents()
         self.open_date()
         self.keyboard.tap(Key.APOSTROPHE)
         self.keyboard.tap(Key.E)

@@ -110,6 +110,13 @@ class Entry(test_entry.Entry, SwayCase):
     """Popovers, calendar and sheets over the panel, by keyboard and by pointer."""
 
 
+class ComposedEntry(test_entry.ComposedEntry, SwayCase):
+    """Letters of several keys, which Qt composes by itself here."""
+
+    def take_accents(self) -> None:
+        self.keyboard.use_layout("us(intl)")
+
+
 class Edge(screen_edge_tests.ScreenEdge, SwayCase):
     """The same in the corner of the screen."""
 

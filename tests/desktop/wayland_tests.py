@@ -14,7 +14,7 @@ from harness.waiting import wait_until
 from harness.wayland.case import WaylandCase
 from harness.wayland.connection import WaylandConnection
 
-_REST = 20_000  # questions that the compositor answers meanwhile: some seconds
+_REST = 60_000  # questions that the compositor answers meanwhile: some seconds
 
 
 class Session(WaylandCase):

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "ComposedInPopover.h"
+
 #include <controls/AnchoredPopover.h>
 #include <controls/FocusRing.h>
 #include <controls/PopoverFade.h>
@@ -35,6 +37,8 @@ AnchoredPopover::AnchoredPopover(QWidget* anchor, QWidget* content, const Popove
     anchor->window()->installEventFilter(this);
 }
 
+AnchoredPopover::~AnchoredPopover() = default;
+
 void AnchoredPopover::open() {
     adjustSize();
     place();
@@ -44,6 +48,7 @@ void AnchoredPopover::open() {
         focused->setFocus(Qt::PopupFocusReason);
     else
         m_content->setFocus(Qt::PopupFocusReason);
+    m_composed = std::make_unique<ComposedInPopover>(*this);
 }
 
 bool AnchoredPopover::eventFilter(QObject* watched, QEvent* event) {
@@ -86,6 +91,7 @@ void AnchoredPopover::paintEvent(QPaintEvent* /*event*/) {
 
 void AnchoredPopover::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
+    m_composed.reset();
     if (m_anchor && m_anchor->window()->isVisible())
         giveFocusBack();
     Q_EMIT closed();

@@ -8,7 +8,11 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <memory>
+
 namespace quorvane {
+
+class ComposedInPopover;
 
 /// A small surface that stands at a control for as long as the user works in it. Escape, a press
 /// outside, and whatever hides its anchor's window close it; a press on the anchor itself closes it
@@ -25,6 +29,11 @@ public:
 
     /// Shows it at its anchor, on the anchor's screen.
     void open();
+
+    ~AnchoredPopover() override;
+
+    AnchoredPopover(const AnchoredPopover&) = delete;
+    AnchoredPopover& operator=(const AnchoredPopover&) = delete;
 
     [[nodiscard]] QWidget* content() const { return m_content; }
 
@@ -48,6 +57,7 @@ private:
 
     QPointer<QWidget> m_anchor;
     QWidget* m_content;
+    std::unique_ptr<ComposedInPopover> m_composed; ///< while it is open
     PopoverSurface m_surface;
     PopoverAlignment m_alignment = PopoverAlignment::LeftEdges;
 };
