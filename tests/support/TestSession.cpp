@@ -50,7 +50,6 @@ QByteArray chosen(const char* variable, const char* usual) {
 TestSession::TestSession() {
     const auto locale = chosen("QUORVANE_TEST_LOCALE", "C.UTF-8");
     const auto zone = chosen("QUORVANE_TEST_ZONE", "UTC");
-    const auto fonts = chosen("QUORVANE_TEST_FONT_FILE", QUORVANE_TEST_FONTS);
     dropInheritedVariables();
     makeFolder("HOME", "home");
     makeFolder("XDG_RUNTIME_DIR", "run");
@@ -63,7 +62,7 @@ TestSession::TestSession() {
     makeFolder("XDG_DATA_DIRS", "system");
     qputenv("LC_ALL", locale);
     qputenv("TZ", zone);
-    qputenv("FONTCONFIG_FILE", fonts);
+    qputenv("FONTCONFIG_FILE", QUORVANE_TEST_FONTS);
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
