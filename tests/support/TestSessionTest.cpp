@@ -21,7 +21,8 @@ using namespace Qt::StringLiterals;
 TEST(TestSessionTest, OnlyTheFontsOfTheTestsAreThere) {
     // Qt lists a family's weights, and the names that stand for any family, as families too.
     const QRegularExpression known(
-        u"^(DejaVu Sans|Droid Sans Fallback|Inter|Inter .*|Loma|Noto Sans Mono|Monospace|Sans Serif|Serif)$"_s);
+        u"^(DejaVu Sans|Droid Sans Fallback|Inter|Inter .*|Loma|Noto Sans Mono|Monospace|"
+        u"Sans Serif|Serif)$"_s);
     const auto families = QFontDatabase::families();
     for (const auto& family : {u"DejaVu Sans"_s, u"Inter"_s, u"Loma"_s, u"Noto Sans Mono"_s})
         EXPECT_TRUE(families.contains(family)) << family.toStdString();

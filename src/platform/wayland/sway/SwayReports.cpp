@@ -51,7 +51,7 @@ found(const QJsonObject& node, const std::function<bool(const SwayWindow&)>& isW
             const auto object = child.toObject();
             if (const auto window = windowOf(object); isWanted(window))
                 return window;
-            if (const auto below = found(object, isWanted))
+            if (auto below = found(object, isWanted))
                 return below;
         }
     }
