@@ -3,12 +3,14 @@
 #include "AppearanceFollower.h"
 #include "ApplicationAccessible.h"
 #include "CommandLine.h"
+#include "StartupScope.h"
 #include "TerminationSignals.h"
 
 #include <controls/ToolTipWrapping.h>
 #include <language/InterfaceLanguage.h>
 #include <loop/Failure.h>
 #include <loop/QtMainQueue.h>
+#include <platform/ActivationToken.h>
 #include <platform_dbus/DBusApplicationInstance.h>
 #include <platform_dbus/HungBusGuard.h>
 #include <settings/DiskFileWriter.h>
@@ -84,6 +86,7 @@ int run(
     SettingsWriter& writer,
     ApplicationInstance& instance,
     AppDelegate::Launch launch,
+    const ActivationToken& token,
     std::unique_ptr<const Compositor> compositor) {
     const auto environment = processEnvironment();
     const auto folders = UserFolders::fromEnvironment(environment);
@@ -122,11 +125,20 @@ int run(
          platform,
          environment});
     appearanceFollower.onApplied([&] { delegate.appearanceChanged(); });
-    mainQueue.async([&, launch] { delegate.applicationDidFinishLaunching(launch); });
-    // Through the queue as well, so that requests from the bus run after the launch.
-    instance.onReopen([&] { mainQueue.async([&] { delegate.surfaceMainUIForReopen(); }); });
-    instance.onAction(
-        [&](const QString& name) { mainQueue.async([&, name] { delegate.performAction(name); }); });
+    // Through the queue, so that requests from the bus run after the launch.
+    const auto serve = [&](const ActivationToken& request, std::function<void()> answer) {
+        mainQueue.async([&, request, answer = std::move(answer)] {
+            const StartupScope scope(*platform.startupNotification, request);
+            answer();
+        });
+    };
+    serve(token, [&delegate, launch] { delegate.applicationDidFinishLaunching(launch); });
+    instance.onReopen([&](const ActivationToken& request) {
+        serve(request, [&delegate] { delegate.surfaceMainUIForReopen(); });
+    });
+    instance.onAction([&](const QString& name, const ActivationToken& request) {
+        serve(request, [&delegate, name] { delegate.performAction(name); });
+    });
     QObject::connect(&delegate, &AppDelegate::willTerminate, [&] { instance.release(); });
     const TerminationSignals signals([&] { delegate.terminate(); });
     return application.exec();
@@ -136,6 +148,8 @@ int run(
 
 int main(int argc, char** argv) {
     const auto environment = processEnvironment();
+    // Before Qt, which would take it for the first window that shows, whenever that is.
+    const auto token = takeActivationTokenOfProcess();
     HungBusGuard busGuard(environment, busPatience);
     ApplicationAccessible::install();
     auto compositor =
@@ -160,14 +174,14 @@ int main(int argc, char** argv) {
     DBusApplicationInstance instance(
         QDBusConnection::sessionBus(), BusSocket::ofSession(environment));
     // The constructor of the model writes settings, which a second process must not do.
-    if (instance.claim(requestOf(commandLine)) == ApplicationInstance::Role::Second)
+    if (instance.claim(requestOf(commandLine), token) == ApplicationInstance::Role::Second)
         return 0;
     const InterfaceLanguage language(environment);
     QGuiApplication::setLayoutDirection(language.direction());
     // Static: exit(), which Qt calls when its connection to the display breaks, waits for it, too.
     static Disk disk;
-    const int status =
-        run(application, disk.settings, instance, launchOf(commandLine), std::move(compositor));
+    const int status = run(
+        application, disk.settings, instance, launchOf(commandLine), token, std::move(compositor));
     // All that the session could miss has been given back: windows, keys, clipboard, bus name.
     if (!disk.settings.finish(diskPatience))
         reportFailure(u"the disk does not answer; waiting until it has taken the settings"_s);

@@ -15,6 +15,7 @@
 #include <testing/FakeNotifications.h>
 #include <testing/FakePasteboard.h>
 #include <testing/FakeSoftwareCentre.h>
+#include <testing/FakeStartupNotification.h>
 #include <testing/FakeStatusBar.h>
 #include <testing/FakeTimeChanges.h>
 #include <testing/FakeWindowTraits.h>
@@ -171,6 +172,7 @@ private:
             std::move(space),
             std::move(layout),
             std::make_unique<FakeWindowTraits>(log),
+            std::make_unique<FakeStartupNotification>(log),
             std::move(desktop),
             std::move(centre),
             std::make_unique<FakeSoftwareCentre>(log),

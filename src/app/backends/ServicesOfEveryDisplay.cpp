@@ -7,6 +7,9 @@
 #include <platform_dbus/DBusScreenSaver.h>
 #include <platform_dbus/PortalAppearance.h>
 #include <platform_null/NullServices.h>
+#include <platform_portal/PortalAutostart.h>
+#include <platform_qt/QtStartupNotification.h>
+#include <platform_system/InstallationSearch.h>
 #include <platform_system/SystemTimeChanges.h>
 #include <platform_tray/TrayStatusBar.h>
 #include <platform_xdg/FileAppearance.h>
@@ -44,9 +47,10 @@ PlatformServices servicesOfEveryDisplay(const DesktopSession& session) {
     services.statusBar = std::make_unique<TrayStatusBar>(bus);
     services.timeChanges =
         std::make_unique<SystemTimeChanges>(SystemCurrentZone::settingFile(session.environment));
-    // In a sandbox the user's entries are out of reach, and one of the sandbox's starts nothing.
-    if (!QFileInfo::exists(u"/.flatpak-info"_s))
-        services.autostart = std::make_unique<XdgAutostart>(settingsFolders(session.environment));
+    if (session.isQtOnWayland())
+        services.startupNotification = std::make_unique<QtStartupNotification>();
+    services.installation = installationOf(QCoreApplication::applicationFilePath());
+    services.autostart = makeAutostart(session, services.installation);
     return services;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FreedesktopApplication.h"
+#include "PlatformData.h"
 
 #include <platform_dbus/DBusApplicationInstance.h>
 
@@ -61,15 +62,17 @@ DBusApplicationInstance::~DBusApplicationInstance() {
     m_bus.unregisterObject(objectPath.toString());
 }
 
-ApplicationInstance::Role DBusApplicationInstance::claim(Request request) {
-    const auto role = claimOnce(request);
+ApplicationInstance::Role
+DBusApplicationInstance::claim(Request request, const ActivationToken& token) {
+    const auto role = claimOnce(request, token);
     if (role != Role::Second)
         m_follower = std::make_unique<SessionBusFollower>(
             m_bus, m_socket, [this](const QDBusConnection& bus) { serve(bus); });
     return role;
 }
 
-ApplicationInstance::Role DBusApplicationInstance::claimOnce(Request request) {
+ApplicationInstance::Role
+DBusApplicationInstance::claimOnce(Request request, const ActivationToken& token) {
     if (!m_bus.isConnected()) {
         qCInfo(lcInstance, "no session bus");
         return Role::Alone;
@@ -85,7 +88,7 @@ ApplicationInstance::Role DBusApplicationInstance::claimOnce(Request request) {
         }
         if (reply.value() == primaryOwner || reply.value() == alreadyOwner)
             return Role::First;
-        if (request == Request::Nothing || activateFirst())
+        if (request == Request::Nothing || activateFirst(token))
             return Role::Second;
     }
     return Role::Alone;
@@ -97,21 +100,22 @@ void DBusApplicationInstance::release() {
         m_bus.asyncCall(busMessage(u"ReleaseName"_s, {serviceName.toString()}));
 }
 
-void DBusApplicationInstance::onReopen(std::function<void()> handler) {
+void DBusApplicationInstance::onReopen(std::function<void(const ActivationToken&)> handler) {
     m_application->setReopenHandler(std::move(handler));
 }
 
-void DBusApplicationInstance::onAction(std::function<void(const QString& name)> handler) {
+void DBusApplicationInstance::onAction(
+    std::function<void(const QString& name, const ActivationToken&)> handler) {
     m_application->setActionHandler(std::move(handler));
 }
 
-bool DBusApplicationInstance::activateFirst() {
+bool DBusApplicationInstance::activateFirst(const ActivationToken& token) {
     auto call = QDBusMessage::createMethodCall(
         serviceName.toString(),
         objectPath.toString(),
         u"org.freedesktop.Application"_s,
         u"Activate"_s);
-    call << QVariantMap{};
+    call << platformDataOf(token);
     const auto reply = m_bus.call(call, QDBus::Block, static_cast<int>(activationTimeout.count()));
     if (reply.type() != QDBusMessage::ErrorMessage)
         return true;

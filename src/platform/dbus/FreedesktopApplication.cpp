@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FreedesktopApplication.h"
 
+#include "PlatformData.h"
+
 #include <utility>
 
 namespace quorvane {
@@ -12,41 +14,42 @@ FreedesktopApplication::FreedesktopApplication(Start start, QObject* parent)
       m_startPending(start == Start::ByBus) {
 }
 
-void FreedesktopApplication::setReopenHandler(std::function<void()> handler) {
+void FreedesktopApplication::setReopenHandler(std::function<void(const ActivationToken&)> handler) {
     m_reopen = std::move(handler);
 }
 
-void FreedesktopApplication::setActionHandler(std::function<void(const QString&)> handler) {
+void FreedesktopApplication::setActionHandler(
+    std::function<void(const QString&, const ActivationToken&)> handler) {
     m_action = std::move(handler);
 }
 
-void FreedesktopApplication::Activate(const QVariantMap&) {
+void FreedesktopApplication::Activate(const QVariantMap& platformData) {
     (void) takeStart();
-    reopen();
+    reopen(platformData);
 }
 
 // There are no documents; a desktop that opens one with us still gets the program to the front.
-void FreedesktopApplication::Open(const QStringList&, const QVariantMap&) {
+void FreedesktopApplication::Open(const QStringList&, const QVariantMap& platformData) {
     (void) takeStart();
-    reopen();
+    reopen(platformData);
 }
 
 void FreedesktopApplication::ActivateAction(
-    const QString& actionName, const QVariantList&, const QVariantMap&) {
+    const QString& actionName, const QVariantList&, const QVariantMap& platformData) {
     const bool isStart = takeStart();
     if (isStart && actionName == "toggle"_L1)
-        reopen();
+        reopen(platformData);
     else if (m_action)
-        m_action(actionName);
+        m_action(actionName, tokenOf(platformData));
 }
 
 bool FreedesktopApplication::takeStart() {
     return std::exchange(m_startPending, false);
 }
 
-void FreedesktopApplication::reopen() {
+void FreedesktopApplication::reopen(const QVariantMap& platformData) {
     if (m_reopen)
-        m_reopen();
+        m_reopen(tokenOf(platformData));
 }
 
 } // namespace quorvane

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/ActivationToken.h>
+
 #include <QDBusAbstractAdaptor>
 #include <QString>
 #include <QStringList>
@@ -24,8 +26,8 @@ public:
 
     FreedesktopApplication(Start start, QObject* parent);
 
-    void setReopenHandler(std::function<void()> handler);
-    void setActionHandler(std::function<void(const QString&)> handler);
+    void setReopenHandler(std::function<void(const ActivationToken&)> handler);
+    void setActionHandler(std::function<void(const QString&, const ActivationToken&)> handler);
 
 public Q_SLOTS: // the methods of the interface, with its spelling
     // NOLINTBEGIN(readability-identifier-naming)
@@ -38,11 +40,11 @@ public Q_SLOTS: // the methods of the interface, with its spelling
 private:
     /// True at the first request of a process that the bus started.
     [[nodiscard]] bool takeStart();
-    void reopen();
+    void reopen(const QVariantMap& platformData);
 
     bool m_startPending;
-    std::function<void()> m_reopen;
-    std::function<void(const QString&)> m_action;
+    std::function<void(const ActivationToken&)> m_reopen;
+    std::function<void(const QString&, const ActivationToken&)> m_action;
 };
 
 } // namespace quorvane

@@ -131,7 +131,12 @@ public:
 
     void preparePanel(QWindow&) override {}
 
-    void presentPanel(QWindow&) override {}
+    void presentPanel(QWindow& window) override {
+        // Qt activates it by the token that the desktop has given. Without one, asking would make
+        // desktops point out a window that they bring to the front by themselves.
+        if (qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"))
+            window.requestActivate();
+    }
 
     void prepareDialog(QWindow&) override {}
 
@@ -151,6 +156,13 @@ public:
     void setShadow(QWindow&, const QMargins&) override {}
 
     [[nodiscard]] std::optional<HeldInput> heldInput() const override { return std::nullopt; }
+};
+
+class NullStartupNotification final : public StartupNotification {
+public:
+    void begin(const ActivationToken&) override {}
+
+    void end() override {}
 };
 
 class NullAppearance final : public Appearance {
@@ -214,6 +226,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .workspace = std::make_unique<NullWorkspace>(),
         .keyboardLayout = std::make_unique<NullKeyboardLayout>(),
         .windowTraits = std::make_unique<NullWindowTraits>(),
+        .startupNotification = std::make_unique<NullStartupNotification>(),
         .appearance = std::make_unique<NullAppearance>(),
         .notifications = std::make_unique<NullNotifications>(mainQueue),
         .softwareCentre = std::make_unique<NullSoftwareCentre>(),

@@ -6,6 +6,7 @@
 #include <x11_keyboard/X11EventTapService.h>
 #include <x11_keyboard/X11KeyPoster.h>
 #include <x11_keyboard/X11KeyboardLayout.h>
+#include <x11_windows/X11StartupNotification.h>
 #include <x11_windows/X11WindowTraits.h>
 #include <x11_windows/X11Workspace.h>
 
@@ -38,6 +39,7 @@ void X11Backend::addClipboard(PlatformServices& services) const {
 
 void X11Backend::addPanel(PlatformServices& services) const {
     services.windowTraits = std::make_unique<X11WindowTraits>(m_connection);
+    services.startupNotification = std::make_unique<X11StartupNotification>(m_connection);
 }
 
 void X11Backend::addKeyboardLayout(PlatformServices& services) const {

@@ -14,10 +14,17 @@ class FreedesktopApplicationTest : public testing::Test {
 protected:
     QObject object;
     QStringList requests;
+    ActivationToken token;
 
     void listen(FreedesktopApplication& application) {
-        application.setReopenHandler([this] { requests.append(u"reopen"_s); });
-        application.setActionHandler([this](const QString& name) { requests.append(name); });
+        application.setReopenHandler([this](const ActivationToken& given) {
+            requests.append(u"reopen"_s);
+            token = given;
+        });
+        application.setActionHandler([this](const QString& name, const ActivationToken& given) {
+            requests.append(name);
+            token = given;
+        });
     }
 };
 
@@ -29,6 +36,36 @@ TEST_F(FreedesktopApplicationTest, RequestsReachTheirHandlers) {
     application.ActivateAction(u"toggle"_s, {}, {});
     application.ActivateAction(u"copy"_s, {}, {});
     EXPECT_EQ(requests, (QStringList{u"reopen"_s, u"reopen"_s, u"toggle"_s, u"copy"_s}));
+}
+
+TEST_F(FreedesktopApplicationTest, TokensOfTheDesktopComeWithTheRequests) {
+    FreedesktopApplication application(Start::ByUser, &object);
+    listen(application);
+    const QVariantMap platformData{
+        {u"activation-token"_s, u"by wayland"_s}, {u"desktop-startup-id"_s, u"x11_TIME7"_s}};
+    application.ActivateAction(u"copy"_s, {}, platformData);
+    EXPECT_EQ(token, (ActivationToken{u"by wayland"_s, u"x11_TIME7"_s}));
+    application.ActivateAction(u"copy"_s, {}, {});
+    EXPECT_TRUE(token.isEmpty());
+    application.Activate(platformData);
+    EXPECT_EQ(token.token, u"by wayland"_s);
+    application.Open({}, {{u"desktop-startup-id"_s, u"id"_s}});
+    EXPECT_EQ(token, (ActivationToken{{}, u"id"_s}));
+}
+
+TEST_F(FreedesktopApplicationTest, TextsThatNoDesktopGivesAreNoTokens) {
+    FreedesktopApplication application(Start::ByUser, &object);
+    listen(application);
+    for (const auto& value :
+         {QVariant(7),
+          QVariant(QString(1025, u'a')),
+          QVariant(u"a\nb"_s),
+          QVariant(QStringList{})}) {
+        application.Activate({{u"activation-token"_s, value}, {u"desktop-startup-id"_s, value}});
+        EXPECT_TRUE(token.isEmpty());
+    }
+    application.Activate({{u"activation-token"_s, QString(1024, u'a')}});
+    EXPECT_EQ(token.token.size(), 1024);
 }
 
 TEST_F(FreedesktopApplicationTest, RequestsWithoutHandlersAreDropped) {

@@ -12,6 +12,7 @@
 #include <platform/Pasteboard.h>
 #include <platform/ServiceState.h>
 #include <platform/SoftwareCentre.h>
+#include <platform/StartupNotification.h>
 #include <platform/StatusBar.h>
 #include <platform/TimeChanges.h>
 #include <platform/WindowTraits.h>
@@ -33,6 +34,7 @@ struct PlatformServices {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<WindowTraits> windowTraits;
+    std::unique_ptr<StartupNotification> startupNotification;
 
     std::unique_ptr<Appearance> appearance;
     std::unique_ptr<Notifications> notifications;

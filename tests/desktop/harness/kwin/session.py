@@ -65,10 +65,16 @@ class KwinSession(PrivateSession):
     windows: KwinWindows  # type: ignore[assignment]
 
     def __init__(
-        self, is_installed: bool = True, scale: float = 1, has_lock: bool = False
+        self,
+        is_installed: bool = True,
+        scale: float = 1,
+        has_lock: bool = False,
+        settings: str = "",
     ) -> None:
-        """`is_installed`: the user's applications have Quorvane among them."""
+        """`is_installed`: the user's applications have Quorvane among them. `settings` are KWin's,
+        beside those of all tests."""
         super().__init__()
+        self._settings = settings
         self._is_installed = is_installed
         self._scale = scale
         self._has_lock = has_lock
@@ -99,7 +105,8 @@ class KwinSession(PrivateSession):
         }
         self.bus = SessionBus(self._processes, self.environment.copy(), self.directory("bus"))
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
-        (self.directory("config") / "kwinrc").write_text(_SETTINGS.format(scale=self._scale))
+        settings = _SETTINGS.format(scale=self._scale) + self._settings
+        (self.directory("config") / "kwinrc").write_text(settings)
         self._install()
         self._start_compositor()
         self.windows = KwinWindows(self.socket)

@@ -33,16 +33,17 @@ public:
     DBusApplicationInstance(const DBusApplicationInstance&) = delete;
     DBusApplicationInstance& operator=(const DBusApplicationInstance&) = delete;
 
-    [[nodiscard]] Role claim(Request request) override;
+    [[nodiscard]] Role claim(Request request, const ActivationToken& token) override;
     void release() override;
-    void onReopen(std::function<void()> handler) override;
-    void onAction(std::function<void(const QString& name)> handler) override;
+    void onReopen(std::function<void(const ActivationToken&)> handler) override;
+    void
+    onAction(std::function<void(const QString& name, const ActivationToken&)> handler) override;
 
 private:
-    [[nodiscard]] Role claimOnce(Request request);
+    [[nodiscard]] Role claimOnce(Request request, const ActivationToken& token);
 
     /// False if the first process is gone and took the request with it.
-    [[nodiscard]] bool activateFirst();
+    [[nodiscard]] bool activateFirst(const ActivationToken& token);
 
     /// Waits for the bus' own answer, within bounds.
     [[nodiscard]] QDBusMessage askBus(const QString& method, const QVariantList& arguments);
