@@ -184,7 +184,18 @@ void AppDelegate::showPreferences(PreferencesPlace place) {
 void AppDelegate::checkForUpdates() {
     // A popover has grabbed the keyboard, which the window that opens now needs.
     m_presentation.popover().close();
-    SparkleUpdater::shared().controller().checkForUpdates(*m_dependencies.platform.softwareCentre);
+    auto& platform = m_dependencies.platform;
+    auto* message = SparkleUpdater::shared().controller().checkForUpdates(
+        *platform.softwareCentre, platform.installation);
+    if (message != nullptr)
+        platform.windowTraits->activate(*message);
+}
+
+void AppDelegate::handleShortcut() {
+    // What became of the last insertion is told first: it goes with any change.
+    if (m_notice.text().isEmpty())
+        m_shortcutHint.notePress();
+    togglePresentation();
 }
 
 void AppDelegate::performAction(const QString& name) {

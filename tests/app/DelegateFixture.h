@@ -179,6 +179,7 @@ private:
             std::move(bar),
             std::move(changes),
             std::move(login),
+            {Installation::Kind::DebianPackage},
             {}};
     }
 

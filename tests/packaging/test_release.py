@@ -2,12 +2,13 @@
 """The archive of the sources."""
 
 import hashlib
+import re
 import tarfile
 import tempfile
 import unittest
 from pathlib import Path
 
-from tree import TREE, run
+from tree import CMAKE, TREE, run
 
 # Whoever the tree belongs to.
 _CLONE = ["git", "-c", "safe.directory=*", "clone", "--quiet"]
@@ -42,6 +43,21 @@ class Release(unittest.TestCase):
         self.assertTrue(all(name.split("/")[0] == folder for name in names))
         for name in ("dev", "CMakeLists.txt", "packaging/debian/rules", "LICENSE"):
             self.assertIn(f"{folder}/{name}", names)
+
+    def test_the_day_of_the_build_is_what_packagers_say_or_that_of_the_release(self) -> None:
+        script = self.folder / "day.cmake"
+        module = TREE / "cmake" / "BuildDate.cmake"
+        script.write_text(
+            f'include("{module}")\nquorvane_build_date(day)\nmessage("${{day}}")\n',
+            encoding="utf-8",
+        )
+        changes = (TREE / "CHANGELOG.md").read_text(encoding="utf-8")
+        (released, *_) = re.findall(r"^## \[[\d.]+\] - ([\d-]+)$", changes, re.MULTILINE)
+        command: list[str | Path] = ["env", "-u", "SOURCE_DATE_EPOCH", CMAKE, "-P", script]
+        self.assertEqual(released, run(command, TZ="Asia/Tokyo").stdout.strip())
+        command[2:3] = ["SOURCE_DATE_EPOCH=1710000000"]
+        del command[1]
+        self.assertEqual("2024-03-09", run(command, TZ="Asia/Tokyo").stdout.strip())
 
     def test_what_is_not_committed_is_no_release(self) -> None:
         tree = self.folder / "changed"

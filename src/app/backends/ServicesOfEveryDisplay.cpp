@@ -32,6 +32,15 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
 
+/// In a sandbox the user's entries are out of reach, and one of the sandbox's starts nothing.
+std::unique_ptr<Autostart>
+makeAutostart(const DesktopSession& session, const Installation& installation) {
+    if (installation.kind != Installation::Kind::Flatpak)
+        return std::make_unique<XdgAutostart>(settingsFolders(session.environment));
+    return std::make_unique<PortalAutostart>(
+        PortalLink().portal(Wish::Free), session.queue, session.defaults);
+}
+
 } // namespace
 
 PlatformServices servicesOfEveryDisplay(const DesktopSession& session) {

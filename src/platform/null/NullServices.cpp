@@ -233,6 +233,7 @@ PlatformServices makeNullServices(MainQueue& mainQueue) {
         .statusBar = std::make_unique<NullStatusBar>(),
         .timeChanges = std::make_unique<NullTimeChanges>(),
         .autostart = std::make_unique<NullAutostart>(),
+        .installation = {},
         .states = {},
     };
 }

@@ -6,6 +6,7 @@
 #include <platform/Autostart.h>
 #include <platform/DesktopShortcut.h>
 #include <platform/EventTap.h>
+#include <platform/Installation.h>
 #include <platform/KeyPoster.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Notifications.h>
@@ -42,6 +43,8 @@ struct PlatformServices {
     std::unique_ptr<StatusBar> statusBar;
     std::unique_ptr<TimeChanges> timeChanges;
     std::unique_ptr<Autostart> autostart;
+
+    Installation installation;
 
     /// What was chosen for each of those that differ between desktops; empty where all are whole.
     std::vector<ServiceState> states;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/Installation.h>
 #include <platform/SoftwareCentre.h>
 
 #include <QObject>
 #include <QPointer>
 
 class QMessageBox;
+class QWindow;
 
 namespace quorvane {
 
@@ -16,11 +18,16 @@ class UpdaterController final : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows this program's page; where nothing can, says in a few words who updates it.
-    void checkForUpdates(SoftwareCentre& softwareCentre);
+    /// Shows the page of this program, if it is one that software centres know; else, or where
+    /// nothing can, says in a few words where an update comes from. Returns the window of that
+    /// message, which wants the focus, or null.
+    [[nodiscard]] QWindow*
+    checkForUpdates(SoftwareCentre& softwareCentre, const Installation& installation);
 
 private:
-    void showMessage();
+    [[nodiscard]] static QString adviceFor(const Installation& installation);
+    [[nodiscard]] static QString describe(const Installation& installation);
+    [[nodiscard]] QWindow* showMessage(const Installation& installation);
 
     QPointer<QMessageBox> m_message;
 };
