@@ -62,6 +62,14 @@ class Login(DesktopCase):
         self.assertEqual("quorvane --hidden", entry["Exec"])
         self.assertEqual("quorvane", entry["TryExec"])
         wait_until(lambda: switch.has(State.CHECKED), "the switch to be on")
+        # What desktops do that let their users decide about it.
+        written = self.entry_file().read_text()
+        for change in ("Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"):
+            with self.subTest(change=change):
+                self.entry_file().write_text(written + change)
+                wait_until(lambda: not switch.has(State.CHECKED), "the switch to be off")
+                self.replace_entry(written)
+                wait_until(lambda: switch.has(State.CHECKED), "the switch to be on")
         self.entry_file().unlink()
         wait_until(lambda: not switch.has(State.CHECKED), "the switch to follow")
         quorvane.quit()
@@ -74,6 +82,12 @@ class Login(DesktopCase):
         bus = MessageBus(self.session.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(bus.close)
         wait_until(lambda: bus.has_owner(BUS_NAME), "the program to run")
+
+    def replace_entry(self, text: str) -> None:
+        """What a desktop does that writes settings whole."""
+        file = self.entry_file().with_suffix(".new")
+        file.write_text(text)
+        file.rename(self.entry_file())
 
     def entry_file(self) -> Path:
         """Where the session's user has the entry."""

@@ -62,6 +62,7 @@ void XdgAutostart::setOn(bool on) {
     const bool isDone = isOn() == on || (on ? write(entry) : switchOff());
     if (!isDone)
         reportFailure(u"%1 cannot be changed"_s.arg(ownEntry()));
+    m_request = isDone ? Request::Settled : Request::Refused;
     filesChanged();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GeneralSection.h"
 
+#include <controls/Announcement.h>
+#include <controls/WrappedText.h>
 #include <model/DateTimeModel.h>
 #include <platform/Autostart.h>
 #include <preferences/PreferencesMetrics.h>
@@ -14,9 +16,11 @@ GeneralSection::GeneralSection(DateTimeModel& model, Autostart& autostart, QWidg
       m_model(model),
       m_autostart(autostart),
       m_startAtLogin(autostart.isAvailable() ? new SwitchRow(tr("Start at login"), this) : nullptr),
+      m_loginCaption(new WrappedText({}, TextStyle::Caption, WrappedText::Color::Secondary, this)),
       m_remember(new SwitchRow(tr("Remember format and zones"), this)) {
     if (m_startAtLogin != nullptr) {
         add(m_startAtLogin);
+        column().addWidget(m_loginCaption);
         connect(
             m_startAtLogin, &SwitchRow::switched, this, [this](bool on) { m_autostart.setOn(on); });
     }
@@ -33,7 +37,28 @@ GeneralSection::~GeneralSection() {
 void GeneralSection::refresh() {
     if (m_startAtLogin != nullptr)
         m_startAtLogin->setOn(m_autostart.isOn());
+    sayOfLogin(loginCaption());
     m_remember->setOn(m_model.remembersChoices());
+}
+
+QString GeneralSection::loginCaption() const {
+    switch (m_autostart.request()) {
+    case Autostart::Request::Settled:
+        break;
+    case Autostart::Request::Asked:
+        return tr("Waiting for your answer");
+    case Autostart::Request::Refused:
+        return tr("Your desktop did not allow this.");
+    }
+    return {};
+}
+
+void GeneralSection::sayOfLogin(const QString& caption) {
+    const bool isNew = m_loginCaption->text() != caption;
+    m_loginCaption->setText(caption);
+    m_loginCaption->setVisible(!caption.isEmpty());
+    if (isNew && isVisible() && !caption.isEmpty())
+        announce(*m_loginCaption, caption);
 }
 
 void GeneralSection::add(SwitchRow* row) {

@@ -8,6 +8,7 @@ namespace quorvane {
 
 class Autostart;
 class DateTimeModel;
+class WrappedText;
 
 /// How the program begins.
 class GeneralSection final : public PreferencesSection {
@@ -25,10 +26,13 @@ public:
 
 private:
     void add(SwitchRow* row);
+    [[nodiscard]] QString loginCaption() const;
+    void sayOfLogin(const QString& caption);
 
     DateTimeModel& m_model;
     Autostart& m_autostart;
-    SwitchRow* m_startAtLogin; ///< null where that cannot be decided here
+    SwitchRow* m_startAtLogin;   ///< null where that cannot be decided here
+    WrappedText* m_loginCaption; ///< shows while there is something to say of it
     SwitchRow* m_remember;
     int m_below = 0; ///< how far the last row extends beyond what it paints
 };

@@ -30,6 +30,10 @@ public:
             m_real->setOn(on);
     }
 
+    [[nodiscard]] Request request() const override {
+        return m_plan.strikes("Autostart::request") ? Request::Refused : m_real->request();
+    }
+
     void onChanged(std::function<void()> handler) override {
         if (!m_plan.strikes("Autostart::onChanged"))
             m_real->onChanged(std::move(handler));

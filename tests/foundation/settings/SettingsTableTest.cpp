@@ -31,6 +31,8 @@ TEST(SettingsTable, EveryRowHasItsKeyAndDefault) {
     EXPECT_EQ(setting::typingToken.valueIn(empty), QString());
     EXPECT_EQ(setting::portalShortcut.key, "portalShortcut"_L1);
     EXPECT_FALSE(setting::portalShortcut.valueIn(empty));
+    EXPECT_EQ(setting::portalAutostart.key, "portalAutostart"_L1);
+    EXPECT_FALSE(setting::portalAutostart.valueIn(empty));
 }
 
 TEST(SettingsTable, EveryRememberedChoiceHasItsKeyAndDefault) {

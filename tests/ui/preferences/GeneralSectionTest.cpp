@@ -7,6 +7,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const auto login = u"Start at login"_s;
+const auto refusal = u"Your desktop did not allow this."_s;
 
 class GeneralSectionTest : public PreferencesFixture {};
 
@@ -32,6 +33,26 @@ TEST_F(GeneralSectionTest, SwitchGoesBackWhereItCannotBeDone) {
     autostart.fails = true;
     QTest::mouseClick(label(login), Qt::LeftButton);
     EXPECT_FALSE(box(login).isChecked());
+    EXPECT_TRUE(shows(refusal));
+    autostart.fails = false;
+    QTest::mouseClick(label(login), Qt::LeftButton);
+    EXPECT_TRUE(box(login).isChecked());
+    EXPECT_FALSE(shows(refusal));
+}
+
+TEST_F(GeneralSectionTest, SwitchWaitsForTheUsersAnswerAndSaysSo) {
+    const auto waiting = u"Waiting for your answer"_s;
+    autostart.asks = true;
+    QTest::mouseClick(label(login), Qt::LeftButton);
+    EXPECT_FALSE(box(login).isChecked());
+    EXPECT_TRUE(shows(waiting));
+    autostart.answer(true);
+    EXPECT_TRUE(box(login).isChecked());
+    EXPECT_FALSE(shows(waiting));
+    QTest::mouseClick(label(login), Qt::LeftButton);
+    autostart.answer(false);
+    EXPECT_TRUE(box(login).isChecked()) << "as it was";
+    EXPECT_TRUE(shows(refusal));
 }
 
 TEST_F(GeneralSectionTest, WhatCannotBeDecidedHereIsNotOffered) {

@@ -43,6 +43,9 @@ inline constexpr StoredSetting<bool> shortcutHintDismissed{
 /// Whether the user has had the desktop's portal add the shortcut.
 inline constexpr StoredSetting<bool> portalShortcut{QLatin1StringView("portalShortcut"), false};
 
+/// Whether the desktop's portal has let a program in a sandbox start at login.
+inline constexpr StoredSetting<bool> portalAutostart{QLatin1StringView("portalAutostart"), false};
+
 /// Whether the choices below are kept. While it is off they are neither read nor written.
 inline constexpr StoredSetting<bool> remembersChoices{
     QLatin1StringView("rememberFormatAndZones"), false};

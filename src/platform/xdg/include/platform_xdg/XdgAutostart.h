@@ -31,6 +31,8 @@ public:
     /// Switching on leaves an entry that is on as it is. Waits for the disk.
     void setOn(bool on) override;
 
+    [[nodiscard]] Request request() const override { return m_request; }
+
     /// Begins to follow the files, also where there are none yet.
     void onChanged(std::function<void()> handler) override;
 
@@ -44,6 +46,7 @@ private:
     QStringList m_folders;
     DiskFileWriter m_files;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
+    Request m_request = Request::Settled;
     std::function<void()> m_changed;
 };
 
