@@ -52,15 +52,19 @@ AppDelegate::AppDelegate(Dependencies dependencies)
           {*m_dependencies.platform.accessibilityRight,
            *m_dependencies.platform.eventTaps,
            m_dependencies.mainQueue},
-          {weakly(&AppDelegate::togglePresentation),
+          {weakly(&AppDelegate::handleShortcut),
            [this] { shortcutDidChange(); },
            [this](HotKeyCombo combo) {
                m_model.setHotKey(combo);
                m_preferences.refreshSoon();
            }}),
       m_shortcutHint(
-          {m_model, m_shortcut, *m_dependencies.platform.desktopShortcut, m_dependencies.mainQueue},
-          [this](const QString& text) { m_presentation.setHint(text); }),
+          {m_model,
+           m_shortcut,
+           *m_dependencies.platform.desktopShortcut,
+           *m_dependencies.platform.keyboardLayout,
+           m_dependencies.mainQueue},
+          [this](const PanelHint& hint) { m_presentation.setHint(hint); }),
       m_preferences(
           {m_model,
            m_dependencies.zones,
@@ -242,7 +246,10 @@ void AppDelegate::observeDesktop() {
     platform.windowTraits->onCompositingChanged(
         [this] { m_presentation.panel().compositingDidChange(); });
     connect(&m_model, &DateTimeModel::userWillChange, &m_notice, &DeliveryNotice::clear);
-    platform.keyboardLayout->onChanged([this] { refreshSoon(); });
+    platform.keyboardLayout->onChanged([this] {
+        refreshSoon();
+        m_shortcutHint.refresh();
+    });
     platform.desktopShortcut->onChanged([this] {
         // Presses come to us once the desktop has added the shortcut.
         m_shortcut.retry();

@@ -129,6 +129,7 @@ private:
     void renewHidden();
     void setupMainMenu();
     void startHidden();
+    void handleShortcut();
     [[nodiscard]] bool isReachable() const;
     void observeDesktop();
     void refreshSoon();

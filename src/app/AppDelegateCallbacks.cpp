@@ -47,6 +47,7 @@ PreferencesWindowController::Callbacks AppDelegate::preferencesCallbacks() {
                 return;
             self->m_model.setHotKey(combo);
             self->m_shortcut.change(combo);
+            self->m_shortcutHint.refresh();
             rebind(*self->m_dependencies.platform.desktopShortcut, combo);
         },
         [this] { m_typingConsent.allow(); },

@@ -143,8 +143,8 @@ void Presentation::setNotice(const QString& text) {
         announce(*view, text);
 }
 
-void Presentation::setHint(const QString& text) {
-    m_hint = text;
+void Presentation::setHint(const PanelHint& hint) {
+    m_hint = hint;
     prepareViews();
 }
 

@@ -7,6 +7,7 @@
 
 #include <controls/InputDevice.h>
 #include <model/DateTimeModel.h>
+#include <panel/PanelHint.h>
 
 namespace quorvane {
 
@@ -65,7 +66,7 @@ public:
     void setNotice(const QString& text);
 
     /// What the user has still to set up; empty for nothing to say.
-    void setHint(const QString& text);
+    void setHint(const PanelHint& hint);
 
     /// The mode actually used: a popover needs a tray icon to be placed at.
     [[nodiscard]] PresentationMode effectivePresentationMode() const;
@@ -88,7 +89,7 @@ private:
     PreviousFrontmostApp& m_previousFrontmostApp;
     std::function<void()> m_onAppearing;
     QString m_notice;
-    QString m_hint;
+    PanelHint m_hint;
     PanelPresentation m_panel;
     PopoverPresentation m_popover;
 };

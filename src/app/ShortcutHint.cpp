@@ -1,11 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "ShortcutHint.h"
 
+#include <hotkey/ShortcutChord.h>
+#include <recorder/KeyNames.h>
+
 #include <QCoreApplication>
 
 #include <utility>
 
 namespace quorvane {
+
+using Activity = ShortcutRecorder::Activity;
+
+namespace {
+
+QString translated(const char* text) {
+    return QCoreApplication::translate("quorvane::ShortcutHint", text);
+}
+
+} // namespace
 
 ShortcutHint::ShortcutHint(Dependencies dependencies, Show show)
     : m_dependencies(dependencies),
@@ -17,15 +30,12 @@ void ShortcutHint::begin() {
         m_hasBegun = true;
         refresh();
     });
+    refresh();
 }
 
 void ShortcutHint::refresh() {
-    if (!m_hasBegun)
-        return;
-    m_show(
-        isNeeded() ? QCoreApplication::translate(
-                         "quorvane::ShortcutHint", "No shortcut opens Quorvane yet.")
-                   : QString());
+    const bool isKnown = m_hasBegun || m_dependencies.shortcut.activity() == Activity::Active;
+    m_show(isKnown && !m_dependencies.model.isShortcutHintDismissed() ? hint() : PanelHint());
 }
 
 void ShortcutHint::dismiss() {
@@ -34,14 +44,47 @@ void ShortcutHint::dismiss() {
 }
 
 void ShortcutHint::noteCall() {
-    if (isNeeded() && m_dependencies.list.desktopName().isEmpty())
+    const bool mayBeBound =
+        m_dependencies.list.bound() || m_dependencies.list.desktopName().isEmpty();
+    if (isUnavailable() && mayBeBound)
+        notePress();
+}
+
+void ShortcutHint::notePress() {
+    if (!m_dependencies.model.isShortcutHintDismissed())
         dismiss();
 }
 
-bool ShortcutHint::isNeeded() const {
-    return !m_dependencies.model.isShortcutHintDismissed() &&
-           m_dependencies.shortcut.activity() == ShortcutRecorder::Activity::Unavailable &&
-           !m_dependencies.list.bound();
+bool ShortcutHint::isUnavailable() const {
+    return m_dependencies.shortcut.activity() == Activity::Unavailable;
+}
+
+PanelHint ShortcutHint::hint() const {
+    const auto& layout = m_dependencies.layout;
+    const auto bound = m_dependencies.list.bound();
+    if (m_dependencies.shortcut.activity() == Activity::Active)
+        return hintOf(shortcutText(m_dependencies.model.hotKey(), layout));
+    if (isUnavailable() && bound)
+        return hintOf(shortcutText(comboOf(*bound), layout));
+    return hintWithoutShortcut();
+}
+
+PanelHint ShortcutHint::hintOf(const QString& shortcut) {
+    return {
+        translated(
+            QT_TRANSLATE_NOOP("quorvane::ShortcutHint", "%1 opens Quorvane in any application."))
+            .arg(shortcut),
+        translated(QT_TRANSLATE_NOOP("quorvane::ShortcutHint", "Change…"))};
+}
+
+PanelHint ShortcutHint::hintWithoutShortcut() const {
+    const auto text = isUnavailable()
+                          ? translated(QT_TRANSLATE_NOOP(
+                                "quorvane::ShortcutHint", "No shortcut opens Quorvane yet."))
+                          : translated(QT_TRANSLATE_NOOP(
+                                "quorvane::ShortcutHint",
+                                "The shortcut that opens Quorvane does not work here."));
+    return {text, translated(QT_TRANSLATE_NOOP("quorvane::ShortcutHint", "Set Up…"))};
 }
 
 } // namespace quorvane

@@ -6,18 +6,20 @@
 #include <loop/Deadline.h>
 #include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
+#include <panel/PanelHint.h>
 #include <platform/DesktopShortcut.h>
+#include <platform/KeyboardLayout.h>
 
 #include <functional>
 
 namespace quorvane {
 
-/// The line that tells the user that no shortcut leads to the panel, on desktops where only the
-/// user can change that. It is gone once one does, or for good when the user says so.
+/// The line that tells a new user which shortcut leads to the panel, or what keeps one from doing
+/// so. It is gone for good once the user has come by the shortcut, or does not want it.
 class ShortcutHint final {
 public:
-    /// What a desktop takes to tell what its list of shortcuts holds. Said before, the line would
-    /// come and go.
+    /// What a desktop takes to tell whether it has a shortcut for us. That there is none is not
+    /// said before, or else the line would change.
     static constexpr Seconds patience{1};
 
     /// All must outlive the hint.
@@ -25,18 +27,19 @@ public:
         DateTimeModel& model;
         const GlobalShortcut& shortcut;
         const DesktopShortcut& list;
+        const KeyboardLayout& layout;
         MainQueue& queue;
     };
 
-    /// Shows the text; an empty one is none.
-    using Show = std::function<void(const QString& text)>;
+    using Show = std::function<void(const PanelHint& hint)>;
 
     ShortcutHint(Dependencies dependencies, Show show);
 
     /// The program has started.
     void begin();
 
-    /// What keeps the shortcut from working, or what the desktop's list holds, may have changed.
+    /// The shortcut, what keeps it from working, what is printed on its keys, or what the desktop's
+    /// list holds, may have changed.
     void refresh();
 
     /// The user does not want to be told again.
@@ -46,8 +49,14 @@ public:
     /// else can tell.
     void noteCall();
 
+    /// The user has pressed the shortcut.
+    void notePress();
+
 private:
-    [[nodiscard]] bool isNeeded() const;
+    [[nodiscard]] PanelHint hint() const;
+    [[nodiscard]] PanelHint hintWithoutShortcut() const;
+    [[nodiscard]] static PanelHint hintOf(const QString& shortcut);
+    [[nodiscard]] bool isUnavailable() const;
 
     Dependencies m_dependencies;
     Show m_show;

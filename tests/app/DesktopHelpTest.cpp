@@ -134,9 +134,10 @@ TEST_F(DesktopHelpTest, PanelSaysThatNoShortcutWorksAndLeadsToWhereItIsSetUp) {
     queue.run();
     EXPECT_EQ(preferences()->focusWidget(), button(u"Add to GNOME shortcuts"_s));
     button(u"Add to GNOME shortcuts"_s)->click();
-    EXPECT_FALSE(hints()) << "there is one now";
+    EXPECT_EQ(widgetByRole(*panel(), QAccessible::Button, u"Set Up…"_s), nullptr)
+        << "there is one now";
     desktopShortcut->setBound(std::nullopt);
-    EXPECT_TRUE(hints());
+    EXPECT_NE(widgetByRole(*panel(), QAccessible::Button, u"Set Up…"_s), nullptr);
 }
 
 TEST_F(DesktopHelpTest, HintThatIsDismissedNeverComesBack) {
@@ -164,12 +165,8 @@ TEST_F(DesktopHelpTest, KeyThatCallsTheProgramByItsNameEndsTheHint) {
     EXPECT_TRUE(setting::shortcutHintDismissed.valueIn(defaults));
 }
 
-TEST_F(DesktopHelpTest, NoHintBeforeTheDesktopHasToldItsListAndNoneWhereTheShortcutWorks) {
+TEST_F(DesktopHelpTest, NoHintBeforeTheDesktopHasToldItsList) {
     launch();
-    EXPECT_FALSE(hints());
-    makeDelegate();
-    launch();
-    queue.advance(ShortcutHint::patience);
     EXPECT_FALSE(hints());
 }
 

@@ -81,12 +81,12 @@ TEST(Preferences, AreWrittenInEveryLanguage) {
     }
 }
 
-class PanelHint : public testing::TestWithParam<BoardSetting> {};
+class HintPicture : public testing::TestWithParam<BoardSetting> {};
 
-TEST_P(PanelHint, IsWritten) {
+TEST_P(HintPicture, IsWritten) {
     const AppliedSetting applied(GetParam());
     PanelPlay play(GetParam());
-    play.view().setHint(u"No shortcut opens Quorvane yet."_s);
+    play.view().setHint({u"Ctrl+Shift+Super+D opens Quorvane in any application."_s, u"Change…"_s});
     play.setHeight(play.view().layout()->heightForWidth(play.view().width()));
     const auto picture = play.picture();
     QImage image(picture.size() * GetParam().scale, QImage::Format_RGB32);
@@ -99,7 +99,7 @@ TEST_P(PanelHint, IsWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Settings, PanelHint, testing::ValuesIn(boardSettings()), testing::PrintToStringParamName());
+    Settings, HintPicture, testing::ValuesIn(boardSettings()), testing::PrintToStringParamName());
 
 } // namespace
 } // namespace quorvane

@@ -19,10 +19,10 @@ constexpr int gap = 8;
 
 } // namespace
 
-HintLine::HintLine(const QString& action, QWidget* parent)
+HintLine::HintLine(QWidget* parent)
     : RoleWidget(QAccessible::Grouping, parent),
       m_text(new WrappedText({}, TextStyle::Callout, WrappedText::Color::Secondary, this)),
-      m_action(new TextButton(action, this)) {
+      m_action(new TextButton({}, this)) {
     auto* dismiss = new IconButton(
         IconButton::Kind::Section, Symbol::Xmark, tr("Do not show this again"), this);
     setAccessibleName(tr("Hint"));
@@ -41,12 +41,14 @@ HintLine::HintLine(const QString& action, QWidget* parent)
     hide();
 }
 
-void HintLine::setText(const QString& text) {
-    if (text != m_text->text()) {
-        m_text->setText(text);
-        m_action->setAccessibleDescription(text);
+void HintLine::setHint(const PanelHint& hint) {
+    // A screen reader is told of every assignment.
+    if (hint.text != m_text->text()) {
+        m_text->setText(hint.text);
+        m_action->setText(hint.action);
+        m_action->setAccessibleDescription(hint.text);
     }
-    setVisible(!text.isEmpty());
+    setVisible(!hint.text.isEmpty());
 }
 
 void HintLine::paintEvent(QPaintEvent* /*event*/) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <controls/RoleWidget.h>
+#include <panel/PanelHint.h>
 
 namespace quorvane {
 
@@ -15,11 +16,9 @@ class HintLine final : public RoleWidget {
     Q_OBJECT
 
 public:
-    /// `action` is on the button that leads there.
-    HintLine(const QString& action, QWidget* parent);
+    explicit HintLine(QWidget* parent);
 
-    /// Empty for nothing to say.
-    void setText(const QString& text);
+    void setHint(const PanelHint& hint);
 
 Q_SIGNALS:
     void followed();

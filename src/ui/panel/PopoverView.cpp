@@ -34,7 +34,7 @@ PopoverView::PopoverView(DateTimeModel& model, Dependencies dependencies, Callba
       m_callbacks(std::move(callbacks)),
       m_refresh(m_dependencies.mainQueue, [this] { refresh(); }),
       m_header(makeHeader()),
-      m_hint(new HintLine(tr("Set Up…"), this)),
+      m_hint(new HintLine(this)),
       m_dateSection(new DateSection(model, entryDependencies(), this)),
       m_timeZoneSection(new TimeZoneSection(
           model,
@@ -76,8 +76,11 @@ void PopoverView::setNotice(const QString& text) {
     m_previewSection->setNotice(text);
 }
 
-void PopoverView::setHint(const QString& text) {
-    m_hint->setText(text);
+void PopoverView::setHint(const PanelHint& hint) {
+    // With what hides the focus would go to where nobody looks for it.
+    if (hint.text.isEmpty() && focusWidget() != nullptr && m_hint->isAncestorOf(focusWidget()))
+        m_dateSection->focusStart();
+    m_hint->setHint(hint);
 }
 
 void PopoverView::togglePresentationMode() {

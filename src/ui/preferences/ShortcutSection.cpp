@@ -59,10 +59,16 @@ void ShortcutSection::setStatus(const ShortcutRecorder::Status& status) {
 }
 
 bool ShortcutSection::needsHelp() const {
-    return offer() != nullptr;
+    return help() != nullptr;
 }
 
 QWidget* ShortcutSection::offer() const {
+    auto* wanted = help();
+    return wanted != nullptr ? wanted : m_recorder;
+}
+
+/// What the user has to do about it; null where it works as it is.
+QWidget* ShortcutSection::help() const {
     if (m_listed->isVisibleTo(this))
         return m_listed->offer();
     return m_line->isVisibleTo(this) ? m_line->offer() : nullptr;

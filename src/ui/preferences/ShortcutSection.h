@@ -40,10 +40,11 @@ public:
     /// Whether the user has to do something for the shortcut to work.
     [[nodiscard]] bool needsHelp() const;
 
-    /// Where the keyboard's focus belongs for that.
+    /// Where the keyboard's focus belongs for that, or else to change the shortcut.
     [[nodiscard]] QWidget* offer() const;
 
 private:
+    [[nodiscard]] QWidget* help() const;
     void addNotice();
     void showNotice();
 

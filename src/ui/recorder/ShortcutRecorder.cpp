@@ -53,6 +53,7 @@ ShortcutRecorder::ShortcutRecorder(
     m_capture->setNextFocus(m_button);
     // A press of the button must not take the focus from the recording that it is to end.
     m_button->setFocusPolicy(Qt::TabFocus);
+    setFocusProxy(m_button);
     connect(m_button, &IconButton::clicked, this, &ShortcutRecorder::toggle);
     // Spacings, not margins: a layout mirrors those.
     auto* row = new QHBoxLayout(this);

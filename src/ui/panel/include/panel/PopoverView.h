@@ -6,6 +6,7 @@
 #include <loop/CoalescedRefresh.h>
 #include <loop/MainQueue.h>
 #include <model/DateTimeModel.h>
+#include <panel/PanelHint.h>
 #include <platform/KeyboardLayout.h>
 #include <platform/Pasteboard.h>
 #include <time/ZoneDatabase.h>
@@ -72,7 +73,7 @@ public:
     void setNotice(const QString& text);
 
     /// What the user has still to set up, below the header; empty for nothing to say.
-    void setHint(const QString& text);
+    void setHint(const PanelHint& hint);
 
     /// Switches between the popover at the menu bar and the detached window.
     void togglePresentationMode();
