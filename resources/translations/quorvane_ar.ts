@@ -694,6 +694,14 @@
         <source>Remember format and zones</source>
         <translation>تذكّر التنسيق والمناطق الزمنية</translation>
     </message>
+    <message>
+        <source>Waiting for your answer</source>
+        <translation>بانتظار إجابتك</translation>
+    </message>
+    <message>
+        <source>Your desktop did not allow this.</source>
+        <translation>لم يسمح سطح المكتب بذلك.</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::HintLine</name>
@@ -883,10 +891,6 @@
 <context>
     <name>quorvane::PopoverView</name>
     <message>
-        <source>Set Up…</source>
-        <translation>إعداد…</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>الإعدادات…</translation>
     </message>
@@ -897,6 +901,13 @@
     <message>
         <source>Quit Quorvane</source>
         <translation>إنهاء Quorvane</translation>
+    </message>
+</context>
+<context>
+    <name>quorvane::PortalAutostart</name>
+    <message>
+        <source>Quorvane starts when you log in, so that its shortcut is there.</source>
+        <translation>يبدأ Quorvane عند تسجيل الدخول كي يكون اختصاره متاحًا.</translation>
     </message>
 </context>
 <context>
@@ -952,6 +963,22 @@
     <message>
         <source>No shortcut opens Quorvane yet.</source>
         <translation>لا يوجد بعدُ اختصار يفتح Quorvane.</translation>
+    </message>
+    <message>
+        <source>%1 opens Quorvane in any application.</source>
+        <translation>يفتح %1 تطبيق Quorvane من أي تطبيق.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>تغيير…</translation>
+    </message>
+    <message>
+        <source>The shortcut that opens Quorvane does not work here.</source>
+        <translation>لا يعمل هنا الاختصار الذي يفتح Quorvane.</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>إعداد…</translation>
     </message>
 </context>
 <context>
@@ -1239,8 +1266,32 @@
         <translation>يحدّث مدير الحزم تطبيق Quorvane.</translation>
     </message>
     <message>
-        <source>This is version %1.</source>
-        <translation>هذا هو الإصدار %1.</translation>
+        <source>Flatpak updates Quorvane.</source>
+        <translation>يحدّث Flatpak تطبيق Quorvane.</translation>
+    </message>
+    <message>
+        <source>This Quorvane is updated by hand.</source>
+        <translation>يُحدَّث هذا الإصدار من Quorvane يدويًا.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Debian package.</source>
+        <translation>ثُبِّت كحزمة دبيان.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Flatpak.</source>
+        <translation>ثُبِّت كحزمة Flatpak.</translation>
+    </message>
+    <message>
+        <source>It runs in the folder %1, where it was built.</source>
+        <translation>يعمل في المجلد %1 الذي بُني فيه.</translation>
+    </message>
+    <message>
+        <source>It was installed into the folder %1.</source>
+        <translation>ثُبِّت في المجلد %1.</translation>
+    </message>
+    <message>
+        <source>This is version %1 of %2.</source>
+        <translation>هذا هو الإصدار %1 بتاريخ %2.</translation>
     </message>
 </context>
 <context>

@@ -690,6 +690,14 @@
         <source>Remember format and zones</source>
         <translation>Format und Zeitzonen merken</translation>
     </message>
+    <message>
+        <source>Waiting for your answer</source>
+        <translation>Warten auf Ihre Antwort</translation>
+    </message>
+    <message>
+        <source>Your desktop did not allow this.</source>
+        <translation>Ihre Arbeitsumgebung hat dies nicht zugelassen.</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::HintLine</name>
@@ -879,10 +887,6 @@
 <context>
     <name>quorvane::PopoverView</name>
     <message>
-        <source>Set Up…</source>
-        <translation>Einrichten&#xa0;…</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>Einstellungen&#xa0;…</translation>
     </message>
@@ -893,6 +897,13 @@
     <message>
         <source>Quit Quorvane</source>
         <translation>Quorvane beenden</translation>
+    </message>
+</context>
+<context>
+    <name>quorvane::PortalAutostart</name>
+    <message>
+        <source>Quorvane starts when you log in, so that its shortcut is there.</source>
+        <translation>Quorvane startet beim Anmelden, damit sein Tastenkürzel bereitsteht.</translation>
     </message>
 </context>
 <context>
@@ -948,6 +959,22 @@
     <message>
         <source>No shortcut opens Quorvane yet.</source>
         <translation>Noch öffnet kein Tastenkürzel Quorvane.</translation>
+    </message>
+    <message>
+        <source>%1 opens Quorvane in any application.</source>
+        <translation>%1 öffnet Quorvane in jeder Anwendung.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Ändern&#xa0;…</translation>
+    </message>
+    <message>
+        <source>The shortcut that opens Quorvane does not work here.</source>
+        <translation>Das Tastenkürzel, das Quorvane öffnet, funktioniert hier nicht.</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Einrichten&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -1235,8 +1262,32 @@
         <translation>Ihre Paketverwaltung aktualisiert Quorvane.</translation>
     </message>
     <message>
-        <source>This is version %1.</source>
-        <translation>Dies ist Version %1.</translation>
+        <source>Flatpak updates Quorvane.</source>
+        <translation>Flatpak aktualisiert Quorvane.</translation>
+    </message>
+    <message>
+        <source>This Quorvane is updated by hand.</source>
+        <translation>Dieses Quorvane wird von Hand aktualisiert.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Debian package.</source>
+        <translation>Es wurde als Debian-Paket installiert.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Flatpak.</source>
+        <translation>Es wurde als Flatpak installiert.</translation>
+    </message>
+    <message>
+        <source>It runs in the folder %1, where it was built.</source>
+        <translation>Es läuft im Ordner %1, in dem es gebaut wurde.</translation>
+    </message>
+    <message>
+        <source>It was installed into the folder %1.</source>
+        <translation>Es wurde in den Ordner %1 installiert.</translation>
+    </message>
+    <message>
+        <source>This is version %1 of %2.</source>
+        <translation>Dies ist Version %1 vom %2.</translation>
     </message>
 </context>
 <context>

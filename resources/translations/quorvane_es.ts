@@ -690,6 +690,14 @@
         <source>Remember format and zones</source>
         <translation>Recordar el formato y las zonas</translation>
     </message>
+    <message>
+        <source>Waiting for your answer</source>
+        <translation>Esperando su respuesta</translation>
+    </message>
+    <message>
+        <source>Your desktop did not allow this.</source>
+        <translation>Su escritorio no lo ha permitido.</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::HintLine</name>
@@ -879,10 +887,6 @@
 <context>
     <name>quorvane::PopoverView</name>
     <message>
-        <source>Set Up…</source>
-        <translation>Configurar…</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>Preferencias…</translation>
     </message>
@@ -893,6 +897,13 @@
     <message>
         <source>Quit Quorvane</source>
         <translation>Salir de Quorvane</translation>
+    </message>
+</context>
+<context>
+    <name>quorvane::PortalAutostart</name>
+    <message>
+        <source>Quorvane starts when you log in, so that its shortcut is there.</source>
+        <translation>Quorvane se inicia al iniciar sesión para que su atajo esté disponible.</translation>
     </message>
 </context>
 <context>
@@ -948,6 +959,22 @@
     <message>
         <source>No shortcut opens Quorvane yet.</source>
         <translation>Ningún atajo abre Quorvane todavía.</translation>
+    </message>
+    <message>
+        <source>%1 opens Quorvane in any application.</source>
+        <translation>%1 abre Quorvane en cualquier aplicación.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Cambiar…</translation>
+    </message>
+    <message>
+        <source>The shortcut that opens Quorvane does not work here.</source>
+        <translation>El atajo que abre Quorvane no funciona aquí.</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Configurar…</translation>
     </message>
 </context>
 <context>
@@ -1235,8 +1262,32 @@
         <translation>Su gestor de paquetes actualiza Quorvane.</translation>
     </message>
     <message>
-        <source>This is version %1.</source>
-        <translation>Esta es la versión %1.</translation>
+        <source>Flatpak updates Quorvane.</source>
+        <translation>Flatpak actualiza Quorvane.</translation>
+    </message>
+    <message>
+        <source>This Quorvane is updated by hand.</source>
+        <translation>Este Quorvane se actualiza a mano.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Debian package.</source>
+        <translation>Se instaló como paquete Debian.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Flatpak.</source>
+        <translation>Se instaló como Flatpak.</translation>
+    </message>
+    <message>
+        <source>It runs in the folder %1, where it was built.</source>
+        <translation>Se ejecuta en la carpeta %1, donde se compiló.</translation>
+    </message>
+    <message>
+        <source>It was installed into the folder %1.</source>
+        <translation>Se instaló en la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>This is version %1 of %2.</source>
+        <translation>Esta es la versión %1 del %2.</translation>
     </message>
 </context>
 <context>

@@ -690,6 +690,14 @@
         <source>Remember format and zones</source>
         <translation>Mémoriser le format et les fuseaux</translation>
     </message>
+    <message>
+        <source>Waiting for your answer</source>
+        <translation>En attente de votre réponse</translation>
+    </message>
+    <message>
+        <source>Your desktop did not allow this.</source>
+        <translation>Votre bureau ne l’a pas autorisé.</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::HintLine</name>
@@ -879,10 +887,6 @@
 <context>
     <name>quorvane::PopoverView</name>
     <message>
-        <source>Set Up…</source>
-        <translation>Configurer…</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>Préférences…</translation>
     </message>
@@ -893,6 +897,13 @@
     <message>
         <source>Quit Quorvane</source>
         <translation>Quitter Quorvane</translation>
+    </message>
+</context>
+<context>
+    <name>quorvane::PortalAutostart</name>
+    <message>
+        <source>Quorvane starts when you log in, so that its shortcut is there.</source>
+        <translation>Quorvane démarre à l’ouverture de session, pour que son raccourci soit disponible.</translation>
     </message>
 </context>
 <context>
@@ -948,6 +959,22 @@
     <message>
         <source>No shortcut opens Quorvane yet.</source>
         <translation>Aucun raccourci n’ouvre encore Quorvane.</translation>
+    </message>
+    <message>
+        <source>%1 opens Quorvane in any application.</source>
+        <translation>%1 ouvre Quorvane dans n’importe quelle application.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Modifier…</translation>
+    </message>
+    <message>
+        <source>The shortcut that opens Quorvane does not work here.</source>
+        <translation>Le raccourci qui ouvre Quorvane ne fonctionne pas ici.</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Configurer…</translation>
     </message>
 </context>
 <context>
@@ -1235,8 +1262,32 @@
         <translation>Votre gestionnaire de paquets met Quorvane à jour.</translation>
     </message>
     <message>
-        <source>This is version %1.</source>
-        <translation>Version installée&#xa0;: %1.</translation>
+        <source>Flatpak updates Quorvane.</source>
+        <translation>Flatpak met Quorvane à jour.</translation>
+    </message>
+    <message>
+        <source>This Quorvane is updated by hand.</source>
+        <translation>Cette version de Quorvane se met à jour à la main.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Debian package.</source>
+        <translation>Elle a été installée sous forme de paquet Debian.</translation>
+    </message>
+    <message>
+        <source>It was installed as a Flatpak.</source>
+        <translation>Elle a été installée sous forme de Flatpak.</translation>
+    </message>
+    <message>
+        <source>It runs in the folder %1, where it was built.</source>
+        <translation>Elle fonctionne dans le dossier %1, où elle a été compilée.</translation>
+    </message>
+    <message>
+        <source>It was installed into the folder %1.</source>
+        <translation>Elle a été installée dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>This is version %1 of %2.</source>
+        <translation>Version installée&#xa0;: %1 du %2.</translation>
     </message>
 </context>
 <context>

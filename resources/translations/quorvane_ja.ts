@@ -689,6 +689,14 @@
         <source>Remember format and zones</source>
         <translation>形式とタイムゾーンを記憶</translation>
     </message>
+    <message>
+        <source>Waiting for your answer</source>
+        <translation>応答を待っています</translation>
+    </message>
+    <message>
+        <source>Your desktop did not allow this.</source>
+        <translation>デスクトップがこれを許可しませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::HintLine</name>
@@ -878,10 +886,6 @@
 <context>
     <name>quorvane::PopoverView</name>
     <message>
-        <source>Set Up…</source>
-        <translation>設定…</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>設定…</translation>
     </message>
@@ -892,6 +896,13 @@
     <message>
         <source>Quit Quorvane</source>
         <translation>Quorvane を終了</translation>
+    </message>
+</context>
+<context>
+    <name>quorvane::PortalAutostart</name>
+    <message>
+        <source>Quorvane starts when you log in, so that its shortcut is there.</source>
+        <translation>ショートカットを使えるように、ログイン時に Quorvane を起動します。</translation>
     </message>
 </context>
 <context>
@@ -947,6 +958,22 @@
     <message>
         <source>No shortcut opens Quorvane yet.</source>
         <translation>Quorvane を開くショートカットがまだありません。</translation>
+    </message>
+    <message>
+        <source>%1 opens Quorvane in any application.</source>
+        <translation>%1 でどのアプリケーションからでも Quorvane を開けます。</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>変更…</translation>
+    </message>
+    <message>
+        <source>The shortcut that opens Quorvane does not work here.</source>
+        <translation>Quorvane を開くショートカットはここでは機能しません。</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>設定…</translation>
     </message>
 </context>
 <context>
@@ -1234,8 +1261,32 @@
         <translation>Quorvane はパッケージマネージャーで更新されます。</translation>
     </message>
     <message>
-        <source>This is version %1.</source>
-        <translation>バージョンは %1 です。</translation>
+        <source>Flatpak updates Quorvane.</source>
+        <translation>Quorvane は Flatpak で更新されます。</translation>
+    </message>
+    <message>
+        <source>This Quorvane is updated by hand.</source>
+        <translation>この Quorvane は手動で更新します。</translation>
+    </message>
+    <message>
+        <source>It was installed as a Debian package.</source>
+        <translation>Debian パッケージとしてインストールされています。</translation>
+    </message>
+    <message>
+        <source>It was installed as a Flatpak.</source>
+        <translation>Flatpak としてインストールされています。</translation>
+    </message>
+    <message>
+        <source>It runs in the folder %1, where it was built.</source>
+        <translation>ビルドしたフォルダー %1 で実行されています。</translation>
+    </message>
+    <message>
+        <source>It was installed into the folder %1.</source>
+        <translation>フォルダー %1 にインストールされています。</translation>
+    </message>
+    <message>
+        <source>This is version %1 of %2.</source>
+        <translation>バージョンは %1（%2）です。</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,17 @@ _EXPECTED_REMARKS = {
     "url-homepage-missing",
 }
 
+_ACTIONS = TREE / "src" / "app" / "DesktopAction.cpp"
+
+# What a user may look for, or change.
+_FILES = ("defaults.json", "windows.json", f"autostart/{ID}.desktop")
+_VARIABLES = (
+    *("LC_TIME", "LC_ALL", "LANG", "TZ", "TZDIR"),
+    *("XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"),
+    *("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "SWAYSOCK"),
+    *("QUORVANE_BACKEND", "QT_LOGGING_RULES"),
+)
+
 # What only developers need: a compiler is there wherever packages are built.
 _NOT_FOR_PACKAGES = {"g++", "ccache", "libgtest-dev", "libgmock-dev", "libbenchmark-dev"}
 
@@ -69,7 +80,7 @@ class Metadata(unittest.TestCase):
         file = configparser.ConfigParser(interpolation=None)
         file.read(self.share / "applications" / f"{ID}.desktop")
         actions = file["Desktop Entry"]["Actions"].strip(";").split(";")
-        known = text(TREE / "src" / "app" / "DesktopAction.cpp")
+        known = text(_ACTIONS)
         for action in actions:
             command = file[f"Desktop Action {action}"]["Exec"]
             self.assertEqual(f"gapplication action {ID} {action}", command)
@@ -83,6 +94,8 @@ class Metadata(unittest.TestCase):
         self.assertIn("successful", checked.stdout)
 
     def test_the_manual_has_no_mistakes(self) -> None:
+        actions = re.findall(r'DesktopAction\{"(\w+)"_L1', text(_ACTIONS))
+        self.assertIn("toggle", actions)
         for folder in ("man1", *(f"{language}/man1" for language in LANGUAGES)):
             file = self.share / "man" / folder / "quorvane.1"
             checked = run(["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", file])
@@ -90,7 +103,7 @@ class Metadata(unittest.TestCase):
             warnings = [line for line in checked.stdout.splitlines() if "warning" in line]
             self.assertEqual([], warnings, folder)
             shown = run(["man", "-l", file], MANWIDTH="80", MANPAGER="cat").stdout
-            for word in (version(), "--hidden", "toggle", "preferences", "defaults.json"):
+            for word in (version(), "--hidden", *actions, *_FILES, *_VARIABLES):
                 self.assertIn(word, shown)
 
     def test_the_manual_says_the_same_in_every_language(self) -> None:
@@ -146,6 +159,14 @@ class Sources(unittest.TestCase):
         control = text(_PACKAGING / "debian" / "control").split("\nPackage:")[0]
         declared = set(re.findall(r"^ ([a-z0-9.+-]+)", control, re.MULTILINE))
         self.assertLessEqual(set(listed[1].split()) - _NOT_FOR_PACKAGES, declared)
+
+    def test_flatpaks_builder_understands_the_manifest(self) -> None:
+        manifest = _PACKAGING / "flatpak" / f"{ID}.yml"
+        with tempfile.TemporaryDirectory(prefix="qv-flatpak-") as folder:
+            # It leaves files where it runs, and warns of what it does not know.
+            builder = ["env", f"--chdir={folder}", "flatpak-builder", "--show-manifest"]
+            checked = run([*builder, manifest], G_DEBUG="fatal-warnings")
+        self.assertEqual(0, checked.returncode, checked.stdout)
 
     def test_the_sandbox_asks_for_nothing_but_display_and_tray(self) -> None:
         manifest = yaml.safe_load(text(_PACKAGING / "flatpak" / f"{ID}.yml"))

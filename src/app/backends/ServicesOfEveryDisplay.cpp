@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ServicesOfEveryDisplay.h"
 
+#include "PortalLink.h"
+
 #include <platform/LayeredAppearance.h>
 #include <platform/LockableWorkspace.h>
 #include <platform_dbus/DBusNotifications.h>
@@ -18,8 +20,8 @@
 #include <settings/UserFolders.h>
 #include <time/SystemCurrentZone.h>
 
+#include <QCoreApplication>
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <utility>

@@ -211,6 +211,8 @@ public:
 
     void setOn(bool) override {}
 
+    [[nodiscard]] Request request() const override { return Request::Settled; }
+
     void onChanged(std::function<void()>) override {}
 };
 

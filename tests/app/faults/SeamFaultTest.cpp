@@ -32,6 +32,8 @@ const std::set<std::string> madeElsewhere{
     "ApplicationInstance::release",
     "ApplicationInstance::onReopen",
     "ApplicationInstance::onAction",
+    "StartupNotification::begin",
+    "StartupNotification::end",
     // Its steps fail one by one: FileReplacement.
     "FileWriter::replace",
     // By backends, and by the tray's own tests.
