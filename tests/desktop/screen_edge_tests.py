@@ -7,13 +7,14 @@ from collections.abc import Callable
 from harness.accessible import Accessible, State
 from harness.case import DesktopCase
 from harness.keys import Key
-from harness.quorvane import Quorvane
+from harness.quorvane import Quorvane, settings_file
 from harness.waiting import wait_until
 from harness.windows import Windows
 
 Frame = tuple[int, int, int, int]
 
-_PANEL = (504, 496)  # its height is what its content needs, some points less
+# The heights are what the content needs, and some points more.
+_WIDTH, _HEIGHT, _HEIGHT_OF_RANGE = 504, 496, 566
 
 
 class ScreenEdge(DesktopCase):
@@ -25,14 +26,8 @@ class ScreenEdge(DesktopCase):
     size = (1280, 800)
     """The screen, in points."""
 
-    def setUp(self) -> None:
-        super().setUp()
-        self.keep_place()
-        self.quorvane = Quorvane(self.session)
-        self.quorvane.wait_active()
-        self.tree = self.quorvane.tree()
-
     def test_the_calendar_of_the_lowest_row(self) -> None:
+        self.begin(_HEIGHT_OF_RANGE)
         self.show_range()
         day = self.tree.find_described("push button", "End date")
         before = day.name
@@ -47,6 +42,7 @@ class ScreenEdge(DesktopCase):
         wait_until(lambda: not self.tree.shows("push button", "Next month"), "its end")
 
     def test_the_time_of_the_lowest_row(self) -> None:
+        self.begin(_HEIGHT_OF_RANGE)
         self.show_range()
         self.open(self.tree.find_described("push button", "End time"))
         minute = self.tree.find_role("text", "Minute")
@@ -55,6 +51,7 @@ class ScreenEdge(DesktopCase):
         wait_until(lambda: minute.has(State.FOCUSED), "the focus where the pointer pressed")
 
     def test_the_list_of_formats(self) -> None:
+        self.begin(_HEIGHT)
         before = self.quorvane.preview()
         self.open(self.tree.find_role("combo box", "Format"))
         wanted = self.tree.find_role("list item", "ISO 8601")
@@ -63,6 +60,7 @@ class ScreenEdge(DesktopCase):
         wait_until(lambda: self.quorvane.preview() != before, "another format")
 
     def test_the_menu_of_the_header(self) -> None:
+        self.begin(_HEIGHT)
         self.open(self.tree.find_role("button menu", "More"))
         wanted = self.tree.find_role("menu item", "Preferences…")
         self.expect_inside("menu item")
@@ -70,18 +68,20 @@ class ScreenEdge(DesktopCase):
         self.tree.find_role("push button", "Record new shortcut")
 
     def test_the_menu_of_the_preview(self) -> None:
+        self.begin(_HEIGHT)
         preview = self.tree.find_role("text", "Preview")
         preview.focus()
         wait_until(lambda: preview.has(State.FOCUSED), "the focus in the preview")
         opened = self.next_menu()
         self.keyboard.tap(Key.MENU)
-        self.assertTrue(self.is_inside(opened()))
+        wait_until(lambda: self.is_inside(opened()), "a menu inside of the screen")
         # The last item selects all.
         self.keyboard.tap(Key.UP)
         self.keyboard.tap(Key.RETURN)
         wait_until(preview.has_selection, "the selection")
 
     def test_the_sheet_of_time_zones(self) -> None:
+        self.begin(_HEIGHT)
         self.open(self.tree.find_role("push button", "Add time zone"))
         search = self.tree.find_role("text", "Search")
         wait_until(lambda: search.has(State.FOCUSED), "the focus in the search")
@@ -95,13 +95,20 @@ class ScreenEdge(DesktopCase):
         self.addCleanup(windows.close)
         return lambda: windows.frame(windows.wait(windows.menu, "a menu"))
 
-    def keep_place(self) -> None:
-        """As the user has left the panel in an earlier run."""
-        left, top = self.size[0] - _PANEL[0], self.size[1] - _PANEL[1]
-        frame = {"x": left, "y": top, "width": _PANEL[0], "height": 1}
+    def begin(self, height: int) -> None:
+        """As the user has left the panel in an earlier run; where it has room it does not move."""
+        left, top = self.size[0] - _WIDTH, self.size[1] - height
+        frame = {"x": left, "y": top, "width": _WIDTH, "height": 1}
         folder = self.session.directory("state") / "quorvane"
         folder.mkdir()
         (folder / "windows.json").write_text(json.dumps({"PanelV2": frame}))
+        # A line that came some time after the start would move all else.
+        settings = settings_file(self.session)
+        settings.parent.mkdir(parents=True, exist_ok=True)
+        settings.write_text(json.dumps({"shortcutHintDismissed": True}))
+        self.quorvane = Quorvane(self.session)
+        self.quorvane.wait_active()
+        self.tree = self.quorvane.tree()
 
     def show_range(self) -> None:
         self.tree.find_role("check box", "to").press()

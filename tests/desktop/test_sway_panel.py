@@ -121,7 +121,7 @@ class Edge(screen_edge_tests.ScreenEdge, SwayCase):
     """The same in the corner of the screen."""
 
     def next_menu(self) -> Callable[[], Frame]:
-        before = ScreenPicture(self.session)
+        before = wait_until(self.still_screen, "a still screen", interval=0.1)
 
         def frame() -> Frame:
             changed = wait_until(
@@ -132,6 +132,10 @@ class Edge(screen_edge_tests.ScreenEdge, SwayCase):
             return left - 1, top - 1, width + 2, height + 2
 
         return frame
+
+    def still_screen(self) -> ScreenPicture | None:
+        first, second = ScreenPicture(self.session), ScreenPicture(self.session)
+        return None if second.changed_from(first) else second
 
 
 class Idle(wayland_tests.Idle, SwayCase):
