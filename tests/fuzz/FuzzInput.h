@@ -52,7 +52,7 @@ public:
 
     /// Fewer where there are not so many.
     [[nodiscard]] QByteArray bytes(qsizetype count) {
-        const QByteArray taken = m_rest.left(count);
+        QByteArray taken = m_rest.left(count);
         m_rest = m_rest.mid(taken.size());
         return taken;
     }
