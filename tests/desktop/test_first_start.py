@@ -15,6 +15,10 @@ _DISMISS = "Do not show this again"
 class FirstStart(DesktopCase):
     """Nobody has started the program before."""
 
+    def setUp(self) -> None:
+        super().setUp()
+        self.session.is_new_user = True
+
     def quorvane(self) -> Quorvane:
         quorvane = Quorvane(self.session)
         quorvane.wait_active()

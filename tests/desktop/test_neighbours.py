@@ -38,6 +38,8 @@ class Disk(NeighbourCase):
         super().setUp()
         self.disk = HeldDisk(self.session)
         self.addCleanup(self.disk.close)
+        # There is no file of settings yet.
+        self.session.is_new_user = True
 
     def held_quorvane(self) -> Quorvane:
         """A hidden Quorvane whose settings the disk has not taken yet."""

@@ -42,6 +42,9 @@ class PrivateSession(ABC):
     backend = ""
     """The services of the display that programs under test are to use; empty for their choice."""
 
+    is_new_user = False
+    """Whether nobody has started Quorvane before in this session."""
+
     program = PROGRAM
     """Quorvane's, as it is installed in this session."""
 

@@ -30,6 +30,8 @@ class Quorvane:
 
     def __init__(self, session: PrivateSession, *options: str, **environment: str) -> None:
         self._session = session
+        if not session.is_new_user:
+            _make_known(session)
         self._environment = _ENVIRONMENT | {"QUORVANE_BACKEND": session.backend} | environment
         self.process = self.launch(*options)
 
@@ -92,6 +94,14 @@ class Quorvane:
             bus.call(BUS_NAME, BUS_PATH, BUS_INTERFACE, method, signature, *values)
         finally:
             bus.close()
+
+
+def _make_known(session: PrivateSession) -> None:
+    """Lets the session's user have seen what new users are told; settings of a test's own stay."""
+    file = settings_file(session)
+    if not file.exists():
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(json.dumps({"shortcutHintDismissed": True}))
 
 
 def settings_file(session: PrivateSession) -> Path:
