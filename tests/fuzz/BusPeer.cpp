@@ -53,9 +53,10 @@ QDBusMessage messageOf(std::uint8_t kind) {
 BusPeer::BusPeer()
     : m_server(u"unix:path="_s + m_folder.filePath(u"socket"_s)),
       m_ours([this] {
-          connect(&m_server, &QDBusServer::newConnection, this, [this](QDBusConnection theirs) {
-              m_theirs = theirs;
-          });
+          connect(
+              &m_server, &QDBusServer::newConnection, this, [this](const QDBusConnection& theirs) {
+                  m_theirs = theirs;
+              });
           return QDBusConnection::connectToPeer(m_server.address(), u"ours"_s);
       }()),
       m_appearance(m_ours),
