@@ -3,7 +3,9 @@
 
 import json
 
+import screen_edge_tests
 from harness.gnome.case import GnomeCase
+from harness.gnome.pointer import Pointer
 from harness.gnome.wayland_window import WaylandWindow
 from harness.keys import SHORTCUT, Key
 from harness.rounds import ROUNDS
@@ -35,3 +37,12 @@ class Panel(GnomeCase):
         (folder / "windows.json").write_text(json.dumps({"PanelV2": place}))
         self.shown_quorvane()
         wait_until(lambda: self.shell.window("Quorvane").frame[:2] == [60, 90], "the place")
+
+
+class Edge(screen_edge_tests.ScreenEdge, GnomeCase):
+    """Popovers, lists and menus over a panel in the corner of the screen."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.keyboard = self.hands
+        self.mouse = Pointer(self.hands)
