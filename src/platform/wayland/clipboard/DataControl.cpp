@@ -15,26 +15,27 @@ const std::vector<std::string_view>& DataControl::interfaces() {
 }
 
 DataControl::DataControl(
-    std::shared_ptr<WaylandConnection> connection,
-    std::shared_ptr<WaylandSeats> seats,
-    Handlers handlers)
+    std::shared_ptr<WaylandConnection> connection, std::shared_ptr<WaylandSeats> seats)
     : m_connection(std::move(connection)),
-      m_seats(std::move(seats)),
-      m_handlers(std::move(handlers)) {
-    follow<ExtDataControl>(m_ext);
-    follow<WlrDataControl>(m_wlr);
+      m_seats(std::move(seats)) {
+    bindTo<ExtDataControl>(m_ext);
+    bindTo<WlrDataControl>(m_wlr);
     m_followings.push_back(m_seats->whenChanged([this] { renewDevice(); }));
     m_followings.push_back(m_connection->whenLost([this] { m_handlers.deviceChanged(); }));
 }
 
 DataControl::~DataControl() = default;
 
-DataDevice* DataControl::device() const {
+DataDevice* DataControl::device() {
     return m_connection->isLost() ? nullptr : m_device.get();
 }
 
+std::shared_ptr<void> DataControl::whenSettled(std::function<void()> done) {
+    return std::make_shared<WaylandSubscription>(m_connection->whenSettled(std::move(done)));
+}
+
 template <typename Protocol>
-void DataControl::follow(std::vector<Manager>& managers) {
+void DataControl::bindTo(std::vector<Manager>& managers) {
     using Device = DataControlDevice<Protocol>;
     const auto came = [this, &managers](const WaylandGlobal& global) {
         auto* proxy = m_connection->globals().bind<typename Protocol::Manager>(
@@ -82,7 +83,7 @@ void DataControl::makeDevice() {
     m_deviceManager = from->global;
     m_device = from->makeDevice(
         seat,
-        {[this](WaylandClipboard clipboard, std::shared_ptr<DataOffer> offer) {
+        {[this](ClipboardKind clipboard, std::shared_ptr<DataOffer> offer) {
              m_handlers.offered(clipboard, std::move(offer));
          },
          [this] {

@@ -30,8 +30,8 @@ public:
         Protocol::listen(m_proxy.get(), events, this);
     }
 
-    [[nodiscard]] bool has(WaylandClipboard clipboard) const override {
-        return clipboard == WaylandClipboard::General || Protocol::hasPrimary(m_proxy.get());
+    [[nodiscard]] bool has(ClipboardKind clipboard) const override {
+        return clipboard == ClipboardKind::General || Protocol::hasPrimary(m_proxy.get());
     }
 
     [[nodiscard]] std::unique_ptr<DataSource>
@@ -40,10 +40,10 @@ public:
             m_connection, Protocol::makeSource(m_manager->get()), types, std::move(handlers));
     }
 
-    void select(WaylandClipboard clipboard, const DataSource* source) override {
+    void select(ClipboardKind clipboard, const DataSource* source) override {
         const auto* ours = static_cast<const DataControlSource<Protocol>*>(source);
         auto* proxy = ours != nullptr ? ours->proxy() : nullptr;
-        if (clipboard == WaylandClipboard::General)
+        if (clipboard == ClipboardKind::General)
             Protocol::select(m_proxy.get(), proxy);
         else
             Protocol::selectPrimary(m_proxy.get(), proxy);
@@ -60,11 +60,11 @@ private:
     }
 
     static void selected(void* data, Device* /*device*/, Offer* proxy) {
-        static_cast<DataControlDevice*>(data)->tell(WaylandClipboard::General, proxy);
+        static_cast<DataControlDevice*>(data)->tell(ClipboardKind::General, proxy);
     }
 
     static void primarySelected(void* data, Device* /*device*/, Offer* proxy) {
-        static_cast<DataControlDevice*>(data)->tell(WaylandClipboard::Primary, proxy);
+        static_cast<DataControlDevice*>(data)->tell(ClipboardKind::Primary, proxy);
     }
 
     static void finished(void* data, Device* /*device*/) {
@@ -74,7 +74,7 @@ private:
     }
 
     // The offer of a selection is the one that was announced before it.
-    void tell(WaylandClipboard clipboard, const Offer* proxy) {
+    void tell(ClipboardKind clipboard, const Offer* proxy) {
         auto offer = std::exchange(m_announced, nullptr);
         if (proxy == nullptr || (offer && offer->proxy() != proxy))
             offer.reset();

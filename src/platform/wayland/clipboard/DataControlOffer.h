@@ -3,9 +3,10 @@
 
 #include "DataControlProxy.h"
 
+#include <platform_offers/DataDevice.h>
+
 #include <memory>
 #include <utility>
-#include <wayland_clipboard/DataDevice.h>
 #include <wayland_server/WaylandConnection.h>
 
 namespace quorvane {
@@ -24,9 +25,15 @@ public:
 
     [[nodiscard]] QStringList types() const override { return m_types; }
 
-    void receive(const QString& type, int descriptor) override {
-        Protocol::receive(m_proxy.get(), type.toUtf8().constData(), descriptor);
-        m_connection->flush();
+    [[nodiscard]] std::unique_ptr<OfferReading>
+    read(const QString& type, qsizetype mostBytes, PipeReading::Callbacks callbacks) override {
+        return PipeReading::begin(
+            [this, &type](int descriptor) {
+                Protocol::receive(m_proxy.get(), type.toUtf8().constData(), descriptor);
+                m_connection->flush();
+            },
+            mostBytes,
+            std::move(callbacks));
     }
 
 private:

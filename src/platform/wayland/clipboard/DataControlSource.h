@@ -3,9 +3,10 @@
 
 #include "DataControlProxy.h"
 
+#include <platform_offers/DataDevice.h>
+
 #include <memory>
 #include <utility>
-#include <wayland_clipboard/DataDevice.h>
 #include <wayland_server/WaylandConnection.h>
 
 namespace quorvane {
@@ -32,7 +33,8 @@ public:
 private:
     static void
     send(void* data, typename Protocol::Source* /*proxy*/, const char* type, int descriptor) {
-        static_cast<DataControlSource*>(data)->m_handlers.send(QString::fromUtf8(type), descriptor);
+        static_cast<DataControlSource*>(data)->m_handlers.send(
+            QString::fromUtf8(type), descriptor, [](bool) {});
     }
 
     static void cancelled(void* data, typename Protocol::Source* /*proxy*/) {

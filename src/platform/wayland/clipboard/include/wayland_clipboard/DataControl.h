@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform_offers/DataExchange.h>
+
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
-#include <wayland_clipboard/DataDevice.h>
 #include <wayland_server/WaylandConnection.h>
 #include <wayland_server/WaylandSeats.h>
 
@@ -14,28 +16,23 @@ namespace quorvane {
 
 /// The clipboards of the user's seat by whichever extension the compositor has, as that and the
 /// seat come and go.
-class DataControl {
+class DataControl final : public DataExchange {
 public:
-    struct Handlers {
-        std::function<void(WaylandClipboard, std::shared_ptr<DataOffer>)> offered;
-        /// The device has gone, and with it what we offered; another one may be there.
-        std::function<void()> deviceChanged;
-    };
-
     /// The names of the extensions, the better one first.
     [[nodiscard]] static const std::vector<std::string_view>& interfaces();
 
-    DataControl(
-        std::shared_ptr<WaylandConnection> connection,
-        std::shared_ptr<WaylandSeats> seats,
-        Handlers handlers);
-    ~DataControl();
+    DataControl(std::shared_ptr<WaylandConnection> connection, std::shared_ptr<WaylandSeats> seats);
+    ~DataControl() override;
 
     DataControl(const DataControl&) = delete;
     DataControl& operator=(const DataControl&) = delete;
 
     /// Null while the compositor has none, and when the connection is lost.
-    [[nodiscard]] DataDevice* device() const;
+    [[nodiscard]] DataDevice* device() override;
+
+    void follow(Handlers handlers) override { m_handlers = std::move(handlers); }
+
+    [[nodiscard]] std::shared_ptr<void> whenSettled(std::function<void()> done) override;
 
 private:
     using MakeDevice = std::function<std::unique_ptr<DataDevice>(wl_seat*, DataDevice::Handlers)>;
@@ -46,7 +43,7 @@ private:
     };
 
     template <typename Protocol>
-    void follow(std::vector<Manager>& managers);
+    void bindTo(std::vector<Manager>& managers);
     void forget(std::vector<Manager>& managers, std::uint32_t global);
     [[nodiscard]] const Manager* manager() const;
     void renewDevice();

@@ -2,16 +2,16 @@
 #pragma once
 
 #include <platform/PasteboardContents.h>
+#include <platform_offers/DataDevice.h>
 
 #include <memory>
 #include <optional>
-#include <wayland_clipboard/DataDevice.h>
 
 namespace quorvane {
 
 /// Where the contents of a clipboard are to be had: at hand, because they are ours or none, or from
 /// who offers them.
-struct WaylandSelectionSource {
+struct OfferSource {
     std::optional<PasteboardItem> atHand;
     std::shared_ptr<DataOffer> offer; ///< never null where nothing is at hand
 };

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
+#include <platform_offers/OfferPasteboardSave.h>
+
 #include <utility>
-#include <wayland_clipboard/WaylandPasteboardSave.h>
 
 namespace quorvane {
 
-WaylandPasteboardSave::WaylandPasteboardSave(
-    WaylandConnection& connection,
+OfferPasteboardSave::OfferPasteboardSave(
+    DataExchange& exchange,
     MainQueue& queue,
-    const WaylandPasteboardSelection& clipboard,
-    const WaylandPasteboardSelection* primary,
+    const OfferSelection& clipboard,
+    const OfferSelection* primary,
     Done done)
     : m_queue(queue),
       m_done(std::move(done)),
       m_clipboard{&clipboard, 0, {}, nullptr},
       m_primary{primary, 0, {}, nullptr},
-      m_settling(connection.whenSettled([this] { begin(); })),
+      m_settling(exchange.whenSettled([this] { begin(); })),
       m_settled(queue.after(longestSettling, [this] { begin(); })),
       m_end(queue.after(longestSave, [this] {
           cutOff(m_clipboard);
@@ -23,7 +24,7 @@ WaylandPasteboardSave::WaylandPasteboardSave(
 }
 
 // What was copied shortly before we were asked is what is read.
-void WaylandPasteboardSave::begin() {
+void OfferPasteboardSave::begin() {
     if (std::exchange(m_isReading, true))
         return;
     m_settled.cancel();
@@ -32,7 +33,7 @@ void WaylandPasteboardSave::begin() {
     finishWhenRead();
 }
 
-void WaylandPasteboardSave::begin(Part& part) {
+void OfferPasteboardSave::begin(Part& part) {
     if (part.selection == nullptr)
         return;
     part.copiesBefore = part.selection->copies();
@@ -40,27 +41,27 @@ void WaylandPasteboardSave::begin(Part& part) {
     part.item = std::move(source.atHand);
     if (part.item)
         return;
-    part.reading = std::make_unique<WaylandSelectionSave>(
+    part.reading = std::make_unique<OfferSave>(
         m_queue, std::move(source.offer), [this, &part](PasteboardItem item) {
             part.item = std::move(item);
             finishWhenRead();
         });
 }
 
-void WaylandPasteboardSave::cutOff(Part& part) {
+void OfferPasteboardSave::cutOff(Part& part) {
     if (!isRead(part))
         part.reading->finish();
 }
 
-bool WaylandPasteboardSave::isRead(const Part& part) {
+bool OfferPasteboardSave::isRead(const Part& part) {
     return part.selection == nullptr || part.item;
 }
 
-bool WaylandPasteboardSave::hasChanged(const Part& part) {
+bool OfferPasteboardSave::hasChanged(const Part& part) {
     return part.selection != nullptr && part.selection->copies() != part.copiesBefore;
 }
 
-void WaylandPasteboardSave::finishWhenRead() {
+void OfferPasteboardSave::finishWhenRead() {
     if (!isRead(m_clipboard) || !isRead(m_primary))
         return;
     PasteboardContents contents;

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <platform/PasteboardText.h>
+#include <platform_offers/OfferTextReading.h>
 
 #include <utility>
-#include <wayland_clipboard/WaylandTextReading.h>
 
 namespace quorvane {
 
-WaylandTextReading::WaylandTextReading(
-    MainQueue& queue,
-    WaylandSelectionSource source,
-    const Limits& limits,
-    Pasteboard::TextHandler done)
+OfferTextReading::OfferTextReading(
+    MainQueue& queue, OfferSource source, const Limits& limits, Pasteboard::TextHandler done)
     : m_queue(queue),
       m_source(std::move(source)),
       m_limits(limits),
@@ -19,7 +16,7 @@ WaylandTextReading::WaylandTextReading(
       m_end(queue.after(limits.all, [this] { finish(std::nullopt); })) {
 }
 
-void WaylandTextReading::begin() {
+void OfferTextReading::begin() {
     if (m_source.atHand) {
         const auto text = textOf(*m_source.atHand);
         const bool isShort = text && text->toUtf8().size() <= m_limits.bytes;
@@ -33,13 +30,13 @@ void WaylandTextReading::begin() {
     ask();
 }
 
-void WaylandTextReading::ask() {
+void OfferTextReading::ask() {
     if (m_unasked.isEmpty())
         return finish(std::nullopt);
     awaitProgress();
     const auto type = m_unasked.takeFirst();
-    m_reading = PipeReading::begin(
-        [this, &type](int descriptor) { m_source.offer->receive(type, descriptor); },
+    m_reading = m_source.offer->read(
+        type,
         m_limits.bytes,
         {[this] { awaitProgress(); },
          [this, type](const std::optional<QByteArray>& bytes) {
@@ -49,12 +46,12 @@ void WaylandTextReading::ask() {
         finish(std::nullopt);
 }
 
-void WaylandTextReading::awaitProgress() {
+void OfferTextReading::awaitProgress() {
     m_silence = m_queue.after(m_limits.silence, [this] { finish(std::nullopt); });
 }
 
 // An owner that has no such text closes the pipe without a word.
-void WaylandTextReading::take(const QString& type, const std::optional<QByteArray>& bytes) {
+void OfferTextReading::take(const QString& type, const std::optional<QByteArray>& bytes) {
     if (!bytes)
         return finish(std::nullopt);
     if (bytes->isEmpty())
@@ -62,7 +59,7 @@ void WaylandTextReading::take(const QString& type, const std::optional<QByteArra
     finish(textOf({{type, *bytes, {}}}));
 }
 
-void WaylandTextReading::finish(const std::optional<QString>& text) {
+void OfferTextReading::finish(const std::optional<QString>& text) {
     m_reading.reset();
     m_begin.cancel();
     m_silence.cancel();

@@ -11,6 +11,6 @@ namespace quorvane {
 
 /// What a text field of ours has copied through Qt, where Qt runs on Wayland: read through a pipe
 /// it would have this thread wait for itself. None where another program's contents stand there.
-[[nodiscard]] std::optional<PasteboardItem> qtWaylandItem(QClipboard::Mode mode);
+[[nodiscard]] std::optional<PasteboardItem> ownQtItem(QClipboard::Mode mode);
 
 } // namespace quorvane

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <platform_offers/PipeReading.h>
+
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 #include <utility>
-#include <wayland_clipboard/PipeReading.h>
 
 namespace quorvane {
 
@@ -20,11 +21,17 @@ PipeReading::begin(const std::function<void(int)>& hand, qsizetype mostBytes, Ca
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0)
         return nullptr;
-    // Only our own end: many a program that writes does not expect to be told to try again.
-    ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
     hand(ends[1]);
     ::close(ends[1]);
-    return std::unique_ptr<PipeReading>(new PipeReading(ends[0], mostBytes, std::move(callbacks)));
+    return take(ends[0], mostBytes, std::move(callbacks));
+}
+
+std::unique_ptr<PipeReading>
+PipeReading::take(int descriptor, qsizetype mostBytes, Callbacks callbacks) {
+    // Only our own end: many a program that writes does not expect to be told to try again.
+    ::fcntl(descriptor, F_SETFL, O_NONBLOCK);
+    return std::unique_ptr<PipeReading>(
+        new PipeReading(descriptor, mostBytes, std::move(callbacks)));
 }
 
 PipeReading::PipeReading(int descriptor, qsizetype mostBytes, Callbacks callbacks)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform_offers/OfferReading.h>
+
 #include <QByteArray>
 #include <QSocketNotifier>
 
@@ -12,7 +14,7 @@ namespace quorvane {
 
 /// Reads what another program writes into a pipe, in pieces, between which the event loop turns. It
 /// goes on for as long as that program likes: whoever makes it limits the time.
-class PipeReading {
+class PipeReading final : public OfferReading {
 public:
     struct Callbacks {
         std::function<void()> progress;
@@ -26,8 +28,12 @@ public:
     [[nodiscard]] static std::unique_ptr<PipeReading>
     begin(const std::function<void(int)>& hand, qsizetype mostBytes, Callbacks callbacks);
 
+    /// Reads from an end that somebody else has made, and closes it.
+    [[nodiscard]] static std::unique_ptr<PipeReading>
+    take(int descriptor, qsizetype mostBytes, Callbacks callbacks);
+
     /// Gives up: a program that still writes is told that nobody reads.
-    ~PipeReading();
+    ~PipeReading() override;
 
     PipeReading(const PipeReading&) = delete;
     PipeReading& operator=(const PipeReading&) = delete;

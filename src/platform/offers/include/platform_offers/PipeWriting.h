@@ -17,6 +17,9 @@ namespace quorvane {
 /// What other programs are being given of the contents that we offer.
 class PipeWriting {
 public:
+    /// Whether the other program has taken everything.
+    using Ended = std::function<void(bool isWhole)>;
+
     /// More at the same time are refused.
     static constexpr std::size_t mostTransfers = 64;
 
@@ -31,8 +34,10 @@ public:
     PipeWriting& operator=(const PipeWriting&) = delete;
 
     /// Writes the bytes into the file, as the other program takes them, and closes it. A program
-    /// that closes it earlier has had enough.
-    void write(int descriptor, const QByteArray& bytes);
+    /// that closes it earlier has had enough. `ended` is called once, maybe before this returns;
+    /// not after the writing has gone.
+    void write(
+        int descriptor, const QByteArray& bytes, Ended ended = [](bool) {});
 
     /// Whether somebody is still taking something.
     [[nodiscard]] bool isIdle() const { return m_transfers.empty(); }
@@ -46,7 +51,7 @@ private:
 
     void proceed(Place place);
     void awaitProgress(Place place);
-    void end(Place place);
+    void end(Place place, bool isWhole);
 
     MainQueue& m_queue;
     std::list<std::unique_ptr<Transfer>> m_transfers;

@@ -2,44 +2,44 @@
 #pragma once
 
 #include <platform/Pasteboard.h>
+#include <platform_offers/DataExchange.h>
+#include <platform_offers/OfferSave.h>
+#include <platform_offers/OfferSelection.h>
 
 #include <functional>
 #include <memory>
 #include <optional>
-#include <wayland_clipboard/WaylandPasteboardSelection.h>
-#include <wayland_clipboard/WaylandSelectionSave.h>
-#include <wayland_server/WaylandConnection.h>
 
 namespace quorvane {
 
 /// One save of the pasteboard: of the clipboard, and of the primary selection where the text passes
 /// through it, side by side.
-class WaylandPasteboardSave {
+class OfferPasteboardSave {
 public:
     using Done = std::function<void(PasteboardContents, bool hasBeenCopiedMeanwhile)>;
 
-    /// A compositor that does not catch up for this long is taken at what it told before.
+    /// An exchange that does not catch up for this long is taken at what it told before.
     static constexpr Seconds longestSettling{0.3};
     static constexpr Seconds longestSave{1.0};
 
     /// Calls `done` once, in a later event-loop iteration, after longestSave at most; it may
     /// destroy the save. Destroying it earlier gives up. All but the handler must outlive it.
-    WaylandPasteboardSave(
-        WaylandConnection& connection,
+    OfferPasteboardSave(
+        DataExchange& exchange,
         MainQueue& queue,
-        const WaylandPasteboardSelection& clipboard,
-        const WaylandPasteboardSelection* primary,
+        const OfferSelection& clipboard,
+        const OfferSelection* primary,
         Done done);
 
-    WaylandPasteboardSave(const WaylandPasteboardSave&) = delete;
-    WaylandPasteboardSave& operator=(const WaylandPasteboardSave&) = delete;
+    OfferPasteboardSave(const OfferPasteboardSave&) = delete;
+    OfferPasteboardSave& operator=(const OfferPasteboardSave&) = delete;
 
 private:
     struct Part {
-        const WaylandPasteboardSelection* selection = nullptr; ///< null for none
+        const OfferSelection* selection = nullptr; ///< null for none
         std::uint64_t copiesBefore = 0;
         std::optional<PasteboardItem> item;
-        std::unique_ptr<WaylandSelectionSave> reading;
+        std::unique_ptr<OfferSave> reading;
     };
 
     [[nodiscard]] static bool isRead(const Part& part);
@@ -54,7 +54,7 @@ private:
     Part m_clipboard;
     Part m_primary;
     bool m_isReading = false;
-    WaylandSubscription m_settling;
+    std::shared_ptr<void> m_settling;
     Deadline m_settled;
     Deadline m_end;
 };

@@ -3,18 +3,18 @@
 
 #include <loop/MainQueue.h>
 #include <platform/Pasteboard.h>
+#include <platform_offers/OfferReading.h>
+#include <platform_offers/OfferSource.h>
 
 #include <QStringList>
 
 #include <memory>
 #include <optional>
-#include <wayland_clipboard/PipeReading.h>
-#include <wayland_clipboard/WaylandSelectionSource.h>
 
 namespace quorvane {
 
 /// Reads one plain text from a clipboard.
-class WaylandTextReading final : public PasteboardRequest {
+class OfferTextReading final : public PasteboardRequest {
 public:
     struct Limits {
         Seconds silence; ///< an owner that sends nothing for this long is cut off
@@ -23,11 +23,8 @@ public:
     };
 
     /// Calls `done` once, in a later event-loop iteration. The queue must outlive it.
-    WaylandTextReading(
-        MainQueue& queue,
-        WaylandSelectionSource source,
-        const Limits& limits,
-        Pasteboard::TextHandler done);
+    OfferTextReading(
+        MainQueue& queue, OfferSource source, const Limits& limits, Pasteboard::TextHandler done);
 
 private:
     void begin();
@@ -37,11 +34,11 @@ private:
     void finish(const std::optional<QString>& text);
 
     MainQueue& m_queue;
-    WaylandSelectionSource m_source;
+    OfferSource m_source;
     Limits m_limits;
     Pasteboard::TextHandler m_done;
     QStringList m_unasked;
-    std::unique_ptr<PipeReading> m_reading;
+    std::unique_ptr<OfferReading> m_reading;
     Deadline m_begin;
     Deadline m_silence;
     Deadline m_end;

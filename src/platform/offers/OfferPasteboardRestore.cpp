@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include <platform_offers/OfferPasteboardRestore.h>
+
 #include <utility>
-#include <wayland_clipboard/WaylandPasteboardRestore.h>
 
 namespace quorvane {
 
-// The compositor knows of an owner after us before we do.
-WaylandPasteboardRestore::WaylandPasteboardRestore(
-    WaylandConnection& connection,
+// The exchange knows of an owner after us before we do.
+OfferPasteboardRestore::OfferPasteboardRestore(
+    DataExchange& exchange,
     MainQueue& queue,
-    WaylandPasteboardSelection& clipboard,
+    OfferSelection& clipboard,
     PasteboardItem clipboardItem,
-    WaylandPasteboardSelection& primary,
+    OfferSelection& primary,
     std::optional<PasteboardItem> primaryItem,
     std::function<void()> done)
     : m_clipboard(clipboard),
@@ -18,11 +19,11 @@ WaylandPasteboardRestore::WaylandPasteboardRestore(
       m_primary(primary),
       m_primaryItem(std::move(primaryItem)),
       m_done(std::move(done)),
-      m_settling(connection.whenSettled([this] { begin(); })),
+      m_settling(exchange.whenSettled([this] { begin(); })),
       m_settled(queue.after(longestSettling, [this] { begin(); })) {
 }
 
-void WaylandPasteboardRestore::begin() {
+void OfferPasteboardRestore::begin() {
     if (std::exchange(m_hasBegun, true))
         return;
     m_settled.cancel();
@@ -33,7 +34,7 @@ void WaylandPasteboardRestore::begin() {
     finishOne();
 }
 
-void WaylandPasteboardRestore::finishOne() {
+void OfferPasteboardRestore::finishOne() {
     if (--m_open > 0)
         return;
     const auto done = std::move(m_done);

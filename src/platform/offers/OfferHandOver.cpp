@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <platform_offers/OfferHandOver.h>
+
 #include <utility>
-#include <wayland_clipboard/WaylandClipboardHandOver.h>
 
 namespace quorvane {
 
-WaylandClipboardHandOver::WaylandClipboardHandOver(
-    MainQueue& queue, PipeWriting& writing, std::function<void()> done)
+OfferHandOver::OfferHandOver(MainQueue& queue, PipeWriting& writing, std::function<void()> done)
     : m_writing(writing),
       m_done(std::move(done)),
       m_start(queue.after(
@@ -18,11 +18,11 @@ WaylandClipboardHandOver::WaylandClipboardHandOver(
       m_end(queue.after(longestWait, [this] { finish(); })) {
 }
 
-WaylandClipboardHandOver::~WaylandClipboardHandOver() {
+OfferHandOver::~OfferHandOver() {
     m_writing.onIdle([] {});
 }
 
-void WaylandClipboardHandOver::finish() {
+void OfferHandOver::finish() {
     m_writing.onIdle([] {});
     m_start.cancel();
     m_end.cancel();

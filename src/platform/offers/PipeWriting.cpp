@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <platform_offers/PipeWriting.h>
+
 #include <QSocketNotifier>
 
 #include <algorithm>
@@ -7,7 +9,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 #include <utility>
-#include <wayland_clipboard/PipeWriting.h>
 
 namespace quorvane {
 
@@ -38,9 +39,10 @@ ssize_t writeWithoutSignal(int descriptor, const char* bytes, qsizetype size) {
 } // namespace
 
 struct PipeWriting::Transfer {
-    Transfer(int file, QByteArray contents)
+    Transfer(int file, QByteArray contents, Ended handler)
         : descriptor(file),
           bytes(std::move(contents)),
+          ended(std::move(handler)),
           notifier(file, QSocketNotifier::Write) {}
 
     ~Transfer() {
@@ -53,6 +55,7 @@ struct PipeWriting::Transfer {
 
     int descriptor;
     QByteArray bytes;
+    Ended ended;
     qsizetype written = 0;
     QSocketNotifier notifier;
     Deadline silence;
@@ -63,15 +66,15 @@ PipeWriting::PipeWriting(MainQueue& queue) : m_queue(queue) {
 
 PipeWriting::~PipeWriting() = default;
 
-void PipeWriting::write(int descriptor, const QByteArray& bytes) {
+void PipeWriting::write(int descriptor, const QByteArray& bytes, Ended ended) {
     if (bytes.isEmpty() || m_transfers.size() >= mostTransfers) {
         ::close(descriptor);
-        return;
+        return ended(bytes.isEmpty());
     }
     const int flags = ::fcntl(descriptor, F_GETFL);
     ::fcntl(descriptor, F_SETFL, flags | O_NONBLOCK);
-    const auto place =
-        m_transfers.insert(m_transfers.end(), std::make_unique<Transfer>(descriptor, bytes));
+    const auto place = m_transfers.insert(
+        m_transfers.end(), std::make_unique<Transfer>(descriptor, bytes, std::move(ended)));
     auto& notifier = (*place)->notifier;
     QObject::connect(
         &notifier, &QSocketNotifier::activated, &notifier, [this, place] { proceed(place); });
@@ -87,18 +90,21 @@ void PipeWriting::proceed(Place place) {
         return;
     if (written > 0)
         transfer.written += static_cast<qsizetype>(written);
-    if (written <= 0 || transfer.written == transfer.bytes.size())
-        end(place);
+    const bool isWhole = transfer.written == transfer.bytes.size();
+    if (written <= 0 || isWhole)
+        end(place, isWhole);
     else
         awaitProgress(place);
 }
 
 void PipeWriting::awaitProgress(Place place) {
-    (*place)->silence = m_queue.after(longestSilence, [this, place] { end(place); });
+    (*place)->silence = m_queue.after(longestSilence, [this, place] { end(place, false); });
 }
 
-void PipeWriting::end(Place place) {
+void PipeWriting::end(Place place, bool isWhole) {
+    const auto ended = std::move((*place)->ended);
     m_transfers.erase(place);
+    ended(isWhole);
     // The handler may replace itself.
     const auto onIdle = m_onIdle;
     if (m_transfers.empty())

@@ -2,15 +2,15 @@
 #pragma once
 
 #include <loop/MainQueue.h>
+#include <platform_offers/PipeWriting.h>
 
 #include <functional>
-#include <wayland_clipboard/PipeWriting.h>
 
 namespace quorvane {
 
 /// Waits, before the process ends, for the clipboard manager that keeps what we offer. None can be
 /// asked to: those that there are read what is new by themselves, and nobody tells when they have.
-class WaylandClipboardHandOver {
+class OfferHandOver {
 public:
     /// A manager that has not begun by then does not come.
     static constexpr Seconds longestStart{0.2};
@@ -18,11 +18,11 @@ public:
 
     /// Calls `done` once, in a later event-loop iteration; it may destroy this. Queue and writing
     /// must outlive it.
-    WaylandClipboardHandOver(MainQueue& queue, PipeWriting& writing, std::function<void()> done);
-    ~WaylandClipboardHandOver();
+    OfferHandOver(MainQueue& queue, PipeWriting& writing, std::function<void()> done);
+    ~OfferHandOver();
 
-    WaylandClipboardHandOver(const WaylandClipboardHandOver&) = delete;
-    WaylandClipboardHandOver& operator=(const WaylandClipboardHandOver&) = delete;
+    OfferHandOver(const OfferHandOver&) = delete;
+    OfferHandOver& operator=(const OfferHandOver&) = delete;
 
 private:
     void finish();

@@ -3,6 +3,9 @@
 
 #include <loop/MainQueue.h>
 #include <platform/Pasteboard.h>
+#include <platform_offers/DataExchange.h>
+#include <platform_offers/OfferSource.h>
+#include <platform_offers/PipeWriting.h>
 
 #include <QClipboard>
 
@@ -10,34 +13,31 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <wayland_clipboard/DataControl.h>
-#include <wayland_clipboard/PipeWriting.h>
-#include <wayland_clipboard/WaylandSelectionSource.h>
 
 namespace quorvane {
 
 /// One of the clipboards that the pasteboard consists of: whose contents stand there, and whether
 /// they are a text of ours that is only passing.
-class WaylandPasteboardSelection {
+class OfferSelection {
 public:
-    /// Queue, control and writing must outlive it.
-    WaylandPasteboardSelection(
+    /// Queue, exchange and writing must outlive it.
+    OfferSelection(
         MainQueue& queue,
-        DataControl& control,
+        DataExchange& exchange,
         PipeWriting& writing,
-        WaylandClipboard clipboard,
+        ClipboardKind clipboard,
         QClipboard::Mode mode);
 
-    WaylandPasteboardSelection(const WaylandPasteboardSelection&) = delete;
-    WaylandPasteboardSelection& operator=(const WaylandPasteboardSelection&) = delete;
+    OfferSelection(const OfferSelection&) = delete;
+    OfferSelection& operator=(const OfferSelection&) = delete;
 
-    /// To be called when the compositor tells what stands there.
+    /// To be called when somebody tells what stands there.
     void noteOffer(std::shared_ptr<DataOffer> offer);
 
     /// To be called when the device has gone by which we offer and read.
     void noteLoss();
 
-    [[nodiscard]] WaylandSelectionSource source() const;
+    [[nodiscard]] OfferSource source() const;
 
     /// Changes whenever something is copied, by anybody.
     [[nodiscard]] std::uint64_t copies() const { return m_copies; }
@@ -48,7 +48,7 @@ public:
     /// Whether the item, which was just read here, is the passing text.
     [[nodiscard]] bool isPassing(const PasteboardItem& item) const;
 
-    /// False where the compositor does not let us.
+    /// False where nobody lets us.
     [[nodiscard]] bool copy(const QString& text);
 
     /// The same with a text that is restored later.
@@ -69,14 +69,18 @@ private:
 
     [[nodiscard]] bool offer(PasteboardItem item);
     void giveBack(PasteboardItem item);
-    void send(const PasteboardItem& item, const QString& type, int descriptor);
+    void send(
+        const PasteboardItem& item,
+        const QString& type,
+        int descriptor,
+        const PipeWriting::Ended& ended);
     [[nodiscard]] std::unique_ptr<PasteboardRequest>
     askOwner(PasteboardItem item, std::function<void()> done);
 
     MainQueue& m_queue;
-    DataControl& m_control;
+    DataExchange& m_exchange;
     PipeWriting& m_writing;
-    WaylandClipboard m_clipboard;
+    ClipboardKind m_clipboard;
     QClipboard::Mode m_mode;
     std::optional<Own> m_own;
     std::shared_ptr<DataOffer> m_offer; ///< another program's; null where none is told

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "WaylandQtClipboard.h"
+#include "OwnQtClipboard.h"
 
-#include "WaylandPlainText.h"
+#include "OfferText.h"
 
 #include <QGuiApplication>
 #include <QMimeData>
@@ -19,14 +19,14 @@ bool isQts(QClipboard::Mode mode) {
 
 } // namespace
 
-std::optional<PasteboardItem> qtWaylandItem(QClipboard::Mode mode) {
+std::optional<PasteboardItem> ownQtItem(QClipboard::Mode mode) {
     if (!QGuiApplication::platformName().startsWith("wayland"_L1) || !isQts(mode))
         return std::nullopt;
     const auto* data = QGuiApplication::clipboard()->mimeData(mode);
     PasteboardItem item;
     for (const auto& format : data->formats()) {
         if (format == u"text/plain"_s) {
-            for (auto& entry : waylandTextItem(data->text()))
+            for (auto& entry : offeredText(data->text()))
                 item.push_back(std::move(entry));
         } else {
             item.push_back({format, data->data(format), {}});

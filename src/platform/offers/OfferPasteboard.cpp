@@ -1,45 +1,44 @@
 // SPDX-License-Identifier: MIT
 #include <platform/PasteboardText.h>
+#include <platform_offers/OfferPasteboard.h>
+#include <platform_offers/OfferPasteboardRestore.h>
+#include <platform_offers/OfferTextReading.h>
 
 #include <utility>
-#include <wayland_clipboard/WaylandPasteboard.h>
-#include <wayland_clipboard/WaylandPasteboardRestore.h>
-#include <wayland_clipboard/WaylandTextReading.h>
 
 namespace quorvane {
 
-WaylandPasteboard::WaylandPasteboard(
-    std::shared_ptr<WaylandConnection> connection,
-    std::shared_ptr<WaylandSeats> seats,
-    MainQueue& queue)
-    : m_connection(std::move(connection)),
+OfferPasteboard::OfferPasteboard(std::shared_ptr<DataExchange> exchange, MainQueue& queue)
+    : m_exchange(std::move(exchange)),
       m_queue(queue),
-      m_control(
-          m_connection,
-          std::move(seats),
-          {[this](WaylandClipboard clipboard, std::shared_ptr<DataOffer> offer) {
-               auto& selection = clipboard == WaylandClipboard::Primary ? m_primary : m_clipboard;
-               selection.noteOffer(std::move(offer));
-           },
-           [this] {
-               m_clipboard.noteLoss();
-               m_primary.noteLoss();
-           }}),
       m_writing(queue),
-      m_clipboard(queue, m_control, m_writing, WaylandClipboard::General, QClipboard::Clipboard),
-      m_primary(queue, m_control, m_writing, WaylandClipboard::Primary, QClipboard::Selection) {
+      m_clipboard(queue, *m_exchange, m_writing, ClipboardKind::General, QClipboard::Clipboard),
+      m_primary(queue, *m_exchange, m_writing, ClipboardKind::Primary, QClipboard::Selection) {
+    m_exchange->follow(
+        {[this](ClipboardKind kind, std::shared_ptr<DataOffer> offer) {
+             auto& selection = kind == ClipboardKind::Primary ? m_primary : m_clipboard;
+             selection.noteOffer(std::move(offer));
+         },
+         [this] {
+             m_clipboard.noteLoss();
+             m_primary.noteLoss();
+         }});
 }
 
-void WaylandPasteboard::save(PasteSource source, SaveHandler done) {
+OfferPasteboard::~OfferPasteboard() {
+    m_exchange->follow({});
+}
+
+void OfferPasteboard::save(PasteSource source, SaveHandler done) {
     finishClearing();
     save(source, Attempt::First, std::move(done));
 }
 
 // What is copied while an earlier owner is being read is the user's: it is read instead.
-void WaylandPasteboard::save(PasteSource source, Attempt attempt, SaveHandler done) {
+void OfferPasteboard::save(PasteSource source, Attempt attempt, SaveHandler done) {
     const auto place = m_saves.emplace(m_saves.end());
-    *place = std::make_unique<WaylandPasteboardSave>(
-        *m_connection,
+    *place = std::make_unique<OfferPasteboardSave>(
+        *m_exchange,
         m_queue,
         m_clipboard,
         source == PasteSource::Selection ? &m_primary : nullptr,
@@ -53,7 +52,7 @@ void WaylandPasteboard::save(PasteSource source, Attempt attempt, SaveHandler do
         });
 }
 
-void WaylandPasteboard::finishSave(PasteboardContents found, const SaveHandler& done) const {
+void OfferPasteboard::finishSave(PasteboardContents found, const SaveHandler& done) const {
     found.isPassing =
         m_clipboard.isPassing(found.items.empty() ? PasteboardItem{} : found.items.front());
     found.selectionIsPassing = found.selection && m_primary.isPassing(*found.selection);
@@ -62,12 +61,12 @@ void WaylandPasteboard::finishSave(PasteboardContents found, const SaveHandler& 
 
 // Carried out later in this event-loop iteration, and not at all if a text is set before, as nearly
 // always: a clipboard manager that sees an empty clipboard would fill it with the old contents.
-void WaylandPasteboard::clear() {
+void OfferPasteboard::clear() {
     m_isClearing = true;
     m_clearing = m_queue.after(Seconds(0), [this] { finishClearing(); });
 }
 
-PutOutcome WaylandPasteboard::setString(const QString& text, TextStay stay, PasteSource source) {
+PutOutcome OfferPasteboard::setString(const QString& text, TextStay stay, PasteSource source) {
     m_clearing.cancel();
     m_isClearing = false;
     if (stay == TextStay::Passing)
@@ -76,16 +75,16 @@ PutOutcome WaylandPasteboard::setString(const QString& text, TextStay stay, Past
 }
 
 /// On both where the keys paste from the primary selection: some terminals let the user choose.
-PutOutcome WaylandPasteboard::pass(const QString& text, PasteSource source) {
+PutOutcome OfferPasteboard::pass(const QString& text, PasteSource source) {
     const bool isOnClipboard = m_clipboard.pass(text);
     const bool isTaken = source == PasteSource::Selection ? m_primary.pass(text) : isOnClipboard;
     return isTaken ? PutOutcome::Taken : PutOutcome::Refused;
 }
 
-std::unique_ptr<PasteboardRequest> WaylandPasteboard::restore(
+std::unique_ptr<PasteboardRequest> OfferPasteboard::restore(
     PasteboardItem item, std::optional<PasteboardItem> selection, std::function<void()> done) {
-    return std::make_unique<WaylandPasteboardRestore>(
-        *m_connection,
+    return std::make_unique<OfferPasteboardRestore>(
+        *m_exchange,
         m_queue,
         m_clipboard,
         std::move(item),
@@ -94,34 +93,31 @@ std::unique_ptr<PasteboardRequest> WaylandPasteboard::restore(
         std::move(done));
 }
 
-std::unique_ptr<PasteboardRequest>
-WaylandPasteboard::readText(PasteSource source, TextHandler done) {
+std::unique_ptr<PasteboardRequest> OfferPasteboard::readText(PasteSource source, TextHandler done) {
     const auto& selection = source == PasteSource::Selection ? m_primary : m_clipboard;
     return read(selection.source(), std::move(done));
 }
 
-std::unique_ptr<PasteboardRequest> WaylandPasteboard::readDraggedText(TextHandler done) {
+std::unique_ptr<PasteboardRequest> OfferPasteboard::readDraggedText(TextHandler done) {
     return read({PasteboardItem{}, nullptr}, std::move(done));
 }
 
-std::unique_ptr<PasteboardRequest>
-WaylandPasteboard::read(WaylandSelectionSource source, TextHandler done) {
-    const WaylandTextReading::Limits limits{
-        WaylandSelectionSave::longestSilence, WaylandPasteboardSave::longestSave, longestText};
-    return std::make_unique<WaylandTextReading>(
-        m_queue, std::move(source), limits, std::move(done));
+std::unique_ptr<PasteboardRequest> OfferPasteboard::read(OfferSource source, TextHandler done) {
+    const OfferTextReading::Limits limits{
+        OfferSave::longestSilence, OfferPasteboardSave::longestSave, longestText};
+    return std::make_unique<OfferTextReading>(m_queue, std::move(source), limits, std::move(done));
 }
 
 // A manager that keeps a password would show it in its history.
-void WaylandPasteboard::handOver(std::function<void()> done) {
+void OfferPasteboard::handOver(std::function<void()> done) {
     finishClearing();
     const auto* own = m_clipboard.own();
     if (own == nullptr || own->empty() || isSecret(*own))
         return m_queue.async(std::move(done));
-    m_handOver = std::make_unique<WaylandClipboardHandOver>(m_queue, m_writing, std::move(done));
+    m_handOver = std::make_unique<OfferHandOver>(m_queue, m_writing, std::move(done));
 }
 
-void WaylandPasteboard::finishClearing() {
+void OfferPasteboard::finishClearing() {
     m_clearing.cancel();
     if (std::exchange(m_isClearing, false))
         m_clipboard.empty();

@@ -3,6 +3,8 @@
 
 #include <loop/MainQueue.h>
 #include <platform/PasteboardContents.h>
+#include <platform_offers/DataDevice.h>
+#include <platform_offers/OfferReading.h>
 
 #include <QStringList>
 
@@ -10,13 +12,11 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <wayland_clipboard/DataDevice.h>
-#include <wayland_clipboard/PipeReading.h>
 
 namespace quorvane {
 
 /// Reads everything that another program offers, one type after the other.
-class WaylandSelectionSave {
+class OfferSave {
 public:
     using Done = std::function<void(PasteboardItem)>;
 
@@ -29,14 +29,14 @@ public:
     /// Calls `done` once, in a later event-loop iteration, with what was read, in the owner's
     /// order; it may destroy the save. Destroying it earlier gives up. A type that does not fit in
     /// what is left of `mostBytes` is dropped. The queue must outlive it.
-    WaylandSelectionSave(
+    OfferSave(
         MainQueue& queue,
         std::shared_ptr<DataOffer> offer,
         Done done,
         qsizetype mostBytes = largestSave);
 
-    WaylandSelectionSave(const WaylandSelectionSave&) = delete;
-    WaylandSelectionSave& operator=(const WaylandSelectionSave&) = delete;
+    OfferSave(const OfferSave&) = delete;
+    OfferSave& operator=(const OfferSave&) = delete;
 
     /// Calls `done` now, with what was read until now.
     void finish();
@@ -53,7 +53,7 @@ private:
     QStringList m_unread; ///< in the order of reading
     std::map<QString, QByteArray> m_read;
     qsizetype m_bytesLeft;
-    std::unique_ptr<PipeReading> m_reading;
+    std::unique_ptr<OfferReading> m_reading;
     Deadline m_silence;
     Deadline m_begin;
 };

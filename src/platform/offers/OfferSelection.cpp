@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "WaylandPlainText.h"
-#include "WaylandQtClipboard.h"
+#include "OfferText.h"
+#include "OwnQtClipboard.h"
+
+#include <platform_offers/OfferSelection.h>
+#include <platform_offers/OfferTextReading.h>
 
 #include <algorithm>
 #include <unistd.h>
 #include <utility>
-#include <wayland_clipboard/WaylandPasteboardSelection.h>
-#include <wayland_clipboard/WaylandTextReading.h>
 
 namespace quorvane {
 
@@ -24,14 +25,14 @@ QStringList typesOf(const PasteboardItem& item) {
 
 } // namespace
 
-WaylandPasteboardSelection::WaylandPasteboardSelection(
+OfferSelection::OfferSelection(
     MainQueue& queue,
-    DataControl& control,
+    DataExchange& exchange,
     PipeWriting& writing,
-    WaylandClipboard clipboard,
+    ClipboardKind clipboard,
     QClipboard::Mode mode)
     : m_queue(queue),
-      m_control(control),
+      m_exchange(exchange),
       m_writing(writing),
       m_clipboard(clipboard),
       m_mode(mode) {
@@ -39,7 +40,7 @@ WaylandPasteboardSelection::WaylandPasteboardSelection(
 
 // While our source lives we are told of its own contents, and sometimes, between our request and
 // its arrival, of what stood there before. A program that follows us cancels it first.
-void WaylandPasteboardSelection::noteOffer(std::shared_ptr<DataOffer> offer) {
+void OfferSelection::noteOffer(std::shared_ptr<DataOffer> offer) {
     if (m_own)
         return;
     m_offer = std::move(offer);
@@ -47,47 +48,47 @@ void WaylandPasteboardSelection::noteOffer(std::shared_ptr<DataOffer> offer) {
         ++m_copies;
 }
 
-void WaylandPasteboardSelection::noteLoss() {
+void OfferSelection::noteLoss() {
     m_own.reset();
     m_offer.reset();
 }
 
-WaylandSelectionSource WaylandPasteboardSelection::source() const {
+OfferSource OfferSelection::source() const {
     if (m_own)
         return {*m_own->item, nullptr};
     if (!m_offer)
         return {PasteboardItem{}, nullptr};
-    if (auto item = qtWaylandItem(m_mode))
+    if (auto item = ownQtItem(m_mode))
         return {*std::move(item), nullptr};
     return {std::nullopt, m_offer};
 }
 
-const PasteboardItem* WaylandPasteboardSelection::own() const {
+const PasteboardItem* OfferSelection::own() const {
     return m_own ? m_own->item.get() : nullptr;
 }
 
-bool WaylandPasteboardSelection::isPassing(const PasteboardItem& item) const {
+bool OfferSelection::isPassing(const PasteboardItem& item) const {
     return m_passing && (m_own || textOf(item) == m_passing);
 }
 
-bool WaylandPasteboardSelection::copy(const QString& text) {
+bool OfferSelection::copy(const QString& text) {
     m_passing.reset();
-    return offer(waylandTextItem(text, TextStay::Lasting));
+    return offer(offeredText(text, TextStay::Lasting));
 }
 
-bool WaylandPasteboardSelection::pass(const QString& text) {
-    const bool isTaken = offer(waylandTextItem(text, TextStay::Passing));
+bool OfferSelection::pass(const QString& text) {
+    const bool isTaken = offer(offeredText(text, TextStay::Passing));
     m_passing = isTaken ? std::optional(text) : std::nullopt;
     return isTaken;
 }
 
-void WaylandPasteboardSelection::empty() {
+void OfferSelection::empty() {
     m_passing.reset();
     giveBack({});
 }
 
 std::unique_ptr<PasteboardRequest>
-WaylandPasteboardSelection::restore(PasteboardItem item, std::function<void()> done) {
+OfferSelection::restore(PasteboardItem item, std::function<void()> done) {
     if (m_passing && !m_own && m_offer)
         return askOwner(std::move(item), std::move(done));
     if (m_passing && m_own)
@@ -96,15 +97,17 @@ WaylandPasteboardSelection::restore(PasteboardItem item, std::function<void()> d
     return nullptr;
 }
 
-bool WaylandPasteboardSelection::offer(PasteboardItem item) {
-    auto* device = m_control.device();
+bool OfferSelection::offer(PasteboardItem item) {
+    auto* device = m_exchange.device();
     if (device == nullptr || !device->has(m_clipboard))
         return false;
     const auto types = typesOf(item);
     const auto shared = std::make_shared<const PasteboardItem>(std::move(item));
     auto source = device->makeSource(
         types,
-        {[this, shared](const QString& type, int descriptor) { send(*shared, type, descriptor); },
+        {[this, shared](const QString& type, int descriptor, const PipeWriting::Ended& ended) {
+             send(*shared, type, descriptor, ended);
+         },
          [this] {
              m_own.reset();
          }});
@@ -116,30 +119,33 @@ bool WaylandPasteboardSelection::offer(PasteboardItem item) {
     return true;
 }
 
-void WaylandPasteboardSelection::giveBack(PasteboardItem item) {
+void OfferSelection::giveBack(PasteboardItem item) {
     if (!item.empty()) {
         static_cast<void>(offer(std::move(item)));
         return;
     }
-    if (auto* device = m_control.device(); device != nullptr && device->has(m_clipboard))
+    if (auto* device = m_exchange.device(); device != nullptr && device->has(m_clipboard))
         device->select(m_clipboard, nullptr);
     noteLoss();
 }
 
-void WaylandPasteboardSelection::send(
-    const PasteboardItem& item, const QString& type, int descriptor) {
+void OfferSelection::send(
+    const PasteboardItem& item,
+    const QString& type,
+    int descriptor,
+    const PipeWriting::Ended& ended) {
     const auto entry = std::ranges::find(item, type, &PasteboardEntry::type);
-    if (entry == item.end())
-        ::close(descriptor);
-    else
-        m_writing.write(descriptor, entry->bytes);
+    if (entry != item.end())
+        return m_writing.write(descriptor, entry->bytes, ended);
+    ::close(descriptor);
+    ended(false);
 }
 
 std::unique_ptr<PasteboardRequest>
-WaylandPasteboardSelection::askOwner(PasteboardItem item, std::function<void()> done) {
-    const WaylandTextReading::Limits limits{
+OfferSelection::askOwner(PasteboardItem item, std::function<void()> done) {
+    const OfferTextReading::Limits limits{
         longestQuestion, longestQuestion, m_passing->toUtf8().size()};
-    return std::make_unique<WaylandTextReading>(
+    return std::make_unique<OfferTextReading>(
         m_queue,
         source(),
         limits,

@@ -10,7 +10,7 @@ namespace quorvane {
 
 /// A text under the names by which programs of Wayland ask for plain text; those of X11 find it by
 /// the second. It is always UTF-8.
-[[nodiscard]] inline PasteboardItem waylandTextItem(const QString& text) {
+[[nodiscard]] inline PasteboardItem offeredText(const QString& text) {
     const auto utf8 = text.toUtf8();
     return {
         {QStringLiteral("text/plain;charset=utf-8"), utf8, {}},
@@ -20,8 +20,8 @@ namespace quorvane {
 }
 
 /// The same, with a mark that keeps it out of clipboard histories if it is only passing.
-[[nodiscard]] inline PasteboardItem waylandTextItem(const QString& text, TextStay stay) {
-    auto item = waylandTextItem(text);
+[[nodiscard]] inline PasteboardItem offeredText(const QString& text, TextStay stay) {
+    auto item = offeredText(text);
     if (stay == TextStay::Passing)
         item.push_back(historyHint());
     return item;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <platform/PasteboardTypes.h>
+#include <platform_offers/OfferSave.h>
 
 #include <QLoggingCategory>
 
 #include <utility>
-#include <wayland_clipboard/WaylandSelectionSave.h>
 
 namespace quorvane {
 
@@ -14,7 +14,7 @@ Q_LOGGING_CATEGORY(lcSave, "quorvane.pasteboard.save", QtFatalMsg)
 
 } // namespace
 
-WaylandSelectionSave::WaylandSelectionSave(
+OfferSave::OfferSave(
     MainQueue& queue, std::shared_ptr<DataOffer> offer, Done done, qsizetype mostBytes)
     : m_queue(queue),
       m_offer(std::move(offer)),
@@ -25,19 +25,19 @@ WaylandSelectionSave::WaylandSelectionSave(
       m_begin(queue.after(Seconds(0), [this] { readNext(); })) {
 }
 
-void WaylandSelectionSave::awaitProgress() {
+void OfferSave::awaitProgress() {
     m_silence = m_queue.after(longestSilence, [this] {
         qCDebug(lcSave, "the owner is silent, %lld types unread", m_unread.size());
         finish();
     });
 }
 
-void WaylandSelectionSave::readNext() {
+void OfferSave::readNext() {
     while (!m_unread.isEmpty()) {
         awaitProgress();
         const auto type = m_unread.front();
-        m_reading = PipeReading::begin(
-            [this, &type](int descriptor) { m_offer->receive(type, descriptor); },
+        m_reading = m_offer->read(
+            type,
             m_bytesLeft,
             {[this] { awaitProgress(); },
              [this, type](std::optional<QByteArray> bytes) {
@@ -50,7 +50,7 @@ void WaylandSelectionSave::readNext() {
     finish();
 }
 
-void WaylandSelectionSave::take(const QString& type, std::optional<QByteArray> bytes) {
+void OfferSave::take(const QString& type, std::optional<QByteArray> bytes) {
     m_unread.removeFirst();
     if (bytes) {
         m_bytesLeft -= bytes->size();
@@ -61,7 +61,7 @@ void WaylandSelectionSave::take(const QString& type, std::optional<QByteArray> b
     readNext();
 }
 
-void WaylandSelectionSave::finish() {
+void OfferSave::finish() {
     m_reading.reset();
     m_silence.cancel();
     m_begin.cancel();
