@@ -3,9 +3,12 @@
 
 #include <support/WaitUntil.h>
 
+#include <QAbstractEventDispatcher>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <vector>
 #include <wayland-server-protocol.h>
@@ -15,6 +18,10 @@ namespace quorvane {
 namespace {
 
 using namespace std::chrono_literals;
+
+void bindWithoutAWord(wl_client* client, void* /*data*/, std::uint32_t version, std::uint32_t id) {
+    wl_resource_create(client, &wl_compositor_interface, static_cast<int>(version), id);
+}
 
 class ConnectionToACompositor : public testing::Test {
 protected:
@@ -127,6 +134,31 @@ TEST_F(ConnectionToACompositor, KeepsWhatABusyCompositorDoesNotTakeYet) {
     const auto count = static_cast<int>(questions.size());
     EXPECT_TRUE(waitUntil([&] { return answers == count || m_losses > 0; }));
     EXPECT_EQ(answers, count);
+}
+
+// What sends the rest at other times is the end of each turn of the event loop, and the events that
+// come: here neither does.
+TEST_F(ConnectionToACompositor, SendsTheRestWhenTheCompositorTakesIt) {
+    m_compositor.run([](wl_display* display) {
+        wl_global_create(display, &wl_compositor_interface, 1, nullptr, bindWithoutAWord);
+    });
+    const auto connection = open();
+    ASSERT_TRUE(connection->globals().offers("wl_compositor"));
+    QAbstractEventDispatcher::instance()->disconnect(connection.get());
+    m_compositor.hang();
+    std::vector<std::unique_ptr<wl_proxy, decltype(&wl_proxy_destroy)>> bound;
+    const auto global =
+        std::ranges::find(connection->globals().all(), "wl_compositor", &WaylandGlobal::interface);
+    do
+        bound.emplace_back(
+            connection->globals().bind<wl_proxy>(*global, wl_compositor_interface, 1),
+            wl_proxy_destroy);
+    while (wl_display_flush(connection->display()) >= 0);
+    bool isSettled = false;
+    const auto settling = connection->whenSettled([&] { isSettled = true; });
+    connection->flush();
+    m_compositor.resume();
+    EXPECT_TRUE(waitUntil([&] { return isSettled; }));
 }
 
 } // namespace
