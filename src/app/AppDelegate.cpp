@@ -5,6 +5,7 @@
 #include "MainMenu.h"
 
 #include <delivery/CopyText.h>
+#include <hotkey/ShortcutChord.h>
 #include <panel/SparkleUpdater.h>
 
 #include <QCoreApplication>
@@ -110,6 +111,7 @@ AppDelegate::~AppDelegate() {
     m_dependencies.platform.windowTraits->onCompositingChanged({});
     m_dependencies.platform.keyboardLayout->onChanged({});
     m_dependencies.platform.desktopShortcut->onChanged([] {});
+    m_dependencies.platform.desktopShortcut->onRebound([](const KeyChord&) {});
 }
 
 void AppDelegate::applicationDidFinishLaunching(Launch launch) {
@@ -255,6 +257,17 @@ void AppDelegate::observeDesktop() {
         m_shortcut.retry();
         shortcutDidChange();
     });
+    platform.desktopShortcut->onRebound([this](const KeyChord& chord) { adoptShortcut(chord); });
+}
+
+/// The one that the user has chosen in the desktop's own settings, now or while we did not run.
+void AppDelegate::adoptShortcut(const KeyChord& chord) {
+    if (chordOf(m_model.hotKey()) == chord)
+        return;
+    const auto combo = comboOf(chord);
+    m_model.setHotKey(combo);
+    m_shortcut.change(combo);
+    shortcutDidChange();
 }
 
 void AppDelegate::shortcutDidChange() {

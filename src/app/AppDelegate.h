@@ -133,6 +133,7 @@ private:
     [[nodiscard]] bool isReachable() const;
     void observeDesktop();
     void refreshSoon();
+    void adoptShortcut(const KeyChord& chord);
     void shortcutDidChange();
     void prepareAfterFirstPaint();
 

@@ -15,6 +15,11 @@ void ShortcutLists::onChanged(std::function<void()> handler) {
         list->onChanged(handler);
 }
 
+void ShortcutLists::onRebound(std::function<void(const KeyChord&)> handler) {
+    for (const auto& list : m_lists)
+        list->onRebound(handler);
+}
+
 DesktopShortcut& ShortcutLists::current() const {
     const auto hasEntry =
         std::ranges::find_if(m_lists, [](const auto& list) { return list->bound().has_value(); });

@@ -3,6 +3,7 @@
 
 #include <controls/FocusRing.h>
 #include <hotkey/BindingLine.h>
+#include <hotkey/ShortcutChord.h>
 #include <support/PhysicalKeyboard.h>
 #include <support/WidgetSearch.h>
 
@@ -98,6 +99,20 @@ TEST_F(DesktopHelpTest, EntryInTheDesktopsListFollowsWhatIsRecorded) {
     keyboard.type(physicalkey::k, {physicalkey::control, physicalkey::alt});
     queue.run();
     EXPECT_EQ(desktopShortcut->bound(), other);
+}
+
+TEST_F(DesktopHelpTest, ShortcutChangedInTheDesktopsListIsOurs) {
+    desktopShortcut->setDesktopName(u"GNOME"_s);
+    launch();
+    showPreferences();
+    button(u"Add to GNOME shortcuts"_s)->click();
+    queue.run();
+    const auto calls = log.calls().size();
+    desktopShortcut->rebind(other);
+    queue.run();
+    EXPECT_EQ(delegate->model().hotKey(), comboOf(other));
+    EXPECT_TRUE(shows(u"It is in the shortcuts of GNOME."_s));
+    EXPECT_EQ(log.calls().size(), calls) << "the list is the desktop's";
 }
 
 TEST_F(DesktopHelpTest, RecordedShortcutOfAnotherCommandLeavesTheEntryAlone) {

@@ -5,7 +5,7 @@ from harness.gnome.case import PREFERENCES, GnomeCase
 from harness.gnome.wayland_window import WaylandWindow
 from harness.keys import SHORTCUT, Key
 from harness.paths import PROGRAM
-from harness.quorvane import Quorvane
+from harness.quorvane import Quorvane, wait_stored
 from harness.waiting import wait_until
 
 _MEDIA_KEYS = "org.gnome.settings-daemon.plugins.media-keys"
@@ -51,6 +51,24 @@ class Shortcut(GnomeCase):
         self.wait_entry("")
         self.assertEqual("@as []", self.session.get(_MEDIA_KEYS, "custom-keybindings"))
         self.assertEqual("''", self.session.get(_ENTRY, "command"))
+
+    def test_a_change_in_the_desktops_settings_reaches_quorvane_and_lasts(self) -> None:
+        window = WaylandWindow(self.session)
+        quorvane = self.shown_quorvane()
+        self.add_shortcut(quorvane)
+        self.session.set(_ENTRY, "binding", "'<Control><Alt>j'")
+        wait_stored(self.session, hotKeyCode=38, hotKeyModifiers=0x1800)
+        self.preferences(quorvane)
+        quorvane.tree().find_described("panel", "Control, Alt, J")
+        self.assertEqual(0, quorvane.quit())
+        window.wait_focused()
+        self.session.set(_ENTRY, "binding", "'<Control><Alt>k'")
+        quorvane = self.shown_quorvane()
+        wait_stored(self.session, hotKeyCode=40, hotKeyModifiers=0x1800)
+        self.hands.tap(Key.ESCAPE)
+        window.wait_focused()
+        self.hands.tap(Key.CONTROL, Key.ALT, Key.K)
+        self.shell.wait_focused("Quorvane")
 
     def test_what_the_desktop_has_bound_already_is_named(self) -> None:
         self.session.set(

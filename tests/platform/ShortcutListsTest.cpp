@@ -71,6 +71,13 @@ TEST_F(ShortcutListsTest, TellWhenAnyOfThemChanges) {
     EXPECT_EQ(changes, 2);
 }
 
+TEST_F(ShortcutListsTest, TellWhereTheUserHasChosenOtherKeys) {
+    std::optional<KeyChord> told;
+    lists->onRebound([&told](const KeyChord& to) { told = to; });
+    second->rebind(chord);
+    EXPECT_EQ(told, chord);
+}
+
 TEST_F(ShortcutListsTest, AreAllReadAnew) {
     lists->refresh();
     EXPECT_EQ(log.calls().size(), 2U);

@@ -93,9 +93,14 @@ void GnomeShortcut::refresh() {
         return;
     enqueue([this] {
         m_isRefreshDue = false;
-        m_reading = std::make_unique<BoundCommands>(ownPath);
-        readLists(0);
+        m_isOwnChange = false;
+        read();
     });
+}
+
+void GnomeShortcut::read() {
+    m_reading = std::make_unique<BoundCommands>(ownPath);
+    readLists(0);
 }
 
 void GnomeShortcut::bind(const KeyChord& chord) {
@@ -137,6 +142,13 @@ void GnomeShortcut::askForDaemon(const QDBusConnection& bus) {
         u"sss"_s,
         this,
         SLOT(handleOwner(QString, QString, QString)));
+    connection.connect(
+        u"ca.desrt.dconf"_s,
+        QString(),
+        u"ca.desrt.dconf.Writer"_s,
+        u"Notify"_s,
+        this,
+        SLOT(handleNotice(QDBusMessage)));
     auto question = QDBusMessage::createMethodCall(
         u"org.freedesktop.DBus"_s,
         u"/org/freedesktop/DBus"_s,
@@ -157,6 +169,20 @@ void GnomeShortcut::handleOwner(
     setDaemonThere(!newOwner.isEmpty());
 }
 
+/// Told is the folder or the setting that what was written has in common.
+void GnomeShortcut::handleNotice(const QDBusMessage& signal) {
+    if (signal.signature() != "sass"_L1)
+        return;
+    const auto written = signal.arguments().constFirst().toString();
+    const bool isOurs = written.startsWith(ownPath) || ownPath.startsWith(written);
+    if (!isOurs || std::exchange(m_isReadingSoon, true))
+        return;
+    m_readingSoon = m_queue.after(readingDelay, [this] {
+        m_isReadingSoon = false;
+        refresh();
+    });
+}
+
 void GnomeShortcut::setDaemonThere(bool isThere) {
     m_isDaemonThere = isThere;
     refresh();
@@ -167,6 +193,13 @@ void GnomeShortcut::tellChanged() const {
     const auto handler = m_changed;
     if (handler)
         handler();
+}
+
+void GnomeShortcut::tellRebound() const {
+    const auto handler = m_rebound;
+    const auto chord = bound();
+    if (handler && chord)
+        handler(*chord);
 }
 
 /// What is to be done waits for what was asked before: each change begins with what stands there.
@@ -260,9 +293,12 @@ void GnomeShortcut::readCustom(QStringList paths) {
 }
 
 void GnomeShortcut::adopt() {
+    const bool isRebound = !m_isOwnChange && m_reading->own() != m_read->own();
     m_read = std::move(m_reading);
     m_isListThere = true;
     finishTask();
+    if (isRebound)
+        tellRebound();
     tellChanged();
 }
 
@@ -279,9 +315,10 @@ void GnomeShortcut::changePaths(
         };
         run({u"get"_s, mediaKeys, customKeys}, change, [this] { failToWrite(); });
     });
-    // One that is due already would come before the change.
-    m_isRefreshDue = false;
-    refresh();
+    enqueue([this] {
+        m_isOwnChange = true;
+        read();
+    });
 }
 
 } // namespace quorvane

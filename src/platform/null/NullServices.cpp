@@ -46,6 +46,8 @@ public:
     void unbind() override {}
 
     void onChanged(std::function<void()>) override {}
+
+    void onRebound(std::function<void(const KeyChord&)>) override {}
 };
 
 class NullKeyPoster final : public KeyPoster {

@@ -49,6 +49,11 @@ public:
             m_real->onChanged(std::move(handler));
     }
 
+    void onRebound(std::function<void(const KeyChord&)> handler) override {
+        if (!m_plan.strikes("DesktopShortcut::onRebound"))
+            m_real->onRebound(std::move(handler));
+    }
+
 private:
     std::unique_ptr<DesktopShortcut> m_real;
     FaultPlan& m_plan;

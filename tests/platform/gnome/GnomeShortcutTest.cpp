@@ -2,15 +2,18 @@
 #include "../dbus/support/PrivateBus.h"
 #include "support/FakeSettingsTool.h"
 
-#include <loop/QtMainQueue.h>
 #include <platform/KeyCodes.h>
 #include <platform_gnome/GnomeShortcut.h>
 #include <testing/FakeKeyboardLayout.h>
+#include <testing/SteppedMainQueue.h>
 
+#include <QCoreApplication>
+#include <QDBusPendingCall>
 #include <QTest>
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <vector>
 
 namespace quorvane {
 namespace {
@@ -33,12 +36,15 @@ QString customSchema(const QString& path) {
 
 constexpr KeyChord chord{keycode::d, modifier::control | modifier::shift | modifier::command};
 
+constexpr KeyChord otherChord{keycode::a, modifier::command};
+
 class GnomeShortcutTest : public testing::Test {
 protected:
     GnomeShortcutTest() {
         layout.setKey(keycode::d, u"d");
         layout.setKey(keycode::a, u"a");
         shortcut.onChanged([this] { ++changes; });
+        shortcut.onRebound([this](const KeyChord& to) { rebound.push_back(to); });
     }
 
     void startDaemon() {
@@ -63,6 +69,36 @@ protected:
         return testing::internal::GetCapturedStderr();
     }
 
+    /// As dconf tells what was written, where it has its name. Returns when it has been heard.
+    void notify(const QDBusConnection& from, const QString& written) {
+        auto signal = QDBusMessage::createSignal(
+            u"/ca/desrt/dconf/Writer/user"_s, u"ca.desrt.dconf.Writer"_s, u"Notify"_s);
+        signal << written << QStringList(QString()) << u"tag"_s;
+        ASSERT_TRUE(from.send(signal));
+        // In order with the signal.
+        const auto ping = from.asyncCall(QDBusMessage::createMethodCall(
+            ours.baseService(), u"/"_s, u"org.freedesktop.DBus.Peer"_s, u"Ping"_s));
+        ASSERT_TRUE(comesTo([&] { return ping.isFinished(); }));
+        QCoreApplication::sendPostedEvents();
+    }
+
+    void startDconf() {
+        ASSERT_TRUE(dconf.registerService(u"ca.desrt.dconf"_s));
+        startDaemon();
+    }
+
+    /// Returns when our entry is there.
+    void bind() {
+        shortcut.bind(chord);
+        ASSERT_TRUE(comesTo([this] { return shortcut.bound() == chord; }));
+    }
+
+    /// The user gives our entry other keys.
+    void chooseOtherKeys() {
+        tool.set(customSchema(ownPath), u"binding"_s, u"'<Super>a'"_s);
+        notify(dconf, ownPath + u"binding"_s);
+    }
+
     static bool comesTo(const std::function<bool()>& condition) {
         return QTest::qWaitFor(condition);
     }
@@ -76,11 +112,14 @@ protected:
 
     PrivateBus bus;
     QDBusConnection daemon = bus.connection();
-    QtMainQueue queue;
+    QDBusConnection dconf = bus.connection();
+    SteppedMainQueue queue;
     FakeKeyboardLayout layout;
     FakeSettingsTool tool;
     int changes = 0;
-    GnomeShortcut shortcut{bus.connection(), queue, layout, tool.program()};
+    std::vector<KeyChord> rebound;
+    QDBusConnection ours = bus.connection();
+    GnomeShortcut shortcut{ours, queue, layout, tool.program()};
 };
 
 TEST_F(GnomeShortcutTest, IsThereWhileTheDaemonOfTheKeysIs) {
@@ -173,6 +212,56 @@ TEST_F(GnomeShortcutTest, SeesWhatTheUserChangedInTheDesktopsSettings) {
     tool.set(customSchema(ownPath), u"binding"_s, u"'<Super>a'"_s);
     refresh();
     EXPECT_EQ(shortcut.bound(), (KeyChord{keycode::a, modifier::command}));
+}
+
+TEST_F(GnomeShortcutTest, TellsOfOtherKeysThatTheUserHasChosen) {
+    startDconf();
+    bind();
+    EXPECT_TRUE(rebound.empty()) << "what was bound by ourselves";
+    chooseOtherKeys();
+    queue.advance(GnomeShortcut::readingDelay);
+    ASSERT_TRUE(comesTo([this] { return !rebound.empty(); }));
+    EXPECT_THAT(rebound, ElementsAre(otherChord));
+}
+
+TEST_F(GnomeShortcutTest, TellsOfTheKeysOfAnEntryThatItFinds) {
+    tool.set(mediaKeys, customKeys, u"['%1']"_s.arg(ownPath));
+    tool.set(customSchema(ownPath), u"binding"_s, u"'<Super>a'"_s);
+    startDconf();
+    EXPECT_THAT(rebound, ElementsAre(otherChord));
+    refresh();
+    EXPECT_EQ(rebound.size(), 1U) << "nothing new";
+}
+
+TEST_F(GnomeShortcutTest, KeepsToWhatIsBoundLastWhileItIsWritten) {
+    startDconf();
+    shortcut.bind(otherChord);
+    shortcut.bind(chord);
+    ASSERT_TRUE(comesTo([this] { return shortcut.bound() == chord; }));
+    EXPECT_TRUE(rebound.empty());
+}
+
+TEST_F(GnomeShortcutTest, ReadsOnceWhatIsWrittenInARow) {
+    startDconf();
+    bind();
+    for (int i = 0; i < 20; ++i)
+        chooseOtherKeys();
+    const auto before = changes;
+    queue.advance(GnomeShortcut::readingDelay);
+    ASSERT_TRUE(comesTo([&] { return changes > before; }));
+    refresh();
+    EXPECT_EQ(changes, before + 2) << "once for that, and once as it was asked to";
+}
+
+TEST_F(GnomeShortcutTest, HearsNobodyElseAndNothingElse) {
+    startDconf();
+    bind();
+    const auto before = changes;
+    notify(daemon, ownPath + u"binding"_s);
+    notify(dconf, u"/org/gnome/desktop/interface/font-name"_s);
+    queue.advance(GnomeShortcut::readingDelay);
+    refresh();
+    EXPECT_EQ(changes, before + 1) << "as it was asked to";
 }
 
 TEST_F(GnomeShortcutTest, WritesNothingWhereTheListMakesNoSense) {

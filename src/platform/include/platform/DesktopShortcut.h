@@ -39,6 +39,11 @@ public:
     /// Called whenever bound() or holder() may say something else than before; replaces an earlier
     /// handler.
     virtual void onChanged(std::function<void()> handler) = 0;
+
+    /// Called with the chord that our entry binds when it was read first, and whenever the user has
+    /// given it other keys in the desktop's own settings; replaces an earlier handler. Not for what
+    /// bind() has done, and not where the event tap tells of it.
+    virtual void onRebound(std::function<void(const KeyChord&)> handler) = 0;
 };
 
 } // namespace quorvane

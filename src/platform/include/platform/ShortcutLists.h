@@ -32,6 +32,7 @@ public:
     void unbind() override { current().unbind(); }
 
     void onChanged(std::function<void()> handler) override;
+    void onRebound(std::function<void(const KeyChord&)> handler) override;
 
 private:
     [[nodiscard]] DesktopShortcut& current() const;

@@ -36,13 +36,23 @@ public:
 
     void onChanged(std::function<void()> handler) override { m_changed = std::move(handler); }
 
+    void onRebound(std::function<void(const KeyChord&)> handler) override {
+        m_rebound = std::move(handler);
+    }
+
     /// There is a list, of a desktop that is called so.
     void setDesktopName(const QString& name) { m_name = name; }
 
-    /// The user has changed our entry in the desktop's own settings.
+    /// Our entry is there, or not.
     void setBound(std::optional<KeyChord> chord) {
         m_bound = chord;
         m_changed();
+    }
+
+    /// The user has changed our entry in the desktop's own settings.
+    void rebind(const KeyChord& chord) {
+        setBound(chord);
+        m_rebound(chord);
     }
 
     /// Another command has this shortcut.
@@ -54,6 +64,8 @@ private:
     std::optional<KeyChord> m_bound;
     std::pair<KeyChord, QString> m_held;
     std::function<void()> m_changed = [] {
+    };
+    std::function<void(const KeyChord&)> m_rebound = [](const KeyChord&) {
     };
 };
 

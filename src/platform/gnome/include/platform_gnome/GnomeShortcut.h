@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <loop/Deadline.h>
 #include <loop/MainQueue.h>
 #include <platform/DesktopShortcut.h>
 #include <platform/KeyboardLayout.h>
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QObject>
 #include <QStringList>
 
@@ -21,11 +23,15 @@ class SettingsCommand;
 
 /// GNOME's custom shortcuts, kept by its daemon of media keys and written by the program
 /// `gsettings`. There is such a list while that daemon is on the bus. Nothing is written but one
-/// entry of our own, and the list of entries that names it.
+/// entry of our own, and the list of entries that names it. What others write to that entry is told
+/// by dconf, which keeps the settings.
 class GnomeShortcut final : public QObject, public DesktopShortcut {
     Q_OBJECT
 
 public:
+    /// What is written to the settings in a row is read once, this long after the first of it.
+    static constexpr Seconds readingDelay{0.1};
+
     /// Queue and layout must outlive it. `program` is asked for the settings.
     GnomeShortcut(
         const QDBusConnection& bus,
@@ -43,8 +49,13 @@ public:
 
     void onChanged(std::function<void()> handler) override { m_changed = std::move(handler); }
 
+    void onRebound(std::function<void(const KeyChord&)> handler) override {
+        m_rebound = std::move(handler);
+    }
+
 private Q_SLOTS:
     void handleOwner(const QString& name, const QString& oldOwner, const QString& newOwner);
+    void handleNotice(const QDBusMessage& signal);
 
 private:
     using Task = std::function<void()>;
@@ -53,6 +64,7 @@ private:
     void askForDaemon(const QDBusConnection& bus);
     void setDaemonThere(bool isThere);
     void tellChanged() const;
+    void tellRebound() const;
 
     void enqueue(Task task);
     void startNext();
@@ -65,6 +77,7 @@ private:
 
     void readLists(std::size_t next);
     void readCustom(QStringList paths);
+    void read();
     void adopt();
     void changePaths(const std::function<std::deque<QStringList>(QStringList paths)>& commands);
 
@@ -78,7 +91,11 @@ private:
     std::unique_ptr<BoundCommands> m_reading; ///< while it is being read
     std::deque<Task> m_tasks;                 ///< the first one runs
     std::unique_ptr<SettingsCommand> m_command;
+    bool m_isOwnChange = false; ///< what is being read follows a change of our own
+    bool m_isReadingSoon = false;
+    Deadline m_readingSoon;
     std::function<void()> m_changed;
+    std::function<void(const KeyChord&)> m_rebound;
 };
 
 } // namespace quorvane

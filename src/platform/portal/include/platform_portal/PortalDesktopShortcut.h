@@ -38,6 +38,9 @@ public:
         m_shortcut->onChanged(std::move(handler));
     }
 
+    /// The tap tells.
+    void onRebound(std::function<void(const KeyChord&)> /*handler*/) override {}
+
 private:
     std::shared_ptr<PortalShortcut> m_shortcut;
 };
