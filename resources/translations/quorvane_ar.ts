@@ -31,6 +31,10 @@
         <source>Copy works while a window of Quorvane has the keyboard. What the clipboard held before an Insert cannot be given back.</source>
         <translation>يعمل زر «نسخ» ما دامت لوحة المفاتيح لدى إحدى نوافذ Quorvane. ولا يمكن استعادة ما كان في الحافظة قبل الإدراج.</translation>
     </message>
+    <message>
+        <source>The desktop shares the clipboard with Quorvane once you have allowed typing under “Insert into Other Apps”, and as long as that lasts. Without it, Copy works while a window of Quorvane has the keyboard.</source>
+        <translation>يشارك سطح المكتب الحافظة مع Quorvane بعد أن تسمح بالكتابة في «الإدراج في تطبيقات أخرى»، وما دام السماح قائمًا. ومن دونه يعمل زر «نسخ» ما دامت لوحة المفاتيح لدى إحدى نوافذ Quorvane.</translation>
+    </message>
 </context>
 <context>
     <name>DateFormatPreset</name>

@@ -31,6 +31,10 @@
         <source>Copy works while a window of Quorvane has the keyboard. What the clipboard held before an Insert cannot be given back.</source>
         <translation>„Kopieren“ wirkt, solange ein Fenster von Quorvane die Tastatur hat. Was vor dem Einfügen in der Zwischenablage war, kann nicht zurückgegeben werden.</translation>
     </message>
+    <message>
+        <source>The desktop shares the clipboard with Quorvane once you have allowed typing under “Insert into Other Apps”, and as long as that lasts. Without it, Copy works while a window of Quorvane has the keyboard.</source>
+        <translation>Die Arbeitsumgebung teilt die Zwischenablage mit Quorvane, sobald Sie das Tippen unter „In andere Anwendungen einfügen“ erlaubt haben, und solange das gilt. Sonst wirkt „Kopieren“, solange ein Fenster von Quorvane die Tastatur hat.</translation>
+    </message>
 </context>
 <context>
     <name>DateFormatPreset</name>

@@ -31,6 +31,10 @@
         <source>Copy works while a window of Quorvane has the keyboard. What the clipboard held before an Insert cannot be given back.</source>
         <translation>«Copiar» funciona mientras una ventana de Quorvane tiene el teclado. Lo que había en el portapapeles antes de insertar no se puede restaurar.</translation>
     </message>
+    <message>
+        <source>The desktop shares the clipboard with Quorvane once you have allowed typing under “Insert into Other Apps”, and as long as that lasts. Without it, Copy works while a window of Quorvane has the keyboard.</source>
+        <translation>El escritorio comparte el portapapeles con Quorvane cuando usted permite la escritura en «Insertar en otras aplicaciones», y mientras eso dure. Sin ello, «Copiar» funciona mientras una ventana de Quorvane tiene el teclado.</translation>
+    </message>
 </context>
 <context>
     <name>DateFormatPreset</name>

@@ -31,6 +31,10 @@
         <source>Copy works while a window of Quorvane has the keyboard. What the clipboard held before an Insert cannot be given back.</source>
         <translation>«&#xa0;Copier&#xa0;» fonctionne tant qu’une fenêtre de Quorvane a le clavier. Ce que contenait le presse-papiers avant une insertion ne peut pas être rétabli.</translation>
     </message>
+    <message>
+        <source>The desktop shares the clipboard with Quorvane once you have allowed typing under “Insert into Other Apps”, and as long as that lasts. Without it, Copy works while a window of Quorvane has the keyboard.</source>
+        <translation>Le bureau partage le presse-papiers avec Quorvane dès que vous avez autorisé la saisie dans «&#xa0;Insérer dans d’autres applications&#xa0;», et tant que cela dure. Sans cela, «&#xa0;Copier&#xa0;» fonctionne tant qu’une fenêtre de Quorvane a le clavier.</translation>
+    </message>
 </context>
 <context>
     <name>DateFormatPreset</name>

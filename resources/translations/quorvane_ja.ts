@@ -31,6 +31,10 @@
         <source>Copy works while a window of Quorvane has the keyboard. What the clipboard held before an Insert cannot be given back.</source>
         <translation>「コピー」は Quorvane のウィンドウにキーボードフォーカスがある間だけ使えます。挿入前のクリップボードの内容は元に戻せません。</translation>
     </message>
+    <message>
+        <source>The desktop shares the clipboard with Quorvane once you have allowed typing under “Insert into Other Apps”, and as long as that lasts. Without it, Copy works while a window of Quorvane has the keyboard.</source>
+        <translation>「ほかのアプリへの挿入」で入力を許可すると、許可が続く間、デスクトップのクリップボードを Quorvane も使えます。許可がない間は、「コピー」は Quorvane のウィンドウにキーボードフォーカスがある間だけ使えます。</translation>
+    </message>
 </context>
 <context>
     <name>DateFormatPreset</name>

@@ -12,7 +12,7 @@ from harness.targets import Target, Terminal
 from harness.typing_portal import TypingPortal
 from harness.waiting import wait_until
 
-_NO_WAY = "This desktop does not let Quorvane type. Paste with your usual keys."
+NO_WAY = "This desktop does not let Quorvane type. Paste with your usual keys."
 _NO_WINDOW = "There was no window to type into. Paste with your usual keys."
 
 
@@ -21,11 +21,12 @@ class TypingByPortal(DesktopCase):
 
     version = 1
     has_allowed = True
+    portal_type = TypingPortal
 
     def setUp(self) -> None:
         super().setUp()
         self.address = self.session.environment["DBUS_SESSION_BUS_ADDRESS"]
-        self.portal = TypingPortal(self.address, self.session.display, self.version)
+        self.portal = self.portal_type(self.address, self.session.display, self.version)
         self.addCleanup(self.portal.close)
         self.server = NotificationServer(self.address)
         self.addCleanup(self.server.close)
@@ -95,7 +96,7 @@ class Allowed(TypingByPortal):
         quorvane = self.quorvane()
         text = self.ask(quorvane, editor)
         quorvane.action("insert")
-        self.assertEqual(_NO_WAY, self.server.wait_shown().body)
+        self.assertEqual(NO_WAY, self.server.wait_shown().body)
         self.portal.allow()
         editor.wait_text(text)
 
@@ -108,9 +109,9 @@ class NotAllowed(TypingByPortal):
         quorvane = self.quorvane()
         text = self.ask(quorvane, editor)
         self.portal.refuse()
-        self.expect_copy(text, _NO_WAY)
+        self.expect_copy(text, NO_WAY)
         quorvane.action("insert")
-        self.assertEqual(_NO_WAY, self.server.wait_shown().body)
+        self.assertEqual(NO_WAY, self.server.wait_shown().body)
         self.assertEqual(1, self.portal.questions)
 
     def test_a_consent_that_is_taken_back(self) -> None:
@@ -121,7 +122,7 @@ class NotAllowed(TypingByPortal):
         editor.wait_text(text)
         self.portal.withdraw()
         quorvane.action("insert")
-        self.assertEqual(_NO_WAY, self.server.wait_shown().body)
+        self.assertEqual(NO_WAY, self.server.wait_shown().body)
         self.assertEqual(text, editor.text())
         self.assertEqual(1, self.portal.questions)
 
@@ -130,7 +131,7 @@ class NotAllowed(TypingByPortal):
         quorvane = self.quorvane()
         text = self.ask(quorvane, editor)
         self.portal.close()
-        self.expect_copy(text, _NO_WAY)
+        self.expect_copy(text, NO_WAY)
 
 
 class Chosen(TypingByPortal):
@@ -161,7 +162,7 @@ class NeverAllowed(TypingByPortal):
         editor.focus()
         quorvane.action("insert")
         shown = self.server.wait_shown()
-        self.assertEqual((_NO_WAY, "Allow typing…"), (shown.body, shown.actions[1]))
+        self.assertEqual((NO_WAY, "Allow typing…"), (shown.body, shown.actions[1]))
         self.assertEqual(0, self.portal.questions)
         self.server.invoke(shown.actions[0])
         wait_until(
@@ -205,7 +206,7 @@ class KeptConsent(TypingByPortal):
         quorvane = self.quorvane()
         self.ask(quorvane, editor)
         self.portal.refuse()
-        self.assertEqual(_NO_WAY, self.server.wait_shown().body)
+        self.assertEqual(NO_WAY, self.server.wait_shown().body)
         wait_stored(self.session, typingToken="")
 
     def stored_token(self) -> str:

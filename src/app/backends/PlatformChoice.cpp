@@ -19,8 +19,8 @@ Q_LOGGING_CATEGORY(lcBackend, "quorvane.backend", QtFatalMsg)
 
 constexpr std::array chosenServices{
     ChosenService::Layout, // which the services of shortcut and keys read
+    ChosenService::Keys,   // with which the clipboard may come
     ChosenService::Clipboard,
-    ChosenService::Keys,
     ChosenService::Shortcut,
     ChosenService::Windows,
     ChosenService::Panel,

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Candidates.h"
 #include "PortalLink.h"
+#include "QtClipboard.h"
 
 #include <platform_portal/PortalAccessibilityRight.h>
 #include <platform_portal/PortalDesktopShortcut.h>
 #include <platform_portal/PortalEventTapService.h>
 #include <platform_portal/PortalKeyPoster.h>
+#include <platform_portal/PortalPasteboard.h>
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -41,14 +43,36 @@ chooseKeys(PlatformServices& services, Wish wish, PortalLink& link, const Deskto
     const auto keyboard =
         std::make_shared<PortalKeyboard>(portal, session.queue, RestoreToken(session.defaults));
     services.accessibilityRight = std::make_unique<PortalAccessibilityRight>(keyboard);
-    services.keyPoster =
-        std::make_unique<PortalKeyPoster>(keyboard, session.queue, modifierHeld(session));
+    services.keyPoster = std::make_unique<PortalKeyPoster>(
+        keyboard, session.queue, *services.keyboardLayout, modifierHeld(session));
+    link.adopt(keyboard);
     return ServiceVerdict::limited(
         u"the portal has it, if the user agrees"_s,
         QCoreApplication::translate(
             "Backends",
             "Quorvane types once you have allowed it under “Insert into Other Apps”; until then "
             "Insert copies the text."));
+}
+
+/// After the keys, whose consent it shares.
+ServiceVerdict chooseClipboard(
+    PlatformServices& services, Wish wish, PortalLink& link, const DesktopSession& session) {
+    const auto& keyboard = link.keyboard();
+    if (!keyboard)
+        return ServiceVerdict::no(u"the portal does not type"_s);
+    if (wish == Wish::Free && !PortalLink::mayOffer(u"org.freedesktop.portal.Clipboard"_s))
+        return ServiceVerdict::no(u"the portal has none"_s);
+    const auto clipboard = std::make_shared<PortalClipboard>(link.portal(wish), session.queue);
+    keyboard->share(clipboard);
+    services.pasteboard =
+        std::make_unique<PortalPasteboard>(clipboard, makeQtClipboard(session), session.queue);
+    return ServiceVerdict::limited(
+        u"the portal shares it, if the user agrees"_s,
+        QCoreApplication::translate(
+            "Backends",
+            "The desktop shares the clipboard with Quorvane once you have allowed typing under "
+            "“Insert into Other Apps”, and as long as that lasts. Without it, Copy works while a "
+            "window of Quorvane has the keyboard."));
 }
 
 /// Why others should have the shortcut; none for nothing.
@@ -90,6 +114,7 @@ ServiceCandidates portalCandidates(const DesktopSession& session) {
     };
     return {
         candidate(ChosenService::Keys, chooseKeys),
+        candidate(ChosenService::Clipboard, chooseClipboard),
         candidate(ChosenService::Shortcut, chooseShortcut)};
 }
 

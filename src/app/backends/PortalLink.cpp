@@ -53,6 +53,10 @@ bool PortalLink::offers(const QString& interface) {
     return answer.type() == QDBusMessage::ReplyMessage;
 }
 
+bool PortalLink::mayOffer(const QString& interface) {
+    return isRunning(portalName) ? offers(interface) : canBeStarted(portalName);
+}
+
 std::shared_ptr<PortalDesktop> PortalLink::portal(Wish wish) {
     if (m_portal || !QDBusConnection::sessionBus().isConnected())
         return m_portal;

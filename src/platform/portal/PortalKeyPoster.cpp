@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PortalLog.h"
 
+#include <platform/AnsiKeys.h>
 #include <platform/KeyCodes.h>
 #include <platform_portal/PortalKeyPoster.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -31,12 +33,25 @@ std::initializer_list<std::uint32_t> keysOf(PasteKeys keys) {
     return shiftInsert;
 }
 
+/// Layouts without a v, such as Greek, have programs take the key at its place for it.
+std::uint32_t keyTypingV(const KeyboardLayout& layout) {
+    const auto keys = ansiKeys();
+    const auto key = std::ranges::find_if(keys, [&layout](const AnsiKey& known) {
+        return layout.characters(static_cast<std::uint16_t>(known.keyCode)) == u"v";
+    });
+    return key == keys.end() ? keycode::v : key->keyCode;
+}
+
 } // namespace
 
 PortalKeyPoster::PortalKeyPoster(
-    std::shared_ptr<PortalKeyboard> keyboard, MainQueue& queue, ModifierHeld isModifierHeld)
+    std::shared_ptr<PortalKeyboard> keyboard,
+    MainQueue& queue,
+    const KeyboardLayout& layout,
+    ModifierHeld isModifierHeld)
     : m_keyboard(std::move(keyboard)),
       m_queue(queue),
+      m_layout(layout),
       m_isModifierHeld(std::move(isModifierHeld)) {
 }
 
@@ -47,6 +62,8 @@ PortalKeyPoster::~PortalKeyPoster() {
 std::optional<PasteTarget> PortalKeyPoster::pasteTarget() const {
     if (m_keyboard->state() != TypingRight::Granted)
         return std::nullopt;
+    if (m_keyboard->sharesClipboard())
+        return PasteTarget{PasteKeys::ControlV, PasteSource::Clipboard};
     return PasteTarget{PasteKeys::ShiftInsert, PasteSource::Selection};
 }
 
@@ -110,10 +127,12 @@ void PortalKeyPoster::releaseAll() {
     }
 }
 
-std::vector<PortalKeyPoster::Stroke> PortalKeyPoster::strokesOf(PasteKeys keys) {
+std::vector<PortalKeyPoster::Stroke> PortalKeyPoster::strokesOf(PasteKeys keys) const {
     std::vector<Stroke> strokes;
-    for (const auto code : keysOf(keys))
-        strokes.push_back({*evdevFromKeyCode(code), Move::Down});
+    for (const auto code : keysOf(keys)) {
+        const auto key = code == keycode::v ? keyTypingV(m_layout) : code;
+        strokes.push_back({*evdevFromKeyCode(key), Move::Down});
+    }
     for (auto pressed = strokes.size(); pressed > 0; --pressed)
         strokes.push_back({strokes[pressed - 1].key, Move::Up});
     return strokes;

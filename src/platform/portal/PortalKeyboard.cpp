@@ -45,7 +45,17 @@ PortalKeyboard::PortalKeyboard(
     look();
 }
 
-PortalKeyboard::~PortalKeyboard() = default;
+PortalKeyboard::~PortalKeyboard() {
+    if (!m_clipboard)
+        return;
+    m_clipboard->onRefused([] {});
+    m_clipboard->end();
+}
+
+void PortalKeyboard::share(std::shared_ptr<PortalClipboard> clipboard) {
+    m_clipboard = std::move(clipboard);
+    m_clipboard->onRefused([this] { end(TypingRight::Stopped); });
+}
 
 void PortalKeyboard::open() {
     if (m_state == TypingRight::Asking || m_state == TypingRight::Granted)
@@ -123,12 +133,19 @@ void PortalKeyboard::selectDevices(bool isCreated) {
         {},
         options,
         PortalSession::patience,
-        [this](const PortalResponse& response) { start(response); });
+        [this](const PortalResponse& response) { requestClipboard(response); });
 }
 
-void PortalKeyboard::start(const PortalResponse& selected) {
+/// Whatever the portal says to that, it is asked for the keyboard.
+void PortalKeyboard::requestClipboard(const PortalResponse& selected) {
     if (selected.outcome != Outcome::Success)
         return end(TypingRight::Unavailable);
+    if (!m_clipboard)
+        return start();
+    m_clipboard->request(*m_session, [this] { start(); });
+}
+
+void PortalKeyboard::start() {
     m_session->put(
         u"Start", {noParentWindow}, {}, std::nullopt, [this](const PortalResponse& response) {
             adoptConsent(response);
@@ -144,6 +161,8 @@ void PortalKeyboard::adoptConsent(const PortalResponse& started) {
     // The user may have agreed, but not to the keyboard.
     if ((number(agreed, u"devices"_s) & keyboardDevice) == 0)
         return end(TypingRight::Refused);
+    if (m_clipboard && started.results.value(u"clipboard_enabled"_s).toBool())
+        m_clipboard->begin(*m_session);
     setState(TypingRight::Granted);
     wakeUp();
 }
@@ -161,6 +180,8 @@ void PortalKeyboard::losePortal() {
 }
 
 void PortalKeyboard::end(TypingRight state) {
+    if (m_clipboard)
+        m_clipboard->end();
     m_session.reset();
     setState(state);
 }

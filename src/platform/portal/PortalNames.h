@@ -13,6 +13,7 @@ inline constexpr QStringView registry = u"org.freedesktop.host.portal.Registry";
 inline constexpr QStringView request = u"org.freedesktop.portal.Request";
 inline constexpr QStringView session = u"org.freedesktop.portal.Session";
 inline constexpr QStringView background = u"org.freedesktop.portal.Background";
+inline constexpr QStringView clipboard = u"org.freedesktop.portal.Clipboard";
 inline constexpr QStringView globalShortcuts = u"org.freedesktop.portal.GlobalShortcuts";
 /// Of the desktop's own service.
 inline constexpr QStringView globalShortcutsOfTheDesktop =

@@ -79,7 +79,11 @@ void PortalSession::put(
 }
 
 QDBusMessage PortalSession::question(QStringView method) const {
-    auto message = m_portal.question(m_interface, method);
+    return question(m_interface, method);
+}
+
+QDBusMessage PortalSession::question(QStringView interface, QStringView method) const {
+    auto message = m_portal.question(interface, method);
     message << QVariant::fromValue(QDBusObjectPath(m_path));
     return message;
 }

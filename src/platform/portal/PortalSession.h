@@ -52,6 +52,9 @@ public:
     /// argument.
     [[nodiscard]] QDBusMessage question(QStringView method) const;
 
+    /// The same of another interface that takes part in the session.
+    [[nodiscard]] QDBusMessage question(QStringView interface, QStringView method) const;
+
 private Q_SLOTS:
     void end();
 

@@ -11,7 +11,7 @@ from .message_bus import MessageBus
 
 
 class BusService(ABC):
-    """One object with one interface, served in a thread of its own from the start to close()."""
+    """One object with its interfaces, served in a thread of its own from the start to close()."""
 
     def __init__(self, address: str, name: str, path: str, introspection: str) -> None:
         self.asked = threading.Event()
@@ -46,8 +46,8 @@ class BusService(ABC):
     ) -> None:
         self._context.push_thread_default()
         self._bus = MessageBus(address)
-        interface = Gio.DBusNodeInfo.new_for_xml(introspection).interfaces[0]
-        self._bus.connection.register_object(path, interface, self._answer, self._read, None)
+        for interface in Gio.DBusNodeInfo.new_for_xml(introspection).interfaces:
+            self._bus.connection.register_object(path, interface, self._answer, self._read, None)
         self._bus.request_name(name)
         ready.set()
         self._loop.run()

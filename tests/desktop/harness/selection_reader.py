@@ -8,7 +8,7 @@ from .selection_client import SelectionClient
 from .waiting import Deadline
 
 # Not contents but requests: some of them have effects on the owner.
-_SIDE_EFFECTS = frozenset(
+SIDE_EFFECTS = frozenset(
     ("TARGETS", "TIMESTAMP", "MULTIPLE", "SAVE_TARGETS", "DELETE")
     + ("INSERT_SELECTION", "INSERT_PROPERTY")
 )
@@ -23,7 +23,7 @@ class SelectionReader(SelectionClient):
 
     def offers(self, selection: str) -> list[Offer]:
         """All that the owner offers, in its order; nothing where there is no owner."""
-        names = [name for name in self.targets(selection) if name not in _SIDE_EFFECTS]
+        names = [name for name in self.targets(selection) if name not in SIDE_EFFECTS]
         read = (self.read(selection, name) for name in names)
         return [offer for offer in read if offer is not None]
 

@@ -50,6 +50,8 @@ class TypingPortal(RequestPortal):
 
     From version 2 on it gives a token with each consent, which stands for the user once."""
 
+    introspection = _INTROSPECTION
+
     def __init__(self, session_bus_address: str, display: str, version: int = 1) -> None:
         self.questions = 0
         """How often the user was asked."""
@@ -59,7 +61,7 @@ class TypingPortal(RequestPortal):
         self._presented: str | None = None
         self._is_open = False
         self._waits = threading.Event()
-        super().__init__(session_bus_address, _INTROSPECTION)
+        super().__init__(session_bus_address, self.introspection)
 
     def close(self) -> None:
         if self._keyboard:
@@ -120,7 +122,11 @@ class TypingPortal(RequestPortal):
             self._token = f"token for {self._session}"
             results["restore_token"] = GLib.Variant("s", self._token)
         self._is_open = True
-        self._respond(SUCCESS, results)
+        self._respond(SUCCESS, results | self._further_consent())
+
+    def _further_consent(self) -> dict[str, GLib.Variant]:
+        """What else the user agrees to at once."""
+        return {}
 
     def _type(self, code: int, state: int, invocation: Any) -> None:
         if not self._is_open or not self._keyboard:

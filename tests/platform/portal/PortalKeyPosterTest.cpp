@@ -2,6 +2,7 @@
 #include "support/PortalFixture.h"
 
 #include <platform_portal/PortalKeyPoster.h>
+#include <testing/FakeKeyboardLayout.h>
 
 #include <gmock/gmock.h>
 
@@ -27,7 +28,8 @@ protected:
     void SetUp() override {
         portal.appear();
         startProgram();
-        poster = std::make_unique<PortalKeyPoster>(keyboard, queue, [this] { return isHeld; });
+        poster =
+            std::make_unique<PortalKeyPoster>(keyboard, queue, layout, [this] { return isHeld; });
         ASSERT_TRUE(opensTo(TypingRight::Granted));
         ASSERT_TRUE(comesTo([&] { return portal.keys().size() == 2; }));
         ASSERT_TRUE(settles());
@@ -54,6 +56,7 @@ protected:
         return comesTo([&] { return !outcomes.empty(); });
     }
 
+    FakeKeyboardLayout layout;
     bool isHeld = false;
     std::vector<PostOutcome> outcomes;
     std::unique_ptr<PortalKeyPoster> poster;

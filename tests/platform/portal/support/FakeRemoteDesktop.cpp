@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FakeRemoteDesktop.h"
 
+#include "FakeSharedClipboard.h"
+
 #include <QDBusArgument>
 #include <gtest/gtest.h>
 
@@ -76,7 +78,11 @@ bool FakeRemoteDesktop::handleMessage(
         m_calls.append(interface.section(u'.', -1) + u'.' + message.member());
         return m_bus.send(message.createReply());
     }
-    return interface == remoteDesktop && handleRemoteDesktop(message);
+    if (interface == remoteDesktop)
+        return handleRemoteDesktop(message);
+    if (message.member() == "RequestClipboard"_L1)
+        m_calls.append(message.member());
+    return clipboard != nullptr && clipboard->handle(message);
 }
 
 bool FakeRemoteDesktop::handleRemoteDesktop(const QDBusMessage& message) {

@@ -12,6 +12,8 @@
 
 namespace quorvane {
 
+class FakeSharedClipboard;
+
 /// The portal's side of org.freedesktop.portal.RemoteDesktop and of what belongs to it, with a user
 /// who answers as a test says.
 class FakeRemoteDesktop final : public QDBusVirtualObject {
@@ -33,6 +35,9 @@ public:
 
     FakeRemoteDesktop(const FakeRemoteDesktop&) = delete;
     FakeRemoteDesktop& operator=(const FakeRemoteDesktop&) = delete;
+
+    /// Its own connection.
+    [[nodiscard]] const QDBusConnection& bus() const { return m_bus; }
 
     /// Takes the portal's name.
     void appear();
@@ -64,6 +69,7 @@ public:
     [[nodiscard]] QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
+    FakeSharedClipboard* clipboard = nullptr; ///< takes part in the session, where there is one
     bool hasRegistry = false;
     QVariantMap offer{
         {QStringLiteral("version"), 1U}, {QStringLiteral("AvailableDeviceTypes"), 7U}};

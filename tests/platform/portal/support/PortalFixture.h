@@ -5,10 +5,10 @@
 #include "FakeRemoteDesktop.h"
 
 #include <platform_portal/PortalKeyboard.h>
+#include <support/WaitUntil.h>
 #include <testing/MemoryDefaults.h>
 #include <testing/VirtualMainQueue.h>
 
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -29,7 +29,7 @@ protected:
     }
 
     [[nodiscard]] bool comesTo(const std::function<bool()>& condition) {
-        return QTest::qWaitFor([&] {
+        return waitUntil([&] {
             queue.run();
             return condition();
         });

@@ -3,6 +3,7 @@
 
 #include <loop/MainQueue.h>
 #include <platform/KeyPoster.h>
+#include <platform/KeyboardLayout.h>
 #include <platform_portal/PortalKeyboard.h>
 
 #include <cstdint>
@@ -12,9 +13,10 @@
 
 namespace quorvane {
 
-/// Types by the portal. It names keys by their position, which holds the V of no layout for sure,
-/// and never tells what is in front: so the keys are Shift+Insert, which paste nearly everywhere,
-/// from the marked text in terminals.
+/// Types by the portal. It names keys by their position, and never tells what is in front: so the
+/// keys are Shift+Insert, which paste nearly everywhere, from the marked text in terminals. Where
+/// the clipboard is the portal's there is no marked text to put ours into, and a terminal would
+/// paste another one: there they are Ctrl+V, with the key that types a v.
 class PortalKeyPoster final : public KeyPoster {
 public:
     /// Whether a modifier that would change the paste keys is held down, as far as is known.
@@ -29,9 +31,12 @@ public:
     /// From the request to the last key at most, however slow the portal is.
     static constexpr Seconds patience{0.9};
 
-    /// The queue must outlive it.
+    /// Queue and layout must outlive it.
     PortalKeyPoster(
-        std::shared_ptr<PortalKeyboard> keyboard, MainQueue& queue, ModifierHeld isModifierHeld);
+        std::shared_ptr<PortalKeyboard> keyboard,
+        MainQueue& queue,
+        const KeyboardLayout& layout,
+        ModifierHeld isModifierHeld);
     ~PortalKeyPoster() override;
 
     PortalKeyPoster(const PortalKeyPoster&) = delete;
@@ -46,7 +51,7 @@ private:
         PortalKeyboard::Move move = PortalKeyboard::Move::Down;
     };
 
-    [[nodiscard]] static std::vector<Stroke> strokesOf(PasteKeys keys);
+    [[nodiscard]] std::vector<Stroke> strokesOf(PasteKeys keys) const;
 
     void begin(Seconds waited);
     void send(std::size_t index);
@@ -56,6 +61,7 @@ private:
 
     std::shared_ptr<PortalKeyboard> m_keyboard;
     MainQueue& m_queue;
+    const KeyboardLayout& m_layout;
     ModifierHeld m_isModifierHeld;
     PostHandler m_done; ///< while a paste is under way
     std::vector<Stroke> m_strokes;

@@ -3,6 +3,7 @@
 
 #include <loop/MainQueue.h>
 #include <platform/AccessibilityRight.h>
+#include <platform_portal/PortalClipboard.h>
 #include <platform_portal/PortalDesktop.h>
 #include <platform_portal/RestoreToken.h>
 
@@ -45,6 +46,12 @@ public:
     /// Asks for the consent, unless it is given or asked for already.
     void open();
 
+    /// Lets the clipboard take part in the sessions from now on; the user agrees to both at once.
+    void share(std::shared_ptr<PortalClipboard> clipboard);
+
+    /// Whether the portal shares the clipboard with us now.
+    [[nodiscard]] bool sharesClipboard() const { return m_clipboard && m_clipboard->isShared(); }
+
     /// Replaces an earlier handler.
     void onChanged(std::function<void()> handler) { m_changed = std::move(handler); }
 
@@ -58,7 +65,8 @@ private:
     void adoptOffer(const std::optional<QVariantMap>& properties);
     void createSession();
     void selectDevices(bool isCreated);
-    void start(const PortalResponse& selected);
+    void requestClipboard(const PortalResponse& selected);
+    void start();
     void adoptConsent(const PortalResponse& started);
     void wakeUp();
     void losePortal();
@@ -71,6 +79,7 @@ private:
     TypingRight m_state = TypingRight::NotAsked;
     bool m_isOffered = true;
     bool m_keepsConsent = false;
+    std::shared_ptr<PortalClipboard> m_clipboard; ///< null for none
     std::unique_ptr<PortalSession> m_session;
     std::function<void()> m_changed = [] {
     };
