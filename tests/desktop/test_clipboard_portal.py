@@ -49,6 +49,14 @@ class SharedByPortal(TypingByPortal):
         self.insert(quorvane, editor)
         self.clipboard.wait_for(plain_text("another"))
 
+    def test_it_is_chosen_where_no_display_has_a_clipboard(self) -> None:
+        quorvane = Quorvane(self.session, QT_QPA_PLATFORM="offscreen", QUORVANE_BACKEND="")
+        quorvane.action("insert")
+        self.portal.wait_asked()
+        self.portal.allow()
+        quorvane.action("copy")
+        wait_until(lambda: self.clipboard.data("UTF8_STRING"), "a text on the clipboard")
+
     def test_a_consent_that_is_taken_back(self) -> None:
         editor = self.editor()
         quorvane = self.quorvane()
