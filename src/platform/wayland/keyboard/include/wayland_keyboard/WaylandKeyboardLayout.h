@@ -24,7 +24,8 @@ public:
     ~WaylandKeyboardLayout() override;
 
     [[nodiscard]] std::optional<std::u16string> characters(std::uint16_t keyCode) const override;
-    [[nodiscard]] std::optional<std::u16string> shiftedCharacters(std::uint16_t keyCode) const;
+    [[nodiscard]] std::optional<std::u16string>
+    shiftedCharacters(std::uint16_t keyCode) const override;
     void onChanged(std::function<void()> handler) override;
 
 private:
