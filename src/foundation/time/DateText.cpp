@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DatabaseTimeZone.h"
 #include "IcuText.h"
+#include "LocalePattern.h"
 #include "ZoneTextFormat.h"
 
 #include <time/DatePattern.h>
@@ -8,7 +9,6 @@
 #include <time/IcuTimeZone.h>
 
 #include <unicode/datefmt.h>
-#include <unicode/dtptngen.h>
 #include <unicode/gregocal.h>
 #include <unicode/smpdtfmt.h>
 
@@ -72,20 +72,11 @@ QString rendered(
     return rendered(formatter, instant, std::move(icuZone));
 }
 
-QString skeletonText(
-    Instant instant,
-    const TimeZone& zone,
-    const char16_t* skeleton,
-    UDateTimePatternMatchOptions options,
-    const UserLocale& locale) {
-    auto status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(locale.icuLocale(), status));
-    if (U_FAILURE(status))
-        return {};
-    const auto pattern = generator->getBestPattern(skeleton, options, status);
-    return U_SUCCESS(status) ? rendered(withPlainSpaces(pattern), instant, zone, locale)
-                             : QString();
+QString
+chipText(DateSkeleton skeleton, Instant instant, const TimeZone& zone, const UserLocale& locale) {
+    const auto pattern = localePattern(skeleton, locale);
+    return pattern.isEmpty() ? QString()
+                             : rendered(withPlainSpaces(pattern), instant, zone, locale);
 }
 
 } // namespace
@@ -125,12 +116,11 @@ QString iso8601Text(Instant instant, const TimeZone& zone, Iso8601Options option
 }
 
 QString timeChipText(Instant instant, const TimeZone& zone, const UserLocale& locale) {
-    // Without this option ICU keeps the locale's own width of the hour.
-    return skeletonText(instant, zone, u"jjmm", UDATPG_MATCH_HOUR_FIELD_LENGTH, locale);
+    return chipText(DateSkeleton::HoursAndMinutes, instant, zone, locale);
 }
 
 QString dateChipText(Instant instant, const TimeZone& zone, const UserLocale& locale) {
-    return skeletonText(instant, zone, u"yMMMd", UDATPG_MATCH_NO_OPTIONS, locale);
+    return chipText(DateSkeleton::DayInWords, instant, zone, locale);
 }
 
 } // namespace quorvane

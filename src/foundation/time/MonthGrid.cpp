@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "IcuText.h"
 #include "LocaleCalendar.h"
+#include "LocalePattern.h"
 
 #include <time/CalendarMoves.h>
 #include <time/MonthGrid.h>
 
-#include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
 #include <algorithm>
@@ -33,12 +33,8 @@ QString dayText(CivilDay day, const icu::UnicodeString& pattern, const UserLocal
 }
 
 QString titleOf(CivilDay firstDay, const UserLocale& locale) {
-    auto status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(locale.icuLocale(), status));
-    if (U_FAILURE(status))
-        return {};
-    return dayText(firstDay, generator->getBestPattern(u"yMMMM", status), locale);
+    const auto pattern = localePattern(DateSkeleton::MonthAndYear, locale);
+    return pattern.isEmpty() ? QString() : dayText(firstDay, pattern, locale);
 }
 
 std::array<QString, daysInWeek> weekdayNames(CivilDay firstDay, const UserLocale& locale) {

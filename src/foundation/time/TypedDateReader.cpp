@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IcuText.h"
+#include "LocalePattern.h"
 #include "TypedDayPattern.h"
 #include "TypedDistance.h"
 #include "TypedIsoDateReader.h"
@@ -8,7 +9,7 @@
 #include <time/TypedDateReader.h>
 #include <time/TypedTime.h>
 
-#include <unicode/dtptngen.h>
+#include <unicode/smpdtfmt.h>
 
 #include <array>
 #include <vector>
@@ -24,7 +25,7 @@ constexpr std::array styles{
     icu::DateFormat::kShort, icu::DateFormat::kMedium, icu::DateFormat::kLong};
 
 /// With the full year, which many a short date lacks; in numbers, and as the date's chip has it.
-constexpr std::array skeletons{u"yMd", u"yMMMd"};
+constexpr std::array skeletons{DateSkeleton::DayInNumbers, DateSkeleton::DayInWords};
 
 void addPattern(std::vector<TypedDayPattern>& patterns, const icu::SimpleDateFormat& format) {
     icu::UnicodeString pattern;
@@ -40,15 +41,11 @@ std::vector<TypedDayPattern> dayPatterns(const UserLocale& locale) {
         if (const auto* simple = dynamic_cast<icu::SimpleDateFormat*>(format.get()))
             addPattern(patterns, *simple);
     }
-    auto status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(locale.icuLocale(), status));
-    for (const auto* skeleton : skeletons) {
-        if (U_FAILURE(status))
-            break;
-        const icu::SimpleDateFormat format(
-            generator->getBestPattern(skeleton, status), locale.icuLocale(), status);
-        if (U_SUCCESS(status))
+    for (const auto skeleton : skeletons) {
+        const auto pattern = localePattern(skeleton, locale);
+        auto status = U_ZERO_ERROR;
+        const icu::SimpleDateFormat format(pattern, locale.icuLocale(), status);
+        if (U_SUCCESS(status) && !pattern.isEmpty())
             addPattern(patterns, format);
     }
     return patterns;
