@@ -1,113 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include <app/Panel.h>
-#include <loop/QtMainQueue.h>
+#include "PaintWatch.h"
+#include "PanelFixture.h"
+
 #include <panel/OutputPreview.h>
-#include <panel/PopoverView.h>
-#include <testing/CallLog.h>
-#include <testing/FakeKeyboardLayout.h>
-#include <testing/FakePasteboard.h>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/MemoryDefaults.h>
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <array>
-#include <chrono>
-#include <memory>
 #include <vector>
 
 namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
-using SteadyClock = std::chrono::steady_clock;
+using SteadyClock = PaintWatch::Clock;
 
 constexpr int keystrokes = 200;
-
-double milliseconds(SteadyClock::duration span) {
-    return std::chrono::duration<double, std::milli>(span).count();
-}
-
-/// The panel with everything in it, on a desktop that only remembers what it is told.
-class PanelFixture {
-public:
-    explicit PanelFixture(const QStringList& zones) {
-        std::vector<TimeZone> selected;
-        for (const auto& identifier : zones)
-            selected.push_back(*m_zones.zone(identifier));
-        m_model.setSelectedTimeZones(std::move(selected));
-    }
-
-    DateTimeModel& model() { return m_model; }
-
-    Panel& panel() { return *m_panel; }
-
-    void open() {
-        m_panel = std::make_unique<Panel>(new PopoverView(
-            m_model,
-            {m_pasteboard, m_layout, m_zones, m_queue, m_clock, m_currentZone, {}},
-            {[] {},
-             [] {},
-             [] {},
-             [] {},
-             [] {
-             }}));
-        QObject::connect(m_panel.get(), &Panel::fittingHeightChanged, m_panel.get(), [this] {
-            m_panel->resize(m_panel->width(), m_panel->fittingHeight());
-        });
-        m_panel->resize(m_panel->width(), m_panel->fittingHeight());
-        m_panel->show();
-    }
-
-private:
-    QtMainQueue m_queue;
-    VirtualMainQueue m_fakesQueue;
-    CallLog m_log{m_fakesQueue};
-    FakePasteboard m_pasteboard{m_log, m_fakesQueue};
-    FakeKeyboardLayout m_layout;
-    ZoneDatabase m_zones;
-    FixedClock m_clock{Instant{1710021900}}; // 2024-03-09T22:05:00Z
-    FixedCurrentZone m_currentZone{*m_zones.zone(u"America/New_York"_s)};
-    MemoryDefaults m_defaults;
-    DateTimeModel m_model{
-        {m_clock, m_defaults, m_currentZone, m_zones, UserLocale::named(u"en_US"_s)}};
-    std::unique_ptr<Panel> m_panel;
-};
-
-/// Waits, in the event loop, until a widget has been painted.
-class PaintWatch final : public QObject {
-public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-
-    /// From `start` to the end of the event-loop iteration that paints the widget.
-    double untilPainted(SteadyClock::time_point start) {
-        m_isPainted = false;
-        while (!m_isPainted)
-            m_loop.processEvents(QEventLoop::WaitForMoreEvents);
-        return milliseconds(SteadyClock::now() - start);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        m_isPainted = m_isPainted || event->type() == QEvent::Paint;
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QEventLoop m_loop;
-    bool m_isPainted = false;
-};
-
-void settle() {
-    QEventLoop loop;
-    while (loop.processEvents(QEventLoop::AllEvents))
-        continue;
-}
 
 void report(benchmark::State& state, std::vector<double> samples) {
     std::ranges::sort(samples);
@@ -148,8 +60,8 @@ void typePattern(benchmark::State& state) {
     fixture.open();
     auto& pattern = patternOf(fixture.panel());
     pattern.setFocus();
-    settle();
     PaintWatch watch(*previewOf(fixture.panel()).viewport());
+    watch.settle();
     std::vector<double> samples;
     bool isLonger = false;
     for ([[maybe_unused]] const auto round : state) {
@@ -162,7 +74,7 @@ void typePattern(benchmark::State& state) {
         const double sample = watch.untilPainted(start);
         state.SetIterationTime(sample / 1000);
         samples.push_back(sample);
-        settle();
+        watch.settle();
     }
     report(state, samples);
 }
@@ -178,7 +90,7 @@ void openPanel(benchmark::State& state) {
         const double sample = watch.untilPainted(start);
         state.SetIterationTime(sample / 1000);
         samples.push_back(sample);
-        settle();
+        watch.settle();
     }
     report(state, samples);
 }
@@ -204,9 +116,9 @@ void showLongOutput(benchmark::State& state) {
     const auto output = longOutput(state.range(0));
     PanelFixture fixture({u"America/New_York"_s});
     fixture.open();
-    settle();
     auto& preview = previewOf(fixture.panel());
     PaintWatch watch(*preview.viewport());
+    watch.settle();
     std::vector<double> samples;
     for ([[maybe_unused]] const auto round : state) {
         const auto start = SteadyClock::now();
@@ -215,7 +127,7 @@ void showLongOutput(benchmark::State& state) {
         state.SetIterationTime(sample / 1000);
         samples.push_back(sample);
         preview.setOutput({});
-        settle();
+        watch.settle();
     }
     state.SetLabel(output.name);
     report(state, samples);
