@@ -75,7 +75,7 @@ X11Keymap::X11Keymap(
       m_refresh(
           mainQueue,
           [this] {
-              reload();
+              refresh();
               if (onChanged)
                   onChanged();
           }),
@@ -87,8 +87,18 @@ X11Keymap::X11Keymap(
 }
 
 void X11Keymap::handleEvent(const xcb_generic_event_t& event) {
-    if (event.response_type == m_keyboard.event)
-        m_refresh.schedule();
+    if (event.response_type != m_keyboard.event)
+        return;
+    m_isMapStale = m_isMapStale || !x11xkb::isStateChange(event);
+    m_refresh.schedule();
+}
+
+void X11Keymap::refresh() {
+    // Reading and compiling a map takes some milliseconds, and a switch of the layout is none.
+    if (std::exchange(m_isMapStale, false))
+        reload();
+    else
+        followGroup();
 }
 
 void X11Keymap::reload() {
@@ -99,6 +109,10 @@ void X11Keymap::reload() {
         return;
     }
     m_keymap = std::move(keymap);
+    followGroup();
+}
+
+void X11Keymap::followGroup() {
     m_state = stateWith(0);
     const auto shift = xkb_keymap_mod_get_index(m_keymap.get(), XKB_MOD_NAME_SHIFT);
     m_shiftedState = stateWith(shift != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << shift : 0);

@@ -91,6 +91,12 @@ void selectGroupChanges(xcb_connection_t* connection, std::uint16_t device) {
     xcb_flush(connection);
 }
 
+bool isStateChange(const xcb_generic_event_t& event) {
+    // All events of the extension begin alike, with their kind in the second byte.
+    return reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event).xkbType ==
+           XCB_XKB_STATE_NOTIFY;
+}
+
 std::uint8_t group(xcb_connection_t* connection, std::uint16_t device) {
     const auto state = stateOf(connection, device);
     return state ? state->group : std::uint8_t{0};

@@ -33,6 +33,10 @@ void omitReleasesOfRepeats(xcb_connection_t* connection);
 /// To be told when another of the map's groups (layouts) comes into use.
 void selectGroupChanges(xcb_connection_t* connection, std::uint16_t device);
 
+/// Whether an event of the extension only tells that another group, or other modifiers, came into
+/// use: the map is as it was.
+[[nodiscard]] bool isStateChange(const xcb_generic_event_t& event);
+
 /// The group in use.
 [[nodiscard]] std::uint8_t group(xcb_connection_t* connection, std::uint16_t device);
 

@@ -67,7 +67,9 @@ private:
     X11Keymap(std::shared_ptr<X11Connection> connection, Keyboard keyboard, MainQueue& mainQueue);
 
     void handleEvent(const xcb_generic_event_t& event);
+    void refresh();
     void reload();
+    void followGroup();
     [[nodiscard]] State stateWith(xkb_mod_mask_t modifiers) const;
     [[nodiscard]] xkb_keysym_t plainKeysym(xcb_keycode_t keycode, xkb_layout_index_t group) const;
 
@@ -77,6 +79,7 @@ private:
     Keymap m_keymap;
     State m_state;
     State m_shiftedState;
+    bool m_isMapStale = false;
     CoalescedRefresh m_refresh;
     X11Connection::Subscription m_subscription;
 };
