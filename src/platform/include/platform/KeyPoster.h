@@ -22,6 +22,10 @@ class KeyPoster {
 public:
     virtual ~KeyPoster() = default;
 
+    /// Does what takes its time before the first paste, at a moment when nobody waits for it. Needs
+    /// not be called.
+    virtual void prepare() {}
+
     /// How the window in front pastes, with the keys that this keyboard has: the one place that
     /// decides about both the keys and where they take the text from. None if the keyboard has no
     /// key that would do, or this desktop does not let us post any.

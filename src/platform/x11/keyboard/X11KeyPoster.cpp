@@ -39,6 +39,16 @@ X11KeyPoster::X11KeyPoster(
       m_hasXkb(x11xkb::start(m_connection->xcb()).has_value()) {
 }
 
+void X11KeyPoster::prepare() {
+    static_cast<void>(postedKeys());
+}
+
+const X11Keymap* X11KeyPoster::postedKeys() const {
+    if (!m_postedKeys)
+        m_postedKeys = m_keymaps.openPostedKeys();
+    return m_postedKeys->get();
+}
+
 std::optional<PasteTarget> X11KeyPoster::pasteTarget() const {
     if (!hasTestExtension(*m_connection))
         return std::nullopt;
@@ -66,7 +76,7 @@ PostOutcome X11KeyPoster::post(PasteKeys wanted) {
 }
 
 std::optional<X11KeyPoster::Keys> X11KeyPoster::keysFor(PasteKeys keys) const {
-    if (!m_keymaps.usersKeys || !m_keymaps.postedKeys)
+    if (!m_keymaps.usersKeys || postedKeys() == nullptr)
         return std::nullopt;
     switch (keys) {
     case PasteKeys::ControlV:
@@ -83,7 +93,7 @@ std::optional<X11KeyPoster::Keys>
 X11KeyPoster::keysYielding(std::initializer_list<xkb_keysym_t> keysyms) const {
     Keys keys;
     for (const auto keysym : keysyms) {
-        const auto key = m_keymaps.postedKeys->keycodeOf(keysym);
+        const auto key = postedKeys()->keycodeOf(keysym);
         if (!key)
             return std::nullopt;
         keys.push_back(*key);
@@ -99,7 +109,7 @@ X11KeyPoster::Keys X11KeyPoster::keysInTheWay() const {
     }
     // The modifiers of the paste keys, too: the server may not know yet that the user holds them.
     for (const auto keysym : {XKB_KEY_Control_L, XKB_KEY_Shift_L}) {
-        if (const auto key = m_keymaps.postedKeys->keycodeOf(static_cast<xkb_keysym_t>(keysym)))
+        if (const auto key = postedKeys()->keycodeOf(static_cast<xkb_keysym_t>(keysym)))
             appendOnce(keys, *key);
     }
     return keys;

@@ -88,6 +88,17 @@ xcb_atom_t X11Connection::atom(const QString& name) {
     return atom(name.toUtf8().constData());
 }
 
+void X11Connection::learnAtoms(const std::vector<const char*>& names) {
+    QStringList questions;
+    for (const auto* name : names)
+        questions.append(QString::fromLatin1(name));
+    const auto answers = atoms(questions);
+    for (std::size_t index = 0; index < names.size(); ++index) {
+        if (answers[index] != XCB_ATOM_NONE)
+            m_atoms.emplace(names[index], answers[index]);
+    }
+}
+
 std::vector<xcb_atom_t> X11Connection::atoms(const QStringList& names) const {
     return xcbrequests::atoms(m_connection, names);
 }

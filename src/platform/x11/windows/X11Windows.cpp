@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <x11_server/X11PropertyValue.h>
+#include <x11_server/XcbReply.h>
 #include <x11_windows/X11Windows.h>
 
 #include <algorithm>
@@ -22,21 +23,48 @@ attributesOf(xcb_connection_t* connection, xcb_window_t window) {
         connection, xcb_get_window_attributes(connection, window), nullptr));
 }
 
+/// A property that names one window, asked for before the answer to another is awaited.
+class WindowQuestion {
+public:
+    WindowQuestion(X11Connection& connection, xcb_window_t window, const char* property)
+        : m_connection(connection.xcb()),
+          m_cookie(xcb_get_property(
+              m_connection, 0, window, connection.atom(property), XCB_ATOM_WINDOW, 0, 1)) {}
+
+    /// XCB_WINDOW_NONE where the property is not there; to be called once.
+    [[nodiscard]] xcb_window_t answer() const {
+        const XcbReply<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(m_connection, m_cookie, nullptr));
+        if (!reply || reply->format != 32 || reply->value_len == 0)
+            return XCB_WINDOW_NONE;
+        return *static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
+    }
+
+private:
+    xcb_connection_t* m_connection;
+    xcb_get_property_cookie_t m_cookie;
+};
+
+constexpr auto managersWindow = "_NET_SUPPORTING_WM_CHECK";
+
 } // namespace
 
 bool X11Windows::hasWindowManager() const {
-    const auto check = [this](xcb_window_t window) {
-        return values(window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW);
-    };
-    const auto manager = check(m_connection->root());
-    return !manager.empty() && check(manager.front()) == manager;
+    return isManager(WindowQuestion(*m_connection, m_connection->root(), managersWindow).answer());
+}
+
+/// Whether the window is one by which a window manager shows that it lives.
+bool X11Windows::isManager(xcb_window_t window) const {
+    return window != XCB_WINDOW_NONE &&
+           WindowQuestion(*m_connection, window, managersWindow).answer() == window;
 }
 
 xcb_window_t X11Windows::active() const {
-    if (!hasWindowManager())
-        return topLevelOf(inputFocus());
-    const auto active = values(m_connection->root(), "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW);
-    return active.empty() ? xcb_window_t{XCB_WINDOW_NONE} : active.front();
+    const WindowQuestion manager(*m_connection, m_connection->root(), managersWindow);
+    const WindowQuestion front(*m_connection, m_connection->root(), "_NET_ACTIVE_WINDOW");
+    const auto managerAnswer = manager.answer();
+    const auto frontAnswer = front.answer();
+    return isManager(managerAnswer) ? frontAnswer : topLevelOf(inputFocus());
 }
 
 xcb_window_t X11Windows::inputFocus() const {

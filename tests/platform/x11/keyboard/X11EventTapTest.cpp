@@ -251,7 +251,13 @@ TEST_F(TapOnX11, NotesTheTimeOfThePressAsTheUsers) {
 TEST_F(TapOnX11, LetsThroughWhatTheProgramTypesItself) {
     const auto tap = makeTap(KeyChord{keycode::v, modifier::control});
     const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(m_queue);
-    X11KeyPoster poster(m_connection, {keymap, keymap}, m_grabbedKeys);
+    X11KeyPoster poster(
+        m_connection,
+        {keymap,
+         [&] {
+             return keymap;
+         }},
+        m_grabbedKeys);
     ASSERT_EQ(
         pasteOutcome(poster, {PasteKeys::ControlV, PasteSource::Clipboard}), PostOutcome::Posted);
     ASSERT_TRUE(keysAreThrough());

@@ -170,7 +170,13 @@ TEST(PosterOnX11WithoutXtest, IsUnavailable) {
     QtMainQueue queue;
     const auto connection = X11Connection::open();
     const std::shared_ptr<X11Keymap> keymap = X11Keymap::open(queue);
-    X11KeyPoster poster(connection, {keymap, keymap}, std::make_shared<X11GrabbedKeys>(connection));
+    X11KeyPoster poster(
+        connection,
+        {keymap,
+         [&] {
+             return keymap;
+         }},
+        std::make_shared<X11GrabbedKeys>(connection));
     EXPECT_EQ(poster.pasteTarget(), std::nullopt);
     EXPECT_EQ(pasteOutcome(poster), PostOutcome::Unavailable);
     EXPECT_EQ(xcb_connection_has_error(connection->xcb()), 0) << "the other services live on";

@@ -24,7 +24,10 @@ protected:
     [[nodiscard]] X11KeyPoster poster() {
         return {
             m_connection,
-            {X11Keymap::open(m_queue), X11Keymap::open(m_queue, X11Keymap::Source::PostedKeys)},
+            {X11Keymap::open(m_queue),
+             [this] {
+                 return X11Keymap::open(m_queue, X11Keymap::Source::PostedKeys);
+             }},
             std::make_shared<X11GrabbedKeys>(m_connection)};
     }
 

@@ -60,6 +60,9 @@ public:
     [[nodiscard]] xcb_atom_t atom(const char* name);
     [[nodiscard]] xcb_atom_t atom(const QString& name);
 
+    /// Asks for names that will be needed, all in one round trip.
+    void learnAtoms(const std::vector<const char*>& names);
+
     /// For names that others have chosen: all in one round trip, and none of them is kept.
     [[nodiscard]] std::vector<xcb_atom_t> atoms(const QStringList& names) const;
 

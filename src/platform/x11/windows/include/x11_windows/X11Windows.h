@@ -69,6 +69,7 @@ public:
     void requestFocus(xcb_window_t window, xcb_timestamp_t time) const;
 
 private:
+    [[nodiscard]] bool isManager(xcb_window_t window) const;
     [[nodiscard]] bool isOnDesktopInFront(xcb_window_t window) const;
     [[nodiscard]] xcb_window_t topLevelOf(xcb_window_t window) const;
 
