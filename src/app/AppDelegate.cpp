@@ -286,6 +286,9 @@ void AppDelegate::prepareAfterFirstPaint() {
     if (m_zoneWarmUp)
         return;
     m_dependencies.platform.appearance->read();
+    m_dependencies.platform.keyPoster->prepare();
+    m_trayIcon.lookInTheme();
+    Q_EMIT hasPainted();
     m_zoneWarmUp = std::make_unique<ZoneWarmUp>(
         m_dependencies.mainQueue,
         m_dependencies.zones,

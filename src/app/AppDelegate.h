@@ -111,6 +111,10 @@ public:
     }
 
 Q_SIGNALS:
+    /// The interface has been painted for the first time, or begins hidden: what nobody waits for
+    /// can be done.
+    void hasPainted();
+
     /// The program is about to end; the process lives until the pasteboard is handed over.
     void willTerminate();
 

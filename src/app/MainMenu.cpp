@@ -32,6 +32,20 @@ MainMenu::~MainMenu() = default;
 
 void MainMenu::attachTo(QWidget& window) {
     window.addAction(m_quit);
+    window.installEventFilter(this);
+}
+
+bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        auto* window = static_cast<QWidget*>(watched);
+        QMetaObject::invokeMethod(
+            window, [this, window] { addBar(*window); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MainMenu::addBar(QWidget& window) const {
     auto* bar = new QMenuBar(&window);
     for (auto* menu : menus())
         bar->addMenu(menu);

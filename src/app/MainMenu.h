@@ -28,12 +28,17 @@ public:
     explicit MainMenu(const Callbacks& callbacks);
     ~MainMenu() override;
 
-    /// Adds the menus to a window; to be called for each of the program's windows.
+    /// Adds the menus to a window; to be called for each of the program's windows. Whether the
+    /// desktop shows menus is asked over the bus, once the window has been painted.
     void attachTo(QWidget& window);
+
+    /// Sees the first paint of a window.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     [[nodiscard]] std::vector<QMenu*> menus() const;
 
 private:
+    void addBar(QWidget& window) const;
     void addEdit(const QString& title, const QKeySequence& keys, const char* method);
 
     std::unique_ptr<QMenu> m_application;

@@ -67,14 +67,19 @@ bool TrayIcon::eventFilter(QObject* watched, QEvent* event) {
 void TrayIcon::refreshImage() {
     if (!m_statusItem)
         return;
-    // A bar that finds the symbol in its icon theme gives it the colour of its own icons.
-    const auto themeName = u"org.quorvane.Quorvane-symbolic"_s;
     m_statusItem->setImage(
-        symbolIcon(
-            Symbol::CalendarBadgeClock,
-            colors(),
-            QIcon::hasThemeIcon(themeName) ? themeName : QString()),
-        u"Quorvane"_s);
+        symbolIcon(Symbol::CalendarBadgeClock, colors(), nameInTheme()), u"Quorvane"_s);
+}
+
+void TrayIcon::lookInTheme() {
+    m_looksInTheme = true;
+    refreshImage();
+}
+
+// A bar that finds the symbol in its icon theme gives it the colour of its own icons.
+QString TrayIcon::nameInTheme() const {
+    const auto name = u"org.quorvane.Quorvane-symbolic"_s;
+    return m_looksInTheme && QIcon::hasThemeIcon(name) ? name : QString();
 }
 
 SymbolColors TrayIcon::colors() const {

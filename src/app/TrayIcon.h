@@ -55,6 +55,10 @@ public:
     /// Where the icon is, as far as the desktop tells.
     [[nodiscard]] std::optional<QRect> frame() const;
 
+    /// Looks from now on whether the desktop's icon theme has the symbol: where there are several
+    /// thousand icons the first look takes as long as painting the panel.
+    void lookInTheme();
+
     /// Draws the icon anew, in what is known by now of the bar and of the desktop.
     void refreshImage();
 
@@ -63,6 +67,7 @@ public:
 
 private:
     [[nodiscard]] SymbolColors colors() const;
+    [[nodiscard]] QString nameInTheme() const;
     void statusBarButtonClicked(StatusItem::Click click);
     void showContextMenu();
     [[nodiscard]] StatusMenu contextMenu() const;
@@ -72,6 +77,7 @@ private:
     Callbacks m_callbacks;
     std::unique_ptr<StatusItem> m_statusItem;
     QString m_notice;
+    bool m_looksInTheme = false;
 };
 
 } // namespace quorvane

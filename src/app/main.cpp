@@ -57,9 +57,13 @@ void configure(QApplication& application) {
     application.setApplicationName(u"quorvane"_s);
     application.setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
     application.setDesktopFileName(u"org.quorvane.Quorvane"_s);
-    // Qt reads SVG with a plugin that comes with Qt Svg, which we link anyway.
-    application.setWindowIcon(QIcon(u":/icons/org.quorvane.Quorvane.svg"_s));
     application.setQuitOnLastWindowClosed(false);
+}
+
+/// Qt draws it in four sizes for each window, and reads SVG with a plugin that comes with Qt Svg,
+/// which we link anyway. The panel is in no taskbar that would show it.
+void setWindowIcon() {
+    QGuiApplication::setWindowIcon(QIcon(u":/icons/org.quorvane.Quorvane.svg"_s));
 }
 
 ApplicationInstance::Request requestOf(const CommandLine& line) {
@@ -140,6 +144,7 @@ int run(
         serve(request, [&delegate, name] { delegate.performAction(name); });
     });
     QObject::connect(&delegate, &AppDelegate::willTerminate, [&] { instance.release(); });
+    QObject::connect(&delegate, &AppDelegate::hasPainted, &setWindowIcon);
     const TerminationSignals signals([&] { delegate.terminate(); });
     return application.exec();
 }

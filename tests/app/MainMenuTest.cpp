@@ -63,6 +63,10 @@ TEST_F(MainMenuTest, IsNotShownInTheWindow) {
     QWidget window;
     mainMenu.attachTo(window);
     EXPECT_EQ(window.findChild<QMenuBar*>(), nullptr);
+    window.show();
+    window.grab();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.findChild<QMenuBar*>(), nullptr);
 }
 
 TEST_F(MainMenuTest, QuitKeysWorkWithoutAShownMenu) {
