@@ -58,6 +58,8 @@ TEST_F(SparkleUpdaterTest, WithoutOneAMessageSaysWhoUpdatesAndWhichVersionThisIs
 
 TEST_F(SparkleUpdaterTest, WhatNoSoftwareCentreKnowsIsNotLookedForThere) {
     QCoreApplication::setApplicationVersion(u"4.2"_s);
+    // The message of an earlier test, which is closed, goes.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const auto described = [&](Kind kind, const QString& folder) {
         installation.kind = kind;
         installation.folder = folder;
