@@ -131,7 +131,7 @@ class Time(FaultCase):
     def test_surroundings_that_lack_or_lie_stop_no_start(self) -> None:
         for lie in (
             {"LANG": "xx_YY.UTF-8"},
-            {"LC_ALL": "de_DE.ISO-8859-15"},
+            {"LC_ALL": "en_GB.ISO-8859-15"},
             {"LC_ALL": "/dev/zero"},
             {"LANG": "", "LC_ALL": ""},
             {"TZ": "Nowhere/Atlantis"},
