@@ -31,6 +31,8 @@ class Privacy(DesktopCase):
 
     def test_nothing_but_settings_is_written_and_for_the_user_alone(self) -> None:
         secret = _secret()
+        # The folder is to be the program's own.
+        self.session.is_new_user = True
         quorvane = self.hidden_quorvane()
         before = self.files()
         self.journey(quorvane, secret)
