@@ -43,6 +43,7 @@ PanelFrame::PanelFrame(Panel& panel, Dependencies dependencies)
         m_usersFrame = QRect(stored->topLeft(), QSize(panelmetrics::width, m_height));
     }
     connect(&panel, &Panel::fittingHeightChanged, this, &PanelFrame::fit);
+    connect(&panel, &Panel::painted, this, [this] { m_isUnseen = false; });
     connect(&panel, &Panel::pointerLeft, this, &PanelFrame::fitAfterPointerLeft);
     connect(&panel, &Panel::frameChanged, this, &PanelFrame::handleFrameChanged);
     connect(&panel, &Panel::dragged, this, &PanelFrame::startMove);
@@ -57,6 +58,7 @@ void PanelFrame::place() {
     }
     m_hasAskedAgain = false;
     m_requested.clear();
+    m_isUnseen = true;
     m_home = homeFrame();
     goHome();
 }
@@ -111,6 +113,9 @@ void PanelFrame::request(const QRect& frame) {
 }
 
 void PanelFrame::fit() {
+    // The middle is that of what is seen first: a line for new users comes just after the show.
+    if (m_isUnseen)
+        m_home = homeFrame();
     const auto frame = m_panel.frame();
     const auto fitting = panelplacement::resized(m_home, wantedHeight(), homeArea());
     if (fitting.topLeft() == frame.topLeft() || !m_panel.underMouse()) {

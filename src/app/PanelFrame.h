@@ -80,6 +80,7 @@ private:
     std::optional<Deadline> m_asking;     ///< pending before it asks once more for its place
     std::optional<Deadline> m_recentring; ///< pending after its screen was removed
     bool m_hasAskedAgain = false;         ///< since it was placed
+    bool m_isUnseen = false;              ///< not painted since it was placed
     bool m_heldInPlace = false;           ///< it moves once the pointer has left
 };
 

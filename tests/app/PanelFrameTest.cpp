@@ -44,6 +44,11 @@ protected:
     }
 
     void show() {
+        showUnpainted();
+        Q_EMIT panel.painted();
+    }
+
+    void showUnpainted() {
         frame.place();
         panel.show();
         makeActive(panel);
@@ -105,6 +110,12 @@ TEST_F(PanelFrameTest, HeightFollowsTheContentInBothDirections) {
     EXPECT_EQ(panel.geometry(), QRect(panel.x(), top, panelmetrics::width, 350));
     setContentHeight(10);
     EXPECT_EQ(panel.height(), 300);
+}
+
+TEST_F(PanelFrameTest, WhatGrowsBeforeItIsSeenIsInTheMiddleAllTheSame) {
+    showUnpainted();
+    setContentHeight(450);
+    EXPECT_EQ(panel.geometry(), centred(450));
 }
 
 TEST_F(PanelFrameTest, GrowthEndsAtTheScreensHeight) {
