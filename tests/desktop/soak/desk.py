@@ -138,7 +138,10 @@ class Desk:
         settings = settings_file(self.session)
         settings.parent.mkdir(parents=True)
         settings.write_text(json.dumps({"favoriteTZs": _ZONES}))
-        self.quorvane = Quorvane(self.session, LANG=f"{self.locale}.UTF-8")
+        # The language of dates is another in each case; the controls keep their names.
+        self.quorvane = Quorvane(
+            self.session, LANG=f"{self.locale}.UTF-8", LC_MESSAGES="en_US.UTF-8"
+        )
         self.quorvane.wait_active()
         self._zones = wait_until(self._suggestions, "the chips of zones")
         # One zone more than those that come and go: the text has at least two lines.
