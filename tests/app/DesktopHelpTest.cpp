@@ -10,6 +10,8 @@
 #include <QAbstractButton>
 #include <QTest>
 
+#include <algorithm>
+
 namespace quorvane {
 namespace {
 
@@ -107,12 +109,14 @@ TEST_F(DesktopHelpTest, ShortcutChangedInTheDesktopsListIsOurs) {
     showPreferences();
     button(u"Add to GNOME shortcuts"_s)->click();
     queue.run();
-    const auto calls = log.calls().size();
     desktopShortcut->rebind(other);
     queue.run();
     EXPECT_EQ(delegate->model().hotKey(), comboOf(other));
     EXPECT_TRUE(shows(u"It is in the shortcuts of GNOME."_s));
-    EXPECT_EQ(log.calls().size(), calls) << "the list is the desktop's";
+    const auto isOfTheList = [](const auto& call) {
+        return call.what == "bind" || call.what == "unbind";
+    };
+    EXPECT_EQ(std::ranges::count_if(log.calls(), isOfTheList), 1) << "the list is the desktop's";
 }
 
 TEST_F(DesktopHelpTest, RecordedShortcutOfAnotherCommandLeavesTheEntryAlone) {

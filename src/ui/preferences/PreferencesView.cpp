@@ -42,6 +42,7 @@ PreferencesView::PreferencesView(
       m_dependencies(std::move(dependencies)),
       m_onHotKeyChange(std::move(onHotKeyChange)),
       m_editingCombo(model.hotKey()),
+      m_knownCombo(model.hotKey()),
       m_refresh(m_dependencies.mainQueue, [this] { refresh(); }),
       m_sections(new SectionColumn(
           {preferencesmetrics::margin, preferencesmetrics::margin, preferencesmetrics::margin, 0},
@@ -154,6 +155,9 @@ void PreferencesView::change(HotKeyCombo combo) {
 }
 
 void PreferencesView::refresh() {
+    // The desktop's own settings may have given it another.
+    if (std::exchange(m_knownCombo, m_model.hotKey()) != m_model.hotKey())
+        m_editingCombo = m_model.hotKey();
     m_shortcut->setStatus(m_dependencies.shortcutStatus());
     const bool asksAboutTyping = m_dependencies.accessibilityRight.canPrompt();
     if (asksAboutTyping)

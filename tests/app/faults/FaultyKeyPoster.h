@@ -19,6 +19,11 @@ public:
           m_plan(plan),
           m_queue(queue) {}
 
+    void prepare() override {
+        if (!m_plan.strikes("KeyPoster::prepare"))
+            m_real->prepare();
+    }
+
     [[nodiscard]] std::optional<PasteTarget> pasteTarget() const override {
         return m_plan.strikes("KeyPoster::pasteTarget") ? std::nullopt : m_real->pasteTarget();
     }

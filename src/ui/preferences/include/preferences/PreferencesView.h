@@ -95,6 +95,7 @@ private:
     Dependencies m_dependencies;
     OnHotKeyChange m_onHotKeyChange;
     HotKeyCombo m_editingCombo;
+    HotKeyCombo m_knownCombo; ///< the model's at the last refresh
     CoalescedRefresh m_refresh;
 
     SectionColumn* m_sections;
