@@ -1,178 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "../composition/Samples.h"
+#include "DateTimeModelFixture.h"
 
-#include <model/DateTimeModel.h>
-#include <settings/JsonDefaultsStore.h>
-#include <testing/FixedClock.h>
-#include <testing/FixedCurrentZone.h>
-#include <testing/ImmediateSettingsWriter.h>
-#include <testing/MemoryDefaults.h>
 #include <testing/RecordingSettingsWriter.h>
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <functional>
-#include <memory>
-#include <string>
 
 namespace quorvane {
 namespace {
 
 using namespace Qt::StringLiterals;
 using namespace samples;
-using testing::ElementsAre;
-
-const auto favoritesKey = u"favoriteTZs"_s;
-
-class DateTimeModelTest : public testing::Test {
-protected:
-    [[nodiscard]] std::unique_ptr<DateTimeModel> makeModel() { return makeModel(m_defaults); }
-
-    [[nodiscard]] std::unique_ptr<DateTimeModel> makeModel(DefaultsStore& defaults) {
-        return std::make_unique<DateTimeModel>(DateTimeModel::Dependencies{
-            m_clock, defaults, m_currentZone, m_zones, locale("en_US")});
-    }
-
-    /// A model whose settings file held `json`.
-    [[nodiscard]] std::unique_ptr<DateTimeModel> makeModelFrom(const QByteArray& json) {
-        QFile file(m_folder.filePath(u"defaults.json"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(json);
-        file.close();
-        m_stored = std::make_unique<JsonDefaultsStore>(file.fileName(), m_writer);
-        return makeModel(*m_stored);
-    }
-
-    /// What the settings file holds now.
-    [[nodiscard]] QByteArray storedJson() const {
-        QFile file(m_folder.filePath(u"defaults.json"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    FixedClock m_clock{march9};
-    FixedCurrentZone m_currentZone{zone("Asia/Kolkata")};
-    ZoneDatabase m_zones;
-    MemoryDefaults m_defaults;
-    std::unique_ptr<JsonDefaultsStore> m_stored;
-
-private:
-    QTemporaryDir m_folder;
-    ImmediateSettingsWriter m_writer;
-};
-
-const QStringList defaultFavorites{
-    u"Asia/Kolkata"_s,
-    u"America/Los_Angeles"_s,
-    u"America/New_York"_s,
-    u"Europe/London"_s,
-    u"Europe/Berlin"_s,
-    u"Asia/Tokyo"_s,
-    u"Asia/Singapore"_s,
-    u"Australia/Sydney"_s};
-
-TEST_F(DateTimeModelTest, StartsAfreshWithTheCurrentHourAndZone) {
-    const auto model = makeModel();
-    EXPECT_EQ(model->startDate(), march9);
-    EXPECT_EQ(model->endDate(), march9 + Seconds(hour));
-    EXPECT_FALSE(model->isRange());
-    EXPECT_TRUE(model->includeDate());
-    EXPECT_TRUE(model->includeTime());
-    EXPECT_EQ(model->selectedTimeZones(), zones({"Asia/Kolkata"}));
-    EXPECT_EQ(model->formatPreset(), DateFormatPreset::LongForm);
-    EXPECT_EQ(model->customFormatString(), u"yyyy-MM-dd HH:mm zzz"_s);
-    EXPECT_EQ(model->multiZoneLayout(), MultiZoneLayout::Inline);
-}
-
-TEST_F(DateTimeModelTest, FirstLaunchHasTheDefaultsAndStoresTheFavourites) {
-    const auto model = makeModel();
-    EXPECT_TRUE(model->showInMenuBar());
-    EXPECT_FALSE(model->showInDock());
-    EXPECT_EQ(model->presentationMode(), PresentationMode::Window);
-    EXPECT_EQ(model->hotKey(), (HotKeyCombo{2, 0x1300}));
-    EXPECT_EQ(model->favoriteTimeZoneIdentifiers(), defaultFavorites);
-    EXPECT_EQ(m_defaults.stringArrayForKey(favoritesKey), defaultFavorites);
-    EXPECT_THAT(m_defaults.writes(), ElementsAre(favoritesKey));
-}
-
-TEST_F(DateTimeModelTest, StoredSettingsAreRead) {
-    const auto model = makeModelFrom(R"({
-        "showInMenuBar": false, "showInDock": true, "presentationMode": "Popover",
-        "hotKeyCode": 9, "hotKeyModifiers": 256, "favoriteTZs": ["Asia/Seoul", "Moon/Tycho"]})");
-    EXPECT_FALSE(model->showInMenuBar());
-    EXPECT_TRUE(model->showInDock());
-    EXPECT_EQ(model->presentationMode(), PresentationMode::Popover);
-    EXPECT_EQ(model->hotKey(), (HotKeyCombo{9, 256}));
-    EXPECT_EQ(
-        model->favoriteTimeZoneIdentifiers(), (QStringList{u"Asia/Seoul"_s, u"Moon/Tycho"_s}));
-}
-
-TEST_F(DateTimeModelTest, PresentationModeIsTheExactTextOrTheWindow) {
-    for (const char* value :
-         {R"("popover")", R"("POPOVER")", R"("Window")", R"("")", "5", "true", "null", "[]"}) {
-        const auto model = makeModelFrom(QByteArray(R"({"presentationMode": )") + value + "}");
-        EXPECT_EQ(model->presentationMode(), PresentationMode::Window) << value;
-    }
-}
-
-TEST_F(DateTimeModelTest, FlagsAreCoercedAndOnlyAValueCountsAsOne) {
-    struct Row {
-        const char* value;
-        bool menuBar;
-        bool dock;
-    };
-
-    for (const auto& row :
-         {Row{"0", false, false},
-          Row{"1", true, true},
-          Row{R"("YES")", true, true},
-          Row{R"("no")", false, false},
-          Row{R"("what")", false, false},
-          Row{"null", true, false},
-          Row{"[]", true, false},
-          Row{"{}", true, false}}) {
-        const auto value = QByteArray(row.value);
-        const auto model =
-            makeModelFrom(R"({"showInMenuBar": )" + value + R"(, "showInDock": )" + value + "}");
-        EXPECT_EQ(model->showInMenuBar(), row.menuBar) << row.value;
-        EXPECT_EQ(model->showInDock(), row.dock) << row.value;
-    }
-}
-
-TEST_F(DateTimeModelTest, StartLeavesAFileThatHasTheFavouritesAsItIs) {
-    const QByteArray json = R"({"favoriteTZs":["UTC"],"other":12345678901234567890})";
-    const auto model = makeModelFrom(json);
-    EXPECT_EQ(storedJson(), json);
-    model->setShowInDock(false);
-    EXPECT_NE(storedJson(), json);
-}
-
-TEST_F(DateTimeModelTest, EmptyFavouritesStayEmpty) {
-    const auto model = makeModelFrom(R"({"favoriteTZs": []})");
-    EXPECT_TRUE(model->favoriteTimeZoneIdentifiers().isEmpty());
-    EXPECT_EQ(m_stored->stringArrayForKey(favoritesKey), QStringList());
-}
-
-TEST_F(DateTimeModelTest, FavouritesThatAreNotAllTextsAreReplacedByTheDefaults) {
-    for (const char* value : {R"(["Europe/Paris", 5])", R"("Europe/Paris")", "null", "{}"}) {
-        const auto model = makeModelFrom(QByteArray(R"({"favoriteTZs": )") + value + "}");
-        EXPECT_EQ(model->favoriteTimeZoneIdentifiers(), defaultFavorites) << value;
-        EXPECT_EQ(m_stored->stringArrayForKey(favoritesKey), defaultFavorites) << value;
-    }
-}
-
-TEST_F(DateTimeModelTest, StoredShortcutThatIsNoneIsLeftInTheFile) {
-    for (const char* value : {"-1", "65536", "4294967296", "9223372036854775807", "1e300"}) {
-        const auto model =
-            makeModelFrom(QByteArray(R"({"hotKeyModifiers": 256, "hotKeyCode": )") + value + "}");
-        EXPECT_EQ(model->hotKey(), HotKeyCombo()) << value;
-        EXPECT_NE(m_stored->integerForKey(u"hotKeyCode"_s), 2) << value;
-        model->setHotKey({9, 256});
-        EXPECT_EQ(m_stored->integerForKey(u"hotKeyCode"_s), 9) << value;
-    }
-}
 
 /// Assigns a value to one field, and tells whether the field has it.
 struct Assignment {
