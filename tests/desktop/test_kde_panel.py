@@ -3,7 +3,6 @@
 
 import screen_edge_tests
 import wayland_tests
-from harness.keys import SHORTCUT
 from harness.kwin.case import KwinCase
 from harness.place import PlaceCase
 from harness.quorvane import Quorvane
@@ -42,15 +41,6 @@ class PanelsPlace(PlaceCase, KwinCase):
         self.assertTrue(windows.is_on_all_desktops(panel))
         self.assertFalse(windows.is_in_taskbar(panel))
 
-    def test_hidden_by_its_keys_it_gives_the_focus_back(self) -> None:
-        editor = self.editor()
-        quorvane = self.hidden_quorvane()
-        for _ in range(5):
-            self.summon(quorvane)
-            self.keyboard.tap(*SHORTCUT)
-            quorvane.wait_hidden()
-            editor.wait_active()
-
 
 class Scaled(PlaceCase, KwinCase):
     """On a screen with one and a half pixels for each point."""
@@ -70,6 +60,10 @@ class Scaled(PlaceCase, KwinCase):
         place = self.drag(quorvane)
         self.show_again(quorvane)
         self.wait_at(quorvane, *place, tolerance=1)
+
+
+class FocusGivenBack(wayland_tests.FocusGivenBack, KwinCase):
+    """To the program in which the user works."""
 
 
 class Edge(screen_edge_tests.ScreenEdge, KwinCase):

@@ -63,15 +63,6 @@ class Panel(SwayCase):
         self.assertFalse(windows.is_floating(editor.window))
         self.assertFalse(windows.is_on_all_desktops(editor.window))
 
-    def test_hidden_by_its_keys_it_gives_the_focus_back(self) -> None:
-        editor = self.editor()
-        quorvane = self.hidden_quorvane()
-        for _ in range(5):
-            self.summon(quorvane)
-            self.keyboard.tap(*SHORTCUT)
-            quorvane.wait_hidden()
-            editor.wait_active()
-
     def test_its_key_caps_show_the_user_s_layout(self) -> None:
         quorvane = Quorvane(self.session)
         quorvane.wait_active()
@@ -115,6 +106,10 @@ class ComposedEntry(test_entry.ComposedEntry, SwayCase):
 
     def take_accents(self) -> None:
         self.keyboard.use_layout("us(intl)")
+
+
+class FocusGivenBack(wayland_tests.FocusGivenBack, SwayCase):
+    """To the program in which the user works."""
 
 
 class Edge(screen_edge_tests.ScreenEdge, SwayCase):

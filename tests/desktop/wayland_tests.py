@@ -17,6 +17,19 @@ from harness.wayland.connection import WaylandConnection
 _REST = 60_000  # questions that the compositor answers meanwhile: some seconds
 
 
+class FocusGivenBack(WaylandCase):
+    """The panel that is hidden by its keys."""
+
+    def test_hidden_by_its_keys_it_gives_the_focus_back(self) -> None:
+        editor = self.editor()
+        quorvane = self.hidden_quorvane()
+        for _ in range(5):
+            self.summon(quorvane)
+            self.keyboard.tap(*SHORTCUT)
+            quorvane.wait_hidden()
+            editor.wait_active()
+
+
 class Session(WaylandCase):
     """What all other tests stand on."""
 

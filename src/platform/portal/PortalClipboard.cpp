@@ -166,17 +166,10 @@ void PortalClipboard::select(ClipboardKind /*kind*/, const DataSource* source) {
 void PortalClipboard::listen() {
     if (std::exchange(m_listenedOwner, m_portal->owner()) == m_portal->owner())
         return;
-    const auto follow = [this](const QString& signal, const char* slot) {
-        m_portal->bus().connect(
-            m_portal->owner(),
-            portalname::object.toString(),
-            portalname::clipboard.toString(),
-            signal,
-            this,
-            slot);
-    };
-    follow(u"SelectionOwnerChanged"_s, SLOT(adoptOwner(QDBusMessage)));
-    follow(u"SelectionTransfer"_s, SLOT(transfer(QDBusMessage)));
+    m_portal->follow(
+        portalname::clipboard, u"SelectionOwnerChanged"_s, this, SLOT(adoptOwner(QDBusMessage)));
+    m_portal->follow(
+        portalname::clipboard, u"SelectionTransfer"_s, this, SLOT(transfer(QDBusMessage)));
 }
 
 bool PortalClipboard::isOurs(const QDBusMessage& signal, QLatin1StringView signature) const {

@@ -44,6 +44,12 @@ PortalDesktop::PortalDesktop(QDBusConnection bus)
 
 PortalDesktop::~PortalDesktop() = default;
 
+void PortalDesktop::follow(
+    QStringView interface, const QString& signal, QObject* receiver, const char* slot) {
+    m_bus.connect(
+        m_owner, portalname::object.toString(), interface.toString(), signal, receiver, slot);
+}
+
 void PortalDesktop::meet(QStringView interface, QObject* context, Met met) {
     if (!m_owner.isEmpty())
         return readProperties(interface, context, std::move(met));

@@ -110,18 +110,12 @@ void PortalShortcut::look() {
 void PortalShortcut::listen() {
     if (std::exchange(m_listenedOwner, m_portal->owner()) == m_portal->owner())
         return;
-    const auto follow = [this](const QString& signal, const char* slot) {
-        m_portal->bus().connect(
-            m_portal->owner(),
-            portalname::object.toString(),
-            portalname::globalShortcuts.toString(),
-            signal,
-            this,
-            slot);
-    };
-    follow(u"Activated"_s, SLOT(activate(QDBusMessage)));
-    follow(u"Deactivated"_s, SLOT(deactivate(QDBusMessage)));
-    follow(u"ShortcutsChanged"_s, SLOT(adoptChange(QDBusMessage)));
+    m_portal->follow(
+        portalname::globalShortcuts, u"Activated"_s, this, SLOT(activate(QDBusMessage)));
+    m_portal->follow(
+        portalname::globalShortcuts, u"Deactivated"_s, this, SLOT(deactivate(QDBusMessage)));
+    m_portal->follow(
+        portalname::globalShortcuts, u"ShortcutsChanged"_s, this, SLOT(adoptChange(QDBusMessage)));
 }
 
 void PortalShortcut::makeSession(Made made) {

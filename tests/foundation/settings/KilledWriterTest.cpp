@@ -8,13 +8,13 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
+#include <ctime>
 #include <random>
-#include <semaphore.h>
-#include <sys/mman.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace quorvane {
@@ -28,27 +28,19 @@ int kills() {
     return qEnvironmentVariableIsSet("QUORVANE_THOROUGH") ? 1000 : 100;
 }
 
-/// What two processes know of each other.
-class SharedSignal {
-public:
-    SharedSignal()
-        : m_semaphore(static_cast<sem_t*>(::mmap(
-              nullptr, sizeof(sem_t), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))) {
-        ::sem_init(m_semaphore, 1, 0);
-    }
-
-    ~SharedSignal() { ::munmap(m_semaphore, sizeof(sem_t)); }
-
-    SharedSignal(const SharedSignal&) = delete;
-    SharedSignal& operator=(const SharedSignal&) = delete;
-
-    void give() { ::sem_post(m_semaphore); }
-
-    void take() { ::sem_wait(m_semaphore); }
-
-private:
-    sem_t* m_semaphore;
-};
+/// Has the kernel kill this process, in the middle of whatever it does so long from now.
+void beKilledAfter(std::chrono::microseconds span) {
+    sigevent killing{};
+    killing.sigev_notify = SIGEV_SIGNAL;
+    killing.sigev_signo = SIGKILL;
+    timer_t timer{};
+    itimerspec end{};
+    // A timer of zero is one that is off.
+    end.it_value.tv_nsec = std::max<long>(1, std::chrono::nanoseconds(span).count());
+    if (::timer_create(CLOCK_MONOTONIC, &killing, &timer) != 0 ||
+        ::timer_settime(timer, 0, &end, nullptr) != 0)
+        ::_exit(EXIT_FAILURE);
+}
 
 /// Another process that writes the same two settings over and over, until it is killed.
 class KilledWriterTest : public testing::Test {
@@ -61,7 +53,7 @@ protected:
 
     [[nodiscard]] QString path() const { return m_folder.filePath(u"defaults.json"_s); }
 
-    [[noreturn]] void writeForEver(SharedSignal& hasBegun) {
+    [[noreturn]] void writeForEver(std::chrono::microseconds span) {
         ImmediateSettingsWriter writer;
         JsonDefaultsStore settings(path(), writer);
         for (qint64 value = 0;; ++value) {
@@ -70,22 +62,18 @@ protected:
                 settings.setInteger(u"second"_s, value);
             });
             if (value == 0)
-                hasBegun.give();
+                beKilledAfter(span);
         }
     }
 
-    /// In the middle of whatever it does so long after its first file.
-    void killAfter(std::chrono::microseconds span) {
-        SharedSignal hasBegun;
+    /// A writer that is killed so long after its first file.
+    void writeUntilKilled(std::chrono::microseconds span) {
         const pid_t writer = ::fork();
         if (writer == 0)
-            writeForEver(hasBegun);
-        hasBegun.take();
-        std::this_thread::sleep_for(span);
-        ::kill(writer, SIGKILL);
+            writeForEver(span);
         int status = 0;
         EXPECT_EQ(::waitpid(writer, &status, 0), writer);
-        EXPECT_TRUE(WIFSIGNALED(status));
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
     }
 
     [[nodiscard]] QJsonObject stored() const {
@@ -103,7 +91,7 @@ TEST_F(KilledWriterTest, LeavesTheSettingsWholeWheneverItIsKilled) {
     // About as long as a file takes to be replaced.
     std::uniform_int_distribution<int> microseconds(0, 1500);
     for (int kill = 0; kill < kills(); ++kill) {
-        killAfter(std::chrono::microseconds(microseconds(random)));
+        writeUntilKilled(std::chrono::microseconds(microseconds(random)));
         const auto settings = stored();
         ASSERT_EQ(settings[u"of another version"_s], QJsonArray({1})) << kill;
         ASSERT_GE(settings[u"first"_s].toInt(-1), 0) << kill;

@@ -53,6 +53,9 @@ public:
     /// A method of the portal that was met.
     [[nodiscard]] QDBusMessage question(QStringView interface, QStringView method) const;
 
+    /// Leads a signal of the portal that was met, in sessions of any time, to a slot of `receiver`.
+    void follow(QStringView interface, const QString& signal, QObject* receiver, const char* slot);
+
 Q_SIGNALS:
     /// The portal that was met has gone, or given its name away.
     void lost();

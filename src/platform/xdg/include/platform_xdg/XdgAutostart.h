@@ -13,9 +13,9 @@ class QFileSystemWatcher;
 
 namespace quorvane {
 
-/// An entry among the user's (Desktop Application Autostart Specification). It counts as off where
-/// there is none, or one that is hidden or switched off, as session managers do with entries that
-/// the user takes out of their lists.
+/// An entry among the user's (freedesktop.org, Desktop Application Autostart). It counts as off
+/// where there is none, or one that is hidden or switched off, as session managers do with entries
+/// that the user takes out of their lists.
 class XdgAutostart final : public QObject, public Autostart {
     Q_OBJECT
 
