@@ -61,7 +61,7 @@ class SwaySession(PrivateSession):
         self.bus = SessionBus(self._processes, self.environment.copy(), self.directory("bus"))
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus.address
         self._start_compositor()
-        self.windows = SwayWindows(Path(self.environment["SWAYSOCK"]))
+        self.windows = SwayWindows(Path(self.environment["SWAYSOCK"]), self.display)
         undo.callback(self.windows.close)
         self.accessibility = Accessibility(self.bus.address)
         undo.callback(self.accessibility.close)

@@ -7,6 +7,7 @@ from pathlib import Path
 from typing import Any, TypeVar
 
 from ..waiting import PATIENCE, Deadline
+from ..wayland.x_focus import XFocus
 from .ipc import SwayIpc
 
 Result = TypeVar("Result")
@@ -18,8 +19,9 @@ _LONGEST_SILENCE = 0.05  # seconds: not all that is asked for announces itself
 class SwayWindows:
     """Windows by the numbers that sway gives them."""
 
-    def __init__(self, path: Path) -> None:
+    def __init__(self, path: Path, display: str) -> None:
         self.sway = SwayIpc(path)
+        self._x_focus = XFocus(display)
         self._events = SwayIpc(path)
         self._events.subscribe("window", "workspace")
 
@@ -27,6 +29,7 @@ class SwayWindows:
         """Ends the connections."""
         self.sway.close()
         self._events.close()
+        self._x_focus.close()
 
     def wait(
         self, condition: Callable[[], Result | None], what: str, seconds: float = PATIENCE
@@ -45,7 +48,8 @@ class SwayWindows:
 
     def active(self) -> int | None:
         """The window that has the keyboard."""
-        return next((window["id"] for window in self._all() if window["focused"]), None)
+        window = next((window for window in self._all() if window["focused"]), None)
+        return window["id"] if window and self._has_keyboard(window) else None
 
     def of_process(self, pid: int, title: str | None = None) -> int | None:
         """The first shown window of a process, and of a title where one is asked for."""
@@ -84,6 +88,9 @@ class SwayWindows:
     def command(self, window: int, text: str) -> None:
         """Has sway do something to a window."""
         self.sway.command(f"[con_id={window}] {text}")
+
+    def _has_keyboard(self, window: dict[str, Any]) -> bool:
+        return window.get("shell") != "xwayland" or self._x_focus.is_at(window["window"])
 
     def _find(self, window: int) -> dict[str, Any]:
         return next((each for each in self._all() if each["id"] == window), {})
