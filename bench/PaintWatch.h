@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QEvent>
 #include <QEventLoop>
 #include <QObject>
 #include <QWidget>

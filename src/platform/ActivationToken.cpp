@@ -27,7 +27,7 @@ ActivationToken activationTokenOf(const QString& token, const QString& startupId
 }
 
 ActivationToken takeActivationTokenOfProcess() {
-    const auto taken = activationTokenOf(
+    auto taken = activationTokenOf(
         qEnvironmentVariable(tokenVariable), qEnvironmentVariable(startupIdVariable));
     for (const auto* variable : std::array{tokenVariable, startupIdVariable})
         qunsetenv(variable);

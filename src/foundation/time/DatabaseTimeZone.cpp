@@ -90,11 +90,13 @@ void DatabaseTimeZone::setRawOffset(int32_t /*milliseconds*/) {
 
 UBool DatabaseTimeZone::useDaylightTime() const {
     constexpr UDate halfYear = 182.0 * U_MILLIS_PER_DAY;
-    return offsetAt(standingRule).daylight != 0 || offsetAt(standingRule + halfYear).daylight != 0;
+    const bool isUsed =
+        offsetAt(standingRule).daylight != 0 || offsetAt(standingRule + halfYear).daylight != 0;
+    return static_cast<UBool>(isUsed);
 }
 
 UBool DatabaseTimeZone::inDaylightTime(UDate date, UErrorCode& status) const {
-    return U_SUCCESS(status) && offsetAt(date).daylight != 0;
+    return static_cast<UBool>(U_SUCCESS(status) && offsetAt(date).daylight != 0);
 }
 
 DatabaseTimeZone* DatabaseTimeZone::clone() const {

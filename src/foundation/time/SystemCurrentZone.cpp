@@ -84,7 +84,7 @@ QString SystemCurrentZone::identifierOfFile(Path file) const {
     // Link by link, not to the end: the database's own links would replace the name that was
     // chosen.
     for (int links = 0; links < maximumLinks; ++links) {
-        if (const auto tail = tailInDatabase(file); !tail.isEmpty())
+        if (auto tail = tailInDatabase(file); !tail.isEmpty())
             return tail;
         std::error_code error;
         const auto target = fs::read_symlink(file, error);
@@ -102,7 +102,7 @@ QString SystemCurrentZone::tailInDatabase(const Path& file) const {
 }
 
 QString SystemCurrentZone::identifierOfCopy(const Path& file) const {
-    const auto stated =
+    auto stated =
         QString::fromUtf8(readFile(m_root / "etc/timezone").value_or(QByteArray())).trimmed();
     if (m_zones.isKnown(stated) && isCopyOf(file, m_zones.dataFileOf(stated)))
         return stated;

@@ -33,7 +33,7 @@ QString scriptOf(const QString& modifier) {
 
 /// "language[_territory][.codeset][@modifier]" as ICU's "language[_Script][_territory]".
 QString icuNameOf(const QString& posixName) {
-    const auto name = posixName.section(u'@', 0, 0).section(u'.', 0, 0);
+    auto name = posixName.section(u'@', 0, 0).section(u'.', 0, 0);
     const auto script = scriptOf(posixName.section(u'@', 1));
     if (script.isEmpty())
         return name;
