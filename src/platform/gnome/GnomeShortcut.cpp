@@ -2,14 +2,11 @@
 #include "Accelerator.h"
 #include "BoundCommands.h"
 #include "GVariantText.h"
-#include "SettingsCommand.h"
+#include "MediaKeysDaemon.h"
+#include "SettingsTasks.h"
 
 #include <loop/Failure.h>
 #include <platform_gnome/GnomeShortcut.h>
-
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 #include <algorithm>
 #include <array>
@@ -21,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto daemonName = u"org.gnome.SettingsDaemon.MediaKeys"_s;
 const auto mediaKeys = u"org.gnome.settings-daemon.plugins.media-keys"_s;
 const auto customKeys = u"custom-keybindings"_s;
 const auto ownPath =
@@ -59,18 +55,21 @@ QStringList settingOfPaths(const QStringList& paths) {
 
 GnomeShortcut::GnomeShortcut(
     const QDBusConnection& bus, MainQueue& queue, const KeyboardLayout& layout, QString program)
-    : m_queue(queue),
-      m_layout(layout),
-      m_program(std::move(program)),
+    : m_layout(layout),
+      m_daemon(std::make_unique<MediaKeysDaemon>(bus, queue, ownPath)),
+      m_tasks(std::make_unique<SettingsTasks>(queue, std::move(program))),
       m_read(std::make_unique<BoundCommands>(ownPath)) {
-    if (bus.isConnected())
-        askForDaemon(bus);
+    m_daemon->onChanged([this] {
+        refresh();
+        tellChanged();
+    });
+    m_daemon->onWritten([this] { refresh(); });
 }
 
 GnomeShortcut::~GnomeShortcut() = default;
 
 QString GnomeShortcut::desktopName() const {
-    return m_isDaemonThere && m_isListThere ? u"GNOME"_s : QString();
+    return m_daemon->isThere() && m_isListThere ? u"GNOME"_s : QString();
 }
 
 std::optional<KeyChord> GnomeShortcut::bound() const {
@@ -89,9 +88,9 @@ QString GnomeShortcut::holder(const KeyChord& chord) const {
 }
 
 void GnomeShortcut::refresh() {
-    if (!m_isDaemonThere || std::exchange(m_isRefreshDue, true))
+    if (!m_daemon->isThere() || std::exchange(m_isRefreshDue, true))
         return;
-    enqueue([this] {
+    m_tasks->add([this] {
         m_isRefreshDue = false;
         m_isOwnChange = false;
         read();
@@ -105,7 +104,7 @@ void GnomeShortcut::read() {
 
 void GnomeShortcut::bind(const KeyChord& chord) {
     const auto accelerator = Accelerator::of(chord, m_layout);
-    if (!m_isDaemonThere || !accelerator)
+    if (!m_daemon->isThere() || !accelerator)
         return;
     changePaths([text = accelerator->text()](QStringList paths) {
         const auto schema = customSchema(ownPath);
@@ -120,7 +119,7 @@ void GnomeShortcut::bind(const KeyChord& chord) {
 }
 
 void GnomeShortcut::unbind() {
-    if (!m_isDaemonThere)
+    if (!m_daemon->isThere())
         return;
     changePaths([](QStringList paths) {
         std::deque<QStringList> commands;
@@ -129,64 +128,6 @@ void GnomeShortcut::unbind() {
         commands.push_back({u"reset-recursively"_s, customSchema(ownPath)});
         return commands;
     });
-}
-
-void GnomeShortcut::askForDaemon(const QDBusConnection& bus) {
-    QDBusConnection connection(bus);
-    connection.connect(
-        u"org.freedesktop.DBus"_s,
-        u"/org/freedesktop/DBus"_s,
-        u"org.freedesktop.DBus"_s,
-        u"NameOwnerChanged"_s,
-        {daemonName},
-        u"sss"_s,
-        this,
-        SLOT(handleOwner(QString, QString, QString)));
-    connection.connect(
-        u"ca.desrt.dconf"_s,
-        QString(),
-        u"ca.desrt.dconf.Writer"_s,
-        u"Notify"_s,
-        this,
-        SLOT(handleNotice(QDBusMessage)));
-    auto question = QDBusMessage::createMethodCall(
-        u"org.freedesktop.DBus"_s,
-        u"/org/freedesktop/DBus"_s,
-        u"org.freedesktop.DBus"_s,
-        u"NameHasOwner"_s);
-    question << daemonName;
-    auto* answer = new QDBusPendingCallWatcher(connection.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<bool> isThere = *answer;
-        if (isThere.isValid() && isThere.value())
-            setDaemonThere(true);
-    });
-}
-
-void GnomeShortcut::handleOwner(
-    const QString& /*name*/, const QString& /*oldOwner*/, const QString& newOwner) {
-    setDaemonThere(!newOwner.isEmpty());
-}
-
-/// Told is the folder or the setting that what was written has in common.
-void GnomeShortcut::handleNotice(const QDBusMessage& signal) {
-    if (signal.signature() != "sass"_L1)
-        return;
-    const auto written = signal.arguments().constFirst().toString();
-    const bool isOurs = written.startsWith(ownPath) || ownPath.startsWith(written);
-    if (!isOurs || std::exchange(m_isReadingSoon, true))
-        return;
-    m_readingSoon = m_queue.after(readingDelay, [this] {
-        m_isReadingSoon = false;
-        refresh();
-    });
-}
-
-void GnomeShortcut::setDaemonThere(bool isThere) {
-    m_isDaemonThere = isThere;
-    refresh();
-    tellChanged();
 }
 
 void GnomeShortcut::tellChanged() const {
@@ -202,58 +143,19 @@ void GnomeShortcut::tellRebound() const {
         handler(*chord);
 }
 
-/// What is to be done waits for what was asked before: each change begins with what stands there.
-void GnomeShortcut::enqueue(Task task) {
-    m_tasks.push_back(std::move(task));
-    if (m_tasks.size() == 1)
-        startNext();
-}
-
-void GnomeShortcut::startNext() {
-    if (!m_tasks.empty())
-        m_tasks.front()();
-}
-
-void GnomeShortcut::finishTask() {
-    m_tasks.pop_front();
-    startNext();
-}
-
-void GnomeShortcut::run(const QStringList& arguments, Lines done, Task failed) {
-    m_command = std::make_unique<SettingsCommand>(
-        m_queue,
-        m_program,
-        arguments,
-        [this, done = std::move(done), failed = std::move(failed)](
-            const std::optional<QByteArray>& output) {
-            if (output)
-                done(QString::fromUtf8(*output));
-            else
-                failed();
-        });
-}
-
 void GnomeShortcut::write(std::deque<QStringList> commands) {
-    if (commands.empty()) {
-        finishTask();
-        return;
-    }
-    const auto next = commands.front();
-    commands.pop_front();
-    run(
-        next,
-        [this, commands = std::move(commands)](const QString&) { write(commands); },
-        [this] { failToWrite(); });
+    m_tasks->runAll(
+        std::move(commands), [this] { m_tasks->finish(); }, [this] { failToWrite(); });
 }
 
 void GnomeShortcut::failToWrite() {
     reportFailure(u"GNOME's list of shortcuts could not be changed"_s);
-    finishTask();
+    m_tasks->finish();
 }
 
 void GnomeShortcut::failToRead() {
     m_isListThere = false;
-    finishTask();
+    m_tasks->finish();
     tellChanged();
 }
 
@@ -271,7 +173,7 @@ void GnomeShortcut::readLists(std::size_t next) {
     };
     // Only the daemon's own list has to be there.
     const auto failed = next == 0 ? Task([this] { failToRead(); }) : Task(goOn);
-    run({u"list-recursively"_s, lists[next]}, take, failed);
+    m_tasks->run({u"list-recursively"_s, lists[next]}, take, failed);
 }
 
 void GnomeShortcut::readCustom(QStringList paths) {
@@ -283,7 +185,7 @@ void GnomeShortcut::readCustom(QStringList paths) {
     const auto goOn = [this, paths] {
         readCustom(paths);
     };
-    run(
+    m_tasks->run(
         {u"list-recursively"_s, customSchema(path)},
         [this, path, goOn](const QString& lines) {
             m_reading->addCustom(path, lines);
@@ -296,7 +198,7 @@ void GnomeShortcut::adopt() {
     const bool isRebound = !m_isOwnChange && m_reading->own() != m_read->own();
     m_read = std::move(m_reading);
     m_isListThere = true;
-    finishTask();
+    m_tasks->finish();
     if (isRebound)
         tellRebound();
     tellChanged();
@@ -305,7 +207,7 @@ void GnomeShortcut::adopt() {
 /// Changes are made to what the list holds by then, and read back whether they were made or not.
 void GnomeShortcut::changePaths(
     const std::function<std::deque<QStringList>(QStringList paths)>& commands) {
-    enqueue([this, commands] {
+    m_tasks->add([this, commands] {
         const auto change = [this, commands](const QString& answer) {
             const auto paths = gvarianttext::strings(answer);
             if (paths)
@@ -313,9 +215,9 @@ void GnomeShortcut::changePaths(
             else
                 failToWrite();
         };
-        run({u"get"_s, mediaKeys, customKeys}, change, [this] { failToWrite(); });
+        m_tasks->run({u"get"_s, mediaKeys, customKeys}, change, [this] { failToWrite(); });
     });
-    enqueue([this] {
+    m_tasks->add([this] {
         m_isOwnChange = true;
         read();
     });

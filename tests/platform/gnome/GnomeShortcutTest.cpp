@@ -12,6 +12,7 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
+#include <MediaKeysDaemon.h>
 #include <functional>
 #include <vector>
 
@@ -219,7 +220,7 @@ TEST_F(GnomeShortcutTest, TellsOfOtherKeysThatTheUserHasChosen) {
     bind();
     EXPECT_TRUE(rebound.empty()) << "what was bound by ourselves";
     chooseOtherKeys();
-    queue.advance(GnomeShortcut::readingDelay);
+    queue.advance(MediaKeysDaemon::writingDelay);
     ASSERT_TRUE(comesTo([this] { return !rebound.empty(); }));
     EXPECT_THAT(rebound, ElementsAre(otherChord));
 }
@@ -247,7 +248,7 @@ TEST_F(GnomeShortcutTest, ReadsOnceWhatIsWrittenInARow) {
     for (int i = 0; i < 20; ++i)
         chooseOtherKeys();
     const auto before = changes;
-    queue.advance(GnomeShortcut::readingDelay);
+    queue.advance(MediaKeysDaemon::writingDelay);
     ASSERT_TRUE(comesTo([&] { return changes > before; }));
     refresh();
     EXPECT_EQ(changes, before + 2) << "once for that, and once as it was asked to";
@@ -259,7 +260,7 @@ TEST_F(GnomeShortcutTest, HearsNobodyElseAndNothingElse) {
     const auto before = changes;
     notify(daemon, ownPath + u"binding"_s);
     notify(dconf, u"/org/gnome/desktop/interface/font-name"_s);
-    queue.advance(GnomeShortcut::readingDelay);
+    queue.advance(MediaKeysDaemon::writingDelay);
     refresh();
     EXPECT_EQ(changes, before + 1) << "as it was asked to";
 }
