@@ -250,6 +250,11 @@ class Preferences(PlaceCase):
     def test_they_come_back_where_the_user_put_them(self) -> None:
         windows = self.session.windows
         window = self.open()
+        self.wait_steady(
+            self.quorvane,
+            lambda: self.is_in_the_middle(windows.frame(window)),
+            "the preferences in the middle of the screen",
+        )
         with self.keyboard.held(Key.SUPER):
             windows.move(window, 90, 70)
             wait_until(lambda: self.saved("Preferences") is not None, "the place to be saved")

@@ -56,20 +56,24 @@ class PlaceCase(DesktopCase):
     def wait_in_the_middle(self, quorvane: Quorvane) -> None:
         """Waits for a panel that nobody has moved; a place in points may lie between pixels."""
         quorvane.wait_active()
+        self.wait_steady(
+            quorvane,
+            lambda: self.is_in_the_middle(self.frame(quorvane)),
+            "the panel in the middle of a screen",
+        )
 
-        def is_there() -> bool:
-            left, top, width, height = self.frame(quorvane)
-            is_centred = min(abs(left + width / 2 - middle) for middle in self.middles) <= 1
-            return is_centred and abs(top + height / 2 - 400) <= 1
-
-        self.wait_steady(quorvane, is_there, "the panel in the middle of a screen")
+    def is_in_the_middle(self, frame: Frame) -> bool:
+        """Whether a window stands in the middle of a screen."""
+        left, top, width, height = frame
+        is_centred = min(abs(left + width / 2 - middle) for middle in self.middles) <= 1
+        return is_centred and abs(top + height / 2 - 400) <= 1
 
     def wait_steady(self, quorvane: Quorvane, condition: Callable[[], bool], what: str) -> None:
-        """Waits until the panel is there; window managers move it once more while it comes."""
+        """Waits until a window is there; window managers move it once more while it comes."""
         wait_until(condition, what)
         self.session.windows.let_manager_catch_up()
         # Answered once the program has seen what the window manager did.
-        self.preview(quorvane)
+        quorvane.tree().children()
         self.assertTrue(condition())
 
     def drag(self, quorvane: Quorvane) -> tuple[int, int]:
