@@ -180,14 +180,21 @@ void PanelFrame::handleFrameChanged() {
 }
 
 void PanelFrame::takeOver(const QRect& usersFrame) {
-    if (std::exchange(m_lastHeight, usersFrame.height()) != usersFrame.height())
-        m_usersHeight = m_height = usersFrame.height();
+    const int height = usersFrame.height();
+    if (std::exchange(m_lastHeight, height) != height && !isRequestedHeight(height))
+        m_usersHeight = m_height = height;
     m_usersFrame = m_home = usersFrame;
     m_requested.clear();
     m_heldInPlace = false;
     m_asking.reset();
     if (m_dependencies.windowTraits.placesWindows())
         m_saving = m_dependencies.queue.after(saveDelay, [this] { save(); });
+}
+
+/// The user may move the panel before the window manager has answered a request.
+bool PanelFrame::isRequestedHeight(int height) const {
+    return std::ranges::any_of(
+        m_requested, [height](const QRect& frame) { return frame.height() == height; });
 }
 
 void PanelFrame::handleManagersChange(const QRect& frame) {

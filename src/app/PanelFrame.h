@@ -57,6 +57,7 @@ private:
     void fit();
     void fitAfterPointerLeft();
     void handleFrameChanged();
+    [[nodiscard]] bool isRequestedHeight(int height) const;
     void takeOver(const QRect& usersFrame);
     void handleManagersChange(const QRect& frame);
     void handleScreenRemoved(QScreen* removed);

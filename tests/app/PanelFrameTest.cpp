@@ -223,6 +223,18 @@ TEST_F(PanelFrameTest, LateReportOfARequestedHeightIsNotTakenForTheUsers) {
     EXPECT_EQ(stored(), std::nullopt);
 }
 
+TEST_F(PanelFrameTest, ReportFromBeforeAGrowthMakesTheGrowthNoHeightOfTheUsers) {
+    show();
+    const auto place = panel.pos();
+    setContentHeight(450);
+    // What the desktop did before is told only now, and then its answer.
+    panel.setGeometry(place.x() + 2, place.y() + 24, panelmetrics::width, 400);
+    panel.setGeometry(place.x(), place.y(), panelmetrics::width, 450);
+    dragTo(20, 30);
+    setContentHeight(400);
+    EXPECT_EQ(panel.height(), 400);
+}
+
 TEST_F(PanelFrameTest, StoredHeightIsTheMinimum) {
     frames.setFrame(u"PanelV2"_s, QRect(30, 40, panelmetrics::width, 480));
     PanelFrame restored{panel, {frames, queue, workspace, traits}};

@@ -72,8 +72,8 @@ class PlaceCase(DesktopCase):
         """Waits until a window is there; window managers move it once more while it comes."""
         wait_until(condition, what)
         self.session.windows.let_manager_catch_up()
-        # Answered once the program has seen what the window manager did.
-        quorvane.tree().children()
+        # Answered, question by question, once the program has seen what the window manager did.
+        quorvane.tree().shows("text", "Preview")
         self.assertTrue(condition())
 
     def drag(self, quorvane: Quorvane) -> tuple[int, int]:
