@@ -112,7 +112,8 @@ TEST_F(KGlobalAccelTapTest, KeepsWhatTheUserChoseInSystemSettingsBefore) {
     begin();
     ASSERT_TRUE(comesTo([&] { return !chords.empty(); }));
     EXPECT_EQ(chords.front(), other);
-    EXPECT_EQ(daemon.ours()->keys, QList<int>{otherKey});
+    // The daemon tells of the change at once, and of presses only once it has been asked to.
+    ASSERT_TRUE(isRegistered(otherKey));
     daemon.press(otherKey);
     ASSERT_TRUE(comesTo([&] { return !presses.empty(); }));
     EXPECT_EQ(presses.front(), other);
