@@ -51,6 +51,12 @@ class SelectionOwner(SelectionClient):
         self.window.set_selection_owner(self.atom(selection), since)
         self.display.flush()
 
+    def disown(self, selection: str) -> None:
+        """Gives the selection up, unless somebody else has taken it since."""
+        nobody = self.display.create_resource_object("window", X.NONE)
+        nobody.set_selection_owner(self.atom(selection), self._since)
+        self.display.flush()
+
     def handle(self, event: Event) -> bool:
         """Does what an event asks for; false once the selection is lost."""
         if event.type == X.SelectionClear:
