@@ -183,6 +183,17 @@ void OutputPreview::keyPressEvent(QKeyEvent* event) {
         QPlainTextEdit::keyPressEvent(event);
 }
 
+// Qt would begin to drag what is selected, in an event loop of its own.
+void OutputPreview::mousePressEvent(QMouseEvent* event) {
+    auto cursor = textCursor();
+    const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
+    if (event->button() == Qt::LeftButton && cursor.hasSelection() && !extends) {
+        cursor.clearSelection();
+        setTextCursor(cursor);
+    }
+    QPlainTextEdit::mousePressEvent(event);
+}
+
 void OutputPreview::contextMenuEvent(QContextMenuEvent* event) {
     showRest();
     auto* menu = createStandardContextMenu();

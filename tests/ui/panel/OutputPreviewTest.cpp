@@ -13,6 +13,20 @@ TEST_F(OutputPreviewTest, DraggedPartIsCopiedAndTheWindowStays) {
     EXPECT_EQ(window.presses, 0);
 }
 
+TEST_F(OutputPreviewTest, DragFromWhatIsSelectedSelectsAnew) {
+    show(u"2024-03-09 17:05 EST"_s);
+    drag(at(0), at(20));
+    drag(at(11), at(16));
+    EXPECT_EQ(copied(), u"17:05"_s);
+}
+
+TEST_F(OutputPreviewTest, ClickWithShiftSelectsUpToThere) {
+    show(u"2024-03-09 17:05 EST"_s);
+    drag(at(11), at(13));
+    QTest::mouseClick(preview->viewport(), Qt::LeftButton, Qt::ShiftModifier, at(16));
+    EXPECT_EQ(copied(), u"17:05"_s);
+}
+
 TEST_F(OutputPreviewTest, DragGoesOverRows) {
     show(u"one\ntwo\nthree"_s);
     drag(at(1), at(10));
