@@ -8,12 +8,14 @@ from contextlib import closing
 from pathlib import Path
 
 from harness.session import Session
+from harness.sway.session import SwaySession
 
 from .benchmarks import measure_benchmarks
 from .comparison import growths
 from .figures import Figures
 from .growth import measure_growth
 from .insertion import measure_insertion
+from .observer import Observer
 from .process import can_empty_caches
 from .programs import (
     BARE_PANEL,
@@ -27,6 +29,7 @@ from .programs import (
 from .rest import resting
 from .shows import Shows
 from .starts import Starts
+from .sway_observer import SwayObserver
 
 _WARM_STARTS = 15
 _QUICK_STARTS = 7
@@ -48,14 +51,32 @@ def _arguments() -> argparse.Namespace:
     parser.add_argument(
         "--growth", action="store_true", help="only how times grow with what there is to do"
     )
+    parser.add_argument(
+        "--wayland", action="store_true", help="only warm starts and memory, on X11 and on sway"
+    )
     return parser.parse_args()
+
+
+def _starts(session: Session, figures: Figures) -> Starts:
+    return Starts(session, figures, Observer(session.display))
+
+
+def _measure_wayland(figures: Figures) -> None:
+    os.sync()
+    bare_and_ours = [BARE_START, QUORVANE]
+    with Session("openbox") as session, closing(_starts(session, figures)) as starts:
+        starts.warm(bare_and_ours, _WARM_STARTS)
+    with SwaySession() as session:
+        observer = SwayObserver(session)
+        with closing(Starts(session, figures, observer, ", sway")) as starts:
+            starts.warm(bare_and_ours, _WARM_STARTS)
 
 
 def _measure_starts(figures: Figures, is_quick: bool) -> None:
     # What was built a moment ago would count as the process's own until it is on the disk.
     os.sync()
     bare_and_ours = [BARE_START, QUORVANE]
-    with Session("openbox") as session, closing(Starts(session, figures)) as starts:
+    with Session("openbox") as session, closing(_starts(session, figures)) as starts:
         if is_quick:
             starts.warm(bare_and_ours, _QUICK_STARTS)
             return
@@ -82,9 +103,11 @@ def main() -> None:
     arguments = _arguments()
     earlier = Figures.load(arguments.against) if arguments.against else None
     figures = Figures()
-    is_whole = not (arguments.quick or arguments.growth)
+    is_whole = not (arguments.quick or arguments.growth or arguments.wayland)
     if arguments.growth:
         measure_growth(figures)
+    elif arguments.wayland:
+        _measure_wayland(figures)
     else:
         _measure_starts(figures, arguments.quick)
     if is_whole:

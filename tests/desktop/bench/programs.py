@@ -9,7 +9,7 @@ from pathlib import Path
 from typing import NamedTuple
 
 from harness.paths import TREE
-from harness.session import Session
+from harness.private_session import PrivateSession
 
 from .figures import FLOOR, PRODUCT
 
@@ -56,7 +56,7 @@ def other_programs() -> list[Program]:
     return [program for program in _OTHERS if shutil.which(program.command[0])]
 
 
-def environment(session: Session) -> dict[str, str]:
+def environment(session: PrivateSession) -> dict[str, str]:
     """What a program of a user's desktop is told: nobody reads the screen to this user."""
     kept = {
         name: value for name, value in session.environment.items() if name not in _NOT_OF_A_DESKTOP
@@ -64,7 +64,7 @@ def environment(session: Session) -> dict[str, str]:
     return kept | {"LANG": "en_US.UTF-8", "TZ": "America/New_York"}
 
 
-def dejavu_alone(session: Session) -> dict[str, str]:
+def dejavu_alone(session: PrivateSession) -> dict[str, str]:
     """What makes a program of the session see one family of fonts only."""
     path = session.root / "dejavu.conf"
     path.write_text(_DEJAVU, encoding="ascii")
@@ -72,7 +72,7 @@ def dejavu_alone(session: Session) -> dict[str, str]:
 
 
 def start(
-    session: Session, program: Program, more: dict[str, str] | None = None
+    session: PrivateSession, program: Program, more: dict[str, str] | None = None
 ) -> tuple[subprocess.Popen[bytes], float]:
     """Starts a program; the second value is when."""
     told = environment(session) | (more or {})

@@ -3,12 +3,13 @@
 
 from collections.abc import Sequence
 
-from harness.session import Session
+from harness.private_session import PrivateSession
 
 from .figures import Figures
 from .observer import Observer
 from .process import empty_caches, end, memory, wait_quiet
 from .programs import Program, start
+from .sway_observer import SwayObserver
 
 _MILLI = 1000
 _KILO = 1024
@@ -17,10 +18,18 @@ _KILO = 1024
 class Starts:
     """Starts programs in turn, so that a machine that slows down does so for all."""
 
-    def __init__(self, session: Session, figures: Figures) -> None:
+    def __init__(
+        self,
+        session: PrivateSession,
+        figures: Figures,
+        observer: Observer | SwayObserver,
+        where: str = "",
+    ) -> None:
+        """The observer is closed with this; `where` is added to the names of the figures."""
         self._session = session
         self._figures = figures
-        self._observer = Observer(session.display)
+        self._observer = observer
+        self._where = where
 
     def close(self) -> None:
         """Ends the observer."""
@@ -30,7 +39,7 @@ class Starts:
         self, programs: Sequence[Program], rounds: int, fonts: str = "", **environment: str
     ) -> None:
         """What a start needs is in memory already, from a start before that does not count."""
-        measure = f"first paint, warm{fonts}"
+        measure = f"first paint, warm{fonts}{self._where}"
         for turn in range(rounds + 1):
             for program in programs:
                 self._start(program, measure if turn else None, environment, not fonts)
@@ -59,5 +68,5 @@ class Starts:
 
     def _weigh(self, program: Program, pid: int) -> None:
         now = memory(pid)
-        self._figures.add("resident, shown", program.name, "MB", now.resident / _KILO)
-        self._figures.add("private dirty, shown", program.name, "MB", now.private_dirty / _KILO)
+        for name, size in (("resident", now.resident), ("private dirty", now.private_dirty)):
+            self._figures.add(f"{name}, shown{self._where}", program.name, "MB", size / _KILO)
