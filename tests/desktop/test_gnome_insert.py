@@ -4,7 +4,7 @@
 from contextlib import suppress
 
 from harness.gnome.case import GnomeCase
-from harness.gnome.portal_dialog import PortalDialog, is_open
+from harness.gnome.portal_dialog import PortalDialog, is_open, remembers
 from harness.gnome.terminal import Terminal
 from harness.gnome.wayland_window import WaylandWindow
 from harness.keys import INSERT, SHORTCUT, Key
@@ -133,6 +133,17 @@ class Consent(InsertCase):
         window = WaylandWindow(self.session)
         quorvane, before = self.allowed_quorvane(window)
         text = self.insert(quorvane)
+        window.wait_text(before + text)
+        self.assertFalse(is_open(self.session))
+
+    def test_the_next_run_asks_again_where_the_portal_keeps_no_answer(self) -> None:
+        window = WaylandWindow(self.session)
+        quorvane, before = self.allowed_quorvane(window)
+        self.assertEqual(0, quorvane.quit())
+        text = self.shown_quorvane().preview()
+        self.hands.tap(*INSERT)
+        if not remembers(self.session):
+            PortalDialog(self.session).allow()
         window.wait_text(before + text)
         self.assertFalse(is_open(self.session))
 

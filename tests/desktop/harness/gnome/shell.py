@@ -64,6 +64,19 @@ class Shell:
 
         return wait_until(has_focus, f'the focus on "{title}"')
 
+    def bring_to_front(self, title: str) -> ShellWindow:
+        """Waits for the window of a title, and gives it the keyboard as the user does.
+
+        The shell may leave it where it was with a window that comes while it is busy.
+        """
+        wait_until(lambda: self.window(title), f'"{title}"')
+        found = f"actors.find(actor => actor.meta_window.title === {json.dumps(title)})"
+        now = "global.display.get_current_time_roundtrip()"
+        self.evaluate(
+            f"{{ const actors = global.get_window_actors(); {found}.meta_window.activate({now}); }}"
+        )
+        return self.wait_focused(title)
+
     def notifications(self) -> list[tuple[str, str]]:
         """Title and body of what the user has been told and has not put away."""
         return [(title, body) for title, body in json.loads(self._ask("Notifications"))]

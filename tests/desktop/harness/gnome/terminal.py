@@ -16,7 +16,7 @@ class Terminal:
         self._typed.touch()
         command = ["sh", "-c", 'stty raw -echo; exec cat >"$0"', str(self._typed)]
         session.start(["foot", "--title", self.title, *command])
-        self.wait_focused()
+        session.shell.bring_to_front(self.title)
 
     def wait_focused(self) -> None:
         """Waits until it has the keyboard."""

@@ -25,7 +25,7 @@ class WaylandWindow:
         self.process = session.start(
             [*program, title, str(self._typed)], {"PYTHONPATH": str(_HERE.parents[1])}
         )
-        self.wait_focused()
+        session.shell.bring_to_front(self.title)
 
     def wait_focused(self) -> None:
         """Waits until it has the keyboard."""
