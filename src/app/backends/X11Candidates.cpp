@@ -45,6 +45,10 @@ public:
         return chooseOwn(services, wish, add);
     }
 
+    [[nodiscard]] X11Reach reach() {
+        return isXWayland() ? X11Reach::OwnWindows : X11Reach::Session;
+    }
+
 private:
     [[nodiscard]] bool isWanted(Wish wish) const {
         return wish == Wish::Forced || m_session.isQtOnX11();
@@ -82,8 +86,11 @@ ServiceCandidates x11Candidates(const DesktopSession& session) {
                     return x11->chooseOfOthers(services, wish, add);
                 }};
     };
+    const auto addClipboard = [x11](const X11Backend& backend, PlatformServices& services) {
+        backend.addClipboard(services, x11->reach());
+    };
     return {
-        own(ChosenService::Clipboard, &X11Backend::addClipboard),
+        own(ChosenService::Clipboard, addClipboard),
         ofOthers(ChosenService::Keys, &X11Backend::addKeys),
         ofOthers(ChosenService::Shortcut, &X11Backend::addShortcut),
         ofOthers(ChosenService::Windows, &X11Backend::addWindows),

@@ -61,8 +61,10 @@ X11Backend::X11Backend(
 
 X11Backend::~X11Backend() = default;
 
-void X11Backend::addClipboard(PlatformServices& services) const {
-    services.pasteboard = std::make_unique<X11Pasteboard>(m_connection, m_mainQueue);
+void X11Backend::addClipboard(PlatformServices& services, X11Reach reach) const {
+    const auto keeper =
+        reach == X11Reach::OwnWindows ? ClipboardKeeper::Compositor : ClipboardKeeper::Manager;
+    services.pasteboard = std::make_unique<X11Pasteboard>(m_connection, m_mainQueue, keeper);
 }
 
 void X11Backend::addPanel(PlatformServices& services) const {

@@ -12,7 +12,7 @@ bool addX11Services(
     const auto backend = X11Backend::open(mainQueue, onLost);
     if (!backend)
         return false;
-    backend->addClipboard(services);
+    backend->addClipboard(services, reach);
     backend->addPanel(services);
     backend->addKeyboardLayout(services);
     backend->addAppearance(services);

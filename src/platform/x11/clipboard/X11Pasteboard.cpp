@@ -9,10 +9,12 @@
 
 namespace quorvane {
 
-X11Pasteboard::X11Pasteboard(std::shared_ptr<X11Connection> connection, MainQueue& queue)
+X11Pasteboard::X11Pasteboard(
+    std::shared_ptr<X11Connection> connection, MainQueue& queue, ClipboardKeeper keeper)
     : m_connection(std::move(connection)),
       m_queue(queue),
       m_windows(m_connection),
+      m_keeper(keeper),
       m_clock(m_connection),
       m_inbox(m_connection, m_queue),
       m_delivery(m_connection, m_queue),
@@ -129,10 +131,18 @@ X11Pasteboard::read(const X11SelectionSource& source, TextHandler done) {
 void X11Pasteboard::handOver(std::function<void()> done) {
     finishClearing();
     m_loan.suspend();
-    if (!isToBeHandedOver() || !hasClipboardManager()) {
-        m_loan.offer();
-        return m_queue.async(std::move(done));
-    }
+    const bool isKept = isToBeHandedOver();
+    if (isKept && hasClipboardManager())
+        return handOverToManager(std::move(done));
+    const bool isReadUnasked = isKept && m_keeper == ClipboardKeeper::Compositor;
+    const auto compositor = isReadUnasked ? m_windows.manager() : xcb_window_t{XCB_WINDOW_NONE};
+    if (compositor != XCB_WINDOW_NONE)
+        return handOverToCompositor(compositor, std::move(done));
+    m_loan.offer();
+    m_queue.async(std::move(done));
+}
+
+void X11Pasteboard::handOverToManager(std::function<void()> done) {
     const auto place = m_handOvers.emplace(m_handOvers.end());
     *place = std::make_unique<X11ClipboardHandOver>(
         m_inbox,
@@ -143,6 +153,11 @@ void X11Pasteboard::handOver(std::function<void()> done) {
             m_handOvers.erase(place);
             done();
         });
+}
+
+void X11Pasteboard::handOverToCompositor(xcb_window_t compositor, std::function<void()> done) {
+    m_compositorHandOver = std::make_unique<X11CompositorHandOver>(
+        m_queue, m_clipboard.owner(), compositor, std::move(done));
 }
 
 /// A manager that keeps a password would show it in its history.

@@ -99,6 +99,7 @@ void X11SelectionOwner::forget() {
 
 bool X11SelectionOwner::take(PasteboardItem item, xcb_timestamp_t time) {
     m_content.reset();
+    m_readers.clear();
     m_since = time;
     xcb_set_selection_owner(m_connection->xcb(), m_window.id(), m_selection, time);
     // The server does not report a refusal.
@@ -152,6 +153,8 @@ void X11SelectionOwner::answer(const xcb_selection_request_event_t& request) {
     const bool isServed = content != nullptr && serve(request, property, *content);
     sendAnswer(*m_connection, request, isServed ? property : xcb_atom_t{XCB_ATOM_NONE});
     m_connection->flush();
+    if (isServed && content == this->content())
+        noteReader(request);
     if (std::exchange(m_isLateTextFetched, false))
         endLateText();
 }
@@ -220,11 +223,26 @@ X11SelectionOwner::valueOf(xcb_atom_t target, const X11SelectionContent& content
     return propertyValue(XCB_ATOM_ATOM, all);
 }
 
+/// What goes in increments is on its way for as long as the reader takes.
+void X11SelectionOwner::noteReader(const xcb_selection_request_event_t& request) {
+    const bool isQuestion = request.target == m_connection->atom("TARGETS") ||
+                            request.target == m_connection->atom("TIMESTAMP");
+    if (isQuestion || m_delivery.isUnderWay(request.requestor))
+        return;
+    m_readers.insert(clientOf(request.requestor));
+    const auto read = m_read;
+    read();
+}
+
 void X11SelectionOwner::noteFetch(xcb_window_t requestor, const X11SelectionContent& content) {
     if (m_passing && m_passing->client == clientOf(requestor))
         m_passing->isFetched = true;
     if (m_late && &content == &m_late->content())
         m_isLateTextFetched = true;
+}
+
+bool X11SelectionOwner::isReadBy(xcb_window_t window) const {
+    return m_readers.contains(clientOf(window));
 }
 
 std::uint32_t X11SelectionOwner::clientOf(xcb_window_t window) const {

@@ -50,7 +50,13 @@ constexpr auto managersWindow = "_NET_SUPPORTING_WM_CHECK";
 } // namespace
 
 bool X11Windows::hasWindowManager() const {
-    return isManager(WindowQuestion(*m_connection, m_connection->root(), managersWindow).answer());
+    return manager() != XCB_WINDOW_NONE;
+}
+
+xcb_window_t X11Windows::manager() const {
+    const auto window =
+        WindowQuestion(*m_connection, m_connection->root(), managersWindow).answer();
+    return isManager(window) ? window : xcb_window_t{XCB_WINDOW_NONE};
 }
 
 /// Whether the window is one by which a window manager shows that it lives.

@@ -3,6 +3,7 @@
 
 #include <loop/MainQueue.h>
 #include <platform/PlatformServices.h>
+#include <platform_x11/X11Services.h>
 
 #include <functional>
 #include <memory>
@@ -29,7 +30,7 @@ public:
 
     // Each replaces that service among the others. These are what XWayland has, too: the compositor
     // shares the clipboard, and knows our own windows.
-    void addClipboard(PlatformServices& services) const;
+    void addClipboard(PlatformServices& services, X11Reach reach) const;
     void addPanel(PlatformServices& services) const;
     void addKeyboardLayout(PlatformServices& services) const;
     void addAppearance(PlatformServices& services) const;

@@ -3,8 +3,10 @@
 
 #include <loop/MainQueue.h>
 #include <platform/Pasteboard.h>
+#include <x11_clipboard/ClipboardKeeper.h>
 #include <x11_clipboard/X11ClipboardHandOver.h>
 #include <x11_clipboard/X11ClipboardLoan.h>
+#include <x11_clipboard/X11CompositorHandOver.h>
 #include <x11_clipboard/X11PasteboardSave.h>
 #include <x11_clipboard/X11PasteboardSelection.h>
 #include <x11_clipboard/X11SelectionInbox.h>
@@ -23,7 +25,10 @@ namespace quorvane {
 class X11Pasteboard final : public Pasteboard {
 public:
     /// The queue must outlive it.
-    X11Pasteboard(std::shared_ptr<X11Connection> connection, MainQueue& queue);
+    X11Pasteboard(
+        std::shared_ptr<X11Connection> connection,
+        MainQueue& queue,
+        ClipboardKeeper keeper = ClipboardKeeper::Manager);
 
     void save(PasteSource source, SaveHandler done) override;
     void clear() override;
@@ -60,11 +65,14 @@ private:
     read(const X11SelectionSource& source, TextHandler done);
     [[nodiscard]] bool isToBeHandedOver() const;
     [[nodiscard]] bool hasClipboardManager() const;
+    void handOverToManager(std::function<void()> done);
+    void handOverToCompositor(xcb_window_t compositor, std::function<void()> done);
     void finishClearing();
 
     std::shared_ptr<X11Connection> m_connection;
     MainQueue& m_queue;
     X11Windows m_windows;
+    ClipboardKeeper m_keeper;
     X11ServerClock m_clock;
     X11SelectionInbox m_inbox;
     X11SelectionDelivery m_delivery;
@@ -75,6 +83,7 @@ private:
     Deadline m_clearing;
     Saves m_saves;
     HandOvers m_handOvers;
+    std::unique_ptr<X11CompositorHandOver> m_compositorHandOver;
 };
 
 } // namespace quorvane

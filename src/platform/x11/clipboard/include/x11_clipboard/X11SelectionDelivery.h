@@ -28,6 +28,11 @@ public:
     [[nodiscard]] bool
     deliver(xcb_window_t requestor, xcb_atom_t property, const X11PropertyValue& value);
 
+    /// Whether the requestor is still to take increments.
+    [[nodiscard]] bool isUnderWay(xcb_window_t requestor) const {
+        return m_requestors.contains(requestor);
+    }
+
 private:
     struct Transfer {
         X11PropertyValue value;

@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace quorvane {
@@ -57,6 +58,12 @@ public:
         return m_content ? &*m_content : nullptr;
     }
 
+    /// Whether the client that a window belongs to has read any of what we offer.
+    [[nodiscard]] bool isReadBy(xcb_window_t window) const;
+
+    /// Called when somebody has read some of it; replaces an earlier handler.
+    void onRead(std::function<void()> handler) { m_read = std::move(handler); }
+
     /// Whether somebody is still to get a text that has been taken back.
     [[nodiscard]] bool hasLateText() const { return m_late != nullptr; }
 
@@ -93,6 +100,7 @@ private:
         const X11SelectionContent& content);
     [[nodiscard]] std::optional<X11PropertyValue>
     valueOf(xcb_atom_t target, const X11SelectionContent& content) const;
+    void noteReader(const xcb_selection_request_event_t& request);
     void noteFetch(xcb_window_t requestor, const X11SelectionContent& content);
     [[nodiscard]] std::uint32_t clientOf(xcb_window_t window) const;
 
@@ -104,6 +112,9 @@ private:
     X11SelectionDelivery& m_delivery;
     std::optional<X11SelectionContent> m_content;
     std::optional<X11PassingText> m_passing; ///< while its restore is due
+    std::set<std::uint32_t> m_readers;       ///< clients, of the content
+    std::function<void()> m_read = [] {
+    };
     std::unique_ptr<X11LateText> m_late;
     bool m_isLateTextFetched = false;
     std::function<void()> m_lateTextEnded = [] {

@@ -29,6 +29,9 @@ public:
     /// mean anything, a crashed one leaves them behind.
     [[nodiscard]] bool hasWindowManager() const;
 
+    /// A window of such a window manager's own; XCB_WINDOW_NONE where none runs.
+    [[nodiscard]] xcb_window_t manager() const;
+
     /// The client window that keys go to, by _NET_ACTIVE_WINDOW, or without a window manager by the
     /// input focus; XCB_WINDOW_NONE for none.
     [[nodiscard]] xcb_window_t active() const;
