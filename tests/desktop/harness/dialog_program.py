@@ -13,18 +13,29 @@ gi.require_version("Gtk", "3.0")
 from gi.repository import Gtk  # noqa: E402
 
 
-def _run(file: Path) -> None:
-    window = Gtk.Window(title="full screen")
-    window.connect("destroy", Gtk.main_quit)
-    window.fullscreen()
-    window.show_all()
-    dialog = Gtk.Dialog(title="dialog", transient_for=window)
-    entry = Gtk.Entry()
-    entry.connect("changed", lambda changed: file.write_text(changed.get_text()))
-    dialog.get_content_area().add(entry)
-    dialog.show_all()
-    Gtk.main()
+class _FullScreen(Gtk.Window):
+    """The window, which opens the dialog once it has the keyboard.
+
+    Compositors take a dialog for one of a window that they show already, and of no other.
+    """
+
+    def __init__(self, file: Path) -> None:
+        super().__init__(title="full screen")
+        self._file = file
+        self.connect("destroy", Gtk.main_quit)
+        self._became_active = self.connect("notify::is-active", self._open_dialog)
+        self.fullscreen()
+        self.show_all()
+
+    def _open_dialog(self, *_: object) -> None:
+        self.disconnect(self._became_active)
+        dialog = Gtk.Dialog(title="dialog", transient_for=self)
+        entry = Gtk.Entry()
+        entry.connect("changed", lambda changed: self._file.write_text(changed.get_text()))
+        dialog.get_content_area().add(entry)
+        dialog.show_all()
 
 
 if __name__ == "__main__":
-    _run(Path(sys.argv[1]))
+    window = _FullScreen(Path(sys.argv[1]))
+    Gtk.main()
