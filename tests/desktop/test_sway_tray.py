@@ -7,6 +7,10 @@ from harness.sway.waybar import Waybar
 
 _APART = 6  # pixels from the middle of the icon
 
+# What Qt 6.8 ends a program with whose compositor has gone; 6.4 takes 1, as we do.
+_STATUS_OF_NEWER_QT = 255
+
+
 class Tray(SwayCase):
     """A bar of Wayland's own."""
 
@@ -39,7 +43,9 @@ class End(SwayCase):
         quorvane = Quorvane(self.session, QT_LOGGING_RULES="quorvane.*=false")
         quorvane.wait_active()
         self.session.kill_compositor()
-        self.assertEqual(1, quorvane.process.wait(10))
+        status = quorvane.process.wait(10)
         # Qt's own connection, or ours, whichever hears of it first.
         (line,) = self.session.log("quorvane").splitlines()
         self.assertIn("connection", line)
+        is_told_by_qt = "Wayland connection broke" in line
+        self.assertIn(status, (1, _STATUS_OF_NEWER_QT) if is_told_by_qt else (1,))
