@@ -188,7 +188,7 @@ class LostDisplay(NeighbourCase):
     def test_a_connection_that_another_client_kills_gives_the_keys_back(self) -> None:
         quorvane = self.hidden_quorvane()
         self.assert_ends_and_leaves_the_keys(quorvane, self.window_beside_qts(quorvane))
-        lines = self.session.log("quorvane").splitlines()
+        lines = self.session.lines("quorvane")
         self.assertEqual(["quorvane: the connection to the display is lost"], lines)
 
     def test_a_window_that_another_client_kills_gives_the_keys_back(self) -> None:

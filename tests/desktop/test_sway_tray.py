@@ -45,7 +45,7 @@ class End(SwayCase):
         self.session.kill_compositor()
         status = quorvane.process.wait(10)
         # Qt's own connection, or ours, whichever hears of it first.
-        (line,) = self.session.log("quorvane").splitlines()
+        (line,) = self.session.lines("quorvane")
         self.assertIn("connection", line)
         is_told_by_qt = "Wayland connection broke" in line
         self.assertIn(status, (1, _STATUS_OF_NEWER_QT) if is_told_by_qt else (1,))

@@ -2,6 +2,7 @@
 """What every desktop session of the tests is made in: nothing is shared with the user's own."""
 
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -26,6 +27,8 @@ _INHERITED = (
     "TSAN_OPTIONS",
     "UBSAN_OPTIONS",
 )
+
+_OF_THE_LOCALE = re.compile(r"^Detected locale (?:.*\n){4}", re.MULTILINE)
 
 
 class PrivateSession(ABC):
@@ -103,6 +106,10 @@ class PrivateSession(ABC):
     def log(self, program: str) -> str:
         """What a program wrote so far, in all its runs."""
         return (self.root / "logs" / f"{program}.log").read_text(errors="replace")
+
+    def lines(self, program: str) -> list[str]:
+        """The lines of its log, without what Qt 6.8 says of a locale that the machine lacks."""
+        return _OF_THE_LOCALE.sub("", self.log(program)).splitlines()
 
     def _make_environment(self) -> None:
         self.environment = {name: os.environ[name] for name in _INHERITED if name in os.environ}
