@@ -30,10 +30,12 @@ public:
         if (!input->isAvailable())
             return ServiceVerdict::no(u"the fake input that is offered has no keys"_s);
         services.accessibilityRight = std::make_unique<KwinAccessibilityRight>(input);
-        services.keyPoster =
-            std::make_unique<KwinKeyPoster>(input, *services.keyboardLayout, [windows = windows()] {
-                return windows->activeNames();
-            });
+        services.keyPoster = std::make_unique<KwinKeyPoster>(
+            input,
+            KwinModifiers(m_link->connection()),
+            m_link->session().queue,
+            *services.keyboardLayout,
+            [windows = windows()] { return windows->activeNames(); });
         return ServiceVerdict::whole(u"the desktop entry may post keys"_s);
     }
 

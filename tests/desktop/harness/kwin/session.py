@@ -42,7 +42,7 @@ _INTERPRETER = """\
 Type=Application
 Name=Tests
 Exec={program}
-X-KDE-Wayland-Interfaces=org_kde_kwin_fake_input,org_kde_plasma_window_management
+X-KDE-Wayland-Interfaces=org_kde_kwin_fake_input,org_kde_kwin_keystate,org_kde_plasma_window_management
 """
 
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TestFakeInput.h"
+#include "TestKeyStates.h"
 
 #include <platform/KeyCodes.h>
 #include <support/WaitUntil.h>
 #include <testing/FakeKeyboardLayout.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <gmock/gmock.h>
 
@@ -18,6 +20,13 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using testing::ElementsAreArray;
 
+// As org_kde_kwin_keystate counts them.
+constexpr std::uint32_t alt = 3;
+constexpr std::uint32_t control = 4;
+constexpr std::uint32_t shift = 5;
+constexpr std::uint32_t super = 6;
+constexpr std::uint32_t altGr = 7;
+
 class PosterOnKwin : public testing::Test {
 protected:
     TestCompositor m_compositor;
@@ -27,7 +36,8 @@ protected:
     std::shared_ptr<WaylandConnection> m_connection =
         WaylandConnection::open(m_compositor.environment(), 10s).connection;
     std::shared_ptr<KwinFakeInput> m_input = std::make_shared<KwinFakeInput>(m_connection);
-    KwinKeyPoster m_poster{m_input, m_layout, [this] {
+    VirtualMainQueue m_queue;
+    KwinKeyPoster m_poster{m_input, KwinModifiers(m_connection), m_queue, m_layout, [this] {
                                return m_inFront;
                            }};
     KwinAccessibilityRight m_right{m_input};
@@ -37,13 +47,19 @@ protected:
         m_connection->listen();
     }
 
+    /// The outcome, once there is one.
+    std::shared_ptr<std::optional<PostOutcome>> paste() {
+        auto outcome = std::make_shared<std::optional<PostOutcome>>();
+        const auto target = m_poster.pasteTarget();
+        EXPECT_TRUE(target);
+        m_poster.paste(
+            target.value_or(PasteTarget{}), [outcome](PostOutcome told) { *outcome = told; });
+        return outcome;
+    }
+
     /// The keys after those that were let go.
     void expectTyped(std::vector<std::string> keys) {
-        std::optional<PostOutcome> outcome;
-        const auto target = m_poster.pasteTarget();
-        ASSERT_TRUE(target);
-        m_poster.paste(*target, [&](PostOutcome told) { outcome = told; });
-        EXPECT_EQ(outcome, PostOutcome::Posted);
+        EXPECT_EQ(*paste(), PostOutcome::Posted);
         EXPECT_TRUE(m_connection->settle(10s));
         // The kernel's codes: Shift, Control, Alt and Super, left and right.
         std::vector<std::string> expected{
@@ -103,6 +119,83 @@ TEST_F(PosterOnKwin, HasTheRightForAsLongAsKwinGivesIt) {
 TEST_F(PosterOnKwin, OutlivesKwin) {
     m_compositor.stop();
     EXPECT_TRUE(waitUntil([this] { return m_right.typing() == TypingRight::Unavailable; }));
+}
+
+TEST_F(PosterOnKwin, TypesAtOnceWhereKwinTellsOfNoModifiers) {
+    TestKeyStates states(m_compositor, 4);
+    states.hold({shift});
+    EXPECT_TRUE(m_connection->settle(10s));
+    expectTyped({"down 29", "down 47", "up 47", "up 29"});
+}
+
+TEST_F(PosterOnKwin, WaitsForWhatOnlyTheUserCanLetGo) {
+    TestKeyStates states(m_compositor, 5);
+    for (const auto held : {shift, alt, super, altGr}) {
+        states.hold({held});
+        EXPECT_TRUE(m_connection->settle(10s));
+        const auto before = m_typed.requests();
+        const auto outcome = paste();
+        EXPECT_TRUE(m_connection->settle(10s));
+        m_queue.advance(KwinKeyPoster::longestWait - Seconds(0.001));
+        EXPECT_TRUE(m_connection->settle(10s));
+        EXPECT_EQ(*outcome, std::nullopt) << held;
+        EXPECT_EQ(m_typed.requests(), before);
+        states.hold({});
+        EXPECT_TRUE(waitUntil([&] { return *outcome == PostOutcome::Posted; })) << held;
+        EXPECT_TRUE(m_connection->settle(10s));
+        EXPECT_GT(m_typed.requests().size(), before.size());
+    }
+}
+
+TEST_F(PosterOnKwin, LetsTheUserHoldWhatItPressesItself) {
+    TestKeyStates states(m_compositor, 5);
+    states.hold({control});
+    EXPECT_TRUE(m_connection->settle(10s));
+    auto outcome = paste();
+    EXPECT_TRUE(waitUntil([&] { return *outcome == PostOutcome::Posted; }));
+    m_inFront = {u"org.kde.konsole"_s, u"konsole"_s};
+    states.hold({control, shift});
+    outcome = paste();
+    EXPECT_TRUE(waitUntil([&] { return *outcome == PostOutcome::Posted; }));
+}
+
+TEST_F(PosterOnKwin, TypesNothingWhereTheUserDoesNotLetGo) {
+    TestKeyStates states(m_compositor, 5);
+    states.hold({super});
+    EXPECT_TRUE(m_connection->settle(10s));
+    const auto outcome = paste();
+    EXPECT_TRUE(m_connection->settle(10s));
+    m_queue.advance(KwinKeyPoster::longestWait);
+    EXPECT_EQ(*outcome, PostOutcome::Unavailable);
+    states.hold({});
+    EXPECT_TRUE(m_connection->settle(10s));
+    EXPECT_THAT(m_typed.requests(), ElementsAreArray({"authenticate Quorvane"}));
+}
+
+TEST_F(PosterOnKwin, FollowsTheKeysOnlyWhileItWaits) {
+    TestKeyStates states(m_compositor, 5);
+    states.hold({shift});
+    EXPECT_TRUE(m_connection->settle(10s));
+    EXPECT_EQ(states.listeners(), 0U);
+    const auto outcome = paste();
+    EXPECT_TRUE(m_connection->settle(10s));
+    EXPECT_EQ(states.listeners(), 1U);
+    states.hold({});
+    EXPECT_TRUE(waitUntil([&] { return *outcome == PostOutcome::Posted; }));
+    EXPECT_TRUE(m_connection->settle(10s));
+    EXPECT_EQ(states.listeners(), 0U);
+    EXPECT_TRUE(m_queue.isIdle());
+}
+
+TEST_F(PosterOnKwin, LosesKwinWhileItWaits) {
+    TestKeyStates states(m_compositor, 5);
+    states.hold({shift});
+    EXPECT_TRUE(m_connection->settle(10s));
+    const auto outcome = paste();
+    m_typed.withdraw();
+    EXPECT_TRUE(waitUntil([this] { return m_right.typing() == TypingRight::Unavailable; }));
+    states.hold({});
+    EXPECT_TRUE(waitUntil([&] { return *outcome == PostOutcome::Unavailable; }));
 }
 
 } // namespace
