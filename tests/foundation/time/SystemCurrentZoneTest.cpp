@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <time/SystemCurrentZone.h>
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -176,13 +177,16 @@ TEST_F(SystemCurrentZoneTest, BytesOfNoZoneAreUtc) {
 
 TEST_F(SystemCurrentZoneTest, VariableGoesFirst) {
     link("etc/localtime", "/usr/share/zoneinfo/Asia/Tokyo");
+    // In Debian 13 it is another name of that zone.
+    const std::string eastern =
+        QFile::exists(u"/usr/share/zoneinfo/EST5EDT"_s) ? "EST5EDT" : "America/New_York";
     for (const auto& [value, expected] : std::initializer_list<std::pair<QString, std::string>>{
              {u"Europe/Paris"_s, "Europe/Paris"},
              {u":Europe/Paris"_s, "Europe/Paris"},
              {u"posix/Europe/Paris"_s, "Europe/Paris"},
              {u"/usr/share/zoneinfo/Europe/Paris"_s, "Europe/Paris"},
              {u":/usr/share/zoneinfo/right/Europe/Paris"_s, "Europe/Paris"},
-             {u"EST5EDT"_s, "EST5EDT"},
+             {u"EST5EDT"_s, eastern},
              {u"Etc/UTC"_s, "UTC"},
              {u":/etc/localtime"_s, "Asia/Tokyo"},
              {u"/no/such/file"_s, "UTC"},

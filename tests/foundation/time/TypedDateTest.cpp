@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "IcuRelease.h"
+
 #include <time/TypedDateReader.h>
 
 #include <QFile>
@@ -57,6 +59,9 @@ QStringList tableOf(const char* locale) {
     erase_if(rows, [&](const QString& row) {
         return !row.startsWith(QString::fromUtf8(locale) + u'\t');
     });
+    rows.replaceInStrings(
+        u"\tdenna månad\t"_s,
+        byIcuRelease<QString>({{72, u"\tdenna månad\t"_s}, {76, u"\tden här månaden\t"_s}}));
     return rows;
 }
 

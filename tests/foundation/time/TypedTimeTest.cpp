@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "IcuRelease.h"
+
 #include <time/HourCycle.h>
 #include <time/TypedTime.h>
 
@@ -70,8 +72,12 @@ INSTANTIATE_TEST_SUITE_P(
         Time{"es_ES", u"2:05 p. m."_s, 14, 5},
         Time{"es_ES", u"9 de la noche"_s, 21},
         Time{"sv_SE", u"2:05 em"_s, 14, 5},
-        Time{"he_IL", u"2:05 אחה״צ"_s, 14, 5},
-        Time{"he_IL", u"2:05 אחה\"צ"_s, 14, 5},
+        Time{"he_IL", byIcuRelease<QString>({{72, u"2:05 אחה״צ"_s}, {76, u"2:05 PM"_s}}), 14, 5},
+        Time{
+            "he_IL",
+            byIcuRelease<QString>({{72, u"2:05 אחה\"צ"_s}, {76, u"2:05 בצהריים"_s}}),
+            14,
+            5},
         Time{"ar_EG", u"٢:٠٥ م"_s, 14, 5},
         Time{"ar_EG", u"٢:٠٥ ص"_s, 2, 5},
         Time{"fa_IR", u"۲:۰۵ ب.ظ."_s, 14, 5},

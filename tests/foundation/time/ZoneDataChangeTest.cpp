@@ -87,8 +87,9 @@ TEST_F(ZoneDataChangeTest, DataThatComeLaterAreFound) {
 }
 
 TEST_F(ZoneDataChangeTest, WithoutAnIndexTheFilesAreTheIndex) {
-    for (const char* name : {"Europe/Paris", "America/New_York", "Etc/GMT+12", "EST5EDT"})
+    for (const char* name : {"Europe/Paris", "America/New_York", "Etc/GMT+12"})
         install(name, name);
+    install("EST5EDT", "America/New_York");
     install("posix/Asia/Tokyo", "Asia/Tokyo");
     fs::create_directory(path("US"));
     fs::create_symlink("../America/New_York", path("US/Eastern"));
