@@ -42,7 +42,7 @@ protected:
     void waitForTheEnd() {
         if (m_isWhole)
             return;
-        QTimer::singleShot(10s, &m_loop, &QEventLoop::quit);
+        QTimer::singleShot(100s, &m_loop, &QEventLoop::quit);
         m_loop.exec();
     }
 
