@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Insert and Copy under GNOME: typed through the portal into whatever has the keyboard."""
 
+import re
 from contextlib import suppress
 
 from harness.gnome.case import GnomeCase
@@ -16,6 +17,8 @@ from harness.waiting import wait_until
 
 _X11_EDITOR = ["env", "GDK_BACKEND=x11", "mousepad", "--disable-server"]
 _COPIED = "Copied instead"
+
+_BITS_OF_A_CLIENT = 21  # which the X server leaves to each for the numbers of its windows
 
 
 class InsertCase(GnomeCase):
@@ -192,9 +195,22 @@ class Copy(InsertCase):
 
     def test_what_was_copied_outlives_the_program(self) -> None:
         WaylandWindow(self.session)
-        quorvane = self.ready_quorvane()
+        quorvane = self.shown_quorvane(QT_LOGGING_RULES="quorvane.pasteboard.owner=true")
+        self.hands.tap(Key.ESCAPE)
         quorvane.action("copy")
         wait_until(lambda: "\n" in self.clipboard_text(), "the text on the clipboard")
         text = self.clipboard_text()
+        # The program would wait for it at its end, but no longer than a second.
+        wait_until(self.has_shell_read, "the shell to read the text")
         self.assertEqual(0, quorvane.quit())
         wait_until(lambda: self.clipboard_text() == text, "the text that lasts", interval=0.05)
+
+    def has_shell_read(self) -> bool:
+        """Whether a window of the shell's connection to the X server is among the readers."""
+        readers = re.findall(r"0x([0-9a-f]+) has read", self.session.log("quorvane"))
+        shell = _client_of(self.session.windows.manager())
+        return shell in [_client_of(int(reader, 16)) for reader in readers]
+
+
+def _client_of(window: int | None) -> int:
+    return (window or 0) >> _BITS_OF_A_CLIENT

@@ -229,6 +229,7 @@ void X11SelectionOwner::noteReader(const xcb_selection_request_event_t& request)
                             request.target == m_connection->atom("TIMESTAMP");
     if (isQuestion || m_delivery.isUnderWay(request.requestor))
         return;
+    qCDebug(lcOwner, "0x%x has read selection %u", request.requestor, m_selection);
     m_readers.insert(clientOf(request.requestor));
     const auto read = m_read;
     read();

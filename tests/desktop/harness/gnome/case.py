@@ -39,9 +39,9 @@ class GnomeCase(DesktopCase):
         file.parent.mkdir(parents=True, exist_ok=True)
         file.write_text(json.dumps(stored))
 
-    def shown_quorvane(self) -> Quorvane:
+    def shown_quorvane(self, **environment: str) -> Quorvane:
         """A running Quorvane whose panel has the focus."""
-        quorvane = Quorvane(self.session)
+        quorvane = Quorvane(self.session, **environment)
         self.shell.wait_focused("Quorvane")
         return quorvane
 

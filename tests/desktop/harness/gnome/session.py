@@ -41,6 +41,8 @@ _SERVICES = (
 _SETTINGS = (
     ("org.gnome.desktop.interface", "enable-animations", "false"),
     ("org.gnome.desktop.session", "idle-delay", "0"),
+    # A program that gets no time for as long would take a tap for a key that is held.
+    ("org.gnome.desktop.peripherals.keyboard", "repeat", "false"),
     ("org.gnome.desktop.lockdown", "disable-lock-screen", "true"),
     ("org.gnome.desktop.background", "picture-uri", "''"),
     ("org.gnome.shell", "welcome-dialog-last-shown-version", "'99'"),
@@ -164,6 +166,7 @@ class GnomeSession(PrivateSession):
         # The tests' own connections to the X server.
         environ["XAUTHORITY"] = displays["XAUTHORITY"]
         self.windows = Windows(self.display)
+        self.shell.follow_x_server(self.display)
         undo.callback(self.windows.close)
 
     def _wait_for_key_bindings(self) -> None:

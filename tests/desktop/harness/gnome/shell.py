@@ -8,6 +8,7 @@ from typing import Any
 
 from ..message_bus import BusError, MessageBus
 from ..waiting import wait_until
+from ..wayland.x_focus import XFocus
 
 _PROBE = ("org.quorvane.Probe", "/org/quorvane/Probe", "org.quorvane.Probe")
 _SCREENSHOT = (
@@ -37,11 +38,18 @@ class Shell:
 
     def __init__(self, address: str) -> None:
         self._bus = MessageBus(address)
+        self._x_focus: XFocus | None = None
         wait_until(lambda: self._bus.has_owner(_PROBE[0]), "a usable GNOME Shell", interval=0.05)
 
     def close(self) -> None:
-        """Ends the connection."""
+        """Ends the connections."""
         self._bus.close()
+        if self._x_focus:
+            self._x_focus.close()
+
+    def follow_x_server(self, display: str) -> None:
+        """From now on a window of X11 has the keyboard only if that server gives it to it, too."""
+        self._x_focus = XFocus(display)
 
     def windows(self) -> list[ShellWindow]:
         """Every window, of X11 and of Wayland; menus and the like are none."""
@@ -60,7 +68,7 @@ class Shell:
 
         def has_focus() -> ShellWindow | None:
             window = self.window(title)
-            return window if window and window.hasFocus else None
+            return window if window and self._has_keyboard(window) else None
 
         return wait_until(has_focus, f'the focus on "{title}"')
 
@@ -104,6 +112,11 @@ class Shell:
         # The shell lets the owner of this name take pictures, once it has heard of it.
         self._bus.request_name("org.gnome.Screenshot")
         wait_until(lambda: self._take(file), "a picture of the screen", interval=0.05)
+
+    def _has_keyboard(self, window: ShellWindow) -> bool:
+        if not window.hasFocus or not window.isX11 or not self._x_focus:
+            return window.hasFocus
+        return self._x_focus.is_given(window.pid, window.title)
 
     def _take(self, file: Path) -> bool:
         try:

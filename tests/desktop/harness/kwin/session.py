@@ -109,7 +109,7 @@ class KwinSession(PrivateSession):
         (self.directory("config") / "kwinrc").write_text(settings)
         self._install()
         self._start_compositor()
-        self.windows = KwinWindows(self.socket)
+        self.windows = KwinWindows(self.socket, self.display)
         undo.callback(self.windows.close)
         self.accessibility = Accessibility(self.bus.address)
         undo.callback(self.accessibility.close)

@@ -8,6 +8,7 @@ from typing import TypeVar
 
 from ..waiting import Timeout
 from ..wayland.connection import Reader, WaylandConnection
+from ..wayland.x_focus import XFocus
 
 Result = TypeVar("Result")
 Frame = tuple[int, int, int, int]
@@ -17,6 +18,8 @@ _WINDOW_CAME = 4
 _SET_STATE = 0
 _GET_DESKTOP, _DESKTOP_CAME, _SHOW_DESKTOP = 0, 0, 0
 _TITLE, _APP_ID, _STATE, _WENT, _GEOMETRY, _PID = 0, 1, 2, 5, 8, 10
+
+_LONGEST_SILENCE = 0.05  # seconds: the X server does not announce who has its keyboard
 
 _ACTIVE = 1 << 0
 _MINIMISED = 1 << 1
@@ -39,8 +42,9 @@ class _Window:
 class KwinWindows:
     """Windows by the numbers of the objects that stand for them."""
 
-    def __init__(self, display: Path) -> None:
+    def __init__(self, display: Path, x_display: str) -> None:
         self._connection = WaylandConnection(display)
+        self._x_focus = XFocus(x_display)
         self._windows: dict[int, _Window] = {}
         self._manager = self._connection.bind(
             "org_kde_plasma_window_management", 16, self._handle_manager
@@ -55,6 +59,7 @@ class KwinWindows:
     def close(self) -> None:
         """Ends the connection."""
         self._connection.close()
+        self._x_focus.close()
 
     def wait(self, condition: Callable[[], Result | None], what: str) -> Result:
         """Asks anew whenever something happens to a window, until the answer is true."""
@@ -71,7 +76,7 @@ class KwinWindows:
             return True
 
         try:
-            self._connection.wait(holds, what)
+            self._connection.wait(holds, what, _LONGEST_SILENCE)
         except Timeout as timeout:
             timeout.add_note(f"Windows: {list(self._windows.values())}")
             raise
@@ -84,7 +89,8 @@ class KwinWindows:
 
     def active(self) -> int | None:
         """The window that has the keyboard."""
-        return next((number for number in self.shown() if self._is(number, _ACTIVE)), None)
+        number = next((number for number in self.shown() if self._is(number, _ACTIVE)), None)
+        return number if number and self._has_keyboard(self._windows[number]) else None
 
     def of_process(self, pid: int, title: str | None = None) -> int | None:
         """The first shown window of a process, and of a title where one is asked for."""
@@ -139,6 +145,9 @@ class KwinWindows:
 
     def _catch_up(self) -> None:
         self._connection.settle()
+
+    def _has_keyboard(self, window: _Window) -> bool:
+        return self._x_focus.is_given(window.pid, window.title)
 
     def _is(self, window: int, state: int) -> bool:
         return bool(self._windows[window].state & state)

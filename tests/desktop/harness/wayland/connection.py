@@ -2,6 +2,7 @@
 """A connection to a compositor, in the bytes of Wayland's wire format."""
 
 import array
+import math
 import os
 import select
 import socket
@@ -131,11 +132,16 @@ class WaylandConnection:
         self.request(_DISPLAY, _SYNC, callback)
         self.wait(lambda: bool(answers), "the compositor's answer")
 
-    def wait(self, condition: Callable[[], bool], what: str) -> None:
-        """Handles events until the condition holds."""
+    def wait(
+        self, condition: Callable[[], bool], what: str, longest_silence: float = math.inf
+    ) -> None:
+        """Handles events until the condition holds; asks for that after each, and after a silence
+        of so many seconds.
+        """
         deadline = Deadline(what)
         while not condition():
-            if select.select([self._socket], [], [], deadline.remaining())[0]:
+            rest = min(deadline.remaining(), longest_silence)
+            if select.select([self._socket], [], [], rest)[0]:
                 self.handle_events()
 
     def handle_events(self) -> None:
