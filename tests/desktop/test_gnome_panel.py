@@ -2,6 +2,7 @@
 """The panel under GNOME: called by the desktop's shortcut, over windows of Wayland."""
 
 import json
+from collections.abc import Callable
 
 import screen_edge_tests
 from harness.gnome.case import GnomeCase
@@ -46,3 +47,6 @@ class Edge(screen_edge_tests.ScreenEdge, GnomeCase):
         super().setUp()
         self.keyboard = self.hands
         self.mouse = Pointer(self.hands)
+
+    def next_menu(self) -> Callable[[], screen_edge_tests.Frame]:
+        return lambda: wait_until(self.shell.menu, "a menu", interval=0.05)

@@ -17,6 +17,8 @@ _SCREENSHOT = (
     "org.gnome.Shell.Screenshot",
 )
 
+_LEAST_SIZE = 20  # pixels; smaller ones are no menus
+
 
 @dataclass(frozen=True)
 class ShellWindow:
@@ -100,6 +102,14 @@ class Shell:
     def remote_access_indicator(self) -> tuple[float, float]:
         """Where a click ends that permission."""
         return self.middle_of("Main.panel.statusArea.screenSharing")
+
+    def menu(self) -> tuple[int, int, int, int] | None:
+        """Where an open menu of a program of X11 is, once a press would go to it."""
+        shown = "actor.meta_window.is_override_redirect() && actor.mapped"
+        frame = "(({x, y, width, height}) => [x, y, width, height])(actor.meta_window.get_frame_rect())"
+        actors = f"global.get_window_actors().filter(actor => {shown})"
+        frames = self.evaluate(f"{actors}.map(actor => {frame})")
+        return next((tuple(each) for each in frames if min(each[2:]) > _LEAST_SIZE), None)
 
     def middle_of(self, actor: str) -> tuple[float, float]:
         """Where a part of the shell is on the screen, by an expression for it."""
