@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <controls/TextStyle.h>
 
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <QPainterPath>
 
 #include <algorithm>
+#include <map>
 
 namespace quorvane {
 
@@ -28,6 +30,31 @@ double sizeOf(TextStyle style) {
     return bodySize;
 }
 
+/// Whether the family has letters of that weight, or whether Qt takes its regular ones for them.
+bool hasMedium(const QString& family) {
+    const auto styles = QFontDatabase::styles(family);
+    const auto weights = [&](int least, int most) {
+        return std::ranges::any_of(styles, [=](const QString& style) {
+            const int weight = QFontDatabase::weight(family, style);
+            return weight >= least && weight <= most;
+        });
+    };
+    // Demibold ones are as near as regular ones.
+    return !weights(QFont::Normal, QFont::Normal) || weights(QFont::Normal + 1, QFont::DemiBold);
+}
+
+/// Regular where a family's medium letters would be the regular ones anyway: Qt would ask for the
+/// font once more in each size, for 3 million instructions each, a fiftieth of a start.
+QFont::Weight distinctWeight(const QFontInfo& body, QFont::Weight weight) {
+    if (weight != QFont::Medium)
+        return weight;
+    static std::map<QString, bool> known;
+    const auto [found, isNew] = known.try_emplace(body.family());
+    if (isNew)
+        found->second = hasMedium(body.family());
+    return found->second ? QFont::Medium : QFont::Normal;
+}
+
 } // namespace
 
 QFont textFont(const QFont& body, TextStyle style) {
@@ -36,8 +63,9 @@ QFont textFont(const QFont& body, TextStyle style) {
 }
 
 QFont textFont(const QFont& body, TextStyle style, QFont::Weight weight) {
-    const int pixels = qRound(QFontInfo(body).pixelSize() * sizeOf(style) / bodySize);
-    return fixedSizeFont(body, std::max(pixels, leastSize), weight);
+    const QFontInfo info(body);
+    const int pixels = qRound(info.pixelSize() * sizeOf(style) / bodySize);
+    return fixedSizeFont(body, std::max(pixels, leastSize), distinctWeight(info, weight));
 }
 
 QFont fixedSizeFont(QFont body, int pixels, QFont::Weight weight) {
