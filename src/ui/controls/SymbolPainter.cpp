@@ -4,12 +4,14 @@
 
 #include <QFile>
 #include <QFontInfo>
+#include <QImage>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <tuple>
 
 namespace quorvane {
 
@@ -30,26 +32,27 @@ QByteArray drawing(Symbol symbol, double strokeWidth, const QColor& color) {
     return text.replace(start, end - start, QByteArray::number(strokeWidth));
 }
 
-QPixmap rendered(Symbol symbol, double strokeWidth, const QColor& color, QSize pixels) {
-    QPixmap pixmap(pixels);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
+QImage rendered(Symbol symbol, double strokeWidth, const QColor& color, int pixels) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
     QSvgRenderer renderer(drawing(symbol, strokeWidth, color));
-    renderer.render(&painter, QRectF(QPointF(), QSizeF(pixels)));
-    return pixmap;
+    renderer.render(&painter, QRectF(0, 0, pixels, pixels));
+    return image;
 }
 
-QPixmap cached(Symbol symbol, double strokeWidth, const QColor& color, QSize pixels) {
-    const auto key = u"symbol %1 %2 %3 %4"_s.arg(symbolName(symbol))
-                         .arg(strokeWidth)
-                         .arg(color.name(QColor::HexRgb))
-                         .arg(pixels.width());
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        pixmap = rendered(symbol, strokeWidth, color, pixels);
-        QPixmapCache::insert(key, pixmap);
-    }
-    return pixmap;
+/// Qt's own cache of pictures wakes the program half a minute later, to forget them: the next
+/// showing would draw them all once more.
+QImage cached(Symbol symbol, double strokeWidth, const QColor& color, int pixels) {
+    // Some five times what all windows show in one palette; a symbol has 2 kilobytes.
+    constexpr std::size_t mostKept = 500;
+    static std::map<std::tuple<Symbol, double, QRgb, int>, QImage> kept;
+    if (kept.size() >= mostKept)
+        kept.clear();
+    auto& image = kept[{symbol, strokeWidth, color.rgb(), pixels}];
+    if (image.isNull())
+        image = rendered(symbol, strokeWidth, color, pixels);
+    return image;
 }
 
 } // namespace
@@ -73,11 +76,11 @@ void paintSymbol(
     const double scale = painter.deviceTransform().m11();
     const int pixels = qRound(style.size * scale);
     place = QRectF(snapped(painter, place).topLeft(), QSizeF(pixels, pixels) / scale);
-    auto pixmap = cached(symbol, style.strokeWidth, color, {pixels, pixels});
-    pixmap.setDevicePixelRatio(scale);
+    auto image = cached(symbol, style.strokeWidth, color, pixels);
+    image.setDevicePixelRatio(scale);
     const double opacity = painter.opacity();
     painter.setOpacity(opacity * color.alphaF());
-    painter.drawPixmap(place.topLeft(), pixmap);
+    painter.drawImage(place.topLeft(), image);
     painter.setOpacity(opacity);
 }
 

@@ -62,6 +62,15 @@ void ToolTipStyle::drawPrimitive(
     frameRounded(*painter, place, isRound ? cornerRadius : 0, theme.border, frameWidth);
 }
 
+QIcon ToolTipStyle::standardIcon(
+    StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const {
+    // A bar of menus asks for it when it is made. Ours show in no window, and to read the sign Qt
+    // would load all that it has for pictures: six libraries, half a megabyte.
+    return sign == SP_ToolBarHorizontalExtensionButton
+               ? QIcon()
+               : QProxyStyle::standardIcon(sign, option, widget);
+}
+
 int ToolTipStyle::pixelMetric(
     PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     return metric == PM_ToolTipLabelFrameWidth ? verticalPadding

@@ -119,5 +119,12 @@ TEST(ToolTipWrapping, KeepsLinesAndShortTexts) {
     EXPECT_EQ(wrappedToolTip({}, QFont()), QString());
 }
 
+// The libraries that Qt would load to read it are seen in desktop-openbox-idle.
+TEST(ToolTipStyle, HasNoSignForTheFurtherEntriesOfABar) {
+    const ToolTipStyle style;
+    EXPECT_TRUE(style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton).isNull());
+    EXPECT_FALSE(style.standardIcon(QStyle::SP_ArrowUp).isNull());
+}
+
 } // namespace
 } // namespace quorvane

@@ -3,12 +3,14 @@
 
 #include <controls/PopoverEffects.h>
 
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace quorvane {
 
 /// The application's style, with tooltips on the same surface as popovers: the theme's colours,
-/// round corners where windows are composited, room around the text.
+/// round corners where windows are composited, room around the text; and without Qt's sign for a
+/// menu bar's further entries, which nobody sees.
 class ToolTipStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -23,6 +25,11 @@ public:
         const QStyleOption* option,
         QPainter* painter,
         const QWidget* widget) const override;
+
+    [[nodiscard]] QIcon standardIcon(
+        StandardPixmap sign,
+        const QStyleOption* option = nullptr,
+        const QWidget* widget = nullptr) const override;
 
     [[nodiscard]] int pixelMetric(
         PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
