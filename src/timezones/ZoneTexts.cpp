@@ -3,8 +3,8 @@
 #include <timezones/ZoneTexts.h>
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace quorvane {
@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QChar minus(0x2212);
+constexpr qsizetype signPlace = 3; ///< in "GMT+5"
 
 QStringList pieces(const QString& identifier) {
     return identifier.split(u'/', Qt::SkipEmptyParts);
@@ -65,12 +66,16 @@ QString zoneLabel(const QString& identifier, const std::optional<QString>& abbre
 
 QString placeName(const QString& identifier) {
     const auto city = cityName(identifier);
-    static const QRegularExpression oppositeSign(u"^GMT([+-])([0-9]+)$"_s);
-    const auto match = oppositeSign.match(city);
-    if (!match.hasMatch() || match.captured(2).toInt() == 0)
+    if (!isOffset(city))
         return city;
-    const auto sign = match.captured(1) == u"+"_s ? minus : QChar(u'+');
-    return "UTC"_L1 + sign + match.captured(2);
+    const auto hours = QStringView(city).sliced(signPlace + 1);
+    const bool isNumber =
+        std::ranges::all_of(hours, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+    if (!isNumber || hours.toInt() == 0)
+        return city;
+    // The sign of such a name is the opposite of the usual one.
+    const auto sign = city[signPlace] == u'+' ? minus : QChar(u'+');
+    return "UTC"_L1 + sign + hours.toString();
 }
 
 QString placeAndOffset(const TimeZone& zone, Instant instant) {

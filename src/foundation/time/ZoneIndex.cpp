@@ -75,6 +75,20 @@ QByteArray indexOfFiles(const QString& directory) {
     return text;
 }
 
+/// Of an index the lines that define names: a third of it, which is kept as long as the program
+/// runs.
+QByteArray namesOf(const QByteArray& index) {
+    QByteArray names;
+    forEachLine(index, [&names](QByteArrayView line) {
+        if (line.startsWith("Z "))
+            names += "Z " + field(line, ' ', 1).toByteArray() + '\n';
+        else if (line.startsWith("L "))
+            names += line.toByteArray() + '\n';
+    });
+    names.squeeze();
+    return names;
+}
+
 /// Whether a list without a table by country offers the zone: the others are offsets and old names.
 bool isPlace(const ZoneIndex::Entry& entry) {
     constexpr std::array regions{
@@ -95,11 +109,9 @@ bool isPlace(const ZoneIndex::Entry& entry) {
 
 } // namespace
 
-ZoneIndex::ZoneIndex(const QString& directory)
-    : m_text(readFile(directory + "/tzdata.zi"_L1)),
-      m_table(readFile(directory + "/zone.tab"_L1)) {
-    if (m_text.isEmpty())
-        m_text = indexOfFiles(directory);
+ZoneIndex::ZoneIndex(const QString& directory) : m_table(readFile(directory + "/zone.tab"_L1)) {
+    const auto index = readFile(directory + "/tzdata.zi"_L1);
+    m_text = index.isEmpty() ? indexOfFiles(directory) : namesOf(index);
     if (m_table.isEmpty())
         m_table = readFile(directory + "/zone1970.tab"_L1);
     readEntries();
