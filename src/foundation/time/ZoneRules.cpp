@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvane {
 
@@ -76,6 +77,9 @@ std::optional<BlockHeader> readHeader(ByteReader& reader) {
 
 std::vector<long long> readTimes(ByteReader& reader, qsizetype count, bool isLong) {
     std::vector<long long> times;
+    // So many as there can be, whatever the file says.
+    const qsizetype size = isLong ? sizeof(qint64) : sizeof(qint32);
+    times.reserve(static_cast<std::size_t>(std::min(count, reader.rest().size() / size)));
     for (qsizetype index = 0; index < count && !reader.isShort(); ++index)
         times.push_back(isLong ? reader.integer<qint64>() : reader.integer<qint32>());
     return times;
@@ -114,32 +118,35 @@ std::optional<ZoneRules> ZoneRules::parse(QByteArrayView file) {
     }
     if (!header)
         return std::nullopt;
-    const auto times = readTimes(reader, header->times, isLong);
+    auto times = readTimes(reader, header->times, isLong);
     const auto indices = reader.take(header->times);
-    const auto types = readTypes(reader, header->types);
+    auto types = readTypes(reader, header->types);
     reader.take(header->trailingSize(isLong ? 8 : 4));
     if (reader.isShort() || !std::ranges::is_sorted(times) ||
         !std::ranges::all_of(types, &LocalOffset::isPossible))
         return std::nullopt;
     ZoneRules rules;
     rules.m_first = types.front();
-    // All zones' are kept for the search: without room to grow they take a quarter less.
-    rules.m_transitions.reserve(times.size());
-    for (qsizetype index = 0; index < header->times; ++index) {
-        const auto type = static_cast<unsigned char>(indices[index]);
-        if (type >= types.size())
-            return std::nullopt;
-        rules.m_transitions.push_back({times[static_cast<std::size_t>(index)], types[type]});
-    }
+    rules.m_offsets = std::move(types);
+    rules.m_changes = std::move(times);
+    rules.m_indices.assign(indices.begin(), indices.end());
+    const auto isKnown = [&rules](unsigned char index) {
+        return index < rules.m_offsets.size();
+    };
+    if (!std::ranges::all_of(rules.m_indices, isKnown))
+        return std::nullopt;
     rules.m_rule = PosixRule::parse(footer(reader.rest()));
     return rules;
 }
 
 LocalOffset ZoneRules::at(long long seconds) const {
-    const auto next = std::ranges::upper_bound(m_transitions, seconds, {}, &Transition::seconds);
-    if (next == m_transitions.end() && m_rule)
+    const auto next = std::ranges::upper_bound(m_changes, seconds);
+    if (next == m_changes.end() && m_rule)
         return m_rule->at(seconds);
-    return next == m_transitions.begin() ? m_first : std::prev(next)->offset;
+    if (next == m_changes.begin())
+        return m_first;
+    const auto last = static_cast<std::size_t>(next - m_changes.begin()) - 1;
+    return m_offsets[m_indices[last]];
 }
 
 } // namespace quorvane

@@ -25,14 +25,13 @@ public:
     [[nodiscard]] LocalOffset at(long long seconds) const;
 
 private:
-    struct Transition {
-        long long seconds;
-        LocalOffset offset; ///< from then on
-    };
-
     LocalOffset m_first;
-    std::vector<Transition> m_transitions; ///< in their order
-    std::optional<PosixRule> m_rule;       ///< after the last of them
+    // Each by itself, because all zones' are kept for the search: together they would take twice as
+    // much.
+    std::vector<long long> m_changes;     ///< when the offset changes, in their order
+    std::vector<unsigned char> m_indices; ///< for each change, in m_offsets
+    std::vector<LocalOffset> m_offsets;
+    std::optional<PosixRule> m_rule; ///< after the last of them
 };
 
 } // namespace quorvane
