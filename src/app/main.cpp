@@ -3,9 +3,11 @@
 #include "AppearanceFollower.h"
 #include "ApplicationAccessible.h"
 #include "CommandLine.h"
+#include "FontsReadAhead.h"
 #include "StartupScope.h"
 #include "TerminationSignals.h"
 
+#include <controls/DrawnIcon.h>
 #include <controls/ToolTipWrapping.h>
 #include <language/InterfaceLanguage.h>
 #include <loop/Failure.h>
@@ -20,7 +22,7 @@
 #include <time/SystemCurrentZone.h>
 
 #include <QApplication>
-#include <QIcon>
+#include <QThreadPool>
 
 #include <backends/PlatformChoice.h>
 #include <backends/QtPlaces.h>
@@ -60,10 +62,18 @@ void configure(QApplication& application) {
     application.setQuitOnLastWindowClosed(false);
 }
 
-/// Qt draws it in four sizes for each window, and reads SVG with a plugin that comes with Qt Svg,
-/// which we link anyway. The panel is in no taskbar that would show it.
+/// Qt shares out among a pool's threads what covers more than 64 rows, and even a symbol's outline.
+/// One thread will do for that, and it stays: half a minute after the last paint it would end,
+/// which wakes a program that nobody uses, and the next showing would wait for another.
+void keepOnePaintingThread() {
+    auto* pool = QThreadPool::globalInstance();
+    pool->setMaxThreadCount(1);
+    pool->setExpiryTimeout(-1);
+}
+
+/// Qt draws it in four sizes for each window; the panel is in no taskbar that would show it.
 void setWindowIcon() {
-    QGuiApplication::setWindowIcon(QIcon(u":/icons/org.quorvane.Quorvane.svg"_s));
+    QGuiApplication::setWindowIcon(drawnIcon(u":/icons/org.quorvane.Quorvane.svg"_s));
 }
 
 ApplicationInstance::Request requestOf(const CommandLine& line) {
@@ -91,6 +101,7 @@ int run(
     ApplicationInstance& instance,
     AppDelegate::Launch launch,
     const ActivationToken& token,
+    FontsReadAhead& fonts,
     std::unique_ptr<const Compositor> compositor) {
     const auto environment = processEnvironment();
     const auto folders = UserFolders::fromEnvironment(environment);
@@ -136,7 +147,10 @@ int run(
             answer();
         });
     };
-    serve(token, [&delegate, launch] { delegate.applicationDidFinishLaunching(launch); });
+    serve(token, [&delegate, &fonts, launch] {
+        fonts.finish();
+        delegate.applicationDidFinishLaunching(launch);
+    });
     instance.onReopen([&](const ActivationToken& request) {
         serve(request, [&delegate] { delegate.surfaceMainUIForReopen(); });
     });
@@ -169,7 +183,9 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     qtPlatformSetting.settle();
     busGuard.settle();
+    FontsReadAhead fonts;
     configure(application);
+    keepOnePaintingThread();
     const auto commandLine = CommandLine::parse(application.arguments());
     if (!commandLine.unknown.isEmpty()) {
         reportFailure(
@@ -185,8 +201,14 @@ int main(int argc, char** argv) {
     QGuiApplication::setLayoutDirection(language.direction());
     // Static: exit(), which Qt calls when its connection to the display breaks, waits for it, too.
     static Disk disk;
-    const int status = run(
-        application, disk.settings, instance, launchOf(commandLine), token, std::move(compositor));
+    const int status =
+        run(application,
+            disk.settings,
+            instance,
+            launchOf(commandLine),
+            token,
+            fonts,
+            std::move(compositor));
     // All that the session could miss has been given back: windows, keys, clipboard, bus name.
     if (!disk.settings.finish(diskPatience))
         reportFailure(u"the disk does not answer; waiting until it has taken the settings"_s);
