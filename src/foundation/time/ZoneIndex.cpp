@@ -80,10 +80,9 @@ QByteArray indexOfFiles(const QString& directory) {
 QByteArray namesOf(const QByteArray& index) {
     QByteArray names;
     forEachLine(index, [&names](QByteArrayView line) {
-        if (line.startsWith("Z "))
-            names += "Z " + field(line, ' ', 1).toByteArray() + '\n';
-        else if (line.startsWith("L "))
-            names += line.toByteArray() + '\n';
+        const bool isZone = line.startsWith("Z ");
+        if (isZone || line.startsWith("L "))
+            names.append(isZone ? line.first(2 + field(line, ' ', 1).size()) : line).append('\n');
     });
     names.squeeze();
     return names;
