@@ -10,7 +10,9 @@ from harness.confined import ConfinedQuorvane, without_network
 from harness.contacts import Contacts
 from harness.offer import plain_text
 from harness.preferences import DOCK, switch
+from harness.process_memory import occurrences
 from harness.quorvane import Quorvane, wait_stored
+from harness.waiting import wait_until
 
 _SETTINGS = ("defaults.json", "windows.json")
 
@@ -79,6 +81,19 @@ class Privacy(DesktopCase):
         self.assertNotIn(secret, log)
         self.assertNotIn(secret[:12], log)
 
+    def test_what_was_copied_is_forgotten_once_it_is_given_away(self) -> None:
+        # Longer than what libxcb keeps of what it has sent.
+        line = _secret()
+        copied = plain_text("".join(f"{line} {number}\n" for number in range(2500)))
+        quorvane = self.hidden_quorvane()
+        editor = self.editor()
+        self.clipboard.own(copied)
+        self.insert(quorvane, editor)
+        self.clipboard.wait_for(copied)
+        self.assertGreater(_remembered(quorvane, line), 0, "it is lent")
+        self.clipboard.own(plain_text("something else"))
+        wait_until(lambda: _remembered(quorvane, line) == 0, "nothing left of it")
+
     def files(self) -> set[Path]:
         """All that lies in the session's folders, but for the tests' own logs."""
         root = self.session.root
@@ -88,3 +103,9 @@ class Privacy(DesktopCase):
 def _secret() -> str:
     """What nobody else writes anywhere."""
     return f"hunter-{os.urandom(12).hex()}"
+
+
+def _remembered(quorvane: Quorvane, text: str) -> int:
+    """How often the program's memory has it."""
+    pid = quorvane.process.pid
+    return sum(occurrences(pid, text.encode(name)) for name in ("utf-8", "utf-16-le"))

@@ -40,7 +40,7 @@ void OfferSave::readNext() {
             type,
             m_bytesLeft,
             {[this] { awaitProgress(); },
-             [this, type](std::optional<QByteArray> bytes) {
+             [this, type](std::optional<ForgottenBytes> bytes) {
                  take(type, std::move(bytes));
              }});
         if (m_reading)
@@ -50,7 +50,7 @@ void OfferSave::readNext() {
     finish();
 }
 
-void OfferSave::take(const QString& type, std::optional<QByteArray> bytes) {
+void OfferSave::take(const QString& type, std::optional<ForgottenBytes> bytes) {
     m_unread.removeFirst();
     if (bytes) {
         m_bytesLeft -= bytes->size();

@@ -39,7 +39,7 @@ void OfferTextReading::ask() {
         type,
         m_limits.bytes,
         {[this] { awaitProgress(); },
-         [this, type](const std::optional<QByteArray>& bytes) {
+         [this, type](const std::optional<ForgottenBytes>& bytes) {
              take(type, bytes);
          }});
     if (!m_reading)
@@ -51,7 +51,7 @@ void OfferTextReading::awaitProgress() {
 }
 
 // An owner that has no such text closes the pipe without a word.
-void OfferTextReading::take(const QString& type, const std::optional<QByteArray>& bytes) {
+void OfferTextReading::take(const QString& type, const std::optional<ForgottenBytes>& bytes) {
     if (!bytes)
         return finish(std::nullopt);
     if (bytes->isEmpty())

@@ -56,11 +56,12 @@ void PipeReading::read() {
         return finish(std::nullopt);
     if (length == 0)
         return finish(std::move(m_bytes));
-    m_bytes.append(piece.data(), static_cast<qsizetype>(length));
+    m_bytes.add(QByteArrayView(piece.data(), static_cast<qsizetype>(length)));
+    forget(piece.data(), static_cast<std::size_t>(length));
     m_callbacks.progress();
 }
 
-void PipeReading::finish(std::optional<QByteArray> bytes) {
+void PipeReading::finish(std::optional<ForgottenBytes> bytes) {
     m_notifier.setEnabled(false);
     const auto done = std::move(m_callbacks.done);
     done(std::move(bytes));

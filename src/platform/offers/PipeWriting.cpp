@@ -39,7 +39,7 @@ ssize_t writeWithoutSignal(int descriptor, const char* bytes, qsizetype size) {
 } // namespace
 
 struct PipeWriting::Transfer {
-    Transfer(int file, QByteArray contents, Ended handler)
+    Transfer(int file, ForgottenBytes contents, Ended handler)
         : descriptor(file),
           bytes(std::move(contents)),
           ended(std::move(handler)),
@@ -54,7 +54,7 @@ struct PipeWriting::Transfer {
     Transfer& operator=(const Transfer&) = delete;
 
     int descriptor;
-    QByteArray bytes;
+    ForgottenBytes bytes;
     Ended ended;
     qsizetype written = 0;
     QSocketNotifier notifier;
@@ -66,7 +66,7 @@ PipeWriting::PipeWriting(MainQueue& queue) : m_queue(queue) {
 
 PipeWriting::~PipeWriting() = default;
 
-void PipeWriting::write(int descriptor, const QByteArray& bytes, Ended ended) {
+void PipeWriting::write(int descriptor, const ForgottenBytes& bytes, Ended ended) {
     if (bytes.isEmpty() || m_transfers.size() >= mostTransfers) {
         ::close(descriptor);
         return ended(bytes.isEmpty());

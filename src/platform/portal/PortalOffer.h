@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/ForgottenBytes.h>
 #include <platform_offers/DataDevice.h>
 #include <platform_portal/PortalClipboard.h>
 
-#include <QByteArray>
 #include <QPointer>
 #include <QStringList>
 
@@ -32,7 +32,8 @@ public:
         if (!m_clipboard)
             return nullptr;
         if (m_from == Types::Guessed)
-            callbacks.done = [done = std::move(callbacks.done)](std::optional<QByteArray> bytes) {
+            callbacks.done = [done =
+                                  std::move(callbacks.done)](std::optional<ForgottenBytes> bytes) {
                 done(bytes && bytes->isEmpty() ? std::nullopt : std::move(bytes));
             };
         return m_clipboard->read(type, mostBytes, std::move(callbacks));

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include <platform/ForgottenBytes.h>
+
 #include <QString>
 
 #include <optional>
@@ -11,10 +12,10 @@ namespace quorvane {
 
 /// The data of one type, as the owner gave it.
 struct PasteboardEntry {
-    QString type;     ///< a MIME type, or the desktop's own name for a kind of data
-    QByteArray bytes; ///< in the byte order of the machine
-    QString encoding; ///< the wire type of the bytes, where the desktop tells one; else empty
-    int unitBits = 8; ///< the size of one unit: 8, 16 or 32
+    QString type;         ///< a MIME type, or the desktop's own name for a kind of data
+    ForgottenBytes bytes; ///< in the byte order of the machine
+    QString encoding;     ///< the wire type of the bytes, where the desktop tells one; else empty
+    int unitBits = 8;     ///< the size of one unit: 8, 16 or 32
 
     friend bool operator==(const PasteboardEntry&, const PasteboardEntry&) = default;
 };

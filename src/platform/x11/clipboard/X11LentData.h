@@ -13,6 +13,12 @@ class X11LentData final : public QMimeData {
 public:
     explicit X11LentData(PasteboardItem item);
 
+    /// Gives back what Qt shares before the item goes, which forgets it.
+    ~X11LentData() override { clear(); }
+
+    X11LentData(const X11LentData&) = delete;
+    X11LentData& operator=(const X11LentData&) = delete;
+
     [[nodiscard]] const PasteboardItem& item() const { return m_item; }
 
 private:

@@ -89,7 +89,7 @@ void X11SelectionConversion::takePiece(const X11PropertyPiece& piece) {
     m_readOfProperty += piece.value.bytes.size();
     if (!m_received)
         m_received = X11PropertyValue{piece.value.type, piece.value.unitBits, {}};
-    m_received->bytes += piece.value.bytes;
+    m_received->bytes.add(piece.value.bytes);
     if (m_received->bytes.size() > m_maxBytes) {
         m_received->bytes.truncate(m_maxBytes);
         m_inbox.discard(m_property);

@@ -45,10 +45,12 @@ std::optional<X11PropertyPiece> readPropertyPiece(
         xcb_get_property_reply(connection.xcb(), cookie, nullptr));
     if (!reply || reply->type == XCB_ATOM_NONE)
         return std::nullopt;
-    const QByteArray bytes(
-        static_cast<const char*>(xcb_get_property_value(reply.get())),
-        xcb_get_property_value_length(reply.get()));
-    return X11PropertyPiece{{reply->type, reply->format, bytes}, reply->bytes_after == 0};
+    auto* const data = static_cast<char*>(xcb_get_property_value(reply.get()));
+    const int size = xcb_get_property_value_length(reply.get());
+    X11PropertyPiece piece{
+        {reply->type, reply->format, QByteArray(data, size)}, reply->bytes_after == 0};
+    forget(data, static_cast<std::size_t>(size));
+    return piece;
 }
 
 qsizetype longestPropertyValue(const X11Connection& connection) {

@@ -44,14 +44,14 @@ public:
 private:
     void awaitProgress();
     void readNext();
-    void take(const QString& type, std::optional<QByteArray> bytes);
+    void take(const QString& type, std::optional<ForgottenBytes> bytes);
 
     MainQueue& m_queue;
     std::shared_ptr<DataOffer> m_offer;
     Done m_done;
     QStringList m_types;  ///< in the owner's order
     QStringList m_unread; ///< in the order of reading
-    std::map<QString, QByteArray> m_read;
+    std::map<QString, ForgottenBytes> m_read;
     qsizetype m_bytesLeft;
     std::unique_ptr<OfferReading> m_reading;
     Deadline m_silence;

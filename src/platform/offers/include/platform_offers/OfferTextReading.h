@@ -30,7 +30,7 @@ private:
     void begin();
     void ask();
     void awaitProgress();
-    void take(const QString& type, const std::optional<QByteArray>& bytes);
+    void take(const QString& type, const std::optional<ForgottenBytes>& bytes);
     void finish(const std::optional<QString>& text);
 
     MainQueue& m_queue;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/ForgottenBytes.h>
 #include <platform_offers/OfferReading.h>
 
-#include <QByteArray>
 #include <QSocketNotifier>
 
 #include <functional>
@@ -20,7 +20,7 @@ public:
         std::function<void()> progress;
         /// Once, with all that was written before the other end was closed; none if that is longer
         /// than the limit or cannot be read. May destroy the reading.
-        std::function<void(std::optional<QByteArray>)> done;
+        std::function<void(std::optional<ForgottenBytes>)> done;
     };
 
     /// Null where the system gives no pipe. `hand` gets the end to write into, which is closed
@@ -42,12 +42,12 @@ private:
     PipeReading(int descriptor, qsizetype mostBytes, Callbacks callbacks);
 
     void read();
-    void finish(std::optional<QByteArray> bytes);
+    void finish(std::optional<ForgottenBytes> bytes);
 
     int m_descriptor;
     qsizetype m_mostBytes;
     Callbacks m_callbacks;
-    QByteArray m_bytes;
+    ForgottenBytes m_bytes;
     QSocketNotifier m_notifier;
 };
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include <loop/MainQueue.h>
-
-#include <QByteArray>
+#include <platform/ForgottenBytes.h>
 
 #include <functional>
 #include <list>
@@ -37,7 +36,7 @@ public:
     /// that closes it earlier has had enough. `ended` is called once, maybe before this returns;
     /// not after the writing has gone.
     void write(
-        int descriptor, const QByteArray& bytes, Ended ended = [](bool) {});
+        int descriptor, const ForgottenBytes& bytes, Ended ended = [](bool) {});
 
     /// Whether somebody is still taking something.
     [[nodiscard]] bool isIdle() const { return m_transfers.empty(); }

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <platform/ForgottenBytes.h>
 #include <x11_server/X11Connection.h>
-
-#include <QByteArray>
 
 #include <cstdint>
 #include <limits>
@@ -15,8 +14,8 @@ namespace quorvane {
 /// What a property of a window holds, bit for bit.
 struct X11PropertyValue {
     xcb_atom_t type = XCB_ATOM_NONE;
-    int unitBits = 8; ///< 8, 16 or 32
-    QByteArray bytes; ///< in the byte order of the machine; units of 32 bits take 4 bytes each
+    int unitBits = 8;     ///< 8, 16 or 32
+    ForgottenBytes bytes; ///< in the byte order of the machine; units of 32 bits take 4 bytes each
 };
 
 /// A value of 32-bit units, such as a list of atoms.
