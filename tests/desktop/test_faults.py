@@ -9,7 +9,7 @@ from pathlib import Path
 
 from harness.case import DesktopCase
 from harness.confined import ConfinedQuorvane, full_disk, read_only, with_mounts
-from harness.keys import INSERT
+from harness.keys import INSERT, Key
 from harness.moved_clock import MovedClock
 from harness.offer import plain_text
 from harness.preferences import DOCK, switch
@@ -116,6 +116,32 @@ class Time(FaultCase):
             clock.move(span)
             editor.wait_text(text)
             self.clipboard.wait_for(had)
+
+    def test_a_program_that_stands_still_in_an_insertion_ends_it_when_it_goes_on(self) -> None:
+        clock = MovedClock(self.session)
+        self.addCleanup(clock.close)
+        quorvane = Quorvane(self.session, **clock.environment)
+        quorvane.hide()
+        editor = self.editor()
+        had = plain_text("the user's own")
+        self.clipboard.own(had)
+        self.summon(quorvane)
+        text = quorvane.preview()
+        self.keyboard.tap(*INSERT)
+        quorvane.wait_hidden()
+        quorvane.process.send_signal(signal.SIGSTOP)
+        clock.move(timedelta(hours=8))
+        editor.wait_active()
+        typed = "d" * 50
+        for _ in typed:
+            self.keyboard.tap(Key.D)
+        wait_until(lambda: editor.text().replace(text, "", 1) == typed, "what the user types")
+        quorvane.process.send_signal(signal.SIGCONT)
+        wait_until(lambda: text in editor.text(), "the text")
+        self.clipboard.wait_for(had)
+        self.assertEqual(typed, editor.text().replace(text, "", 1))
+        self.summon(quorvane)
+        self.assertNotEqual(text, quorvane.preview(), "the moment of eight hours later")
 
     def test_without_zone_data_dates_are_utc_and_favourites_stay(self) -> None:
         folder = "/usr/share/zoneinfo"
