@@ -24,7 +24,7 @@ _MEBIBYTE = 1 << 20
 _GROWTH = 64 * _MEBIBYTE
 """How much more memory than before a flood may take while it lasts."""
 
-_LEFT = 16 * _MEBIBYTE
+LEFT = 16 * _MEBIBYTE
 """How much of that may be left: what the allocator keeps for the next time."""
 
 _MINE = plain_text("the user's own")
@@ -48,7 +48,7 @@ class HostileCase(DesktopCase):
         self.summon_and_hide()
         growth = self.memory.peak() - before
         self.assertLess(growth, _GROWTH, f"{growth / _MEBIBYTE:.0f} MiB more")
-        wait_until(lambda: self.memory.now() - before < _LEFT, "the memory of before")
+        wait_until(lambda: self.memory.now() - before < LEFT, "the memory of before")
 
     def summon_and_hide(self) -> None:
         self.keyboard.tap(*SHORTCUT)

@@ -58,6 +58,10 @@ class SwayWindows:
                 return int(window["id"])
         return None
 
+    def of_title(self, title: str) -> int | None:
+        """The first window with that title."""
+        return next((window["id"] for window in self._all() if window["name"] == title), None)
+
     def title(self, window: int) -> str:
         """A window's title; empty where it has none, or is gone."""
         return str(self._find(window).get("name") or "")

@@ -3,6 +3,7 @@
 
 import os
 import select
+from collections.abc import Callable
 from pathlib import Path
 
 from ..waiting import PATIENCE, Deadline
@@ -16,11 +17,16 @@ _OFFER_TYPE = 0
 _RECEIVE = 0
 _AT_ONCE = 1 << 16
 
+OnCopy = Callable[[str, list[str]], None]
+"""Takes the selection and its types."""
+
 
 class DataControl:
     """One connection that may set and read both clipboards at any time."""
 
-    def __init__(self, display: Path) -> None:
+    def __init__(self, display: Path, on_copy: OnCopy = lambda _selection, _types: None) -> None:
+        """`on_copy` is told of everything that anybody copies."""
+        self._on_copy = on_copy
         self.connection = WaylandConnection(display)
         seat = self.connection.bind("wl_seat", 1)
         self._manager = self.connection.bind(_MANAGER, 2)
@@ -35,12 +41,16 @@ class DataControl:
         self.connection.close()
 
     def offer(self, types: list[str], selection: str, source: int) -> None:
-        """Sets a clipboard to a source that make_source() gave."""
+        """Sets a clipboard to a source that make_source() gave, and waits until it is set."""
+        self.claim(types, selection, source)
+        self.connection.settle()
+
+    def claim(self, types: list[str], selection: str, source: int) -> None:
+        """The same, without waiting."""
         for name in types:
             self.connection.request(source, _OFFER_TYPE, name)
         request = _SET_PRIMARY if selection == "PRIMARY" else _SET_SELECTION
         self.connection.request(self._device, request, source)
-        self.connection.settle()
 
     def make_source(self, handler) -> int:  # type: ignore[no-untyped-def]
         """An object that offer() takes; the handler is asked for its data."""
@@ -73,7 +83,9 @@ class DataControl:
                 offer, lambda _event, argument: self._types[offer].append(argument.text())
             )
         elif event in (_SELECTION, _PRIMARY):
-            self._current["CLIPBOARD" if event == _SELECTION else "PRIMARY"] = offer
+            selection = "CLIPBOARD" if event == _SELECTION else "PRIMARY"
+            self._current[selection] = offer
+            self._on_copy(selection, self._types.get(offer, []))
 
 
 def _all_of(file: int, what: str) -> bytes:

@@ -1,0 +1,71 @@
+# SPDX-License-Identifier: MIT
+"""A program under Wayland that takes the clipboard away from whoever has copied something."""
+
+import os
+import select
+import threading
+from collections.abc import Sequence
+from contextlib import suppress
+from pathlib import Path
+
+from ..offer import Offer
+from .connection import Reader, WaylandError
+from .data_control import DataControl
+
+_SEND = 0
+_MARK = "application/x-stolen"
+
+
+class ClipboardThief:
+    """Serves and steals in a thread of its own, until it is closed.
+
+    It steals so many times, each time right after another program has copied something; where it is
+    `greedy`, also from itself.
+    """
+
+    def __init__(
+        self, display: Path, loot: Sequence[Offer], times: int, greedy: bool = False
+    ) -> None:
+        self._loot = {offer.target: offer.data for offer in loot} | {_MARK: b""}
+        self._times = 0
+        self._greedy = greedy
+        self.thefts = 0
+        self._control = DataControl(display, self._note_copy)
+        # What was there before is nobody's prey.
+        self._times = times
+        self._stopping, self._stop = os.pipe()
+        self._thread = threading.Thread(target=self._run)
+        self._thread.start()
+
+    def close(self) -> None:
+        """Ends the program, and what it owns."""
+        os.write(self._stop, b"x")
+        self._thread.join()
+        for file in (self._stop, self._stopping):
+            os.close(file)
+        self._control.close()
+
+    def _run(self) -> None:
+        connection = self._control.connection
+        with suppress(WaylandError):
+            while True:
+                ready, _, _ = select.select([connection, self._stopping], [], [])
+                if self._stopping in ready:
+                    return
+                connection.handle_events()
+
+    def _note_copy(self, selection: str, types: list[str]) -> None:
+        is_prey = types and (self._greedy or _MARK not in types)
+        if selection != "CLIPBOARD" or not is_prey or self.thefts >= self._times:
+            return
+        self.thefts += 1
+        source = self._control.make_source(self._handle_source)
+        self._control.claim(list(self._loot), selection, source)
+
+    def _handle_source(self, event: int, arguments: Reader) -> None:
+        if event != _SEND:
+            return
+        name = arguments.text()
+        file = self._control.connection.take_file()
+        with suppress(BrokenPipeError), os.fdopen(file, "wb") as pipe:
+            pipe.write(self._loot[name])
