@@ -1,6 +1,17 @@
 # SPDX-License-Identifier: MIT
 include(QuorvanePrecompiled)
 
+set(QUORVANE_TEST_SLOWNESS 1 CACHE STRING
+    "How many times longer than usual a test may take, where sanitizers or counters slow it down")
+
+# quorvane_time_limit(app-faults 180)
+#
+# Gives a test so many seconds on a build that nothing slows down.
+function(quorvane_time_limit test seconds)
+    math(EXPR limit "${seconds} * ${QUORVANE_TEST_SLOWNESS}")
+    set_tests_properties(${test} PROPERTIES TIMEOUT ${limit})
+endfunction()
+
 # The compiler takes a third less time over a test that it need not optimise; what is tested is
 # built as everywhere. A backtrace still names each line.
 add_library(quorvane_test_options INTERFACE)
@@ -45,5 +56,5 @@ function(quorvane_test name)
             PRIVATE $<TARGET_PROPERTY:quorvane_${library},SOURCE_DIR>)
     endforeach()
     add_test(NAME ${name} COMMAND quorvane-test-${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 120)
+    quorvane_time_limit(${name} 120)
 endfunction()
