@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "PaintWatch.h"
 #include "PanelFixture.h"
+#include "Typing.h"
 
 #include <panel/OutputPreview.h>
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <benchmark/benchmark.h>
 
@@ -25,13 +24,6 @@ void report(benchmark::State& state, std::vector<double> samples) {
     std::ranges::sort(samples);
     state.counters["median_ms"] = samples[samples.size() / 2];
     state.counters["worst_ms"] = samples.back();
-}
-
-void sendKey(QWidget& receiver, int key, const QString& text) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(&receiver, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QApplication::sendEvent(&receiver, &release);
 }
 
 OutputPreview& previewOf(QWidget& panel) {

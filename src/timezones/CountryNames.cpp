@@ -15,14 +15,21 @@ QString nameIn(const icu::Locale& language, const icu::Locale& country) {
 
 } // namespace
 
-QStringList countryNames(const QStringList& codes, const UserLocale& locale) {
+QStringList CountryNames::of(const QStringList& codes) {
     QStringList names;
     for (const auto& code : codes) {
-        const icu::Locale country("", code.toLatin1().constData());
-        names << nameIn(locale.icuLocale(), country) << nameIn(icu::Locale::getEnglish(), country);
+        const auto [known, isNew] = m_known.try_emplace(code);
+        if (isNew)
+            known->second = lookedUp(code);
+        names << known->second;
     }
     names.removeDuplicates();
     return names;
+}
+
+QStringList CountryNames::lookedUp(const QString& code) const {
+    const icu::Locale country("", code.toLatin1().constData());
+    return {nameIn(m_locale.icuLocale(), country), nameIn(icu::Locale::getEnglish(), country)};
 }
 
 } // namespace quorvane

@@ -6,10 +6,24 @@
 #include <QString>
 #include <QStringList>
 
+#include <unordered_map>
+
 namespace quorvane {
 
-/// What countries are called, by their codes of ISO 3166, in a locale's language and in English;
-/// a name that is the same in both once.
-[[nodiscard]] QStringList countryNames(const QStringList& codes, const UserLocale& locale);
+/// What countries are called in a locale's language and in English. Most have several zones: each
+/// name is looked up once.
+class CountryNames {
+public:
+    explicit CountryNames(UserLocale locale) : m_locale(std::move(locale)) {}
+
+    /// By their codes of ISO 3166; a name that is the same in both languages once.
+    [[nodiscard]] QStringList of(const QStringList& codes);
+
+private:
+    [[nodiscard]] QStringList lookedUp(const QString& code) const;
+
+    UserLocale m_locale;
+    std::unordered_map<QString, QStringList> m_known; ///< by code
+};
 
 } // namespace quorvane

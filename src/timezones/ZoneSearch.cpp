@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "CountryNames.h"
 #include "FoldedText.h"
 #include "TimeZoneAliases.h"
+#include "ZoneWordIndex.h"
 
-#include <time/IcuTimeZone.h>
-#include <time/ZoneNames.h>
 #include <timezones/ZoneSearch.h>
 #include <timezones/ZoneTexts.h>
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <unordered_set>
 
@@ -22,17 +19,6 @@ namespace {
 bool isSpaceOrTab(QChar character) {
     return character == u' ' || character == u'\t';
 }
-
-/// Clocks change on whole minutes only, so a zone has the same abbreviation at the start of the
-/// minute as at the instant. Asking for the start lets all keystrokes within a minute use the
-/// offset that DatabaseTimeZone computed for the first of them.
-Instant startOfMinute(Instant instant) {
-    constexpr double minute = 60;
-    return {std::floor(instant.secondsSince1970 / minute) * minute};
-}
-
-// Between names that are searched as one text; no query holds it.
-constexpr QChar separator(0x1f);
 
 /// Whether the offset that a row shows contains the query. There are some forty offsets in 420
 /// zones.
@@ -67,10 +53,6 @@ QString shownOldName(const QString& foldedQuery, const QString& oldName) {
     return foldedText(city).contains(foldedQuery) ? city : QString(oldName).replace(u'_', u' ');
 }
 
-QString lowerCase(const std::optional<QString>& name) {
-    return name.value_or(QString()).toLower();
-}
-
 auto isOneOf(const QStringList& starred) {
     return [identifiers =
                 std::unordered_set<QString>(starred.begin(), starred.end())](const TimeZone& zone) {
@@ -89,8 +71,21 @@ QString normalisedQuery(QStringView query) {
 }
 
 ZoneSearch::ZoneSearch(TimeZoneCatalogue catalogue, UserLocale locale)
-    : m_catalogue(std::move(catalogue)),
-      m_locale(std::move(locale)) {
+    : m_index(std::make_unique<ZoneWordIndex>(std::move(catalogue), std::move(locale))) {
+}
+
+ZoneSearch::ZoneSearch(ZoneSearch&& other) noexcept = default;
+
+ZoneSearch& ZoneSearch::operator=(ZoneSearch&& other) noexcept = default;
+
+ZoneSearch::~ZoneSearch() = default;
+
+const TimeZoneCatalogue& ZoneSearch::catalogue() const {
+    return m_index->catalogue();
+}
+
+bool ZoneSearch::prepareNext() {
+    return m_index->makeNext();
 }
 
 std::vector<TimeZone> ZoneSearch::filtered(const QString& query, Instant now) const {
@@ -115,27 +110,28 @@ std::vector<TimeZone> ZoneSearch::found(
     const QString& query, Instant now, Extent extent, const Candidate& isCandidate) const {
     const auto text = normalisedQuery(query);
     const auto aliased = TimeZoneAliases::identifiersMatching(text);
-    const ZoneNames names(startOfMinute(now), m_locale);
+    const auto& entries = catalogue().entries();
     const auto matches = [&](std::size_t index) {
-        const auto& entry = m_catalogue.entries()[index];
+        const auto& entry = entries[index];
         return text.isEmpty() || aliased.contains(entry.zone.identifier()) ||
                entry.searchText.contains(text) ||
-               lowerCase(names.abbreviation(*namesOf(index).zone)).contains(text) ||
-               namesOf(index).genericName.contains(text);
+               m_index->abbreviation(index, now).contains(text) ||
+               m_index->words(index).lowerGenericName.contains(text);
     };
     const auto folded = foldedText(text);
     const bool hasFurther = extent == Extent::Further && !text.contains(u'_') && !folded.isEmpty();
     OffsetMatch offset(folded, now);
     std::vector<TimeZone> zones;
     std::vector<TimeZone> further;
-    for (std::size_t index = 0; index < m_catalogue.entries().size(); ++index) {
-        const auto& zone = m_catalogue.entries()[index].zone;
+    for (std::size_t index = 0; index < entries.size(); ++index) {
+        const auto& zone = entries[index].zone;
         if (!isCandidate(zone))
             continue;
         if (matches(index))
             zones.push_back(zone);
         else if (
-            hasFurther && (offset.holdsFor(zone) || namesOf(index).furtherNames.contains(folded)))
+            hasFurther &&
+            (offset.holdsFor(zone) || m_index->words(index).furtherNames.contains(folded)))
             further.push_back(zone);
     }
     zones.insert(zones.end(), further.begin(), further.end());
@@ -146,58 +142,40 @@ QString ZoneSearch::reason(const QString& query, Instant now, const TimeZone& zo
     const auto text = normalisedQuery(query);
     const auto folded = foldedText(text);
     const auto& identifier = zone.identifier();
+    const auto entry = entryOf(zone);
+    if (!entry || text.isEmpty() || text.contains(u'/'))
+        return {};
     const QStringList shown{
         placeName(identifier),
         regionName(identifier).value_or(QString()),
-        zoneAbbreviation(zone, now, m_locale).value_or(QString()),
+        m_index->abbreviation(*entry, now),
         offsetString(zone, now)};
-    if (text.isEmpty() || text.contains(u'/') || !nameContaining(folded, shown).isEmpty())
+    if (!nameContaining(folded, shown).isEmpty())
         return {};
     if (auto alias = TimeZoneAliases::nameMatching(text, identifier))
         return *alias;
     // Of "America/Indiana/Knox" a row shows the ends.
     const QStringList pieces = QString(identifier).replace(u'_', u' ').split(u'/');
     const auto inner = nameContaining(folded, pieces);
-    return inner.isEmpty() ? furtherReason(folded, zone) : inner;
+    return inner.isEmpty() ? furtherReason(folded, *entry) : inner;
 }
 
-QString ZoneSearch::furtherReason(const QString& query, const TimeZone& zone) const {
-    const auto generic =
-        ZoneNames(m_catalogue.instant(), m_locale).genericName(zone).value_or(QString());
-    if (foldedText(generic).contains(query))
-        return generic;
-    const auto entry =
-        std::ranges::find(m_catalogue.entries(), zone, &TimeZoneCatalogue::Entry::zone);
-    if (entry == m_catalogue.entries().end())
-        return {};
-    if (auto country = nameContaining(query, countryNames(entry->countries, m_locale));
-        !country.isEmpty())
-        return country;
-    const auto oldName =
-        nameContaining(query, QStringList(entry->oldNames).replaceInStrings(u"_"_s, u" "_s));
+QString ZoneSearch::furtherReason(const QString& query, std::size_t entry) const {
+    const auto& words = m_index->words(entry);
+    const auto name = nameContaining(query, QStringList(words.genericName) + words.countries);
+    if (!name.isEmpty())
+        return name;
+    auto oldNames = catalogue().entries()[entry].oldNames;
+    const auto oldName = nameContaining(query, oldNames.replaceInStrings(u"_"_s, u" "_s));
     return oldName.isEmpty() ? QString() : shownOldName(query, oldName);
 }
 
-QString
-ZoneSearch::furtherNames(const TimeZoneCatalogue::Entry& entry, const QString& genericName) const {
-    auto names = countryNames(entry.countries, m_locale);
-    names << genericName << entry.searchText;
-    for (const auto& oldName : entry.oldNames)
-        names << QString(oldName).replace(u'_', u' ');
-    return foldedText(names.join(separator));
-}
-
-const ZoneSearch::EntryNames& ZoneSearch::namesOf(std::size_t index) const {
-    if (m_entryNames.empty()) {
-        const ZoneNames names(m_catalogue.instant(), m_locale);
-        for (const auto& entry : m_catalogue.entries()) {
-            auto genericName = lowerCase(names.genericName(entry.zone));
-            auto further = furtherNames(entry, genericName);
-            m_entryNames.push_back(
-                {icuTimeZone(entry.zone), std::move(genericName), std::move(further)});
-        }
-    }
-    return m_entryNames[index];
+std::optional<std::size_t> ZoneSearch::entryOf(const TimeZone& zone) const {
+    const auto& entries = catalogue().entries();
+    const auto entry = std::ranges::find(entries, zone, &TimeZoneCatalogue::Entry::zone);
+    if (entry == entries.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(entry - entries.begin());
 }
 
 } // namespace quorvane

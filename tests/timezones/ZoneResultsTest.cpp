@@ -37,11 +37,11 @@ protected:
 
     void speak(const char* language) { m_search = search(language); }
 
-private:
     [[nodiscard]] static ZoneSearch search(const char* language) {
         return {{ZoneDatabase(), winter}, locale(language)};
     }
 
+private:
     ZoneSearch m_search = search("en_US");
 };
 
@@ -91,6 +91,24 @@ TEST_F(ZoneResultsTest, QueryWithAnUnderscoreHasNoFurtherResults) {
 TEST_F(ZoneResultsTest, EmptyQueryFindsEveryZoneOnce) {
     EXPECT_THAT(further(u" "_s), ElementsAre());
     EXPECT_GE(results({}).size(), 420U);
+}
+
+TEST_F(ZoneResultsTest, SearchThatWasPreparedFindsTheSame) {
+    auto prepared = search("en_US");
+    std::size_t zones = 0;
+    while (prepared.prepareNext())
+        ++zones;
+    EXPECT_EQ(zones, prepared.catalogue().entries().size());
+    for (const auto& query : {u""_s, u"la"_s, u"est"_s, u"germ"_s, u"pacific"_s, u"+5:30"_s})
+        EXPECT_EQ(identifiersOf(prepared.results(query, winter)), results(query))
+            << query.toStdString();
+}
+
+TEST_F(ZoneResultsTest, SearchIsPreparedAsFarAsItHasCome) {
+    auto begun = search("en_US");
+    EXPECT_TRUE(begun.prepareNext());
+    EXPECT_EQ(identifiersOf(begun.results(u"kenya"_s, winter)), results(u"kenya"_s));
+    EXPECT_FALSE(begun.prepareNext());
 }
 
 TEST_F(ZoneResultsTest, ReasonIsWhatTheRowDoesNotShow) {

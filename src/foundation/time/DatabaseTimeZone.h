@@ -55,6 +55,9 @@ public:
     /// nothing but the offset itself says the truth.
     [[nodiscard]] bool hasNameAt(UDate date) const { return offsetAt(date).hasName; }
 
+    /// ICU's own zone of that name; null if ICU does not know it.
+    [[nodiscard]] const icu::TimeZone* own() const { return m_own.get(); }
+
 private:
     /// In milliseconds.
     struct Offset {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "DatabaseTimeZone.h"
 #include "IcuText.h"
 #include "ZoneTextFormat.h"
 
@@ -32,6 +33,12 @@ std::optional<QString> ZoneNames::genericName(const TimeZone& zone) const {
     // ICU gives generic names to none but its own kind of zone.
     const auto own = icuOwnTimeZone(zone);
     return own ? name(UTZFMT_STYLE_GENERIC_LONG, *own) : std::nullopt;
+}
+
+std::optional<QString> ZoneNames::genericName(const icu::TimeZone& zone) const {
+    const auto* database = dynamic_cast<const DatabaseTimeZone*>(&zone);
+    const auto* own = database == nullptr ? &zone : database->own();
+    return own == nullptr ? std::nullopt : name(UTZFMT_STYLE_GENERIC_LONG, *own);
 }
 
 std::optional<QString>

@@ -66,7 +66,8 @@ TimeZonePickerView::TimeZonePickerView(
           this)),
       m_list(new ZoneList(this)),
       m_nothing(new NothingFound(m_list)),
-      m_found(dependencies.mainQueue, *m_list, *m_nothing, dependencies.locale) {
+      m_found(dependencies.mainQueue, *m_list, *m_nothing, dependencies.locale),
+      m_preparation(m_search, dependencies.mainQueue, *m_list->viewport()) {
     setAccessibleName(tr("Time Zones"));
     setFocusProxy(m_field);
     m_list->setModel(m_model);

@@ -52,7 +52,8 @@ FavoritesSection::FavoritesSection(
           this)),
       m_list(new ZoneList(this)),
       m_nothing(new NothingFound(m_list)),
-      m_found(queue, *m_list, *m_nothing, model.locale()) {
+      m_found(queue, *m_list, *m_nothing, model.locale()),
+      m_preparation(m_search, queue, *m_list->viewport()) {
     m_field->setTrailingRoom(StarredFilter::room);
     m_list->setItemDelegate(new FavoriteRowDelegate(m_list));
     m_list->setModel(m_rows);

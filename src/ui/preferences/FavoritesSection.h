@@ -5,6 +5,7 @@
 
 #include <controls/PasteReader.h>
 #include <picker/FoundZones.h>
+#include <picker/SearchPreparation.h>
 #include <time/Clock.h>
 #include <time/ZoneDatabase.h>
 #include <timezones/ZoneSearch.h>
@@ -65,6 +66,7 @@ private:
     ZoneList* m_list;
     NothingFound* m_nothing;
     FoundZones m_found;
+    SearchPreparation m_preparation;
 };
 
 } // namespace quorvane

@@ -166,6 +166,15 @@ TEST_F(TimeZonePickerViewTest, SearchShowsOnlyWhatMatchesInTheCataloguesOrder) {
     EXPECT_EQ(title(0), u"Favorites"_s);
 }
 
+TEST_F(TimeZonePickerViewTest, FirstQueryIsPreparedOnceTheListIsPainted) {
+    EXPECT_TRUE(queue.isIdle());
+    static_cast<void>(view->grab());
+    EXPECT_FALSE(queue.isIdle());
+    queue.run();
+    static_cast<void>(view->grab());
+    EXPECT_TRUE(queue.isIdle());
+}
+
 TEST_F(TimeZonePickerViewTest, BlanksAloneAreNoSearch) {
     QTest::keyClicks(&field, u"  "_s);
     EXPECT_EQ(count(), 425);

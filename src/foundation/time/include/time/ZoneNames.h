@@ -35,6 +35,9 @@ public:
     /// zone that is newer than ICU's data.
     [[nodiscard]] std::optional<QString> genericName(const TimeZone& zone) const;
 
+    /// The same text for what icuTimeZone() made.
+    [[nodiscard]] std::optional<QString> genericName(const icu::TimeZone& zone) const;
+
 private:
     [[nodiscard]] std::optional<QString>
     name(UTimeZoneFormatStyle style, const icu::TimeZone& zone) const;

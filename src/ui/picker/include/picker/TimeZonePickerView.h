@@ -4,6 +4,7 @@
 #include <controls/Binding.h>
 #include <controls/PasteReader.h>
 #include <picker/FoundZones.h>
+#include <picker/SearchPreparation.h>
 #include <picker/ZoneListModel.h>
 #include <time/Clock.h>
 #include <timezones/ZoneSearch.h>
@@ -68,6 +69,7 @@ private:
     ZoneList* m_list;
     NothingFound* m_nothing;
     FoundZones m_found;
+    SearchPreparation m_preparation;
 };
 
 } // namespace quorvane
