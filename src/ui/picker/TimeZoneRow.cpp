@@ -1,15 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <picker/TimeZoneRow.h>
-#include <time/ZoneNames.h>
 #include <timezones/ZoneTexts.h>
 
 namespace quorvane {
-
-TimeZoneRow::TimeZoneRow(TimeZone zone, Instant now, UserLocale locale)
-    : m_zone(std::move(zone)),
-      m_now(now),
-      m_locale(std::move(locale)) {
-}
 
 QString TimeZoneRow::place() const {
     return placeName(m_zone.identifier());
@@ -24,11 +17,7 @@ QString TimeZoneRow::offsetString() const {
 }
 
 QString TimeZoneRow::abbreviation() const {
-    return zoneAbbreviation(m_zone, m_now, m_locale).value_or(QString());
-}
-
-std::optional<QString> TimeZoneRow::shortName() const {
-    return ZoneNames(m_now, m_locale).shortName(m_zone);
+    return m_names.of(m_zone, m_now);
 }
 
 } // namespace quorvane

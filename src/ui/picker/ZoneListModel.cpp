@@ -26,7 +26,7 @@ ZoneListModel::ZoneListModel(
     const Clock& clock, UserLocale locale, IsSelected isSelected, QObject* parent)
     : QAbstractListModel(parent),
       m_clock(clock),
-      m_locale(std::move(locale)),
+      m_names(std::move(locale)),
       m_isSelected(std::move(isSelected)) {
 }
 
@@ -80,23 +80,22 @@ QString ZoneListModel::reasonText(const TimeZone& zone) const {
 }
 
 QVariant ZoneListModel::zoneData(const TimeZone& zone, int role) const {
-    const auto row = rowOf(zone);
     switch (role) {
     case Qt::DisplayRole:
-        return row.place();
+        return rowOf(zone).place();
     case Qt::AccessibleTextRole:
-        return nameAndReason(row.place(), reasonText(zone));
+        return nameAndReason(rowOf(zone).place(), reasonText(zone));
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return zone.identifier();
     case Qt::CheckStateRole:
         return m_isSelected(zone) ? Qt::Checked : Qt::Unchecked;
     case RegionRole:
-        return row.regionName().value_or(QString());
+        return rowOf(zone).regionName().value_or(QString());
     case AbbreviationRole:
-        return row.abbreviation();
+        return rowOf(zone).abbreviation();
     case OffsetRole:
-        return row.offsetString();
+        return rowOf(zone).offsetString();
     case ReasonRole:
         return reasonText(zone);
     case IsHeadRole:

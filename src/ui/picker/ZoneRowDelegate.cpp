@@ -37,6 +37,36 @@ int grown(int width, const QFont& font) {
     return width * std::max(QFontInfo(font).pixelSize(), calloutPixels) / calloutPixels;
 }
 
+/// A text of a row. To find out how wide it is takes as long as to paint it, so that is done once.
+class RowText {
+public:
+    RowText(const QString& text, const QFont& font)
+        : m_text(text),
+          m_font(font),
+          m_metrics(font),
+          m_width(m_metrics.horizontalAdvance(text)) {}
+
+    [[nodiscard]] int width() const { return static_cast<int>(std::ceil(m_width)); }
+
+    [[nodiscard]] const QFont& font() const { return m_font; }
+
+    /// Where its letters stand in a row of that height, if they are centred in it.
+    [[nodiscard]] double baseline(int height) const {
+        return (height - m_metrics.height()) / 2 + m_metrics.ascent();
+    }
+
+    /// The text, or what of it there is room for.
+    [[nodiscard]] QString fitting(int room) const {
+        return m_width <= room ? m_text : m_metrics.elidedText(m_text, Qt::ElideRight, room);
+    }
+
+private:
+    QString m_text;
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    double m_width;
+};
+
 /// Paints a head or a row; positions are from the leading edge.
 class RowPainter {
 public:
@@ -67,58 +97,57 @@ public:
 private:
     void paintTexts(const QFont& cityFont) {
         const auto callout = textFont(body(), TextStyle::Callout);
-        const QFontMetricsF metrics(callout);
+        const RowText city(m_row.text(), cityFont);
+        const RowText abbreviation(m_row.text(ZoneListModel::AbbreviationRole), callout);
+        const RowText offset(m_row.text(ZoneListModel::OffsetRole), callout);
         const int offsetEnd = m_row.option().rect.width() - endPadding;
         const int offsetStart = offsetEnd - grown(offsetWidth, callout);
-        const auto offset = m_row.text(ZoneListModel::OffsetRole);
         // A long abbreviation extends into what the offset leaves of its column.
-        const int abbreviationEnd =
-            offsetEnd - columnGap - static_cast<int>(std::ceil(metrics.horizontalAdvance(offset)));
-        const auto abbreviation = m_row.text(ZoneListModel::AbbreviationRole);
+        const int abbreviationEnd = offsetEnd - columnGap - offset.width();
         // That of some languages is too long even for that.
         const int abbreviationStart = std::min(
             offsetStart - grown(abbreviationWidth, callout),
-            abbreviationEnd - static_cast<int>(std::ceil(metrics.horizontalAdvance(abbreviation))));
-        const auto city = m_row.text();
-        const int cityWidth =
-            static_cast<int>(std::ceil(QFontMetricsF(cityFont).horizontalAdvance(city)));
-        const int regionStart = textStart + cityWidth + regionGap;
+            abbreviationEnd - abbreviation.width());
+        const int regionStart = textStart + city.width() + regionGap;
         const auto& text = m_row.theme().text;
         const auto& secondary = m_row.theme().secondaryText;
-        write(city, cityFont, text, column(textStart, abbreviationStart - textStart));
-        const auto reason = m_row.text(ZoneListModel::ReasonRole);
+        write(city, text, column(textStart, abbreviationStart - textStart));
         write(
-            reason.isEmpty() ? m_row.text(ZoneListModel::RegionRole) : reason,
-            callout,
+            {regionOrReason(), callout},
             secondary,
             column(regionStart, abbreviationStart - regionGap - regionStart));
         write(
             abbreviation,
-            callout,
             secondary,
             column(abbreviationStart, abbreviationEnd - abbreviationStart));
-        write(offset, callout, text, column(offsetStart, offsetEnd - offsetStart), Qt::AlignRight);
+        write(offset, text, column(offsetStart, offsetEnd - offsetStart), Qt::AlignRight);
+    }
+
+    [[nodiscard]] QString regionOrReason() const {
+        const auto reason = m_row.text(ZoneListModel::ReasonRole);
+        return reason.isEmpty() ? m_row.text(ZoneListModel::RegionRole) : reason;
     }
 
     /// All texts of a row stand on the baseline of its city.
     void write(
-        const QString& text,
-        const QFont& font,
+        const RowText& text,
         const QColor& color,
         const QRect& place,
         Qt::Alignment alignment = Qt::AlignLeft) {
         if (place.width() <= 0)
             return;
-        const QFontMetricsF city(textFont(body(), TextStyle::Body));
-        const QFontMetricsF own(font);
-        const double cityBaseline = (place.height() - city.height()) / 2 + city.ascent();
-        const double ownBaseline = (place.height() - own.height()) / 2 + own.ascent();
-        m_row.painter().setFont(font);
+        const double lower = cityBaseline(place.height()) - text.baseline(place.height());
+        m_row.painter().setFont(text.font());
         m_row.painter().setPen(color);
         m_row.write(
-            own.elidedText(text, Qt::ElideRight, place.width()),
-            place.translated(0, static_cast<int>(std::round(cityBaseline - ownBaseline))),
+            text.fitting(place.width()),
+            place.translated(0, static_cast<int>(std::round(lower))),
             alignment);
+    }
+
+    [[nodiscard]] double cityBaseline(int height) const {
+        const QFontMetricsF metrics(textFont(body(), TextStyle::Body));
+        return (height - metrics.height()) / 2 + metrics.ascent();
     }
 
     /// As high as the row.

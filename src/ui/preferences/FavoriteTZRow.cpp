@@ -6,8 +6,8 @@ namespace quorvane {
 using namespace Qt::StringLiterals;
 
 std::optional<QString> FavoriteTZRow::abbreviation() const {
-    const auto name = m_row.shortName();
-    return name && name->startsWith("GMT"_L1) ? std::nullopt : name;
+    const auto name = m_row.abbreviation();
+    return name.isEmpty() || name.startsWith("GMT"_L1) ? std::nullopt : std::optional(name);
 }
 
 QString FavoriteTZRow::description() const {

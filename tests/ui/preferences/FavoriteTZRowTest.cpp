@@ -13,9 +13,15 @@ using namespace Qt::StringLiterals;
 constexpr Instant winter{1705320000}; // 2024-01-15T12:00:00Z
 constexpr Instant summer{1721044800}; // 2024-07-15T12:00:00Z
 
+const ShortZoneNames& namesIn(const QString& locale) {
+    static const ShortZoneNames american(UserLocale::named(u"en_US"_s));
+    static const ShortZoneNames british(UserLocale::named(u"en_GB"_s));
+    return locale == u"en_GB"_s ? british : american;
+}
+
 FavoriteTZRow row(const QString& identifier, Instant now, const QString& locale = u"en_US"_s) {
     static const ZoneDatabase zones;
-    return FavoriteTZRow(TimeZoneRow(*zones.zone(identifier), now, UserLocale::named(locale)));
+    return FavoriteTZRow(TimeZoneRow(*zones.zone(identifier), now, namesIn(locale)));
 }
 
 TEST(FavoriteTZRow, IsCalledByItsCity) {

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <time/TimeZone.h>
-#include <time/UserLocale.h>
+#include <timezones/ShortZoneNames.h>
 
 #include <QString>
 
 #include <optional>
+#include <utility>
 
 namespace quorvane {
 
@@ -14,7 +15,11 @@ namespace quorvane {
 /// asked for, which is when the row is seen.
 class TimeZoneRow {
 public:
-    TimeZoneRow(TimeZone zone, Instant now, UserLocale locale);
+    /// The names must outlive the row.
+    TimeZoneRow(TimeZone zone, Instant now, const ShortZoneNames& names)
+        : m_zone(std::move(zone)),
+          m_now(now),
+          m_names(names) {}
 
     [[nodiscard]] const TimeZone& zone() const { return m_zone; }
 
@@ -27,16 +32,13 @@ public:
     /// "UTC-5".
     [[nodiscard]] QString offsetString() const;
 
-    /// "EST"; "GMT-3" where the locale has no name.
+    /// "EST"; empty where the locale has no other name than the offset, which is shown already.
     [[nodiscard]] QString abbreviation() const;
-
-    /// "EST"; none where the locale has no name.
-    [[nodiscard]] std::optional<QString> shortName() const;
 
 private:
     TimeZone m_zone;
     Instant m_now;
-    UserLocale m_locale;
+    const ShortZoneNames& m_names;
 };
 
 } // namespace quorvane

@@ -19,7 +19,7 @@ class ZoneListModel : public QAbstractListModel {
 public:
     enum Role {
         RegionRole = Qt::UserRole,
-        AbbreviationRole,
+        AbbreviationRole, ///< empty where it would say no more than the offset
         OffsetRole,
         ReasonRole, ///< why a search found the row; empty where the row shows it
         IsHeadRole,
@@ -60,14 +60,14 @@ protected:
     [[nodiscard]] virtual QVariant zoneData(const TimeZone& zone, int role) const;
 
     [[nodiscard]] TimeZoneRow rowOf(const TimeZone& zone) const {
-        return {zone, m_clock.now(), m_locale};
+        return {zone, m_clock.now(), m_names};
     }
 
 private:
     using Item = std::variant<QString, TimeZone>;
 
     const Clock& m_clock;
-    UserLocale m_locale;
+    ShortZoneNames m_names;
     IsSelected m_isSelected;
     Reason m_reason;
     std::vector<Item> m_items;
