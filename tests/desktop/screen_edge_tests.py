@@ -45,8 +45,8 @@ class ScreenEdge(DesktopCase):
         self.begin(_HEIGHT_OF_RANGE)
         self.show_range()
         self.open(self.tree.find_described("push button", "End time"))
-        minute = self.tree.find_role("text", "Minute")
-        self.expect_inside("text", "Hour", "Minute")
+        minute = self.tree.find_role("spin box", "Minute")
+        self.expect_inside("spin box", "Hour", "Minute")
         self.mouse.click(minute)
         wait_until(lambda: minute.has(State.FOCUSED), "the focus where the pointer pressed")
 

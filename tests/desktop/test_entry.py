@@ -36,7 +36,7 @@ class EntryCase(DesktopCase):
 
     def open_time(self) -> None:
         self.mouse.click(self.chip("Start time"))
-        self.wait_shown("text", "Hour")
+        self.wait_shown("spin box", "Hour")
 
     def open_date(self) -> None:
         self.mouse.click(self.chip("Start date"))
@@ -70,7 +70,7 @@ class Entry(EntryCase):
     def test_escape_closes_the_popover_only_and_gives_the_focus_back(self) -> None:
         self.open_time()
         self.keyboard.tap(Key.ESCAPE)
-        self.wait_gone("text", "Hour")
+        self.wait_gone("spin box", "Hour")
         self.assertTrue(self.quorvane.is_active())
         self.wait_focused("Start time")
         self.keyboard.tap(Key.ESCAPE)
@@ -79,16 +79,16 @@ class Entry(EntryCase):
     def test_second_click_on_the_chip_closes_and_does_not_reopen(self) -> None:
         self.open_time()
         self.mouse.click(self.chip("Start time"))
-        self.wait_gone("text", "Hour")
+        self.wait_gone("spin box", "Hour")
         # A further click opens: had the one before opened again, this would close.
         self.mouse.click(self.chip("Start time"))
-        self.wait_shown("text", "Hour")
+        self.wait_shown("spin box", "Hour")
 
     def test_click_elsewhere_closes(self) -> None:
         self.open_time()
         left, top, width, _ = self.chip("Start date").extents
         self.mouse.click_at(left + width // 2, top - 40)
-        self.wait_gone("text", "Hour")
+        self.wait_gone("spin box", "Hour")
         self.assertTrue(self.quorvane.is_active())
 
     def test_shortcut_works_while_a_popover_is_open(self) -> None:
@@ -97,7 +97,7 @@ class Entry(EntryCase):
         self.quorvane.wait_hidden()
         self.keyboard.tap(*SHORTCUT)
         self.quorvane.wait_active()
-        self.wait_gone("text", "Hour")
+        self.wait_gone("spin box", "Hour")
 
     def test_picked_day_reaches_the_output_and_paging_does_not(self) -> None:
         self.mouse.click(self.chip("Start date"))
@@ -155,7 +155,7 @@ class Entry(EntryCase):
             self.keyboard.tap(key)
         self.wait_preview(" at 2:05 PM")
         self.keyboard.tap(Key.RETURN)
-        self.wait_gone("text", "Hour")
+        self.wait_gone("spin box", "Hour")
         self.wait_focused("Start time")
 
     def test_zone_is_searched_and_picked_by_keyboard_alone(self) -> None:

@@ -153,7 +153,7 @@ class PanelOverAnEditor(DesktopCase):
         editor = self.editor()
         self.summon(quorvane)
         self.mouse.click(quorvane.tree().find_described("push button", "Start time"))
-        quorvane.tree().find_role("text", "Hour")
+        quorvane.tree().find_role("spin box", "Hour")
         text = quorvane.preview()
         self.keyboard.tap(*INSERT)
         editor.wait_text(text)

@@ -56,7 +56,7 @@ class Popover(DesktopCase):
         wait_until(lambda: start.has(State.FOCUSED), "focus on the start")
         self.keyboard.tap(Key.TAB)
         self.keyboard.tap(Key.SPACE)
-        hour = tree.find_role("text", "Hour")
+        hour = tree.find_role("spin box", "Hour")
         wait_until(lambda: hour.has(State.FOCUSED), "focus on the hour")
         self.keyboard.tap(Key.DIGIT_7)
         wait_until(lambda: " at 7:" in self.quorvane.preview(), "seven o'clock in the preview")
@@ -67,9 +67,9 @@ class Popover(DesktopCase):
     def test_escape_closes_what_is_open_and_then_the_popover(self) -> None:
         tree = self.quorvane.tree()
         self.mouse.click(tree.find_described("push button", "Start time"))
-        tree.find_role("text", "Hour")
+        tree.find_role("spin box", "Hour")
         self.keyboard.tap(Key.ESCAPE)
-        wait_until(lambda: not tree.shows("text", "Hour"), "the clock to be gone")
+        wait_until(lambda: not tree.shows("spin box", "Hour"), "the clock to be gone")
         self.wait_popover()
         self.keyboard.tap(Key.ESCAPE)
         self.wait_no_popover()
@@ -77,12 +77,12 @@ class Popover(DesktopCase):
     def test_the_shortcut_hides_it_also_while_something_is_open(self) -> None:
         tree = self.quorvane.tree()
         self.mouse.click(tree.find_described("push button", "Start time"))
-        tree.find_role("text", "Hour")
+        tree.find_role("spin box", "Hour")
         self.keyboard.tap(*SHORTCUT)
         self.wait_no_popover()
         self.keyboard.tap(*SHORTCUT)
         self.wait_popover()
-        self.assertFalse(tree.shows("text", "Hour"))
+        self.assertFalse(tree.shows("spin box", "Hour"))
 
     def test_a_click_elsewhere_closes_it(self) -> None:
         self.mouse.click_at(20, 400)

@@ -110,6 +110,24 @@ class Calendar(ScreenReaderCase):
             self.keyboard.tap(key)
 
 
+class TimeOfDay(ScreenReaderCase):
+    """Hour and minute of the start, opened by keyboard."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.tree.find_described("push button", "Start time").focus()
+        self.orca.wait_for("Start time")
+        self.keyboard.tap(Key.SPACE)
+
+    def test_fields_are_numbers_and_a_step_says_the_next_one(self) -> None:
+        self.assertRegex(self.orca.wait_for("Hour")[-1], "^Hour [0-9]+ spin button.$")
+        minute = self.said(Key.RIGHT, until="Minute")[-1]
+        self.assertRegex(minute, "^Minute [0-9]{2} spin button.$")
+        following = f"{(int(minute.split()[1]) + 1) % 60:02}"
+        heard = self.said(Key.UP, until=following)
+        self.assertEqual([text for text in heard if "notification" not in text], [following])
+
+
 class Recorder(ScreenReaderCase):
     """The preferences' control that records another shortcut."""
 

@@ -2,12 +2,15 @@
 #include "NumberField.h"
 
 #include "EntryKeys.h"
+#include "NumberFieldAccessible.h"
 
 #include <controls/ColorContrast.h>
 #include <controls/DevicePixels.h>
 #include <controls/TextStyle.h>
 #include <controls/Theme.h>
+#include <time/TypedText.h>
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -43,8 +46,11 @@ public:
 
 } // namespace
 
-NumberField::NumberField(const QString& placeholder, PasteReader reader, QWidget* parent)
-    : LineEdit(std::move(reader), parent) {
+NumberField::NumberField(
+    const QString& placeholder, Range range, PasteReader reader, QWidget* parent)
+    : LineEdit(std::move(reader), parent),
+      m_range(range) {
+    NumberFieldAccessible::install();
     setFrame(false);
     setFixedSize(fieldSize);
     setAlignment(Qt::AlignCenter);
@@ -58,10 +64,34 @@ NumberField::NumberField(const QString& placeholder, PasteReader reader, QWidget
     followPalette();
 }
 
+std::optional<int> NumberField::number() const {
+    bool isNumber = false;
+    const int number = withAsciiDigits(text()).toInt(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+QRect NumberField::placeOfLetter(int index) const {
+    if (index < 0 || index >= text().size())
+        return {};
+    const auto metrics = fontMetrics();
+    const int start = (width() - metrics.horizontalAdvance(text())) / 2;
+    const int left = metrics.horizontalAdvance(text().first(index));
+    const int right = metrics.horizontalAdvance(text().first(index + 1));
+    return {start + left, (height() - metrics.height()) / 2, right - left, metrics.height()};
+}
+
 void NumberField::showText(const QString& text) {
     setText(text);
     // Also while signals are blocked.
     fitText();
+}
+
+void NumberField::stepTo(const QString& text) {
+    setText(text);
+    if (hasFocus())
+        selectAll();
+    QAccessibleValueChangeEvent event(this, number().value_or(m_range.least));
+    QAccessible::updateAccessibility(&event);
 }
 
 void NumberField::keyPressEvent(QKeyEvent* event) {

@@ -3,6 +3,8 @@
 
 #include <controls/LineEdit.h>
 
+#include <optional>
+
 namespace quorvane {
 
 /// A framed field for two large digits; a longer text is shown smaller. It takes any text up to ten
@@ -11,10 +13,27 @@ class NumberField final : public LineEdit {
     Q_OBJECT
 
 public:
-    NumberField(const QString& placeholder, PasteReader reader, QWidget* parent);
+    /// The numbers that it is meant for; it takes other texts as well.
+    struct Range {
+        int least = 0;
+        int greatest = 0;
+    };
+
+    NumberField(const QString& placeholder, Range range, PasteReader reader, QWidget* parent);
+
+    [[nodiscard]] Range range() const { return m_range; }
+
+    /// None while the text is no number.
+    [[nodiscard]] std::optional<int> number() const;
+
+    /// Where a letter of the text stands; empty for one that it does not have.
+    [[nodiscard]] QRect placeOfLetter(int index) const;
 
     /// Shows a text that nobody typed.
     void showText(const QString& text);
+
+    /// Sets the text to the next number, or the one before, as if it had been typed.
+    void stepTo(const QString& text);
 
 Q_SIGNALS:
     void entered();
@@ -35,6 +54,7 @@ private:
     void hideCaretInSelection();
     void fitText();
 
+    Range m_range;
     bool m_focusedByPress = false;
 };
 

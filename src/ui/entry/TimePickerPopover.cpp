@@ -29,6 +29,12 @@ constexpr int periodLeading = 4;
 constexpr int colonWidth = 6;
 constexpr int colonPixels = 26;
 
+NumberField::Range rangeOf(TimePickerPopover::Field field, HourCycle cycle) {
+    if (field == TimePickerPopover::Field::Minute)
+        return {0, 59};
+    return cycle == HourCycle::Twelve ? NumberField::Range{1, 12} : NumberField::Range{0, 23};
+}
+
 } // namespace
 
 TimePickerPopover::TimePickerPopover(
@@ -82,7 +88,11 @@ void TimePickerPopover::paintEvent(QPaintEvent* /*event*/) {
 
 NumberField* TimePickerPopover::numberField(Field field, const QString& name) {
     const bool isDial = field == Field::Hour && m_hourReader.cycle() == HourCycle::Twelve;
-    auto* widget = new NumberField(isDial ? u"12"_s : u"00"_s, m_dependencies.pasteReader, this);
+    auto* widget = new NumberField(
+        isDial ? u"12"_s : u"00"_s,
+        rangeOf(field, m_hourReader.cycle()),
+        m_dependencies.pasteReader,
+        this);
     widget->setAccessibleName(name);
     connect(widget, &NumberField::textChanged, this, [this, field] { noteEdit(field); });
     connect(widget, &NumberField::entered, widget, [widget] { widget->setRefusal({}); });
@@ -216,10 +226,8 @@ void TimePickerPopover::step(int amount) {
     leavePeriodWord();
     auto* field = isHour ? m_hour : m_minute;
     const auto text = withAsciiDigits(field->text());
-    field->setText(
+    field->stepTo(
         isHour ? steppedHour(text, amount, m_hourReader.cycle()) : steppedMinute(text, amount));
-    if (field->hasFocus())
-        field->selectAll();
 }
 
 void TimePickerPopover::setPM(bool isPM) {

@@ -28,9 +28,9 @@ protected:
         chip.click();
     }
 
-    QLineEdit& hour() { return field(u"Hour"_s); }
+    QLineEdit& hour() { return find<QLineEdit>(QAccessible::SpinBox, u"Hour"_s); }
 
-    QLineEdit& minute() { return field(u"Minute"_s); }
+    QLineEdit& minute() { return find<QLineEdit>(QAccessible::SpinBox, u"Minute"_s); }
 
     QAbstractButton& period(const QString& name) {
         return find<QAbstractButton>(QAccessible::RadioButton, name);

@@ -31,9 +31,9 @@ protected:
 
     TimePickerPopover& entry() { return *window.findChild<TimePickerPopover*>(); }
 
-    QLineEdit& hour() { return field(u"Hour"_s); }
+    QLineEdit& hour() { return find<QLineEdit>(QAccessible::SpinBox, u"Hour"_s); }
 
-    QLineEdit& minute() { return field(u"Minute"_s); }
+    QLineEdit& minute() { return find<QLineEdit>(QAccessible::SpinBox, u"Minute"_s); }
 
     SegmentedChip& period() { return *entry().findChild<SegmentedChip*>(); }
 
