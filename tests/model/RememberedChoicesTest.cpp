@@ -88,7 +88,7 @@ TEST_F(RememberedChoicesTest, AtFirstNothingIsRemembered) {
 
 TEST_F(RememberedChoicesTest, ChoicesMadeBeforeAndAfterComeBackButDatesDoNot) {
     for (const bool isSwitchedFirst : {true, false}) {
-        m_model = startAnew();
+        m_model = startFrom("{}");
         m_model->setRemembersChoices(isSwitchedFirst);
         compose(*m_model);
         m_model->setRemembersChoices(true);
