@@ -104,10 +104,12 @@ private:
         const int offsetStart = offsetEnd - grown(offsetWidth, callout);
         // A long abbreviation extends into what the offset leaves of its column.
         const int abbreviationEnd = offsetEnd - columnGap - offset.width();
-        // That of some languages is too long even for that.
-        const int abbreviationStart = std::min(
-            offsetStart - grown(abbreviationWidth, callout),
-            abbreviationEnd - abbreviation.width());
+        // That of some languages is too long even for that, and many zones have none.
+        const int abbreviationStart = abbreviation.width() == 0
+                                          ? abbreviationEnd
+                                          : std::min(
+                                                offsetStart - grown(abbreviationWidth, callout),
+                                                abbreviationEnd - abbreviation.width());
         const int regionStart = textStart + city.width() + regionGap;
         const auto& text = m_row.theme().text;
         const auto& secondary = m_row.theme().secondaryText;
