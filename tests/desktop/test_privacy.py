@@ -14,6 +14,9 @@ from harness.process_memory import occurrences
 from harness.quorvane import Quorvane, wait_stored
 from harness.waiting import wait_until
 
+# What libxcb sends goes through a buffer of 16 KiB, what it receives through one of 4; pieces of that
+# stay on the stack.
+_KEPT_BY_XCB = 24 * 1024
 _SETTINGS = ("defaults.json", "windows.json")
 
 
@@ -82,7 +85,6 @@ class Privacy(DesktopCase):
         self.assertNotIn(secret[:12], log)
 
     def test_what_was_copied_is_forgotten_once_it_is_given_away(self) -> None:
-        # Longer than what libxcb keeps of what it has sent.
         line = _secret()
         copied = plain_text("".join(f"{line} {number}\n" for number in range(2500)))
         quorvane = self.hidden_quorvane()
@@ -90,9 +92,11 @@ class Privacy(DesktopCase):
         self.clipboard.own(copied)
         self.insert(quorvane, editor)
         self.clipboard.wait_for(copied)
-        self.assertGreater(_remembered(quorvane, line), 0, "it is lent")
+        self.assertGreater(_remembered(quorvane, line), _KEPT_BY_XCB, "it is lent")
         self.clipboard.own(plain_text("something else"))
-        wait_until(lambda: _remembered(quorvane, line) == 0, "nothing left of it")
+        wait_until(
+            lambda: _remembered(quorvane, line) <= _KEPT_BY_XCB, "nothing to be left of it in ours"
+        )
 
     def files(self) -> set[Path]:
         """All that lies in the session's folders, but for the tests' own logs."""
@@ -106,6 +110,7 @@ def _secret() -> str:
 
 
 def _remembered(quorvane: Quorvane, text: str) -> int:
-    """How often the program's memory has it."""
+    """How many bytes of the program's memory are that."""
     pid = quorvane.process.pid
-    return sum(occurrences(pid, text.encode(name)) for name in ("utf-8", "utf-16-le"))
+    coded = (text.encode(name) for name in ("utf-8", "utf-16-le"))
+    return sum(len(secret) * occurrences(pid, secret) for secret in coded)
