@@ -61,6 +61,7 @@ class Dragging(SwayCase):
         left, top, width, height = self.session.windows.frame(self.target.window)
         self.mouse.move_to(left + width - 20, top + height // 2)
         self.mouse.move_to(left + width - 25, top + height // 2)
+        wait_until(lambda: "accepted" in self.source.log(), "the editor to accept the text")
         self.mouse.release()
         self.target.wait_text(TEXT)
         self.assertEqual("yyyy", self.field.text)

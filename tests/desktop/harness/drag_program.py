@@ -23,6 +23,14 @@ def _run(text: str, file: Path) -> None:
         note("asked")
         data.set_text(text, -1)
 
+    def begin(_source: object, drag: Gdk.DragContext) -> None:
+        note("begun")
+        drag.connect("action-changed", tell_action)
+
+    def tell_action(_drag: object, action: Gdk.DragAction) -> None:
+        if action:
+            note("accepted")
+
     def fail(*_rest: object) -> bool:
         note("failed")
         return True  # no picture flies back
@@ -33,7 +41,7 @@ def _run(text: str, file: Path) -> None:
     source.add(Gtk.Label(label=text))
     source.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, None, Gdk.DragAction.COPY)
     source.drag_source_add_text_targets()
-    source.connect("drag-begin", lambda *_rest: note("begun"))
+    source.connect("drag-begin", begin)
     source.connect("drag-data-get", give)
     source.connect("drag-failed", fail)
     source.connect("drag-end", lambda *_rest: note("ended"))

@@ -29,7 +29,7 @@ class DragSource:
         )
 
     def log(self) -> list[str]:
-        """What has become of the drags: "begun", "asked", "failed" and "ended"."""
+        """What has become of the drags: "begun", "accepted", "asked", "failed", "ended"."""
         return self._log.read_text().split()
 
     def wait_log(self, *lines: str) -> None:
