@@ -1,9 +1,7 @@
 # SPDX-License-Identifier: MIT
 """A program that takes the clipboard away from whoever owns it."""
 
-import os
 import select
-import threading
 
 from Xlib import X
 from Xlib.ext import xfixes
@@ -11,6 +9,7 @@ from Xlib.protocol.rq import Event
 
 from .offer import Offer
 from .selection_owner import SelectionOwner
+from .stoppable_thread import StoppableThread
 
 
 class ClipboardThief:
@@ -27,16 +26,11 @@ class ClipboardThief:
         self.thefts = 0
         self._owner = SelectionOwner(display)
         self._follow()
-        self._stopping, self._stop = os.pipe()
-        self._thread = threading.Thread(target=self._run)
-        self._thread.start()
+        self._thread = StoppableThread(self._run)
 
     def close(self) -> None:
         """Ends the program, and what it owns."""
-        os.write(self._stop, b"x")
-        self._thread.join()
-        for file in (self._stop, self._stopping):
-            os.close(file)
+        self._thread.close()
         self._owner.close()
 
     def _follow(self) -> None:
@@ -50,13 +44,13 @@ class ClipboardThief:
         display.sync()
         self._notify = display.extension_event.SetSelectionOwnerNotify
 
-    def _run(self) -> None:
+    def _run(self, stopping: int) -> None:
         display = self._owner.display
         while True:
             while display.pending_events():
                 self._handle(display.next_event())
-            ready, _, _ = select.select([display, self._stopping], [], [])
-            if self._stopping in ready:
+            ready, _, _ = select.select([display, stopping], [], [])
+            if stopping in ready:
                 return
 
     def _handle(self, event: Event) -> None:

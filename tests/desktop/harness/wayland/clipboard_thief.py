@@ -3,12 +3,12 @@
 
 import os
 import select
-import threading
 from collections.abc import Sequence
 from contextlib import suppress
 from pathlib import Path
 
 from ..offer import Offer
+from ..stoppable_thread import StoppableThread
 from .connection import Reader, WaylandError
 from .data_control import DataControl
 
@@ -33,24 +33,19 @@ class ClipboardThief:
         self._control = DataControl(display, self._note_copy)
         # What was there before is nobody's prey.
         self._times = times
-        self._stopping, self._stop = os.pipe()
-        self._thread = threading.Thread(target=self._run)
-        self._thread.start()
+        self._thread = StoppableThread(self._run)
 
     def close(self) -> None:
         """Ends the program, and what it owns."""
-        os.write(self._stop, b"x")
-        self._thread.join()
-        for file in (self._stop, self._stopping):
-            os.close(file)
+        self._thread.close()
         self._control.close()
 
-    def _run(self) -> None:
+    def _run(self, stopping: int) -> None:
         connection = self._control.connection
         with suppress(WaylandError):
             while True:
-                ready, _, _ = select.select([connection, self._stopping], [], [])
-                if self._stopping in ready:
+                ready, _, _ = select.select([connection, stopping], [], [])
+                if stopping in ready:
                     return
                 connection.handle_events()
 

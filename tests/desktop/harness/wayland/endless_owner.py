@@ -3,12 +3,12 @@
 
 import os
 import select
-import threading
 from collections.abc import Sequence
 from contextlib import suppress
 from pathlib import Path
 
 from ..offer import Offer
+from ..stoppable_thread import StoppableThread
 from .connection import Reader, WaylandError
 from .data_control import DataControl
 
@@ -31,29 +31,26 @@ class EndlessOwner:
         self._control = DataControl(display)
         source = self._control.make_source(self._handle_source)
         self._control.offer([*self._data, endless], "CLIPBOARD", source)
-        self._stopping, self._stop = os.pipe()
-        self._thread = threading.Thread(target=self._run)
-        self._thread.start()
+        self._thread = StoppableThread(self._run)
 
     def close(self) -> None:
         """Ends the program."""
-        os.write(self._stop, b"x")
-        self._thread.join()
-        for file in (self._stop, self._stopping, *self._readers):
+        self._thread.close()
+        for file in self._readers:
             os.close(file)
         self._control.close()
 
-    def _run(self) -> None:
+    def _run(self, stopping: int) -> None:
         connection = self._control.connection
         with suppress(WaylandError):
             while True:
-                wanted = [connection, self._stopping]
+                wanted = [connection, stopping]
                 if self._pause:
                     readable, _, _ = select.select(wanted, [], [], self._pause)
                     writable = list(self._readers)
                 else:
                     readable, writable, _ = select.select(wanted, self._readers, [])
-                if self._stopping in readable:
+                if stopping in readable:
                     return
                 if connection in readable:
                     connection.handle_events()
