@@ -38,9 +38,7 @@ class SharedByPortal(TypingByPortal):
         self.clipboard.wait_for(_FOUR_TYPES)
 
     def test_what_is_copied_lasts_until_another_program_copies(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, quorvane, text = self.ask_for_editor()
         self.portal.allow()
         editor.wait_text(text)
         quorvane.action("copy")
@@ -58,9 +56,7 @@ class SharedByPortal(TypingByPortal):
         wait_until(lambda: self.clipboard.data("UTF8_STRING"), "a text on the clipboard")
 
     def test_a_consent_that_is_taken_back(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, quorvane, text = self.ask_for_editor()
         self.portal.allow()
         editor.wait_text(text)
         self.portal.withdraw()
@@ -69,16 +65,12 @@ class SharedByPortal(TypingByPortal):
         self.assertEqual(text, editor.text())
 
     def test_a_refusal(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        _editor, _quorvane, text = self.ask_for_editor()
         self.portal.refuse()
         self.expect_copy(text, NO_WAY)
 
     def test_a_question_that_is_never_answered(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        _editor, quorvane, text = self.ask_for_editor()
         quorvane.action("insert")
         self.expect_copy(text, NO_WAY)
         self.assertEqual(0, quorvane.quit())

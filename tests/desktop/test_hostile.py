@@ -18,6 +18,7 @@ from harness.quorvane import (
     BUS_PATH,
     stored_settings,
 )
+from harness.targets import Editor
 from harness.waiting import wait_until
 
 _MEBIBYTE = 1 << 20
@@ -27,8 +28,8 @@ _GROWTH = 64 * _MEBIBYTE
 LEFT = 16 * _MEBIBYTE
 """How much of that may be left: what the allocator keeps for the next time."""
 
-_MINE = plain_text("the user's own")
-_LOOT = plain_text("of the thief")
+MINE = plain_text("the user's own")
+LOOT = plain_text("of the thief")
 
 
 class HostileCase(DesktopCase):
@@ -61,22 +62,31 @@ class Clipboard(HostileCase):
     """A program that takes the clipboard."""
 
     def thief(self, times: int, greedy: bool = False) -> ClipboardThief:
-        thief = ClipboardThief(self.session.display, _LOOT, times, greedy)
+        thief = ClipboardThief(self.session.display, LOOT, times, greedy)
         self.addCleanup(thief.close)
         return thief
 
-    def test_a_clipboard_that_is_taken_before_the_paste_stays_taken(self) -> None:
+    def active_editor(self) -> Editor:
         editor = self.editor()
-        self.clipboard.own(_MINE)
-        self.thief(times=1)
+        editor.wait_active()
+        return editor
+
+    def wait_for_loot(self) -> None:
+        self.clipboard.wait_for(LOOT)
+
+    def test_a_clipboard_that_is_taken_before_the_paste_stays_taken(self) -> None:
+        editor = self.active_editor()
+        self.clipboard.own(MINE)
+        thief = self.thief(times=1)
         self.summon(self.quorvane)
         text = self.quorvane.preview()
         self.keyboard.tap(Key.CONTROL, Key.RETURN)
-        loot = _LOOT[0].data.decode()
+        loot = LOOT[0].data.decode()
         wait_until(lambda: editor.text() in (text, loot), "a text, ours or the thief's")
         # Its restore comes after that of the first was due.
         self.insert(self.quorvane, editor)
-        self.clipboard.wait_for(_LOOT)
+        self.wait_for_loot()
+        self.assertEqual(1, thief.thefts)
 
     def test_it_goes_on_while_the_clipboard_is_claimed_without_end(self) -> None:
         thief = self.thief(times=20_000, greedy=True)
@@ -100,7 +110,7 @@ class Forgeries(HostileCase):
         self.assertGreater(len(self.forger.victims), 1)
 
     def test_forged_events_type_nothing_and_change_nothing(self) -> None:
-        self.clipboard.own(_MINE)
+        self.clipboard.own(MINE)
         witness = KeyWitness(self.session)
         self.addCleanup(witness.close)
         before = stored_settings(self.session)
@@ -112,7 +122,7 @@ class Forgeries(HostileCase):
         self.assert_bears(forge)
         witness.focus()
         self.assertEqual([], witness.of(Key.V))
-        self.assertEqual(_MINE, self.clipboard.contents())
+        self.assertEqual(MINE, self.clipboard.contents())
         self.assertEqual(before, stored_settings(self.session))
 
     def test_properties_without_end_cost_bounded_memory(self) -> None:

@@ -8,7 +8,7 @@ from harness.keys import INSERT
 from harness.notification_server import NotificationServer
 from harness.offer import plain_text
 from harness.quorvane import Quorvane, settings_file, stored_settings, wait_stored
-from harness.targets import Target, Terminal
+from harness.targets import Editor, Target, Terminal
 from harness.typing_portal import TypingPortal
 from harness.waiting import wait_until
 
@@ -50,6 +50,12 @@ class TypingByPortal(DesktopCase):
         self.portal.wait_asked()
         return text
 
+    def ask_for_editor(self) -> tuple[Editor, Quorvane, str]:
+        """The first insertion of a run, into an editor: both programs, and the text."""
+        editor = self.editor()
+        quorvane = self.quorvane()
+        return editor, quorvane, self.ask(quorvane, editor)
+
     def expect_copy(self, text: str, body: str) -> None:
         self.assertEqual(body, self.server.wait_shown().body)
         self.server.clear()
@@ -83,18 +89,14 @@ class Allowed(TypingByPortal):
 
     def test_who_has_gone_elsewhere_meanwhile_gets_a_copy(self) -> None:
         terminal = Terminal(self.session)
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, _quorvane, text = self.ask_for_editor()
         terminal.focus()
         self.portal.allow()
         self.expect_copy(text, _NO_WINDOW)
         self.assertEqual("", editor.text())
 
     def test_a_second_one_is_copied_while_the_question_is_open(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, quorvane, text = self.ask_for_editor()
         quorvane.action("insert")
         self.assertEqual(NO_WAY, self.server.wait_shown().body)
         self.portal.allow()
@@ -105,9 +107,7 @@ class NotAllowed(TypingByPortal):
     """Without the consent the text is copied, and nobody is asked twice."""
 
     def test_a_refusal_holds_for_the_run(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        _editor, quorvane, text = self.ask_for_editor()
         self.portal.refuse()
         self.expect_copy(text, NO_WAY)
         quorvane.action("insert")
@@ -115,9 +115,7 @@ class NotAllowed(TypingByPortal):
         self.assertEqual(1, self.portal.questions)
 
     def test_a_consent_that_is_taken_back(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, quorvane, text = self.ask_for_editor()
         self.portal.allow()
         editor.wait_text(text)
         self.portal.withdraw()
@@ -127,9 +125,7 @@ class NotAllowed(TypingByPortal):
         self.assertEqual(1, self.portal.questions)
 
     def test_a_portal_that_dies(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        _editor, _quorvane, text = self.ask_for_editor()
         self.portal.close()
         self.expect_copy(text, NO_WAY)
 
@@ -180,9 +176,7 @@ class KeptConsent(TypingByPortal):
     version = 2
 
     def test_the_next_run_asks_nobody(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, quorvane, text = self.ask_for_editor()
         self.portal.allow()
         editor.wait_text(text)
         first = self.stored_token()
@@ -196,9 +190,7 @@ class KeptConsent(TypingByPortal):
         wait_until(lambda: self.stored_token() not in ("", first), "another token")
 
     def test_a_token_that_is_refused_is_forgotten(self) -> None:
-        editor = self.editor()
-        quorvane = self.quorvane()
-        text = self.ask(quorvane, editor)
+        editor, quorvane, text = self.ask_for_editor()
         self.portal.allow()
         editor.wait_text(text)
         self.assertEqual(0, quorvane.quit())
