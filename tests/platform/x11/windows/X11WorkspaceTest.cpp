@@ -260,6 +260,8 @@ TEST_F(WorkspaceOnX11, TellsNothingWhenTheSameDesktopIsNamedAgain) {
         32,
         1,
         &desktop);
+    // The switch goes by another connection, and must not be overtaken.
+    m_connection->waitForServer();
     ASSERT_TRUE(m_manager.showDesktop(1));
     EXPECT_TRUE(waitUntil([&changes] { return changes > 0; }));
     EXPECT_EQ(changes, 1);
