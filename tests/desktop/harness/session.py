@@ -7,6 +7,7 @@ from contextlib import ExitStack
 from typing import NamedTuple
 
 from .accessible import Accessibility
+from .keys import Key, Keyboard
 from .paths import TREE
 from .private_session import PrivateSession
 from .session_bus import SessionBus
@@ -83,9 +84,21 @@ class Session(PrivateSession):
         undo.callback(self.windows.close)
         self.accessibility = Accessibility(self.bus.address)
         undo.callback(self.accessibility.close)
+        self._use_keyboard()
         if self.window_manager:
             self.start(_WINDOW_MANAGERS[self.window_manager])
             self.windows.wait_for_manager()
+
+    def _use_keyboard(self) -> None:
+        """Presses a key while nobody hears it.
+
+        With the first key of a device the server's keys become that device's, and a window manager
+        takes all its shortcuts anew. On a busy machine xfwm4 has time for nothing else meanwhile, and
+        gives the focus to nobody for half a second. A user's first key came long ago.
+        """
+        keyboard = Keyboard(self.display)
+        keyboard.tap(Key.SHIFT)
+        keyboard.close()
 
     def _make_bus(self, name: str) -> SessionBus:
         return SessionBus(self._processes, self.environment.copy(), self.directory(name))
