@@ -129,7 +129,7 @@ class Metadata(unittest.TestCase):
                     self.assertEqual(ours.count(None), ours.count(language), f"{tag} {language}")
 
     def test_prose_is_spelled_as_in_the_dictionary(self) -> None:
-        files = ["README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs", "packaging", "dev"]
+        files = ["README.md", "CHANGELOG.md", "CONTRIBUTING.md", "docs", "packaging", "dev", "tools"]
         # The dictionary is English.
         skipped = ",".join(["*.png", *(f"quorvane.{language}.1.in" for language in LANGUAGES)])
         foreign = r"^.*(xml:lang=|\[[a-z_A-Z]+\]=).*$"
@@ -154,7 +154,7 @@ class Sources(unittest.TestCase):
         self.assertEqual(changes, releases)
 
     def test_the_package_needs_what_a_build_installs(self) -> None:
-        listed = re.search(r"packages_build=\(([^)]*)\)", text(TREE / "dev"))
+        listed = re.search(r"packages_build=\(([^)]*)\)", text(TREE / "tools/dev/packages.sh"))
         assert listed
         control = text(_PACKAGING / "debian" / "control").split("\nPackage:")[0]
         declared = set(re.findall(r"^ ([a-z0-9.+-]+)", control, re.MULTILINE))
