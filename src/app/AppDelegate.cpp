@@ -132,7 +132,12 @@ void AppDelegate::applicationDidFinishLaunching(Launch launch) {
 void AppDelegate::startHidden() {
     // The icon's colours wait for it, and no paint comes first.
     m_dependencies.mainQueue.async(weakly(&AppDelegate::prepareAfterFirstPaint));
+    m_dependencies.mainQueue.async(weakly(&AppDelegate::makeReady));
     m_hiddenStart.begin();
+}
+
+void AppDelegate::makeReady() {
+    m_presentation.makeReady();
 }
 
 bool AppDelegate::isReachable() const {

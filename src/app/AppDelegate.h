@@ -133,6 +133,7 @@ private:
     void renewHidden();
     void setupMainMenu();
     void startHidden();
+    void makeReady();
     void handleShortcut();
     [[nodiscard]] bool isReachable() const;
     void observeDesktop();

@@ -15,7 +15,7 @@ struct InterfaceCallbacks {
     /// A new view for a window that is being made.
     std::function<std::unique_ptr<PopoverView>()> makeContentView;
     std::function<void(QWidget& window)> attachMainMenu;
-    /// The interface is about to be shown after it was hidden; it shows what this leads to.
+    /// The interface begins to show after it was hidden; the first paint has what this leads to.
     std::function<void()> onAppearing;
     /// A window has been painted for the first time; each new window reports it once.
     std::function<void()> onFirstPaint;

@@ -40,6 +40,14 @@ void PanelPresentation::setupPanel() {
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
+void PanelPresentation::makeReady() {
+    setupPanel();
+    applyBackground();
+    m_panel->winId();
+    // Fonts, letters and symbols are kept once they have been painted.
+    m_panel->grab();
+}
+
 void PanelPresentation::show(InputDevice device) {
     setupPanel();
     if (!m_panel->isVisible()) {

@@ -20,7 +20,7 @@ namespace quorvane {
 
 class Panel;
 
-/// The interface as a panel. The window is made when it is shown first, and kept while hidden.
+/// The interface as a panel. The window is made when it is needed first, and kept while hidden.
 class PanelPresentation final {
 public:
     /// All must outlive the presentation.
@@ -36,6 +36,9 @@ public:
 
     PanelPresentation(const PanelPresentation&) = delete;
     PanelPresentation& operator=(const PanelPresentation&) = delete;
+
+    /// Makes the hidden window, and all that its first paint will need.
+    void makeReady();
 
     void show(InputDevice device);
     void hide();
@@ -62,7 +65,7 @@ public:
     /// Null while nothing is visible.
     [[nodiscard]] QWindow* visibleWindow() const;
 
-    /// The content; null before it is shown first.
+    /// The content; null before it is made.
     [[nodiscard]] PopoverView* view() const { return m_view; }
 
 private:

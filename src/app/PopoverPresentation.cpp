@@ -44,6 +44,12 @@ void PopoverPresentation::setupPopover() {
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
+void PopoverPresentation::makeReady() {
+    setupPopover();
+    // Fonts, letters and symbols are kept once they have been painted.
+    m_popover->grab();
+}
+
 void PopoverPresentation::show(InputDevice device) {
     // A compositing manager may have come or gone since it was made.
     const bool isComposited = m_dependencies.windowTraits.isComposited();

@@ -20,8 +20,8 @@ namespace quorvane {
 class StatusPopover;
 class TrayIcon;
 
-/// The interface as a popover at the tray icon. The window is made when it is shown first, and kept
-/// while hidden.
+/// The interface as a popover at the tray icon. The window is made when it is needed first, and
+/// kept while hidden.
 class PopoverPresentation final {
 public:
     /// All must outlive the presentation.
@@ -37,6 +37,9 @@ public:
 
     PopoverPresentation(const PopoverPresentation&) = delete;
     PopoverPresentation& operator=(const PopoverPresentation&) = delete;
+
+    /// Makes the hidden window, and all that its first paint will need.
+    void makeReady();
 
     /// Shows nothing while the desktop has no place for the icon.
     void show(InputDevice device);
@@ -56,7 +59,7 @@ public:
 
     [[nodiscard]] PopoverAnchor& anchor() { return m_anchor; }
 
-    /// The content; null before it is shown first.
+    /// The content; null before it is made.
     [[nodiscard]] PopoverView* view() const { return m_view; }
 
 private:

@@ -55,13 +55,24 @@ void Presentation::surface() {
     present();
 }
 
-void Presentation::present(InputDevice device) {
-    if (!isShown())
-        appear();
-    showWindow(device);
+void Presentation::makeReady() {
+    if (isShown())
+        return;
+    if (m_model.presentationMode() == PresentationMode::Window)
+        m_panel.makeReady();
+    else
+        m_popover.makeReady();
 }
 
-/// Before anything is painted: what was hidden would show the moment at which it was.
+void Presentation::present(InputDevice device) {
+    const bool appears = !isShown();
+    showWindow(device);
+    if (appears)
+        appear();
+}
+
+/// While the desktop brings the window to the screen, and before anything is painted: what was
+/// hidden would show the moment at which it was.
 void Presentation::appear() {
     m_onAppearing();
     for (auto* view : {m_panel.view(), m_popover.view()}) {

@@ -37,6 +37,9 @@ public:
     /// Shows the interface, also when it is shown already, which keeps what is remembered.
     void surface();
 
+    /// Makes the hidden window of the model's mode before anybody waits for it.
+    void makeReady();
+
     /// Shows the interface and remembers nothing. What was hidden shows this moment.
     void present(InputDevice device = InputDevice::Pointer);
 

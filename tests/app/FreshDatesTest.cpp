@@ -31,6 +31,8 @@ protected:
         const auto* caption = widgetByRole(*panel(), QAccessible::StaticText, text);
         return caption != nullptr && caption->isVisible();
     }
+
+    QObject context; ///< of connections that end with the test
 };
 
 TEST_F(FreshDatesTest, EveryShowingFromHiddenBeginsWithThisMoment) {
@@ -53,6 +55,18 @@ TEST_F(FreshDatesTest, EveryShowingFromHiddenBeginsWithThisMoment) {
         EXPECT_EQ(startTime(), u"05:08 PM"_s);
         EXPECT_EQ(delegate->model().endDate(), clock.now() + 1h);
     }
+}
+
+TEST_F(FreshDatesTest, DesktopBringsTheWindowWhileTheMomentIsTaken) {
+    launchAs(PresentationMode::Window);
+    delegate->togglePresentation();
+    passTime(1min);
+    bool isOnItsWay = false;
+    QObject::connect(&delegate->model(), &DateTimeModel::objectWillChange, &context, [&] {
+        isOnItsWay = isShown(panel());
+    });
+    delegate->togglePresentation();
+    EXPECT_TRUE(isOnItsWay);
 }
 
 TEST_F(FreshDatesTest, ComingBackFromThePreferencesBeginsWithThatMoment) {

@@ -88,7 +88,36 @@ TEST_F(HiddenStartTest, WhoeverHasAskedForTheInterfaceKnowsAWayToIt) {
 TEST_F(HiddenStartTest, IconNeedNotWaitForAPaintToKnowTheDesktopsColours) {
     launchHidden();
     EXPECT_EQ(appearance->reads(), 1);
+    EXPECT_FALSE(isShown(panel()));
+}
+
+TEST_F(HiddenStartTest, WindowOfTheFirstShowingIsMadeBeforeAnybodyWaitsForIt) {
+    launchHidden();
+    ASSERT_NE(panel(), nullptr);
+    EXPECT_FALSE(isShown(panel()));
+    EXPECT_EQ(popover(), nullptr);
+    const QPointer made(panel());
+    delegate->performAction(u"toggle"_s);
+    EXPECT_TRUE(isShown(panel()));
+    EXPECT_EQ(panel(), made);
+}
+
+TEST_F(HiddenStartTest, SoIsThatOfAPopover) {
+    delegate->model().setPresentationMode(PresentationMode::Popover);
+    statusBar->hasButton = true;
+    launchHidden();
+    EXPECT_NE(popover(), nullptr);
+    EXPECT_FALSE(isShown(popover()));
     EXPECT_EQ(panel(), nullptr);
+}
+
+TEST_F(HiddenStartTest, OneThatShowsByThenIsLeftAlone) {
+    delegate->applicationDidFinishLaunching(AppDelegate::Launch::Hidden);
+    delegate->performAction(u"toggle"_s);
+    const QPointer made(panel());
+    queue.run();
+    EXPECT_TRUE(isShown(panel()));
+    EXPECT_EQ(panel(), made);
 }
 
 TEST_F(HiddenStartTest, EndBeforeTheLastMomentHarmsNobody) {

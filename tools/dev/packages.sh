@@ -9,7 +9,7 @@ packages_build=(
     qt6-base-dev qt6-svg-dev qt6-l10n-tools libicu-dev tzdata librsvg2-bin
     libxcb1-dev libxcb-sync-dev libxcb-xfixes0-dev libxcb-xinput-dev libxcb-xkb-dev
     libxcb-xtest0-dev
-    libxkbcommon-dev libxkbcommon-x11-dev
+    libxkbcommon-dev libxkbcommon-x11-dev libfontconfig-dev
     libwayland-dev libwayland-bin plasma-wayland-protocols
     libgtest-dev libgmock-dev libbenchmark-dev
 )

@@ -12,12 +12,14 @@ constexpr auto stateProperty = "_NET_WM_STATE";
 
 } // namespace
 
-void X11WindowStates::write(xcb_window_t window, const Pair& states, Change change) const {
+void X11WindowStates::write(xcb_window_t window, std::initializer_list<Wish> wishes) const {
     auto present = m_windows.values(window, stateProperty, XCB_ATOM_ATOM);
-    for (const auto state : atoms(states)) {
-        std::erase(present, state);
-        if (change == Change::Add)
-            present.push_back(state);
+    for (const auto& wish : wishes) {
+        for (const auto state : atoms(wish.states)) {
+            std::erase(present, state);
+            if (wish.change == Change::Add)
+                present.push_back(state);
+        }
     }
     writePropertyValue(
         *m_connection,

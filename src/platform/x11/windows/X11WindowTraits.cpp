@@ -108,14 +108,15 @@ bool X11WindowTraits::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Show || !watched->isWindowType())
         return false;
     const auto& window = *static_cast<const QWindow*>(watched);
-    if (isManaged(window))
+    // The panel has them already, and each look at what a window has waits for the server.
+    if (std::exchange(m_prepared, nullptr) != &window && isManaged(window))
         writeTaskbarStates(window);
     return false;
 }
 
 void X11WindowTraits::writeTaskbarStates(const QWindow& window) {
     qtx11::waitForServer();
-    m_states.write(idOf(window), hiddenFromTaskbar, taskbarChange());
+    m_states.write(idOf(window), {{hiddenFromTaskbar, taskbarChange()}});
     m_connection->waitForServer();
 }
 
@@ -124,9 +125,10 @@ void X11WindowTraits::showAgain(QWindow& window) {
     if (!isManaged(window))
         return;
     const bool isPanel = m_panel == &window;
-    writeTaskbarStates(window);
     if (isPanel)
         preparePanel(window);
+    else
+        writeTaskbarStates(window);
     xcb_map_window(qtx11::connection(), idOf(window));
     if (isPanel)
         presentPanel(window);
@@ -143,7 +145,9 @@ void X11WindowTraits::preparePanel(QWindow& window) {
     // state; others do not support sticky windows and need the desktop.
     const auto desktop = m_connection->atom("_NET_WM_DESKTOP");
     writePropertyValue(*m_connection, id, desktop, propertyValue(XCB_ATOM_CARDINAL, {allDesktops}));
-    m_states.write(id, panelStates, X11WindowStates::Change::Add);
+    m_states.write(
+        id, {{panelStates, X11WindowStates::Change::Add}, {hiddenFromTaskbar, taskbarChange()}});
+    m_prepared = &window;
     m_connection->waitForServer();
 }
 

@@ -65,12 +65,14 @@ bool X11Windows::isManager(xcb_window_t window) const {
            WindowQuestion(*m_connection, window, managersWindow).answer() == window;
 }
 
-xcb_window_t X11Windows::active() const {
+X11Windows::Active X11Windows::activeWindow() const {
     const WindowQuestion manager(*m_connection, m_connection->root(), managersWindow);
     const WindowQuestion front(*m_connection, m_connection->root(), "_NET_ACTIVE_WINDOW");
     const auto managerAnswer = manager.answer();
     const auto frontAnswer = front.answer();
-    return isManager(managerAnswer) ? frontAnswer : topLevelOf(inputFocus());
+    if (isManager(managerAnswer))
+        return {frontAnswer, true};
+    return {topLevelOf(inputFocus()), false};
 }
 
 xcb_window_t X11Windows::inputFocus() const {

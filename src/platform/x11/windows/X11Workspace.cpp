@@ -20,15 +20,14 @@ X11Workspace::X11Workspace(std::shared_ptr<X11Connection> connection)
     xcb_change_window_attributes(
         m_connection->xcb(), m_connection->root(), XCB_CW_EVENT_MASK, &events);
     m_desktop = currentDesktop();
-    trackActiveWindow();
+    track(m_windows.active());
 }
 
 FrontmostApplication X11Workspace::frontmostApplication() const {
-    const bool isCertain = m_windows.hasWindowManager();
-    const bool isActive = trackActiveWindow();
-    if (!isActive && !m_windows.isShown(m_lastForeign))
-        return {std::nullopt, isCertain};
-    return {applicationOf(m_lastForeign), isCertain};
+    const auto active = m_windows.activeWindow();
+    if (!track(active.window) && !m_windows.isShown(m_lastForeign))
+        return {std::nullopt, active.isTold};
+    return {applicationOf(m_lastForeign), active.isTold};
 }
 
 bool X11Workspace::isShown(const RunningApplication& application) const {
@@ -68,7 +67,7 @@ void X11Workspace::handleEvent(const xcb_generic_event_t& event) {
     if (change == nullptr || change->window != m_connection->root())
         return;
     if (change->atom == m_connection->atom("_NET_ACTIVE_WINDOW")) {
-        trackActiveWindow();
+        track(m_windows.active());
         tellFrontmostChanged();
     } else if (change->atom == m_connection->atom("_NET_CLIENT_LIST")) {
         // The window in front may be among those that are gone.
@@ -79,8 +78,7 @@ void X11Workspace::handleEvent(const xcb_generic_event_t& event) {
     }
 }
 
-bool X11Workspace::trackActiveWindow() const {
-    const auto window = m_windows.active();
+bool X11Workspace::track(xcb_window_t window) const {
     if (!isAnotherProgram(window))
         return false;
     m_lastForeign = window;

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <utility>
 
@@ -20,13 +21,18 @@ public:
     /// Two states that come and go together, by their atoms' names.
     using Pair = std::array<const char*, 2>;
 
+    struct Wish {
+        Pair states;
+        Change change;
+    };
+
     explicit X11WindowStates(std::shared_ptr<X11Connection> connection)
         : m_connection(std::move(connection)),
           m_windows(m_connection) {}
 
     /// For a window that is not mapped: the window manager reads its states when it maps it. Other
     /// states, which Qt writes there too, are kept.
-    void write(xcb_window_t window, const Pair& states, Change change) const;
+    void write(xcb_window_t window, std::initializer_list<Wish> wishes) const;
 
     /// For a mapped window, whose states belong to the window manager.
     void request(xcb_window_t window, const Pair& states, Change change) const;

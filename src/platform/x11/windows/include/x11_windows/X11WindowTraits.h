@@ -55,6 +55,7 @@ private:
     X11CompositingWatch m_compositing;
     X11WindowShadow m_shadow;
     QPointer<QWindow> m_panel;
+    QPointer<const QWindow> m_prepared; ///< a panel that is about to show
     QPointer<QWindow> m_shadowed;
     QMargins m_shadowMargins; ///< in points
     ActivationPolicy m_policy = ActivationPolicy::Regular;

@@ -32,9 +32,16 @@ public:
     /// A window of such a window manager's own; XCB_WINDOW_NONE where none runs.
     [[nodiscard]] xcb_window_t manager() const;
 
-    /// The client window that keys go to, by _NET_ACTIVE_WINDOW, or without a window manager by the
-    /// input focus; XCB_WINDOW_NONE for none.
-    [[nodiscard]] xcb_window_t active() const;
+    struct Active {
+        xcb_window_t window; ///< the client window that keys go to; XCB_WINDOW_NONE for none
+        bool isTold;         ///< by a window manager, which alone knows for certain
+    };
+
+    /// By _NET_ACTIVE_WINDOW, or without a window manager by the input focus.
+    [[nodiscard]] Active activeWindow() const;
+
+    /// The window of activeWindow().
+    [[nodiscard]] xcb_window_t active() const { return activeWindow().window; }
 
     /// The server's own view: a window, or XCB_WINDOW_NONE where no window has the focus.
     [[nodiscard]] xcb_window_t inputFocus() const;

@@ -31,8 +31,8 @@ public:
 
 private:
     void handleEvent(const xcb_generic_event_t& event);
-    /// Whether another program's window is active.
-    bool trackActiveWindow() const;
+    /// Whether the active window is another program's.
+    bool track(xcb_window_t active) const;
     void trackSpace();
     void tellFrontmostChanged() const;
     [[nodiscard]] RunningApplication applicationOf(xcb_window_t window) const;
