@@ -12,6 +12,7 @@
 #include <language/InterfaceLanguage.h>
 #include <loop/Failure.h>
 #include <loop/QtMainQueue.h>
+#include <loop/RepeatedWarnings.h>
 #include <platform/ActivationToken.h>
 #include <platform_dbus/DBusApplicationInstance.h>
 #include <platform_dbus/HungBusGuard.h>
@@ -166,6 +167,7 @@ int run(
 } // namespace
 
 int main(int argc, char** argv) {
+    writeRepeatedWarningsOnce();
     const auto environment = processEnvironment();
     // Before Qt, which would take it for the first window that shows, whenever that is.
     const auto token = takeActivationTokenOfProcess();

@@ -82,6 +82,9 @@ TEST(PresetList, PresetThatIsLeftOutHasTheOneOfTheSameTextInItsPlace) {
     EXPECT_EQ(equivalent(MediumForm), LongForm);
     EXPECT_EQ(equivalent(ShortForm), ShortForm);
     EXPECT_EQ(
+        equivalentFormatPreset(MediumForm, {ShortForm, LongForm}, may9, losAngeles, inMay),
+        LongForm);
+    EXPECT_EQ(
         equivalentFormatPreset(MediumForm, {ShortForm, Custom}, may9, losAngeles, inMay),
         std::nullopt);
 }
