@@ -88,6 +88,7 @@ class Focus(DesktopCase):
         quorvane.wait_active()
         quorvane.action("toggle")
         quorvane.wait_hidden()
+        editor.wait_active()
         self.keyboard.tap(Key.D)
         editor.wait_text("dd")
         quorvane.action("preferences")
