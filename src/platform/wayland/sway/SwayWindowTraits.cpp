@@ -43,8 +43,12 @@ void SwayWindowTraits::activate(QWindow& window) {
 }
 
 bool SwayWindowTraits::eventFilter(QObject* watched, QEvent* event) {
-    // The pointer comes back after it has dragged the window, which sway says nothing of.
-    if (watched == m_panel && (event->type() == QEvent::Enter || event->type() == QEvent::FocusOut))
+    // The pointer goes for as long as it drags the window, which sway says nothing of. Where both
+    // come at once, to a busy program, Qt makes one leave of them.
+    const auto type = event->type();
+    const bool mayHaveMoved =
+        type == QEvent::Enter || type == QEvent::Leave || type == QEvent::FocusOut;
+    if (watched == m_panel && mayHaveMoved)
         askPlace();
     return false;
 }
