@@ -6,8 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <thread>
-#include <vector>
 
 namespace quorvane {
 namespace {
@@ -40,9 +40,9 @@ TEST_F(RepeatedWarningsTest, WhoeverAsksHearsOfEachTime) {
 
 TEST_F(RepeatedWarningsTest, ThreadsTellItOnceTogether) {
     {
-        std::vector<std::jthread> threads;
-        for (int count = 0; count < 8; ++count)
-            threads.emplace_back([this] { qCWarning(category, "the connection broke"); });
+        std::array<std::jthread, 8> threads;
+        for (auto& thread : threads)
+            thread = std::jthread([this] { qCWarning(category, "the connection broke"); });
     }
     EXPECT_EQ(log.lines().size(), 1);
 }
