@@ -130,7 +130,7 @@ void AppDelegate::applicationDidFinishLaunching(Launch launch) {
 }
 
 void AppDelegate::startHidden() {
-    // The icon's colours wait for it, and no paint comes first.
+    // The icon's colours wait for it, whoever paints first and when.
     m_dependencies.mainQueue.async(weakly(&AppDelegate::prepareAfterFirstPaint));
     m_dependencies.mainQueue.async(weakly(&AppDelegate::makeReady));
     m_hiddenStart.begin();

@@ -31,8 +31,6 @@ protected:
         const auto* caption = widgetByRole(*panel(), QAccessible::StaticText, text);
         return caption != nullptr && caption->isVisible();
     }
-
-    QObject context; ///< of connections that end with the test
 };
 
 TEST_F(FreshDatesTest, EveryShowingFromHiddenBeginsWithThisMoment) {
@@ -62,6 +60,7 @@ TEST_F(FreshDatesTest, DesktopBringsTheWindowWhileTheMomentIsTaken) {
     delegate->togglePresentation();
     passTime(1min);
     bool isOnItsWay = false;
+    const QObject context; // of a connection that ends with the test
     QObject::connect(&delegate->model(), &DateTimeModel::objectWillChange, &context, [&] {
         isOnItsWay = isShown(panel());
     });
