@@ -18,7 +18,7 @@ X11PropertyValue propertyValue(xcb_atom_t type, const std::vector<std::uint32_t>
 }
 
 std::vector<std::uint32_t> unitsOf(const X11PropertyValue& value) {
-    if (value.unitBits != 32)
+    if (value.unitBits != 32 || value.bytes.size() < bytesPerUnit32)
         return {};
     std::vector<std::uint32_t> units(static_cast<std::size_t>(value.bytes.size() / bytesPerUnit32));
     std::memcpy(units.data(), value.bytes.constData(), units.size() * sizeof(std::uint32_t));
