@@ -25,6 +25,10 @@ TestSeat::TestSeat(TestCompositor& compositor, QByteArray keymap)
     });
 }
 
+TestSeat::~TestSeat() {
+    m_compositor.stop();
+}
+
 void TestSeat::setKeymap(const QByteArray& text, std::uint32_t size) {
     m_compositor.run([&](wl_display*) {
         for (auto* keyboard : m_keyboards)

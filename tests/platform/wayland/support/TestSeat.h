@@ -20,6 +20,12 @@ public:
     /// Puts it among the globals; the compositor must outlive it.
     TestSeat(TestCompositor& compositor, QByteArray keymap = {});
 
+    /// Stops the compositor: the seat is told of the end of each keyboard.
+    ~TestSeat();
+
+    TestSeat(const TestSeat&) = delete;
+    TestSeat& operator=(const TestSeat&) = delete;
+
     /// Gives every program this keymap, and says that it has so many bytes.
     void setKeymap(const QByteArray& text, std::uint32_t size);
 
