@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "FreedMemory.h"
 #include "KeptFocus.h"
 #include "PanelPlacement.h"
 #include "WindowActivation.h"
@@ -33,6 +34,7 @@ Panel::Panel(QWidget* content)
     setBackground(Background::Plain);
     new FocusRing(this);
     new KeptFocus(this);
+    new FreedMemory(this);
     m_fittingHeight = fittingHeight();
 }
 

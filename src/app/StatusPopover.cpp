@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StatusPopover.h"
 
+#include "FreedMemory.h"
 #include "PanelPlacement.h"
 
 #include <controls/FocusRing.h>
@@ -37,6 +38,7 @@ StatusPopover::StatusPopover(QWidget* content, Background background)
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(content);
     new FocusRing(this);
+    new FreedMemory(this);
 }
 
 int StatusPopover::contentHeight() const {
