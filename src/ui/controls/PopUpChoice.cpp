@@ -61,7 +61,17 @@ void PopUpChoice::open() {
     m_button->list().open();
 }
 
+bool PopUpChoice::isOpen() const {
+    return m_button->list().isOpen();
+}
+
+void PopUpChoice::renew() {
+    if (m_renewal)
+        m_renewal();
+}
+
 QWidget* PopUpChoice::makeList() {
+    renew();
     // The keyboard starts at the selected title, without one at the first.
     const auto samples = m_samples ? m_samples() : QStringList();
     auto* menu = new RowMenu(
@@ -97,7 +107,10 @@ bool PopUpChoice::handleKey(int key, Qt::KeyboardModifiers modifiers) {
         open();
         return true;
     }
-    if (!isArrow || m_titles.isEmpty())
+    if (!isArrow)
+        return false;
+    renew();
+    if (m_titles.isEmpty())
         return false;
     const int last = static_cast<int>(m_titles.size()) - 1;
     const int step = key == Qt::Key_Down ? 1 : -1;

@@ -28,7 +28,7 @@ FormatSection::FormatSection(
       m_layout(new MacSegmentedControl(this)),
       m_presetChoice(
           *m_preset,
-          {},
+          {allDateFormatPresets.begin(), allDateFormatPresets.end()},
           [](const DateFormatPreset& preset) { return translatedLabel(preset); },
           {[&model] { return model.formatPreset(); },
            [&model](DateFormatPreset preset) {
@@ -48,6 +48,7 @@ FormatSection::FormatSection(
           [&model](const QString& pattern) { return model.patternSample(pattern); },
           this)) {
     m_preset->setLabel(tr("Format"));
+    m_preset->setRenewal([this] { offerPresets(); });
     m_preset->setSamples([this] { return presetSamples(); });
     connect(m_preset, &MacPopUpButton::chosenInList, this, &FormatSection::enterPatternIfCustom);
     m_layout->setLabel(tr("Layout"));
@@ -57,12 +58,20 @@ FormatSection::FormatSection(
 }
 
 void FormatSection::refresh() {
-    const auto offered = m_model.availableFormatPresets();
-    m_presetChoice.setItems(offered, m_model.equivalentFormatPreset(offered));
+    // Which presets differ takes the text of each: half the texts of a show.
+    if (m_preset->isOpen())
+        offerPresets();
+    else
+        m_presetChoice.refresh();
     m_layoutChoice.refresh();
     m_layout->setVisible(m_model.includeTime() && m_model.selectedTimeZones().size() > 1);
     m_pattern->setVisible(m_model.formatPreset() == DateFormatPreset::Custom);
     m_pattern->setPattern(m_model.customFormatString());
+}
+
+void FormatSection::offerPresets() {
+    const auto offered = m_model.availableFormatPresets();
+    m_presetChoice.setItems(offered, m_model.equivalentFormatPreset(offered));
 }
 
 QStringList FormatSection::presetSamples() const {

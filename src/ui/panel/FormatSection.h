@@ -29,6 +29,7 @@ public:
 
 private:
     void layOut();
+    void offerPresets();
     [[nodiscard]] QStringList presetSamples() const;
     void enterPatternIfCustom();
 

@@ -211,6 +211,27 @@ TYPED_TEST(PopUpChoiceTest, SamplesAreAskedForWhenTheListOpensAndDescribeItsRows
     EXPECT_EQ(descriptions, (QStringList{u"one"_s, {}, u"three"_s}));
 }
 
+TYPED_TEST(PopUpChoiceTest, ChoicesAreRenewedWhenTheListOpens) {
+    this->popUp.setRenewal([this] { this->choice.setItems({u"Long"_s, u"ISO 8601"_s}); });
+    this->choice.refresh();
+    EXPECT_EQ(this->popUp.titles().size(), 3);
+    EXPECT_FALSE(this->popUp.isOpen());
+    this->popUp.open();
+    EXPECT_TRUE(this->popUp.isOpen());
+    ASSERT_EQ(this->rows().size(), 2);
+    EXPECT_TRUE(this->rows()[0]->isChecked());
+    QTest::mouseClick(this->rows()[1], Qt::LeftButton);
+    EXPECT_EQ(this->selection, u"ISO 8601"_s);
+}
+
+TYPED_TEST(PopUpChoiceTest, AnArrowStepsThroughRenewedChoices) {
+    this->popUp.setRenewal([this] { this->choice.setItems({u"ISO 8601"_s, u"Long"_s}); });
+    QTest::keyClick(&this->button(), Qt::Key_Down);
+    EXPECT_EQ(this->selection, u"Long"_s);
+    QTest::keyClick(&this->button(), Qt::Key_Up);
+    EXPECT_EQ(this->selection, u"ISO 8601"_s);
+}
+
 TYPED_TEST(PopUpChoiceTest, ListTellsOfWhatIsChosenInItAlone) {
     QSignalSpy inList(&this->popUp, &PopUpChoice::chosenInList);
     QTest::keyClick(&this->button(), Qt::Key_Down);

@@ -78,6 +78,19 @@ TEST_F(PopoverViewTest, PresetThatTheListLeavesOutForADayKeepsItsNameOnTheFace) 
     EXPECT_EQ(format.text(), u"Medium"_s);
 }
 
+TEST_F(PopoverViewTest, OpenListOfFormatsThatNoLongerHoldsIsClosed) {
+    auto& format = popUp(u"Format"_s);
+    model.setIncludeTime(false);
+    queue.run();
+    QTest::mouseClick(&format, Qt::LeftButton);
+    model.setStartDate({1710108300}); // the next day, of the same month
+    queue.run();
+    EXPECT_TRUE(format.isExpanded().value_or(false));
+    model.setStartDate({1715292300}); // in May, of which Long and Medium give one text
+    queue.run();
+    EXPECT_FALSE(format.isExpanded().value_or(false));
+}
+
 TEST_F(PopoverViewTest, RowsOfTheFormatsSayWhatTheyGive) {
     QTest::mouseClick(&popUp(u"Format"_s), Qt::LeftButton);
     QStringList samples;

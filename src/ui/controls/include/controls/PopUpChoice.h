@@ -27,6 +27,13 @@ public:
         const QStringList& titles, std::optional<int> selected, const QString& unlisted) override;
     void setLabel(const QString& label) override;
 
+    /// Makes the choices those of this moment.
+    using Renewal = std::function<void()>;
+
+    /// Called before the list opens and before a key steps through the titles, so that choices that
+    /// are dear to make need not be kept up to date while nobody chooses.
+    void setRenewal(Renewal renewal) { m_renewal = std::move(renewal); }
+
     /// What each title comes to, in the order of the titles.
     using Samples = std::function<QStringList()>;
 
@@ -34,6 +41,8 @@ public:
     void setSamples(Samples samples) { m_samples = std::move(samples); }
 
     void open();
+
+    [[nodiscard]] bool isOpen() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -43,6 +52,7 @@ Q_SIGNALS:
     void chosenInList(int index);
 
 private:
+    void renew();
     [[nodiscard]] QWidget* makeList();
     void choose(int index);
     [[nodiscard]] bool handleKey(int key, Qt::KeyboardModifiers modifiers);
@@ -50,6 +60,7 @@ private:
     PopUpButton* m_button;
     QStringList m_titles;
     std::optional<int> m_selected;
+    Renewal m_renewal;
     Samples m_samples;
 };
 
