@@ -17,10 +17,7 @@ OfferPasteboardSave::OfferPasteboardSave(
       m_primary{primary, 0, {}, nullptr},
       m_settling(exchange.whenSettled([this] { begin(); })),
       m_settled(queue.after(longestSettling, [this] { begin(); })),
-      m_end(queue.after(longestSave, [this] {
-          cutOff(m_clipboard);
-          cutOff(m_primary);
-      })) {
+      m_end(queue.after(longestSave, [this] { cutOff(); })) {
 }
 
 // What was copied shortly before we were asked is what is read.
@@ -48,9 +45,14 @@ void OfferPasteboardSave::begin(Part& part) {
         });
 }
 
-void OfferPasteboardSave::cutOff(Part& part) {
-    if (!isRead(part))
-        part.reading->finish();
+// The last part to end may destroy the save: which ones are to end is known before.
+void OfferPasteboardSave::cutOff() {
+    auto* const clipboard = isRead(m_clipboard) ? nullptr : m_clipboard.reading.get();
+    auto* const primary = isRead(m_primary) ? nullptr : m_primary.reading.get();
+    for (auto* reading : {clipboard, primary}) {
+        if (reading != nullptr)
+            reading->finish();
+    }
 }
 
 bool OfferPasteboardSave::isRead(const Part& part) {

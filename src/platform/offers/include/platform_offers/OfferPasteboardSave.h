@@ -46,7 +46,7 @@ private:
     [[nodiscard]] static bool hasChanged(const Part& part);
     void begin();
     void begin(Part& part);
-    void cutOff(Part& part);
+    void cutOff();
     void finishWhenRead();
 
     MainQueue& m_queue;
