@@ -19,7 +19,9 @@ ServiceVerdict chooseKeys(WaylandLink& link, PlatformServices& services) {
         std::make_shared<WaylandVirtualKeyboards>(link.connection(), link.seats());
     services.accessibilityRight = std::make_unique<WaylandAccessibilityRight>(keyboards);
     services.keyPoster = std::make_unique<WaylandKeyPoster>(
-        keyboards, [windows = link.toplevels()] { return windows->activatedNames(); });
+        link.connection(), keyboards, link.session().queue, [windows = link.toplevels()] {
+            return windows->activatedNames();
+        });
     return ServiceVerdict::whole(u"a keyboard of our own"_s);
 }
 

@@ -27,8 +27,13 @@ std::vector<std::uint32_t> keysOf(PasteKeys keys) {
 } // namespace
 
 WaylandKeyPoster::WaylandKeyPoster(
-    std::shared_ptr<WaylandVirtualKeyboards> keyboards, std::function<QStringList()> namesInFront)
-    : m_keyboards(std::move(keyboards)),
+    std::shared_ptr<WaylandConnection> connection,
+    std::shared_ptr<WaylandVirtualKeyboards> keyboards,
+    MainQueue& queue,
+    std::function<QStringList()> namesInFront)
+    : m_connection(std::move(connection)),
+      m_keyboards(std::move(keyboards)),
+      m_queue(queue),
       m_namesInFront(std::move(namesInFront)) {
 }
 
@@ -41,10 +46,21 @@ std::optional<PasteTarget> WaylandKeyPoster::pasteTarget() const {
 }
 
 void WaylandKeyPoster::paste(const PasteTarget& target, PostHandler done) {
+    finish();
     auto* keyboard = m_keyboards->keyboard();
-    if (keyboard != nullptr)
-        keyboard->tap(keysOf(target.keys));
-    done(keyboard != nullptr ? PostOutcome::Posted : PostOutcome::Unavailable);
+    if (keyboard == nullptr)
+        return done(PostOutcome::Unavailable);
+    keyboard->tap(keysOf(target.keys));
+    m_done = std::move(done);
+    m_taken = m_connection->whenSettled([this] { finish(); });
+    m_end = m_queue.after(longestWait, [this] { finish(); });
+}
+
+void WaylandKeyPoster::finish() {
+    m_taken = {};
+    m_end.cancel();
+    if (const auto done = std::exchange(m_done, {}))
+        done(PostOutcome::Posted);
 }
 
 } // namespace quorvane

@@ -3,6 +3,7 @@
 #include "support/TestSeat.h"
 
 #include <support/WaitUntil.h>
+#include <testing/VirtualMainQueue.h>
 
 #include <gmock/gmock.h>
 
@@ -28,7 +29,8 @@ protected:
     std::shared_ptr<WaylandVirtualKeyboards> m_keyboards =
         std::make_shared<WaylandVirtualKeyboards>(
             m_connection, std::make_shared<WaylandSeats>(m_connection));
-    WaylandKeyPoster m_poster{m_keyboards, [this] {
+    VirtualMainQueue m_queue;
+    WaylandKeyPoster m_poster{m_connection, m_keyboards, m_queue, [this] {
                                   return m_inFront;
                               }};
     WaylandAccessibilityRight m_right{m_keyboards};
@@ -38,8 +40,9 @@ protected:
     std::vector<std::string> pasted(PasteKeys keys) {
         std::optional<PostOutcome> outcome;
         m_poster.paste({keys, PasteSource::Clipboard}, [&](PostOutcome told) { outcome = told; });
+        EXPECT_FALSE(outcome.has_value());
+        EXPECT_TRUE(waitUntil([&] { return outcome.has_value(); }));
         EXPECT_EQ(outcome, PostOutcome::Posted);
-        EXPECT_TRUE(m_connection->settle(10s));
         return m_typed.requests();
     }
 };
@@ -109,6 +112,17 @@ TEST_F(PosterOnWayland, HasTheRightForAsLongAsTheCompositorGivesIt) {
     std::optional<PostOutcome> outcome;
     m_poster.paste({}, [&](PostOutcome told) { outcome = told; });
     EXPECT_EQ(outcome, PostOutcome::Unavailable);
+}
+
+TEST_F(PosterOnWayland, WaitsNoLongerThanASecondForACompositorThatHangs) {
+    m_compositor.hang();
+    std::optional<PostOutcome> outcome;
+    m_poster.paste(
+        {PasteKeys::ControlV, PasteSource::Clipboard}, [&](PostOutcome told) { outcome = told; });
+    m_queue.advance(WaylandKeyPoster::longestWait - Seconds(0.001));
+    EXPECT_EQ(outcome, std::nullopt);
+    m_queue.advance(Seconds(0.001));
+    EXPECT_EQ(outcome, PostOutcome::Posted);
 }
 
 TEST_F(PosterOnWayland, OutlivesTheCompositor) {
