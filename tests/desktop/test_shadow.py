@@ -5,6 +5,7 @@ import json
 import subprocess
 
 from harness.case import DesktopCase
+from harness.memory import Memory
 from harness.quorvane import Quorvane
 from harness.screenshot import Picture
 from harness.waiting import wait_until
@@ -119,6 +120,8 @@ class Shadow(ShadowCase):
     def test_the_shadow_comes_and_goes_with_the_compositing_manager(self) -> None:
         quorvane = Quorvane(self.session)
         surface = self.wait_in_the_middle(quorvane)
+        # A panel that does not know yet that it has the keyboard gets no other window.
+        wait_until(Memory(quorvane.process.pid).is_waiting, "the panel to have heard of the focus")
         manager = self.start_compositing()
         self.wait_surface(quorvane, surface, _SHADOW)
         self.session.stop(manager)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Programs of the same user that mean harm, under sway: nothing happens but what the user could do."""
 
-from collections.abc import Sequence
+from collections.abc import Callable, Sequence
 
 import test_hostile
 from harness.offer import Offer
@@ -21,9 +21,13 @@ class Clipboard(test_hostile.Clipboard, SwayCase):
     """Programs that take the clipboard, or have copied what no program could hold."""
 
     def thief(  # type: ignore[override]
-        self, times: int, greedy: bool = False, loot: Sequence[Offer] = LOOT
+        self,
+        times: int,
+        greedy: bool = False,
+        loot: Sequence[Offer] = LOOT,
+        pace: Callable[[], None] = lambda: None,
     ) -> ClipboardThief:
-        thief = ClipboardThief(self.session.socket, loot, times, greedy)
+        thief = ClipboardThief(self.session.socket, loot, times, greedy, pace)
         self.addCleanup(thief.close)
         return thief
 
@@ -38,7 +42,12 @@ class Clipboard(test_hostile.Clipboard, SwayCase):
 
     def test_copies_of_thousands_of_types_cost_bounded_memory(self) -> None:
         many = [Offer(f"application/x-type-{number}", b"x") for number in range(2000)]
-        thief = self.thief(times=200, loot=many, greedy=True)
+
+        # A compositor ends the connection of a program that is behind by more than its buffer.
+        def let_it_catch_up() -> None:
+            wait_until(self.memory.is_waiting, "the program to have heard of the last theft")
+
+        thief = self.thief(times=200, loot=many, greedy=True, pace=let_it_catch_up)
 
         def flood() -> None:
             self.quorvane.action("copy")

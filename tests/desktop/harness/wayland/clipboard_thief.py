@@ -3,7 +3,7 @@
 
 import os
 import select
-from collections.abc import Sequence
+from collections.abc import Callable, Sequence
 from contextlib import suppress
 from pathlib import Path
 
@@ -20,15 +20,21 @@ class ClipboardThief:
     """Serves and steals in a thread of its own, until it is closed.
 
     It steals so many times, each time right after another program has copied something; where it is
-    `greedy`, also from itself.
+    `greedy`, also from itself. Before each theft it calls `pace`.
     """
 
     def __init__(
-        self, display: Path, loot: Sequence[Offer], times: int, greedy: bool = False
+        self,
+        display: Path,
+        loot: Sequence[Offer],
+        times: int,
+        greedy: bool = False,
+        pace: Callable[[], None] = lambda: None,
     ) -> None:
         self._loot = {offer.target: offer.data for offer in loot} | {_MARK: b""}
         self._times = 0
         self._greedy = greedy
+        self._pace = pace
         self.thefts = 0
         self._control = DataControl(display, self._note_copy)
         # What was there before is nobody's prey.
@@ -53,6 +59,7 @@ class ClipboardThief:
         is_prey = types and (self._greedy or _MARK not in types)
         if selection != "CLIPBOARD" or not is_prey or self.thefts >= self._times:
             return
+        self._pace()
         self.thefts += 1
         source = self._control.make_source(self._handle_source)
         self._control.claim(list(self._loot), selection, source)
