@@ -115,6 +115,10 @@ class FocusGivenBack(wayland_tests.FocusGivenBack, SwayCase):
 class Edge(screen_edge_tests.ScreenEdge, SwayCase):
     """The same in the corner of the screen."""
 
+    def begin(self, height: int) -> None:
+        self.without_panel = ScreenPicture(self.session)
+        super().begin(height)
+
     def next_menu(self) -> Callable[[], Frame]:
         before = wait_until(self.still_screen, "a still screen", interval=0.1)
 
@@ -130,7 +134,9 @@ class Edge(screen_edge_tests.ScreenEdge, SwayCase):
 
     def still_screen(self) -> ScreenPicture | None:
         first, second = ScreenPicture(self.session), ScreenPicture(self.session)
-        return None if second.changed_from(first) else second
+        # One in which the panel is yet to come is still as well.
+        is_still = second.changed_from(self.without_panel) and not second.changed_from(first)
+        return second if is_still else None
 
 
 class Idle(wayland_tests.Idle, SwayCase):
