@@ -94,26 +94,6 @@ TEST_P(SaveOfThePasteboard, EndsAfterASecondWhereAnOwnerWritesWithoutAnEnd) {
     EXPECT_TRUE(waitUntil([this] { return m_clipboard.writers().brokenPipes() == 1; }));
 }
 
-TEST_P(SaveOfThePasteboard, EndsBothSelectionsAfterASecond) {
-    const auto endless = [](const char* text) {
-        return ForeignContents{
-            {"text/plain", text}, {"image/png", QByteArray(4096, 'x'), ForeignAnswer::Endless}};
-    };
-    m_clipboard.copy(endless("copied"));
-    m_clipboard.copy(endless("marked"), Kind::Primary);
-    startSave(PasteSource::Selection);
-    for (int i = 0; i < 10; ++i) {
-        EXPECT_FALSE(m_saved.has_value());
-        const auto before = m_clipboard.writers().written();
-        EXPECT_TRUE(waitUntil([&] { return m_clipboard.writers().written() > before + 400'000; }));
-        m_queue.advance(Seconds(0.1));
-    }
-    ASSERT_TRUE(m_saved.has_value());
-    EXPECT_EQ(m_saved->items.at(0).at(0).bytes, "copied");
-    EXPECT_EQ(m_saved->selection.value_or(PasteboardItem{}).at(0).bytes, "marked");
-    EXPECT_TRUE(waitUntil([this] { return m_clipboard.writers().brokenPipes() == 2; }));
-}
-
 TEST_P(SaveOfThePasteboard, TakesTheFirstOfTooManyTypes) {
     ForeignContents contents;
     for (int i = 0; i < 1'000; ++i)
