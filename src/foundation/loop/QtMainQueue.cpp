@@ -7,10 +7,43 @@
 #include <algorithm>
 #include <chrono>
 
+#if defined(__SANITIZE_THREAD__)
+#include <sanitizer/tsan_interface.h>
+#endif
+
 namespace quorvane {
 
+namespace {
+
+// ThreadSanitizer does not see into Qt, whose queue of events has each post happen before its
+// delivery.
+#if defined(__SANITIZE_THREAD__)
+void notePost(QObject& receiver) {
+    __tsan_release(&receiver);
+}
+
+void noteDelivery(QObject& receiver) {
+    __tsan_acquire(&receiver);
+}
+#else
+void notePost(QObject& /*receiver*/) {
+}
+
+void noteDelivery(QObject& /*receiver*/) {
+}
+#endif
+
+} // namespace
+
 void QtMainQueue::async(Task task) {
-    QMetaObject::invokeMethod(&m_context, std::move(task), Qt::QueuedConnection);
+    notePost(m_context);
+    QMetaObject::invokeMethod(
+        &m_context,
+        [this, task = std::move(task)] {
+            noteDelivery(m_context);
+            task();
+        },
+        Qt::QueuedConnection);
 }
 
 Deadline QtMainQueue::after(Seconds delay, Task task) {
