@@ -5,7 +5,6 @@ import json
 import subprocess
 
 from harness.case import DesktopCase
-from harness.memory import Memory
 from harness.quorvane import Quorvane
 from harness.screenshot import Picture
 from harness.waiting import wait_until
@@ -121,7 +120,7 @@ class Shadow(ShadowCase):
         quorvane = Quorvane(self.session)
         surface = self.wait_in_the_middle(quorvane)
         # A panel that does not know yet that it has the keyboard gets no other window.
-        wait_until(Memory(quorvane.process.pid).is_waiting, "the panel to have heard of the focus")
+        quorvane.wait_caught_up()
         manager = self.start_compositing()
         self.wait_surface(quorvane, surface, _SHADOW)
         self.session.stop(manager)

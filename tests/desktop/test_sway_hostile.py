@@ -42,12 +42,8 @@ class Clipboard(test_hostile.Clipboard, SwayCase):
 
     def test_copies_of_thousands_of_types_cost_bounded_memory(self) -> None:
         many = [Offer(f"application/x-type-{number}", b"x") for number in range(2000)]
-
         # A compositor ends the connection of a program that is behind by more than its buffer.
-        def let_it_catch_up() -> None:
-            wait_until(self.memory.is_waiting, "the program to have heard of the last theft")
-
-        thief = self.thief(times=200, loot=many, greedy=True, pace=let_it_catch_up)
+        thief = self.thief(times=200, loot=many, greedy=True, pace=self.quorvane.wait_caught_up)
 
         def flood() -> None:
             self.quorvane.action("copy")

@@ -37,11 +37,6 @@ class Memory:
         nanoseconds, *_ = (self._folder / "schedstat").read_text().split()
         return int(nanoseconds) / 1e9
 
-    def is_waiting(self) -> bool:
-        """Whether the main thread has done all that it was told."""
-        _, _, rest = (self._folder / "stat").read_text().rpartition(")")
-        return rest.split()[0] == "S"
-
     def threads(self) -> int:
         """How many threads run."""
         return len(os.listdir(self._folder / "task"))

@@ -55,6 +55,16 @@ class Quorvane:
         """Waits until the panel does not show."""
         self._session.windows.wait(lambda: self.panel() is None, "the panel to be hidden")
 
+    def wait_caught_up(self) -> None:
+        """Waits until its main thread has done all that it was told: it waits itself."""
+        stat = Path("/proc") / str(self.process.pid) / "stat"
+
+        def is_waiting() -> bool:
+            # The state follows the name, in which there may be anything.
+            return stat.read_text().rpartition(")")[2].split()[0] == "S"
+
+        wait_until(is_waiting, "the program to catch up")
+
     def hide(self) -> None:
         """Hides the panel, which every start shows."""
         self.wait_active()
